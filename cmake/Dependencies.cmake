@@ -1,0 +1,40 @@
+# Every library the program stands on, with the oldest version that serves.
+find_package(Qt6 QUIET COMPONENTS Core Gui GuiPrivate Widgets DBus Qml Quick QuickControls2 Test)
+if(NOT Qt6_FOUND OR Qt6_VERSION VERSION_LESS 6.8)
+  message(FATAL_ERROR "Tromelo needs Qt 6.8 or newer with Qt Quick; found ${Qt6_VERSION}.")
+endif()
+qt_standard_project_setup(REQUIRES 6.8)
+set(QT_QML_GENERATE_QMLLS_INI OFF)
+
+find_package(PkgConfig REQUIRED)
+
+# "loadfile" with an index, "sub-border-style" and "video-target-params" came with this client API.
+pkg_check_modules(MPV QUIET IMPORTED_TARGET mpv>=2.3)
+if(NOT MPV_FOUND)
+  pkg_check_modules(MPV_ANY QUIET mpv)
+  message(FATAL_ERROR
+    "Tromelo needs libmpv 0.38 or newer (client API 2.3); found API '${MPV_ANY_VERSION}'.")
+endif()
+
+pkg_search_module(WLROOTS QUIET IMPORTED_TARGET wlroots-0.19 wlroots-0.18)
+if(NOT WLROOTS_FOUND)
+  message(FATAL_ERROR "Tromelo needs wlroots 0.18 or 0.19 with its development files.")
+endif()
+
+pkg_check_modules(WAYLAND_SERVER REQUIRED IMPORTED_TARGET wayland-server)
+pkg_check_modules(WAYLAND_CLIENT REQUIRED IMPORTED_TARGET wayland-client)
+pkg_check_modules(DRM REQUIRED IMPORTED_TARGET libdrm)
+pkg_check_modules(EGL REQUIRED IMPORTED_TARGET egl)
+pkg_check_modules(GLES REQUIRED IMPORTED_TARGET glesv2)
+pkg_get_variable(WAYLAND_SCANNER wayland-scanner wayland_scanner)
+pkg_get_variable(WAYLAND_PROTOCOLS_DIR wayland-protocols pkgdatadir)
+
+if(BUILD_TESTING)
+  find_package(GTest REQUIRED)
+endif()
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_C_COMPILER_LAUNCHER ${CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()

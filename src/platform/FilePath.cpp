@@ -1,0 +1,46 @@
+#include "platform/FilePath.h"
+
+#include <unistd.h>
+
+#include <filesystem>
+
+namespace tromelo {
+
+QUrl fileUrlFromPath(std::string_view pathBytes) {
+  if (pathBytes.empty()) return {};
+  std::error_code error;
+  // lexically_normal is not wanted: ".." behind a symbolic link would name another file.
+  const std::string absolute = std::filesystem::absolute(std::string(pathBytes), error).string();
+  const QByteArray encoded = QByteArray::fromStdString(absolute).toPercentEncoding("/");
+  return QUrl::fromEncoded("file://" + encoded, QUrl::StrictMode);
+}
+
+std::string pathFromFileUrl(const QUrl& url) {
+  if (!url.isLocalFile()) return {};
+  return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toUtf8()).toStdString();
+}
+
+QString lastPathComponent(const QUrl& url) {
+  std::string path = pathFromFileUrl(url);
+  while (path.size() > 1 && path.back() == '/') path.pop_back();
+  const auto slash = path.rfind('/');
+  return QString::fromUtf8(slash == std::string::npos ? path : path.substr(slash + 1));
+}
+
+QString lastPathComponentWithoutExtension(const QUrl& url) {
+  return withoutLastPathExtension(lastPathComponent(url));
+}
+
+QString withoutLastPathExtension(const QString& name) {
+  const auto dot = name.lastIndexOf(u'.');
+  const auto slash = name.lastIndexOf(u'/');
+  const bool hasExtension = dot > slash + 1 && dot + 1 < name.size() &&
+                            !QStringView(name).sliced(dot + 1).contains(u' ');
+  return hasExtension ? name.first(dot) : name;
+}
+
+bool fileExists(std::string_view pathBytes) {
+  return ::access(std::string(pathBytes).c_str(), F_OK) == 0;
+}
+
+}  // namespace tromelo

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QUrl>
+#include <string>
+#include <string_view>
+
+namespace tromelo {
+
+/// File URLs keep a path's bytes as they are on disk, percent-encoded, so that names that are not
+/// UTF-8 survive. These functions are the only way between the two.
+
+/// The URL of an absolute or relative path (made absolute against the working directory).
+QUrl fileUrlFromPath(std::string_view pathBytes);
+
+/// The path's bytes; empty when `url` is no local file.
+std::string pathFromFileUrl(const QUrl& url);
+
+/// For people: undecodable bytes show as U+FFFD.
+QString lastPathComponent(const QUrl& url);
+QString lastPathComponentWithoutExtension(const QUrl& url);
+
+/// "Movie.mkv" gives "Movie"; a leading dot begins no extension.
+QString withoutLastPathExtension(const QString& name);
+
+bool fileExists(std::string_view pathBytes);
+
+}  // namespace tromelo

@@ -1,0 +1,19 @@
+#include "platform/NumberText.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace tromelo {
+
+std::string numberText(double value) {
+  std::array<char, 32> buffer;
+  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+  std::string text(buffer.data(), result.ptr);
+  if (std::isfinite(value) && text.find_first_of(".e") == std::string::npos) text += ".0";
+  return text;
+}
+
+std::string flagText(bool value) { return value ? "yes" : "no"; }
+
+}  // namespace tromelo

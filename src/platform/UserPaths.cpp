@@ -1,0 +1,16 @@
+#include "platform/UserPaths.h"
+
+#include <QStandardPaths>
+
+namespace tromelo {
+
+QString userConfigDirectory() {
+  return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+}
+
+QString diagnosticsDirectoryPath() {
+  return QStandardPaths::writableLocation(QStandardPaths::GenericStateLocation) +
+         QStringLiteral("/Tromelo");
+}
+
+}  // namespace tromelo
