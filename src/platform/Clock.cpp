@@ -12,8 +12,10 @@ class QtTimer final : public Clock::Timer {
     timer_.setInterval(interval);
     timer_.setSingleShot(!repeats);
     // A copy runs, since the callback may destroy this timer and the function with it.
-    QObject::connect(&timer_, &QTimer::timeout, &timer_,
-                     [callback = std::move(callback)] { std::function(callback)(); });
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [callback = std::move(callback)] {
+      const auto copy = callback;
+      copy();
+    });
     timer_.start();
   }
 
