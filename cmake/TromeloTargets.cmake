@@ -23,17 +23,30 @@ function(tromelo_library name)
     PUBLIC tromelo_options ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK})
 endfunction()
 
-# tromelo_test(<name> SOURCES ... LINK ... [ENVIRONMENT ...] [LABELS ...] [TIMEOUT s]): one GoogleTest
-# executable, each of its tests known to CTest by its own name. LABELS "unit" run under the
-# sanitizers too.
+# tromelo_test(<name> SOURCES ... LINK ... [GUI | NO_MAIN] [CLIPS] [ENVIRONMENT ...] [LABELS ...]
+# [TIMEOUT s]): one GoogleTest executable, each of its tests known to CTest by its own name.
+#   GUI      main() makes a QGuiApplication, not a QCoreApplication
+#   NO_MAIN  one of SOURCES has main()
+#   CLIPS    the generated clips are there before a test starts
+#   LABELS   "unit" or "engine" tests run under the sanitizers too
 function(tromelo_test name)
-  cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINK;ENVIRONMENT;LABELS" ${ARGN})
+  cmake_parse_arguments(ARG "GUI;NO_MAIN;CLIPS" "TIMEOUT" "SOURCES;LINK;ENVIRONMENT;LABELS" ${ARGN})
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 120)
   endif()
+  if(ARG_NO_MAIN)
+    set(main tromelo_testing)
+  elseif(ARG_GUI)
+    set(main tromelo_testing_gui)
+  else()
+    set(main tromelo_testing_core)
+  endif()
   qt_add_executable(test_${name} ${ARG_SOURCES})
-  target_link_libraries(test_${name} PRIVATE tromelo_options tromelo_testing ${ARG_LINK})
+  target_link_libraries(test_${name} PRIVATE tromelo_options ${main} ${ARG_LINK})
   set(properties TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}")
+  if(ARG_CLIPS)
+    list(APPEND properties FIXTURES_REQUIRED clips)
+  endif()
   if(ARG_ENVIRONMENT)
     list(APPEND properties ENVIRONMENT "${ARG_ENVIRONMENT}")
   endif()

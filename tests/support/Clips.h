@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace tromelo::testing {
+
+/// The absolute path of a clip that scripts/make-clips generates ("sample.mp4"). Tests that use it
+/// say CLIPS in tromelo_test().
+std::string clipPath(const std::string& name);
+
+}  // namespace tromelo::testing
