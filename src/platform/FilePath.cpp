@@ -34,8 +34,8 @@ QString lastPathComponentWithoutExtension(const QUrl& url) {
 QString withoutLastPathExtension(const QString& name) {
   const auto dot = name.lastIndexOf(u'.');
   const auto slash = name.lastIndexOf(u'/');
-  const bool hasExtension = dot > slash + 1 && dot + 1 < name.size() &&
-                            !QStringView(name).sliced(dot + 1).contains(u' ');
+  const bool hasExtension =
+      dot > slash + 1 && dot + 1 < name.size() && !QStringView(name).sliced(dot + 1).contains(u' ');
   return hasExtension ? name.first(dot) : name;
 }
 

@@ -1,0 +1,64 @@
+#include "app/AppDelegate.h"
+
+#include "app/DefaultsMigration.h"
+#include "platform/FilePath.h"
+
+namespace tromelo {
+
+AppDelegate::AppDelegate(const CommandLine& commandLine, UserDefaults& defaults,
+                         const std::vector<UserDefaults>& formerDefaults, Parts parts)
+    : parts_(std::move(parts)), launchPath_(commandLine.path), launchStart_(commandLine.start) {
+  // The settings are loaded by the model, so what the former edition left has to be there before.
+  migrateDefaultsFromOrvo(defaults, formerDefaults);
+  playback_ = parts_.makePlayback();
+}
+
+AppDelegate::~AppDelegate() = default;
+
+PlayerWindowController& AppDelegate::player() {
+  return static_cast<PlayerWindowController&>(playback_->player());
+}
+
+void AppDelegate::applicationDidFinishLaunching() {
+  didFinishLaunching_ = true;
+  showLibraryWindow();
+  if (launchPath_ && fileExists(*launchPath_))
+    playback_->open(fileUrlFromPath(*launchPath_), launchStart_);
+}
+
+void AppDelegate::applicationOpen(const QList<QUrl>& urls, std::optional<double> start) {
+  if (urls.isEmpty()) return;
+  const QUrl& url = urls.first();
+  const bool opensAtLaunch =
+      !didFinishLaunching_ && launchPath_ && url == fileUrlFromPath(*launchPath_);
+  if (!opensAtLaunch) playback_->open(url, start);
+}
+
+bool AppDelegate::applicationShouldHandleReopen(bool hasVisibleWindows) {
+  if (!hasVisibleWindows) showLibraryWindow();
+  return true;
+}
+
+void AppDelegate::showLibraryWindow() {
+  if (!libraryWindow_) {
+    libraryWindow_ = parts_.makeLibraryWindow(*playback_, player());
+    player().setLibraryWindow(libraryWindow_.get());
+  }
+  libraryWindow_->setOpacity(1);
+  libraryWindow_->makeKeyAndOrderFront();
+}
+
+TerminateReply AppDelegate::applicationShouldTerminate() {
+  if (!playback_->engine().hasHandle()) return TerminateReply::now;
+  if (playback_->isShuttingDown()) return TerminateReply::later;
+  playback_->setShuttingDown(true);
+  player().prepareForTermination();
+  playback_->engine().terminate([this] { Q_EMIT readyToTerminate(); });
+  return TerminateReply::later;
+}
+
+void AppDelegate::quit() {
+  if (applicationShouldTerminate() == TerminateReply::now) Q_EMIT readyToTerminate();
+}
+
+}  // namespace tromelo

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QUrl>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/CommandLine.h"
+#include "platform/UserDefaults.h"
+#include "playback/PlaybackModel.h"
+#include "player/HostWindow.h"
+#include "player/PlayerWindowController.h"
+
+namespace tromelo {
+
+enum class TerminateReply { now, cancel, later };
+
+/// The program from launch to quit: owns the model and the library window, opens what the command
+/// line and the system hand over, and quits in order. Main thread only.
+class AppDelegate : public QObject {
+  Q_OBJECT
+
+ public:
+  /// What the delegate makes its objects with. The model's player must be a PlayerWindowController.
+  struct Parts {
+    std::function<std::unique_ptr<PlaybackModel>()> makePlayback;
+    std::function<std::unique_ptr<HostWindow>(PlaybackModel&, PlayerWindowController&)>
+        makeLibraryWindow;
+  };
+
+  /// `defaults` outlives it; `formerDefaults` are the former edition's stores, asked in order.
+  AppDelegate(const CommandLine& commandLine, UserDefaults& defaults,
+              const std::vector<UserDefaults>& formerDefaults, Parts parts);
+  ~AppDelegate() override;
+
+  PlaybackModel& playback() { return *playback_; }
+  PlayerWindowController& player();
+
+  void applicationDidFinishLaunching();
+  void applicationOpen(const QList<QUrl>& urls, std::optional<double> start = std::nullopt);
+  bool applicationShouldHandleReopen(bool hasVisibleWindows);
+  TerminateReply applicationShouldTerminate();
+  void showLibraryWindow();
+  bool isLibraryVisible() const { return libraryWindow_ && libraryWindow_->isVisible(); }
+
+  /// Asks whether to quit, and quits when that may be: see readyToTerminate.
+  void quit();
+
+ Q_SIGNALS:
+  /// The engine is gone: nothing keeps the process any more.
+  void readyToTerminate();
+
+ private:
+  Parts parts_;
+  bool didFinishLaunching_ = false;
+  std::optional<std::string> launchPath_;
+  std::optional<double> launchStart_;
+  std::unique_ptr<PlaybackModel> playback_;
+  std::unique_ptr<HostWindow> libraryWindow_;
+};
+
+}  // namespace tromelo

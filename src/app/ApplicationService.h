@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QDBusContext>
+#include <QObject>
+#include <QStringList>
+#include <QUrl>
+#include <QVariantMap>
+#include <optional>
+
+namespace tromelo {
+
+/// org.freedesktop.Application on the session bus: the desktop opens files and activates the
+/// program through it, and a second start hands over to the first. Main thread only.
+class ApplicationService : public QObject {
+  Q_OBJECT
+  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+ public:
+  using QObject::QObject;
+
+  /// What a start asks of the program that runs already.
+  struct Request {
+    std::optional<QUrl> file;
+    std::optional<double> start;  // seconds
+  };
+
+  enum class Role {
+    first,       // we are the program now
+    handedOver,  // another one took the request
+    alone,       // there is no session bus
+  };
+
+  /// Waits for the other program's answer, at most a few seconds.
+  Role start(const Request& request);
+
+ public Q_SLOTS:
+  void Activate(const QVariantMap& platformData);
+  void Open(const QStringList& uris, const QVariantMap& platformData);
+  void ActivateAction(const QString& action, const QVariantList& parameter,
+                      const QVariantMap& platformData);
+
+ Q_SIGNALS:
+  void activated();
+  void filesOpened(const QList<QUrl>& files, std::optional<double> start);
+};
+
+}  // namespace tromelo

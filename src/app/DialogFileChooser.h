@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QFileDialog>
+#include <QPointer>
+
+#include "playback/FileChooser.h"
+
+namespace tromelo {
+
+/// The desktop's own file dialog where there is one, else Qt's. One at a time: asked again while
+/// one is open, it brings that one to the front.
+class DialogFileChooser : public FileChooser {
+ public:
+  ~DialogFileChooser() override;
+
+  void chooseFiles(const Request& request, Callback chosen) override;
+
+ private:
+  QPointer<QFileDialog> dialog_;
+};
+
+}  // namespace tromelo

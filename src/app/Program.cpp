@@ -1,0 +1,139 @@
+#include "app/Program.h"
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <cstdio>
+
+#include "display/DmabufSupport.h"
+#include "library/LibraryWindow.h"
+#include "overlay/QuickPlayerOverlay.h"
+#include "platform/FilePath.h"
+#include "platform/HostEnvironment.h"
+#include "platform/UserPaths.h"
+
+namespace tromelo {
+
+namespace {
+
+// The former edition's stores, by its reverse-DNS name and by its plain one.
+std::vector<UserDefaults> formerDefaults() {
+  return {UserDefaults::named(QStringLiteral("org.orvo.Orvo")),
+          UserDefaults::named(QStringLiteral("Orvo"))};
+}
+
+ApplicationService::Request requestOf(const CommandLine& line) {
+  ApplicationService::Request request;
+  if (line.path && fileExists(*line.path)) request.file = fileUrlFromPath(*line.path);
+  request.start = line.start;
+  return request;
+}
+
+}  // namespace
+
+Program::Program(const CommandLine& commandLine)
+    : commandLine_(commandLine), defaults_(UserDefaults::named(QStringLiteral("Tromelo"))) {}
+
+Program::~Program() = default;
+
+int Program::run() {
+  role_ = service_.start(requestOf(commandLine_));
+  if (role_ == ApplicationService::Role::handedOver) return 0;
+  if (!startDisplay()) return 1;
+  makeDelegate();
+  connectService();
+  if (commandLine_.report) startReport();
+  delegate_->applicationDidFinishLaunching();
+  stage_->prepareHostWindow();
+  const int status = QCoreApplication::exec();
+  if (report_) report_->flush();
+  return status;
+}
+
+bool Program::startDisplay() {
+  const auto dmabuf = DmabufSupport::ofHost();
+  QString error;
+  display_ = PrivateDisplay::start(PlayerStage::outputOf(*QGuiApplication::primaryScreen()), dmabuf,
+                                   &error);
+  if (!display_) {
+    std::fprintf(stderr, "Tromelo can't start its video display: %s\n", qPrintable(error));
+    return false;
+  }
+  if (!dmabuf) presentThroughSharedMemory();
+  HostEnvironment::enterPrivateDisplay(display_->socketPath());
+  QObject::connect(display_.get(), &PrivateDisplay::idleInhibitedChanged, &idleInhibitor_,
+                   &IdleInhibitor::setInhibited);
+  return true;
+}
+
+void Program::makeDelegate() {
+  stage_ = std::make_unique<PlayerStage>(*display_, qmlEngine_, [this](QQuickItem& scene) {
+    return std::make_unique<QuickPlayerOverlay>(qmlEngine_, scene);
+  });
+  AppDelegate::Parts parts;
+  parts.makePlayback = [this] {
+    return std::make_unique<PlaybackModel>(
+        MpvClientApi::real(), clock_, chooser_, diagnosticsDirectoryPath(),
+        [this](PlaybackModel& playback) -> std::unique_ptr<PlayerPresenting> {
+          return std::make_unique<PlayerWindowController>(playback, *stage_, clock_);
+        });
+  };
+  parts.makeLibraryWindow = [this](PlaybackModel& playback, PlayerWindowController& player) {
+    return makeLibraryWindow(playback, player);
+  };
+  delegate_ = std::make_unique<AppDelegate>(commandLine_, defaults_, formerDefaults(), parts);
+  QObject::connect(delegate_.get(), &AppDelegate::readyToTerminate, qApp,
+                   [] { QCoreApplication::exit(0); });
+  QObject::connect(&signals_, &TerminationSignals::received, delegate_.get(), &AppDelegate::quit);
+  commands_ = std::make_unique<Commands>(std::vector<Command>{
+      {QStringLiteral("Open…"), QKeySequence(Qt::CTRL | Qt::Key_O),
+       [this] { delegate_->playback().presentOpenPanel(); }},
+      {QStringLiteral("Library"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_L),
+       [this] { delegate_->showLibraryWindow(); }},
+      {QStringLiteral("Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { delegate_->quit(); }},
+  });
+}
+
+std::unique_ptr<HostWindow> Program::makeLibraryWindow(PlaybackModel& playback,
+                                                       PlayerWindowController& player) {
+  auto library = std::make_unique<LibraryWindow>(qmlEngine_, playback, player, defaults_);
+  QObject::connect(library.get(), &LibraryWindow::closed, delegate_.get(),
+                   [this] { handleLibraryClosed(); });
+  return library;
+}
+
+void Program::connectService() {
+  QObject::connect(&service_, &ApplicationService::activated, delegate_.get(), [this] {
+    delegate_->applicationShouldHandleReopen(hasVisibleWindows());
+    delegate_->player().bringToFront();
+  });
+  QObject::connect(&service_, &ApplicationService::filesOpened, delegate_.get(),
+                   [this](const QList<QUrl>& files, std::optional<double> start) {
+                     delegate_->applicationOpen(files, start);
+                     delegate_->player().bringToFront();
+                   });
+}
+
+void Program::startReport() {
+  report_ = std::make_unique<StateReport>(
+      delegate_->playback(), delegate_->player(), clock_, [this] { return windowText(); }, stdout);
+  QObject::connect(stage_.get(), &PlayerStage::hostResized, report_.get(), &StateReport::schedule);
+}
+
+bool Program::hasVisibleWindows() {
+  return delegate_->isLibraryVisible() || delegate_->player().isRevealed();
+}
+
+void Program::handleLibraryClosed() {
+  // The desktop brings a hidden program back by its name on the bus. Without a bus nothing would.
+  if (role_ == ApplicationService::Role::alone && !delegate_->player().hasWindow())
+    delegate_->quit();
+}
+
+QString Program::windowText() {
+  if (!delegate_->player().hasWindow()) return QStringLiteral("none");
+  if (!delegate_->player().isRevealed()) return QStringLiteral("hidden");
+  const QSize size = stage_->hostPixelSize();
+  return QStringLiteral("revealed %1x%2").arg(size.width()).arg(size.height());
+}
+
+}  // namespace tromelo

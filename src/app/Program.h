@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QQmlEngine>
+#include <memory>
+#include <optional>
+
+#include "app/AppDelegate.h"
+#include "app/ApplicationService.h"
+#include "app/CommandLine.h"
+#include "app/Commands.h"
+#include "app/DialogFileChooser.h"
+#include "app/StateReport.h"
+#include "app/TerminationSignals.h"
+#include "display/PrivateDisplay.h"
+#include "platform/Clock.h"
+#include "platform/IdleInhibitor.h"
+#include "platform/UserDefaults.h"
+#include "player/PlayerStage.h"
+
+namespace tromelo {
+
+/// Puts the program's objects together and keeps them in the order in which they may end.
+class Program {
+ public:
+  /// Needs the application object.
+  explicit Program(const CommandLine& commandLine);
+  ~Program();
+
+  /// Runs until the person quits; gives the process's exit status.
+  int run();
+
+ private:
+  bool startDisplay();
+  void makeDelegate();
+  std::unique_ptr<HostWindow> makeLibraryWindow(PlaybackModel& playback,
+                                                PlayerWindowController& player);
+  void connectService();
+  void startReport();
+  void handleLibraryClosed();
+  bool hasVisibleWindows();
+  QString windowText();
+
+  const CommandLine commandLine_;
+  SystemClock clock_;
+  UserDefaults defaults_;
+  DialogFileChooser chooser_;
+  IdleInhibitor idleInhibitor_;
+  ApplicationService service_;
+  ApplicationService::Role role_ = ApplicationService::Role::alone;
+  std::unique_ptr<PrivateDisplay> display_;
+  QQmlEngine qmlEngine_;
+  std::unique_ptr<PlayerStage> stage_;
+  std::unique_ptr<AppDelegate> delegate_;
+  std::unique_ptr<Commands> commands_;
+  std::unique_ptr<StateReport> report_;
+  TerminationSignals signals_;
+};
+
+}  // namespace tromelo

@@ -1,0 +1,53 @@
+#include <QApplication>
+#include <QIcon>
+#include <QQuickWindow>
+#include <QStyleHints>
+#include <cstdio>
+#include <span>
+
+#include "app/CommandLine.h"
+#include "app/Program.h"
+#include "display/DisplaySelftest.h"
+
+namespace {
+
+bool hasHostDisplay() {
+  for (const char* name : {"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "WAYLAND_SOCKET", "DISPLAY"})
+    if (qEnvironmentVariableIsSet(name)) return true;
+  return false;
+}
+
+void prepareGraphics() {
+  // The picture comes in as a texture, or as a buffer that only EGL can import: GLX can't.
+  if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
+    qputenv("QT_XCB_GL_INTEGRATION", "xcb_egl");
+  QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
+}
+
+void describe(QApplication& application) {
+  application.setApplicationName(QStringLiteral("Tromelo"));
+  application.setApplicationDisplayName(QStringLiteral("Tromelo"));
+  application.setApplicationVersion(QStringLiteral(TROMELO_VERSION));
+  application.setDesktopFileName(QStringLiteral("org.tromelo.Tromelo"));
+  application.setQuitOnLastWindowClosed(false);
+  application.styleHints()->setColorScheme(Qt::ColorScheme::Dark);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const auto line = tromelo::CommandLine::parse(std::span(argv, static_cast<std::size_t>(argc)));
+  if (line.help) return std::fputs(tromelo::CommandLine::helpText().c_str(), stdout) < 0;
+  if (line.version) return std::puts("Tromelo " TROMELO_VERSION) < 0;
+  if (!hasHostDisplay()) {
+    std::fputs("Tromelo needs a display: start it in a Wayland or X11 session.\n", stderr);
+    return 1;
+  }
+  prepareGraphics();
+  QApplication application(argc, argv);
+  describe(application);
+  if (line.displaySelftest)
+    return std::fputs(qPrintable(tromelo::displaySelftestText()), stdout) < 0;
+  tromelo::Program program(line);
+  return program.run();
+}

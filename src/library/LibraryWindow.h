@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <memory>
+
+#include "library/WindowFrame.h"
+#include "player/HostWindow.h"
+#include "player/WindowFade.h"
+
+namespace tromelo {
+
+class PlaybackModel;
+class PlayerWindowController;
+
+/// The program's home. Closing it only hides it. Main thread only.
+class LibraryWindow : public HostWindow {
+  Q_OBJECT
+
+ public:
+  /// All outlive it.
+  LibraryWindow(QQmlEngine& engine, PlaybackModel& playback, PlayerWindowController& player,
+                UserDefaults& defaults);
+  ~LibraryWindow() override;
+
+  bool isVisible() const override;
+  void setOpacity(double opacity) override;
+  void fadeTo(double opacity, std::chrono::milliseconds duration, QEasingCurve::Type curve,
+              std::function<void()> completed) override;
+  void makeKeyAndOrderFront() override;
+  void orderOut() override;
+
+ Q_SIGNALS:
+  /// The person closed it; it is hidden by now.
+  void closed();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  WindowFrame frame_;
+  std::unique_ptr<QQuickWindow> window_;
+  std::unique_ptr<WindowFade> fade_;
+};
+
+}  // namespace tromelo

@@ -1,0 +1,27 @@
+#include "player/PlayerChrome.h"
+
+namespace tromelo {
+
+void PlayerChrome::setShowsInfo(bool shows) {
+  if (showsInfo_ == shows) return;
+  showsInfo_ = shows;
+  Q_EMIT showsInfoChanged();
+}
+
+void PlayerChrome::setPanel(std::optional<PlayerPanel> panel) {
+  if (panel_ == panel) return;
+  panel_ = panel;
+  Q_EMIT panelChanged();
+}
+
+void PlayerChrome::toggle(PlayerPanel panel) {
+  setPanel(panel_ == panel ? std::nullopt : std::optional(panel));
+}
+
+void PlayerChrome::setToast(std::optional<QString> toast) {
+  if (toast_ == toast) return;
+  toast_ = std::move(toast);
+  Q_EMIT toastChanged();
+}
+
+}  // namespace tromelo

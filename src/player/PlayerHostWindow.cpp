@@ -1,0 +1,91 @@
+#include "player/PlayerHostWindow.h"
+
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QScreen>
+
+namespace tromelo {
+
+namespace {
+
+// A window of this size is dressed and mapped before the engine says how large its picture is.
+constexpr QSize kProvisionalSize(640, 360);
+
+QSurfaceFormat translucentFormat() {
+  QSurfaceFormat format = QSurfaceFormat::defaultFormat();
+  format.setAlphaBufferSize(8);
+  return format;
+}
+
+}  // namespace
+
+PlayerHostWindow::PlayerHostWindow(QQmlEngine& engine) {
+  setFormat(translucentFormat());
+  setFlags(Qt::Window | Qt::FramelessWindowHint);
+  setColor(Qt::transparent);
+  setTitle(QGuiApplication::applicationDisplayName());
+  resize(kProvisionalSize);
+  QQmlComponent component(&engine, QStringLiteral("Tromelo.Player"), QStringLiteral("PlayerScene"));
+  scene_.reset(qobject_cast<QQuickItem*>(component.create()));
+  if (!scene_) qFatal("%s", qPrintable(component.errorString()));
+  scene_->setParentItem(contentItem());
+  scene_->setOpacity(0);
+  video_ = scene_->findChild<EngineWindowItem*>(QStringLiteral("playerVideo"));
+  fade_ = std::make_unique<WindowFade>(*scene_);
+  connect(this, &QWindow::widthChanged, this, &PlayerHostWindow::fillWindow);
+  connect(this, &QWindow::heightChanged, this, &PlayerHostWindow::fillWindow);
+  fillWindow();
+}
+
+PlayerHostWindow::~PlayerHostWindow() = default;
+
+void PlayerHostWindow::fillWindow() { scene_->setSize(size()); }
+
+QSize PlayerHostWindow::pixelSize() const { return (QSizeF(size()) * devicePixelRatio()).toSize(); }
+
+void PlayerHostWindow::resizeToPixels(QSize pixels) {
+  const QSize points = (QSizeF(pixels) / devicePixelRatio()).toSize();
+  if (points == size()) return;
+  resize(points.expandedTo(minimumSize()));
+  center();
+}
+
+void PlayerHostWindow::center() {
+  if (!screen()) return;
+  const QRect available = screen()->availableGeometry();
+  QRect frame(QPoint(), size());
+  // A window that a person has seen stays where it is, one that is new goes to the middle.
+  frame.moveCenter(scene_->opacity() > 0 ? geometry().center() : available.center());
+  frame.moveRight(qMin(frame.right(), available.right()));
+  frame.moveBottom(qMin(frame.bottom(), available.bottom()));
+  frame.moveLeft(qMax(frame.left(), available.left()));
+  frame.moveTop(qMax(frame.top(), available.top()));
+  setPosition(frame.topLeft());
+}
+
+void PlayerHostWindow::showUnseen() {
+  if (isVisible()) return;
+  center();
+  // Without a compositor a transparent window is a black one: leave it one pixel to be.
+  setMask(QRegion(0, 0, 1, 1));
+  show();
+}
+
+void PlayerHostWindow::present() {
+  setMask(QRegion());
+  show();
+  raise();
+  requestActivate();
+}
+
+bool PlayerHostWindow::event(QEvent* event) {
+  if (event->type() == QEvent::Close) {
+    event->ignore();
+    Q_EMIT closeRequested();
+    return true;
+  }
+  if (event->type() == QEvent::DevicePixelRatioChange) Q_EMIT devicePixelRatioChanged();
+  return QQuickWindow::event(event);
+}
+
+}  // namespace tromelo

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <memory>
+
+#include "display/EngineWindowItem.h"
+#include "player/WindowFade.h"
+
+namespace tromelo {
+
+/// The frameless host window in which an engine window is shown, with its scene. It is kept for the
+/// next file when a file ends, since a scene's graphics take long to make. Main thread only.
+class PlayerHostWindow : public QQuickWindow {
+  Q_OBJECT
+
+ public:
+  explicit PlayerHostWindow(QQmlEngine& engine);
+  ~PlayerHostWindow() override;
+
+  EngineWindowItem& video() { return *video_; }
+  QQuickItem& scene() { return *scene_; }
+  WindowFade& fade() { return *fade_; }
+
+  /// Its size in device pixels.
+  QSize pixelSize() const;
+  /// Gives the window `pixels`, kept on its screen and round the same centre where the host lets us
+  /// place windows.
+  void resizeToPixels(QSize pixels);
+
+  /// Mapped, so that its graphics get ready, but with nothing to be seen or clicked.
+  void showUnseen();
+  void present();
+
+ Q_SIGNALS:
+  void closeRequested();
+  void devicePixelRatioChanged();
+
+ protected:
+  bool event(QEvent* event) override;
+
+ private:
+  void fillWindow();
+  void center();
+
+  std::unique_ptr<QQuickItem> scene_;
+  EngineWindowItem* video_ = nullptr;
+  std::unique_ptr<WindowFade> fade_;
+};
+
+}  // namespace tromelo

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QPointer>
+#include <QQmlEngine>
+#include <QScreen>
+#include <memory>
+#include <vector>
+
+#include "display/PrivateDisplay.h"
+#include "player/PlayerWindow.h"
+#include "player/WindowSystem.h"
+
+namespace tromelo {
+
+/// Gives each engine window of the private display a host window, and tells the display of the
+/// screen that they are on. Main thread only.
+class PlayerStage : public WindowSystem {
+  Q_OBJECT
+
+ public:
+  /// `display` and `engine` outlive it.
+  PlayerStage(PrivateDisplay& display, QQmlEngine& engine, PlayerOverlayFactory overlayFactory);
+  ~PlayerStage() override;
+
+  QList<VideoWindow*> videoWindows() const override;
+
+  /// The size in device pixels of the newest window's host; empty without one.
+  QSize hostPixelSize() const;
+
+  /// Makes the next host window now, while there is nothing else to do.
+  void prepareHostWindow();
+
+  /// What the engine is told of `screen`.
+  static PrivateDisplay::Output outputOf(const QScreen& screen);
+
+ Q_SIGNALS:
+  void hostResized();
+
+ private:
+  void add(EngineWindow& engineWindow);
+  void retire(PlayerWindow* window);
+  void followScreen(QScreen* screen);
+
+  PrivateDisplay& display_;
+  QQmlEngine& engine_;
+  PlayerOverlayFactory overlayFactory_;
+  std::unique_ptr<PlayerHostWindow> spareHost_;
+  std::vector<std::unique_ptr<PlayerWindow>> windows_;
+  QPointer<QScreen> screen_;
+};
+
+}  // namespace tromelo

@@ -1,0 +1,160 @@
+#include "player/PlayerWindow.h"
+
+#include <QTimer>
+#include <cstdlib>
+#include <utility>
+
+namespace tromelo {
+
+namespace {
+
+// The engine rounds the size that it is asked for to its picture's aspect.
+constexpr int kRounding = 2;
+constexpr std::size_t kMostRequests = 64;
+
+bool nearlyEqual(QSize a, QSize b) {
+  return std::abs(a.width() - b.width()) <= kRounding &&
+         std::abs(a.height() - b.height()) <= kRounding;
+}
+
+}  // namespace
+
+PlayerWindow::PlayerWindow(EngineWindow& engineWindow, std::unique_ptr<PlayerHostWindow> host,
+                           const PlayerOverlayFactory& overlayFactory)
+    : engineWindow_(&engineWindow), host_(std::move(host)), overlayFactory_(overlayFactory) {
+  host_->fade().setOpacity(0);
+  host_->video().setEngineWindow(&engineWindow);
+  followHost();
+  followEngine();
+}
+
+PlayerWindow::~PlayerWindow() = default;
+
+void PlayerWindow::followHost() {
+  connect(host_.get(), &PlayerHostWindow::closeRequested, this, &VideoWindow::closeRequested);
+  connect(host_.get(), &QWindow::visibilityChanged, this, &PlayerWindow::handleVisibility);
+  connect(host_.get(), &QWindow::widthChanged, this, &PlayerWindow::scheduleHostState);
+  connect(host_.get(), &QWindow::heightChanged, this, &PlayerWindow::scheduleHostState);
+  connect(host_.get(), &QWindow::activeChanged, this, &PlayerWindow::scheduleHostState);
+  connect(host_.get(), &QQuickWindow::sceneGraphInitialized, this, &PlayerWindow::scheduleHostState,
+          Qt::QueuedConnection);
+  connect(host_.get(), &PlayerHostWindow::devicePixelRatioChanged, this,
+          &PlayerWindow::scheduleHostState);
+}
+
+void PlayerWindow::followEngine() {
+  connect(engineWindow_, &EngineWindow::sizeChanged, this, &PlayerWindow::adoptEngineSize);
+  connect(engineWindow_, &EngineWindow::stateChanged, this, &PlayerWindow::stateChanged);
+  connect(engineWindow_, &EngineWindow::takenDown, this, &PlayerWindow::handleTakenDown);
+  connect(engineWindow_, &EngineWindow::titleChanged, host_.get(),
+          [this] { host_->setTitle(engineWindow_->title()); });
+  connect(engineWindow_, &EngineWindow::fullscreenRequested, host_.get(),
+          [this](bool fullscreen) { fullscreen ? host_->showFullScreen() : host_->showNormal(); });
+}
+
+bool PlayerWindow::isVisible() const { return engineWindow_ && engineWindow_->isVisible(); }
+
+bool PlayerWindow::isMinimized() const {
+  return isVisible() && host_->visibility() == QWindow::Minimized;
+}
+
+bool PlayerWindow::isFullscreen() const { return host_->visibility() == QWindow::FullScreen; }
+
+bool PlayerWindow::hasDrawingSurface() const {
+  return engineWindow_ && engineWindow_->hasDrawingSurface();
+}
+
+void PlayerWindow::setOpacity(double opacity) {
+  isFadingOut_ = false;
+  host_->fade().setOpacity(opacity);
+}
+
+void PlayerWindow::fadeTo(double opacity, std::chrono::milliseconds duration,
+                          QEasingCurve::Type curve, std::function<void()> completed) {
+  isFadingOut_ = opacity <= 0;
+  host_->fade().start(opacity, duration, curve, std::move(completed));
+}
+
+void PlayerWindow::makeKeyAndOrderFront() { host_->present(); }
+
+void PlayerWindow::orderOut() {
+  isFadingOut_ = false;
+  host_->hide();
+  if (!isVisible()) Q_EMIT finished();
+}
+
+void PlayerWindow::dress(QSize minimumSize) {
+  host_->setMinimumSize(minimumSize);
+  adoptEngineSize();
+  host_->showUnseen();
+}
+
+std::unique_ptr<PlayerOverlay> PlayerWindow::installOverlay() {
+  return overlayFactory_(host_->scene());
+}
+
+void PlayerWindow::showPointer() { host_->unsetCursor(); }
+
+void PlayerWindow::adoptEngineSize() {
+  const QSize pixels = engineWindow_ ? engineWindow_->size() : QSize();
+  if (pixels.isEmpty() || answersRequest(pixels)) return;
+  chosenSize_ = pixels;
+  if (!isFullscreen()) host_->resizeToPixels(pixels);
+  scheduleHostState();
+}
+
+bool PlayerWindow::answersRequest(QSize pixels) {
+  const auto asked = std::ranges::find_if(
+      requestedSizes_, [&](QSize requested) { return nearlyEqual(requested, pixels); });
+  if (asked == requestedSizes_.end()) return false;
+  // The newest stays: the engine may commit the same size again.
+  requestedSizes_.erase(requestedSizes_.begin(), asked);
+  return true;
+}
+
+void PlayerWindow::scheduleHostState() {
+  // Several things change at once when a window changes its state; the engine hears of the result.
+  if (std::exchange(hostStateScheduled_, true)) return;
+  QMetaObject::invokeMethod(this, &PlayerWindow::sendHostState, Qt::QueuedConnection);
+}
+
+void PlayerWindow::sendHostState() {
+  hostStateScheduled_ = false;
+  if (!engineWindow_ || chosenSize_.isEmpty()) return;
+  const QSize pixels = host_->pixelSize();
+  EngineWindow::HostState state;
+  state.fullscreen = isFullscreen();
+  state.size = state.fullscreen ? pixels : chosenSize_.scaled(pixels, Qt::KeepAspectRatio);
+  if (nearlyEqual(state.size, chosenSize_) && !state.fullscreen) state.size = chosenSize_;
+  state.activated = host_->isActive();
+  state.shown = host_->isVisible() && host_->visibility() != QWindow::Minimized;
+  if (requestedSizes_.empty() || requestedSizes_.back() != state.size) {
+    requestedSizes_.push_back(state.size);
+    if (requestedSizes_.size() > kMostRequests) requestedSizes_.pop_front();
+  }
+  engineWindow_->setHostState(state);
+}
+
+void PlayerWindow::handleVisibility(QWindow::Visibility visibility) {
+  scheduleHostState();
+  const bool fullscreen = visibility == QWindow::FullScreen;
+  if (std::exchange(wasFullscreen_, fullscreen) && !fullscreen) Q_EMIT leftFullscreen();
+  Q_EMIT stateChanged();
+}
+
+void PlayerWindow::handleTakenDown() {
+  engineWindow_ = nullptr;
+  Q_EMIT stateChanged();
+  if (!isFadingOut_) orderOut();
+}
+
+std::unique_ptr<PlayerHostWindow> PlayerWindow::takeHost() {
+  host_->disconnect(this);
+  host_->hide();
+  host_->fade().setOpacity(0);
+  host_->video().setEngineWindow(nullptr);
+  if (host_->windowState() == Qt::WindowFullScreen) host_->setWindowState(Qt::WindowNoState);
+  return std::move(host_);
+}
+
+}  // namespace tromelo

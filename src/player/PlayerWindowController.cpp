@@ -1,0 +1,214 @@
+#include "player/PlayerWindowController.h"
+
+#include "platform/FilePath.h"
+#include "platform/NumberText.h"
+#include "playback/PlaybackModel.h"
+#include "player/DroppedFiles.h"
+
+namespace tromelo {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kRevealFallback = 1500ms;
+constexpr auto kFullscreenExitFallback = 2000ms;
+constexpr auto kFadeIn = 320ms;
+constexpr auto kFadeOut = 240ms;
+constexpr auto kToast = 1400ms;
+constexpr QSize kMinimumSize(520, 300);  // points
+
+}  // namespace
+
+PlayerWindowController::PlayerWindowController(PlaybackModel& playback, WindowSystem& windows,
+                                               Clock& clock)
+    : playback_(playback), windows_(windows), clock_(clock) {
+  connect(&windows_, &WindowSystem::windowsChanged, this, &PlayerWindowController::scanWindows);
+  connect(&playback_, &PlaybackModel::isLoadedChanged, this,
+          &PlayerWindowController::playsWithoutWindowChanged);
+  connect(this, &PlayerWindowController::windowStateChanged, this,
+          &PlayerWindowController::playsWithoutWindowChanged);
+}
+
+PlayerWindowController::~PlayerWindowController() = default;
+
+void PlayerWindowController::setAwaitingVideo(bool awaiting) { awaitingVideo_ = awaiting; }
+
+void PlayerWindowController::setVideoReady(bool ready) {
+  if (videoReady_ == ready) return;
+  videoReady_ = ready;
+  Q_EMIT windowStateChanged();
+}
+
+bool PlayerWindowController::playsWithoutWindow() const {
+  return playback_.isLoaded() && videoReady_ && !window_;
+}
+
+void PlayerWindowController::stopPlayback() { playback_.engine().command({"stop"}); }
+
+void PlayerWindowController::scanWindows() {
+  if (isTerminating_) return;
+  if (window_ && !isClosing_ && !window_->isVisible() && !window_->isMinimized()) {
+    tearDownWindowState();
+    if (!awaitingVideo_) showLibrary();
+  }
+  for (VideoWindow* window : windows_.videoWindows()) {
+    if (!window->isVisible() || !window->hasDrawingSurface()) continue;
+    if (!adoptedWindows_.contains(window)) adopt(*window);
+  }
+}
+
+void PlayerWindowController::adopt(VideoWindow& window) {
+  adoptedWindows_.insert(&window);
+  if (window_) tearDownWindowState();
+  window.setOpacity(0);
+  window.dress(kMinimumSize);
+  window_ = &window;
+  isRevealed_ = false;
+  isClosing_ = false;
+  isFadingOut_ = false;
+  installOverlay(window);
+  observe(window);
+  Q_EMIT windowStateChanged();
+  if (videoReady_)
+    reveal();
+  else
+    revealFallback_ = clock_.after(kRevealFallback, [this] { reveal(); });
+}
+
+void PlayerWindowController::installOverlay(VideoWindow& window) {
+  overlay_ = window.installOverlay();
+  overlay_->onDoubleClick = [this] { toggleFullscreen(); };
+  overlay_->onDropFiles = [this](const QList<QUrl>& urls) { handleDroppedFiles(urls); };
+}
+
+void PlayerWindowController::observe(VideoWindow& window) {
+  forgetWhenDestroyed(window);
+  connect(&window, &VideoWindow::closeRequested, this, &PlayerWindowController::close);
+  connect(&window, &VideoWindow::leftFullscreen, this, [this] {
+    if (fullscreenExitFallback_) finishClose();
+    Q_EMIT windowStateChanged();
+  });
+}
+
+void PlayerWindowController::forgetWhenDestroyed(VideoWindow& window) {
+  connect(&window, &QObject::destroyed, this,
+          [this](QObject* gone) { adoptedWindows_.remove(gone); });
+}
+
+void PlayerWindowController::toggleFullscreen() {
+  if (!window_) return;
+  playback_.engine().setProperty("fullscreen", flagText(!window_->isFullscreen()));
+}
+
+void PlayerWindowController::reveal() {
+  if (!window_) readoptOrShowLibrary();
+  if (!window_ || isClosing_) return;
+  if (isRevealed_) {
+    awaitingVideo_ = false;
+    return;
+  }
+  isRevealed_ = true;
+  awaitingVideo_ = false;
+  revealFallback_.reset();
+  window_->makeKeyAndOrderFront();
+  const QPointer<VideoWindow> revealed = window_;
+  window_->fadeTo(1, kFadeIn, QEasingCurve::OutQuad, [this, revealed] {
+    if (!isRevealed_ || isClosing_ || !revealed || window_ != revealed) return;
+    if (libraryWindow_) libraryWindow_->orderOut();
+  });
+  if (libraryWindow_ && libraryWindow_->isVisible())
+    libraryWindow_->fadeTo(0, kFadeIn, QEasingCurve::OutQuad, {});
+  Q_EMIT windowStateChanged();
+}
+
+void PlayerWindowController::readoptOrShowLibrary() {
+  if (!awaitingVideo_ || isTerminating_) return;
+  // A file that is opened right after a close can come up in the window that was just given up,
+  // since the engine had no time to take it down.
+  for (VideoWindow* window : windows_.videoWindows())
+    if (window->isVisible() && window->hasDrawingSurface()) return adopt(*window);
+  if (!videoReady_) return;
+  awaitingVideo_ = false;
+  showLibrary();
+}
+
+void PlayerWindowController::bringToFront() {
+  if (window_ && isRevealed_ && !isClosing_) window_->makeKeyAndOrderFront();
+}
+
+void PlayerWindowController::showLibrary() {
+  if (!libraryWindow_) return;
+  if (!libraryWindow_->isVisible()) {
+    libraryWindow_->setOpacity(0);
+    libraryWindow_->makeKeyAndOrderFront();
+  }
+  libraryWindow_->fadeTo(1, kFadeIn, QEasingCurve::OutQuad, {});
+}
+
+void PlayerWindowController::showToast(const QString& text) {
+  chrome_.setToast(text);
+  toastTimer_ = clock_.after(kToast, [this] { chrome_.setToast(std::nullopt); });
+}
+
+void PlayerWindowController::close() {
+  if (!window_ || isClosing_) return;
+  isClosing_ = true;
+  awaitingVideo_ = false;
+  playback_.engine().setProperty("pause", flagText(true));
+  if (!window_->isFullscreen()) return finishClose();
+  playback_.engine().setProperty("fullscreen", flagText(false));
+  fullscreenExitFallback_ = clock_.after(kFullscreenExitFallback, [this] { finishClose(); });
+}
+
+void PlayerWindowController::finishClose() {
+  if (!isClosing_ || isFadingOut_ || !window_) return;
+  isFadingOut_ = true;
+  fullscreenExitFallback_.reset();
+  showLibrary();
+  const QPointer<VideoWindow> fading = window_;
+  window_->fadeTo(0, kFadeOut, QEasingCurve::InQuad, [this, fading] {
+    if (fading && window_ == fading) stopAndTearDown();
+  });
+}
+
+void PlayerWindowController::stopAndTearDown() {
+  playback_.engine().command({"stop"});
+  window_->orderOut();
+  tearDownWindowState();
+}
+
+void PlayerWindowController::tearDownWindowState() {
+  revealFallback_.reset();
+  fullscreenExitFallback_.reset();
+  overlay_.reset();
+  if (window_) {
+    window_->showPointer();
+    window_->disconnect(this);
+    forgetWhenDestroyed(*window_);
+    window_ = nullptr;
+  }
+  isRevealed_ = false;
+  isClosing_ = false;
+  isFadingOut_ = false;
+  chrome_.setShowsInfo(false);
+  chrome_.setPanel(std::nullopt);
+  chrome_.setToast(std::nullopt);
+  Q_EMIT windowStateChanged();
+}
+
+void PlayerWindowController::handleDroppedFiles(const QList<QUrl>& urls) {
+  const DroppedFiles files = DroppedFiles::sort(urls);
+  for (const QUrl& subtitle : files.subtitles)
+    playback_.engine().command({"sub-add", pathFromFileUrl(subtitle), "select"});
+  playback_.enqueue(files.videos);
+  if (const QString toast = files.toast(); !toast.isEmpty()) showToast(toast);
+}
+
+void PlayerWindowController::prepareForTermination() {
+  isClosing_ = true;
+  isTerminating_ = true;
+  tearDownWindowState();
+}
+
+}  // namespace tromelo

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QSet>
+#include <QUrl>
+#include <memory>
+
+#include "platform/Clock.h"
+#include "playback/PlayerPresenting.h"
+#include "player/PlayerChrome.h"
+#include "player/PlayerOverlay.h"
+#include "player/WindowSystem.h"
+
+namespace tromelo {
+
+class PlaybackModel;
+
+/// Finds the engine's window, dresses it as the player's, reveals it when the video is ready and
+/// closes it back to the library. `playback`, `windows` and `clock` outlive it. Main thread only.
+class PlayerWindowController : public QObject, public PlayerPresenting {
+  Q_OBJECT
+  Q_PROPERTY(bool playsWithoutWindow READ playsWithoutWindow NOTIFY playsWithoutWindowChanged)
+
+ public:
+  PlayerWindowController(PlaybackModel& playback, WindowSystem& windows, Clock& clock);
+  ~PlayerWindowController() override;
+
+  void setLibraryWindow(HostWindow* library) { libraryWindow_ = library; }
+  PlayerChrome& chrome() { return chrome_; }
+
+  void setAwaitingVideo(bool awaiting) override;
+  void setVideoReady(bool ready) override;
+  bool hasWindow() const override { return window_ != nullptr; }
+  void reveal() override;
+  void close() override;
+  void showLibrary() override;
+  void showToast(const QString& text) override;
+
+  /// The player's window in front of others, if it is shown.
+  void bringToFront();
+  /// Asks the engine, whose window it is.
+  void toggleFullscreen();
+  void handleDroppedFiles(const QList<QUrl>& urls);
+  /// Before the engine is destroyed: drops all window state and watches for no more windows.
+  void prepareForTermination();
+
+  bool isRevealed() const { return isRevealed_; }
+  bool isClosing() const { return isClosing_; }
+  /// A file plays that has no picture, so that no window has come.
+  bool playsWithoutWindow() const;
+  /// The way back from a file without a window: stops it.
+  Q_INVOKABLE void stopPlayback();
+
+ Q_SIGNALS:
+  void playsWithoutWindowChanged();
+  void windowStateChanged();
+
+ private:
+  void scanWindows();
+  void adopt(VideoWindow& window);
+  void installOverlay(VideoWindow& window);
+  void observe(VideoWindow& window);
+  void forgetWhenDestroyed(VideoWindow& window);
+  void readoptOrShowLibrary();
+  void finishClose();
+  void stopAndTearDown();
+  void tearDownWindowState();
+
+  PlaybackModel& playback_;
+  WindowSystem& windows_;
+  Clock& clock_;
+  PlayerChrome chrome_;
+
+  QPointer<HostWindow> libraryWindow_;
+  QPointer<VideoWindow> window_;
+  std::unique_ptr<PlayerOverlay> overlay_;
+  // By identity only, never dereferenced; a window leaves the set when it dies.
+  QSet<const QObject*> adoptedWindows_;
+
+  std::unique_ptr<Clock::Timer> revealFallback_;
+  std::unique_ptr<Clock::Timer> fullscreenExitFallback_;
+  std::unique_ptr<Clock::Timer> toastTimer_;
+
+  bool awaitingVideo_ = false;
+  bool videoReady_ = false;
+  bool isRevealed_ = false;
+  bool isClosing_ = false;
+  bool isFadingOut_ = false;
+  bool isTerminating_ = false;
+};
+
+}  // namespace tromelo

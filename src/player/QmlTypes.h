@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+
+#include "display/EngineWindowItem.h"
+#include "playback/PlaybackModel.h"
+#include "player/PlayerChrome.h"
+#include "player/PlayerWindowController.h"
+
+namespace tromelo {
+
+/// Names for QML: the objects themselves know nothing of it.
+
+struct EngineWindowItemForQml {
+  Q_GADGET
+  QML_FOREIGN(tromelo::EngineWindowItem)
+  QML_NAMED_ELEMENT(EngineWindowItem)
+};
+
+struct PlaybackModelForQml {
+  Q_GADGET
+  QML_FOREIGN(tromelo::PlaybackModel)
+  QML_NAMED_ELEMENT(PlaybackModel)
+  QML_UNCREATABLE("The program has one.")
+};
+
+struct PlayerWindowControllerForQml {
+  Q_GADGET
+  QML_FOREIGN(tromelo::PlayerWindowController)
+  QML_NAMED_ELEMENT(PlayerWindowController)
+  QML_UNCREATABLE("The program has one.")
+};
+
+struct PlayerChromeForQml {
+  Q_GADGET
+  QML_FOREIGN(tromelo::PlayerChrome)
+  QML_NAMED_ELEMENT(PlayerChrome)
+  QML_UNCREATABLE("The player window controller has one.")
+};
+
+}  // namespace tromelo

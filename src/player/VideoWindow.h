@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QSize>
+#include <memory>
+
+#include "player/HostWindow.h"
+#include "player/PlayerOverlay.h"
+
+namespace tromelo {
+
+/// A window that the engine has opened, with the host window that shows it. It begins transparent
+/// and off the screen.
+class VideoWindow : public HostWindow {
+  Q_OBJECT
+
+ public:
+  using HostWindow::HostWindow;
+
+  /// The engine wants it on the screen; false once the engine has taken it down.
+  bool isVisible() const override = 0;
+  virtual bool isMinimized() const = 0;
+  virtual bool isFullscreen() const = 0;
+  virtual bool hasDrawingSurface() const = 0;
+
+  /// Dark, borderless, black behind the picture, no smaller than `minimumSize` (points); the scene
+  /// is made ready, still transparent.
+  virtual void dress(QSize minimumSize) = 0;
+  virtual std::unique_ptr<PlayerOverlay> installOverlay() = 0;
+  virtual void showPointer() = 0;
+
+ Q_SIGNALS:
+  void leftFullscreen();
+  /// The person asked the window manager to close it.
+  void closeRequested();
+};
+
+}  // namespace tromelo
