@@ -5,6 +5,7 @@ if(NOT Qt6_FOUND OR Qt6_VERSION VERSION_LESS 6.8)
 endif()
 qt_standard_project_setup(REQUIRES 6.8)
 set(QT_QML_GENERATE_QMLLS_INI OFF)
+set(QT_QML_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml)
 
 find_package(PkgConfig REQUIRED)
 

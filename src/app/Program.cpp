@@ -72,7 +72,7 @@ void Program::makeDelegate() {
   AppDelegate::Parts parts;
   parts.makePlayback = [this] {
     return std::make_unique<PlaybackModel>(
-        MpvClientApi::real(), clock_, chooser_, diagnosticsDirectoryPath(),
+        MpvClientApi::libmpv(), clock_, chooser_, diagnosticsDirectoryPath(),
         [this](PlaybackModel& playback) -> std::unique_ptr<PlayerPresenting> {
           return std::make_unique<PlayerWindowController>(playback, *stage_, clock_);
         });

@@ -1,0 +1,31 @@
+#include "platform/HostEnvironment.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "support/WaitFor.h"
+
+namespace tromelo {
+namespace {
+
+TEST(HostEnvironment, GivesProcessesWeStartTheHostsDisplayBack) {
+  qputenv("WAYLAND_DISPLAY", "host-0");
+  HostEnvironment::enterPrivateDisplay("/private/engine-0");
+  ASSERT_EQ(qgetenv("WAYLAND_DISPLAY"), "/private/engine-0");
+
+  QTemporaryDir directory;
+  const QString said = directory.filePath(QStringLiteral("said"));
+  ASSERT_TRUE(HostEnvironment::startDetached(
+      QStringLiteral("/bin/sh"),
+      {QStringLiteral("-c"), QStringLiteral("printf %s \"$WAYLAND_DISPLAY\" > \"$1.new\" && mv \"$1.new\" \"$1\""),
+       QStringLiteral("sh"), said}));
+  ASSERT_TRUE(testing::waitFor([&] { return QFile::exists(said); }));
+  QFile file(said);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(file.readAll(), "host-0");
+}
+
+}  // namespace
+}  // namespace tromelo
