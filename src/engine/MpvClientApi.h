@@ -1,0 +1,31 @@
+#pragma once
+
+#include <mpv/client.h>
+
+#include <cstdint>
+#include <functional>
+
+namespace tromelo {
+
+/// Every function of libmpv that we call, so that tests put others in their place. Arguments and
+/// results are libmpv's own. No entry may be empty.
+struct MpvClientApi {
+  std::function<mpv_handle*()> create;
+  std::function<int(mpv_handle*, const char* name, const char* value)> setOptionString;
+  std::function<int(mpv_handle*)> initialize;
+  std::function<int(mpv_handle*, std::uint64_t reply, const char* name, mpv_format)>
+      observeProperty;
+  std::function<int(mpv_handle*, const char* level)> requestLogMessages;
+  std::function<void(mpv_handle*, void (*callback)(void*), void* context)> setWakeupCallback;
+  std::function<mpv_event*(mpv_handle*, double timeout)> waitEvent;
+  std::function<int(mpv_handle*, std::uint64_t reply, const char** arguments)> commandAsync;
+  std::function<int(mpv_handle*, std::uint64_t reply, const char* name, mpv_format, void* data)>
+      setPropertyAsync;
+  std::function<const char*(int code)> errorString;
+  std::function<void(mpv_handle*)> terminateDestroy;
+
+  /// The library itself.
+  static const MpvClientApi& libmpv();
+};
+
+}  // namespace tromelo

@@ -1,0 +1,158 @@
+#include "engine/MpvEngine.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QThreadPool>
+#include <utility>
+
+#include "engine/EngineEnvironment.h"
+#include "engine/MpvClientApi.h"
+#include "engine/MpvErrorText.h"
+#include "engine/MpvOptions.h"
+#include "engine/MpvTranslation.h"
+#include "engine/UncheckedHandle.h"
+#include "engine/WakeupTarget.h"
+
+namespace tromelo {
+
+namespace {
+
+int sendCommand(const MpvClientApi& api, mpv_handle* handle, const MpvCommand& command) {
+  std::vector<const char*> arguments;
+  arguments.reserve(command.arguments.size() + 1);
+  for (const std::string& argument : command.arguments) arguments.push_back(argument.c_str());
+  arguments.push_back(nullptr);
+  return api.commandAsync(handle, 0, arguments.data());
+}
+
+int sendWrite(const MpvClientApi& api, mpv_handle* handle, const MpvPropertyWrite& write) {
+  const char* value = write.value.c_str();
+  return api.setPropertyAsync(handle, 0, write.name.c_str(), MPV_FORMAT_STRING, &value);
+}
+
+}  // namespace
+
+MpvEngine::MpvEngine(const MpvClientApi& api)
+    : onEvent([](const MpvEvent&) {}),
+      api_(std::make_unique<const MpvClientApi>(api)),
+      wakeupTarget_(std::make_shared<WakeupTarget>()) {}
+
+MpvEngine::~MpvEngine() {
+  wakeupTarget_->engine = nullptr;
+  // libmpv must not go on calling an object that is gone.
+  if (handle_) api_->setWakeupCallback(handle_, nullptr, nullptr);
+}
+
+std::optional<std::string> MpvEngine::initialize(const QString& diagnosticsDirectory) {
+  if (handle_) return {};
+  prepareEngineEnvironment(shippedVulkanManifest());
+  handle_ = api_->create();
+  if (!handle_) return "Could not create the playback engine";
+  if (auto error = configure(diagnosticsDirectory)) {
+    api_->terminateDestroy(std::exchange(handle_, nullptr));
+    return error;
+  }
+  observe();
+  wakeupTarget_->engine = this;
+  api_->requestLogMessages(handle_, "warn");
+  api_->setWakeupCallback(handle_, &WakeupTarget::wakeup, wakeupTarget_.get());
+  return {};
+}
+
+std::optional<std::string> MpvEngine::configure(const QString& diagnosticsDirectory) {
+  const std::string logFile =
+      QFile::encodeName(diagnosticsDirectory + QStringLiteral("/mpv.log")).toStdString();
+  for (const auto& options : {engineOptions(logFile), platformOptions(), diagnosticOptions()}) {
+    for (const MpvOption& option : options) {
+      if (auto error = setOption(option)) return error;
+    }
+  }
+  return mpvErrorText(*api_, api_->initialize(handle_));
+}
+
+std::optional<std::string> MpvEngine::setOption(const MpvOption& option) {
+  const int code = api_->setOptionString(handle_, option.name.c_str(), option.value.c_str());
+  if (code == MPV_ERROR_OPTION_NOT_FOUND && option.mayBeUnknown) return {};
+  const auto error = mpvErrorText(*api_, code);
+  if (!error) return {};
+  return option.name + ": " + *error;
+}
+
+void MpvEngine::observe() {
+  for (const MpvProperty property : allMpvProperties()) {
+    api_->observeProperty(handle_, static_cast<std::uint64_t>(property), mpvPropertyName(property),
+                          static_cast<mpv_format>(mpvPropertyFormat(property)));
+  }
+}
+
+void MpvEngine::terminate(std::function<void()> completion) {
+  if (!handle_) {
+    completion();
+    return;
+  }
+  const UncheckedHandle handle{std::exchange(handle_, nullptr)};
+  waiting_.clear();
+  refusals_.clear();
+  wakeupTarget_->engine = nullptr;
+  api_->setWakeupCallback(handle.pointer, nullptr, nullptr);
+  // The application object waits for the pool before it is gone, so that the process never ends
+  // under libmpv's threads.
+  QThreadPool::globalInstance()->start(
+      [destroy = api_->terminateDestroy, handle, completion = std::move(completion)]() mutable {
+        destroy(handle.pointer);
+        if (QObject* mainThread = QCoreApplication::instance()) {
+          QMetaObject::invokeMethod(mainThread, std::move(completion), Qt::QueuedConnection);
+        }
+      });
+}
+
+void MpvEngine::command(std::vector<std::string> arguments) {
+  send(MpvCommand{std::move(arguments)});
+}
+
+void MpvEngine::setProperty(std::string name, std::string value) {
+  send(MpvPropertyWrite{std::move(name), std::move(value)});
+}
+
+void MpvEngine::send(MpvRequest request) {
+  if (!handle_) return;
+  waiting_.push_back(std::move(request));
+  sendWaiting();
+}
+
+void MpvEngine::sendWaiting() {
+  while (handle_ && !waiting_.empty()) {
+    const int code = trySend(waiting_.front());
+    if (code == MPV_ERROR_EVENT_QUEUE_FULL) return;
+    if (std::holds_alternative<MpvCommand>(waiting_.front())) noteRefusal(code);
+    waiting_.pop_front();
+  }
+}
+
+void MpvEngine::noteRefusal(int code) {
+  auto error = mpvErrorText(*api_, code);
+  if (!error) return;
+  refusals_.push_back(std::move(*error));
+  WakeupTarget::wakeup(wakeupTarget_.get());
+}
+
+int MpvEngine::trySend(const MpvRequest& request) {
+  if (const auto* command = std::get_if<MpvCommand>(&request)) {
+    return sendCommand(*api_, handle_, *command);
+  }
+  return sendWrite(*api_, handle_, std::get<MpvPropertyWrite>(request));
+}
+
+void MpvEngine::drainEvents() {
+  for (const std::string& error : std::exchange(refusals_, {})) {
+    if (handle_) onEvent(event::CommandFailed{error});
+  }
+  while (handle_) {
+    const mpv_event* received = api_->waitEvent(handle_, 0);
+    if (!received || received->event_id == MPV_EVENT_NONE) break;
+    if (const auto translated = translateMpvEvent(*api_, *received)) onEvent(*translated);
+  }
+  sendWaiting();
+}
+
+}  // namespace tromelo

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QString>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "engine/MpvEvent.h"
+#include "engine/MpvRequest.h"
+
+struct mpv_handle;
+
+namespace tromelo {
+
+struct MpvClientApi;
+struct MpvOption;
+class WakeupTarget;
+
+/// The one playback engine of the process: a libmpv handle, its events and what is sent to it. Main
+/// thread only; nothing here waits for the engine but initialize(). Text is bytes, since paths need
+/// not be UTF-8.
+class MpvEngine {
+ public:
+  /// Touches neither libmpv nor the environment. `api` is copied.
+  explicit MpvEngine(const MpvClientApi& api);
+  /// Stops listening. The handle itself is destroyed by terminate() only.
+  ~MpvEngine();
+  MpvEngine(const MpvEngine&) = delete;
+  MpvEngine& operator=(const MpvEngine&) = delete;
+
+  /// Called for each event. It may end the engine, but not destroy this object.
+  std::function<void(const MpvEvent&)> onEvent;
+
+  /// Starts the engine, which writes its log to "mpv.log" in the directory. None on success and
+  /// when it runs already, else one line for people; the engine then has no handle, and everything
+  /// that is sent to it is ignored.
+  std::optional<std::string> initialize(const QString& diagnosticsDirectory);
+
+  bool hasHandle() const { return handle_ != nullptr; }
+
+  /// Takes the handle away at once, destroys it on another thread, and calls `completion` on the
+  /// main thread afterwards (at once when there is no handle).
+  void terminate(std::function<void()> completion);
+
+  /// A command's failure comes back as an event.
+  void command(std::vector<std::string> arguments);
+  /// A refused value is not reported.
+  void setProperty(std::string name, std::string value);
+
+  /// Hands every waiting event to onEvent.
+  void drainEvents();
+
+ private:
+  std::optional<std::string> configure(const QString& diagnosticsDirectory);
+  std::optional<std::string> setOption(const MpvOption& option);
+  void observe();
+  void send(MpvRequest request);
+  void sendWaiting();
+  int trySend(const MpvRequest& request);
+  void noteRefusal(int code);
+
+  std::unique_ptr<const MpvClientApi> api_;
+  mpv_handle* handle_ = nullptr;
+  std::shared_ptr<WakeupTarget> wakeupTarget_;
+  // libmpv takes no more requests than it has room for replies, and refuses the rest; these wait
+  // until it has answered some.
+  std::deque<MpvRequest> waiting_;
+  // The errors of commands that libmpv refused on the spot, reported as its later replies are.
+  std::vector<std::string> refusals_;
+};
+
+}  // namespace tromelo

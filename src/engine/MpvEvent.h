@@ -1,0 +1,59 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <variant>
+
+#include "engine/MpvProperty.h"
+#include "engine/MpvValue.h"
+
+namespace tromelo {
+
+/// What the engine tells the model; each holds its own copy of everything.
+namespace event {
+
+struct Property {
+  MpvProperty property;
+  MpvValue value;
+  friend bool operator==(const Property&, const Property&) = default;
+};
+
+struct EndFile {
+  std::optional<std::string> error;  // none: the file ended by itself or was stopped
+  friend bool operator==(const EndFile&, const EndFile&) = default;
+};
+
+struct CommandFailed {
+  std::string error;
+  friend bool operator==(const CommandFailed&, const CommandFailed&) = default;
+};
+
+struct StartFile {
+  friend bool operator==(StartFile, StartFile) = default;
+};
+
+struct FileLoaded {
+  friend bool operator==(FileLoaded, FileLoaded) = default;
+};
+
+/// After loading or seeking.
+struct PlaybackRestart {
+  friend bool operator==(PlaybackRestart, PlaybackRestart) = default;
+};
+
+struct Shutdown {
+  friend bool operator==(Shutdown, Shutdown) = default;
+};
+
+/// The video decoder warned about hardware decoding.
+struct HardwareDecodeError {
+  friend bool operator==(HardwareDecodeError, HardwareDecodeError) = default;
+};
+
+}  // namespace event
+
+using MpvEvent = std::variant<event::Property, event::EndFile, event::CommandFailed,
+                              event::StartFile, event::FileLoaded, event::PlaybackRestart,
+                              event::Shutdown, event::HardwareDecodeError>;
+
+}  // namespace tromelo

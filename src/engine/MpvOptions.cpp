@@ -1,0 +1,56 @@
+#include "engine/MpvOptions.h"
+
+#include <cstdlib>
+
+namespace tromelo {
+
+std::vector<MpvOption> engineOptions(const std::string& logFile) {
+  constexpr bool kMayBeUnknown = true;
+  return {
+      {"vo", "gpu-next"},
+      {"gpu-api", "vulkan"},
+      {"gpu-context", "waylandvk"},  // the private display is a Wayland one
+      {"hwdec", "auto-safe"},
+      {"target-colorspace-hint", "yes"},
+      {"hdr-compute-peak", "auto"},
+      {"force-window", "no"},
+      {"title-bar", "no"},
+      {"keepaspect-window", "yes"},
+      {"autofit-larger", "80%x80%"},
+      {"native-fs", "yes"},
+      {"title", "${media-title}"},
+      {"window-dragging", "no"},
+      {"cursor-autohide", "no"},
+      {"input-default-bindings", "no"},
+      {"input-vo-keyboard", "no"},
+      {"osc", "no", kMayBeUnknown},
+      {"osd-level", "0"},
+      {"load-scripts", "no"},
+      {"ytdl", "no", kMayBeUnknown},
+      {"keep-open", "yes"},
+      {"idle", "yes"},
+      {"config", "no"},
+      {"terminal", "no"},
+      {"volume", "100"},
+      {"sub-auto", "fuzzy"},
+      {"log-file", logFile},
+      {"msg-level", "all=info"},
+  };
+}
+
+std::vector<MpvOption> platformOptions() {
+  return {
+      // A machine without a GPU has software Vulkan only, which libmpv refuses unless told.
+      {"gpu-sw", "yes", true},
+      // The clipboard would be a second client of the private display, which has none to offer.
+      {"clipboard-backends", "", true},
+  };
+}
+
+std::vector<MpvOption> diagnosticOptions() {
+  const char* socket = std::getenv("TROMELO_IPC");
+  if (!socket || !*socket) return {};
+  return {{"input-ipc-server", socket, true}};
+}
+
+}  // namespace tromelo

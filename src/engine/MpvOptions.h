@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tromelo {
+
+struct MpvOption {
+  std::string name;
+  std::string value;
+  bool mayBeUnknown = false;  // a libmpv built without it is as good
+};
+
+/// What the engine is told before it is initialised, in order. `logFile` is a path's bytes.
+std::vector<MpvOption> engineOptions(const std::string& logFile);
+
+/// What this platform adds, set after the others.
+std::vector<MpvOption> platformOptions();
+
+/// The socket for watching a running engine from outside, where the variable TROMELO_IPC names one.
+std::vector<MpvOption> diagnosticOptions();
+
+}  // namespace tromelo

@@ -1,0 +1,69 @@
+#include "engine/MpvTranslation.h"
+
+#include <string_view>
+
+#include "engine/MpvClientApi.h"
+#include "engine/MpvConversion.h"
+#include "engine/MpvErrorText.h"
+
+namespace tromelo {
+
+namespace {
+
+template <typename T>
+const T* payload(const mpv_event& received) {
+  return static_cast<const T*>(received.data);
+}
+
+std::optional<MpvEvent> translateLog(const mpv_event_log_message* message) {
+  if (!message || !message->prefix || !message->text) return {};
+  if (std::string_view(message->prefix) != "vd") return {};
+  if (std::string_view(message->text).find("hardware decoding") == std::string_view::npos)
+    return {};
+  return event::HardwareDecodeError{};
+}
+
+std::optional<MpvEvent> translateReply(const MpvClientApi& api, int error) {
+  auto text = mpvErrorText(api, error);
+  if (!text) return {};
+  return event::CommandFailed{std::move(*text)};
+}
+
+std::optional<MpvEvent> translateEnd(const MpvClientApi& api, const mpv_event_end_file* end) {
+  if (!end) return {};
+  if (end->reason != MPV_END_FILE_REASON_ERROR) return event::EndFile{};
+  return event::EndFile{mpvErrorText(api, end->error).value_or("Playback failed")};
+}
+
+std::optional<MpvEvent> translateChange(std::uint64_t reply, const mpv_event_property* change) {
+  const auto property = mpvProperty(reply);
+  if (!property || !change) return {};
+  return event::Property{*property, mpvValue(*change)};
+}
+
+}  // namespace
+
+std::optional<MpvEvent> translateMpvEvent(const MpvClientApi& api, const mpv_event& received) {
+  switch (received.event_id) {
+    case MPV_EVENT_SHUTDOWN:
+      return event::Shutdown{};
+    case MPV_EVENT_LOG_MESSAGE:
+      return translateLog(payload<mpv_event_log_message>(received));
+    case MPV_EVENT_COMMAND_REPLY:
+      return translateReply(api, received.error);
+    case MPV_EVENT_START_FILE:
+      return event::StartFile{};
+    case MPV_EVENT_END_FILE:
+      return translateEnd(api, payload<mpv_event_end_file>(received));
+    case MPV_EVENT_FILE_LOADED:
+      return event::FileLoaded{};
+    case MPV_EVENT_PLAYBACK_RESTART:
+      return event::PlaybackRestart{};
+    case MPV_EVENT_PROPERTY_CHANGE:
+      return translateChange(received.reply_userdata, payload<mpv_event_property>(received));
+    default:
+      return {};
+  }
+}
+
+}  // namespace tromelo

@@ -1,0 +1,26 @@
+#include "engine/WakeupTarget.h"
+
+#include <QCoreApplication>
+#include <QMetaObject>
+
+#include "engine/MpvEngine.h"
+
+namespace tromelo {
+
+void WakeupTarget::wakeup(void* context) {
+  if (!context) return;
+  auto target = static_cast<WakeupTarget*>(context)->shared_from_this();
+  if (target->posted_.exchange(true)) return;
+  // Without an application object the process is ending and nobody listens any more.
+  QObject* mainThread = QCoreApplication::instance();
+  if (!mainThread) return;
+  QMetaObject::invokeMethod(mainThread, [target] { target->drain(); }, Qt::QueuedConnection);
+}
+
+void WakeupTarget::drain() {
+  // Before the events are taken: one that comes after the last was taken needs a task of its own.
+  posted_.store(false);
+  if (engine) engine->drainEvents();
+}
+
+}  // namespace tromelo

@@ -1,0 +1,114 @@
+#include "playback/PlaybackModel.h"
+
+#include <QDir>
+#include <QPointer>
+
+#include "engine/MpvClientApi.h"
+#include "platform/FilePath.h"
+#include "playback/FileChooser.h"
+#include "playback/FileOptions.h"
+#include "playback/SubtitleExtensions.h"
+
+namespace tromelo {
+
+PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
+    : QObject(parent),
+      clock_(parts.clock),
+      files_(parts.files),
+      makePlayer_(std::move(parts.makePlayer)),
+      engine_(parts.api) {
+  startEngine(parts.diagnosticsDirectory);
+  settings_.apply(engine_);
+  // Queued, so that several changes in one go are all made when the first is applied.
+  settingsObserver_ = connect(
+      &settings_, &PlayerSettings::changed, this, [this] { settings_.apply(engine_); },
+      Qt::QueuedConnection);
+}
+
+PlaybackModel::~PlaybackModel() = default;
+
+void PlaybackModel::startEngine(const QString& diagnosticsDirectory) {
+  QDir().mkpath(diagnosticsDirectory);
+  engine_.onEvent = [model = QPointer(this)](const MpvEvent& received) {
+    if (model) model->handleEvent(received);
+  };
+  if (const auto error = engine_.initialize(diagnosticsDirectory)) {
+    status_ = QString::fromUtf8(*error);
+    errorMessage_ = status_;
+  }
+}
+
+PlayerPresenting& PlaybackModel::player() {
+  if (!player_) player_ = makePlayer_(*this);
+  return *player_;
+}
+
+void PlaybackModel::open(const QUrl& url, std::optional<double> startAt) {
+  if (!engine_.hasHandle()) return;
+  title_ = lastPathComponentWithoutExtension(url);
+  status_ = QStringLiteral("Opening media");
+  errorMessage_ = QString();
+  player().setAwaitingVideo(true);
+  player().setVideoReady(false);
+  outlook_.opened(QString::fromUtf8(pathFromFileUrl(url)), 1);
+  load(url, "replace", startAt);
+  engine_.setProperty("pause", "no");
+}
+
+void PlaybackModel::open(const QList<QUrl>& urls) {
+  if (urls.isEmpty()) return;
+  open(urls.first());
+  append(urls.sliced(1));
+}
+
+void PlaybackModel::enqueue(const QList<QUrl>& urls) {
+  if (!isLoaded_ && queue_.get().isEmpty()) {
+    open(urls);
+  } else {
+    append(urls);
+  }
+}
+
+void PlaybackModel::append(const QList<QUrl>& urls) {
+  outlook_.appended(urls.size());
+  for (const QUrl& url : urls) load(url, "append", {});
+}
+
+void PlaybackModel::load(const QUrl& url, const char* mode, std::optional<double> startAt) {
+  const std::string path = pathFromFileUrl(url);
+  engine_.command(
+      {"loadfile", path, mode, "-1", fileOptions(startAt, hardware_.softwarePaths.contains(path))});
+}
+
+void PlaybackModel::presentOpenPanel() {
+  files_.chooseFiles({.prompt = QStringLiteral("Play"), .allowsSeveral = true, .extensions = {}},
+                     [model = QPointer(this)](const QList<QUrl>& urls) {
+                       if (model) model->open(urls);
+                     });
+}
+
+void PlaybackModel::presentQueuePanel() {
+  files_.chooseFiles(
+      {.prompt = QStringLiteral("Add to Queue"), .allowsSeveral = true, .extensions = {}},
+      [model = QPointer(this)](const QList<QUrl>& urls) {
+        if (model) model->enqueue(urls);
+      });
+}
+
+void PlaybackModel::presentSubtitleFilePanel() {
+  files_.chooseFiles(
+      {.prompt = QStringLiteral("Add Subtitle"),
+       .allowsSeveral = false,
+       .extensions = subtitleExtensions()},
+      [model = QPointer(this)](const QList<QUrl>& urls) {
+        if (model) model->engine_.command({"sub-add", pathFromFileUrl(urls.first()), "select"});
+      });
+}
+
+void PlaybackModel::reportPlaybackError(const QString& message) {
+  errorMessage_ = message;
+  status_ = message;
+  buffering_ = QStringLiteral("Unavailable");
+}
+
+}  // namespace tromelo

@@ -1,0 +1,110 @@
+#include "engine/MpvValue.h"
+#include "platform/Clock.h"
+#include "playback/PlaybackModel.h"
+#include "playback/PropertyMapping.h"
+
+namespace tromelo {
+
+void PlaybackModel::handleEvent(const MpvEvent& received) {
+  std::visit([this](const auto& kind) { handle(kind); }, received);
+}
+
+void PlaybackModel::handle(const event::Property& change) {
+  PropertyMapping::apply(*this, change.property, change.value);
+}
+
+void PlaybackModel::handle(const event::StartFile&) {
+  outlook_.fileStarted();
+  resetForNewFile();
+  status_ = QStringLiteral("Opening media");
+}
+
+void PlaybackModel::resetForNewFile() {
+  isLoaded_ = false;
+  elapsed_ = 0;
+  duration_ = 0;
+  scrubPosition_ = 0;
+  videoSize_ = kUnknown;
+  frameRate_ = kUnknown;
+  codec_ = kUnknown;
+  decoder_ = QStringLiteral("Selecting decoder");
+  buffering_ = QStringLiteral("Loading");
+  decoderFrameDrops_ = 0;
+  outputFrameDrops_ = 0;
+  dynamicRange_ = DynamicRange();
+  output_ = kUnknown;
+  currentChapter_ = std::nullopt;
+  inputs_ = {};
+  hardware_.errorBursts = 0;
+  hardware_.lastError = 0;
+}
+
+void PlaybackModel::handle(const event::FileLoaded&) {
+  isLoaded_ = true;
+  buffering_ = QStringLiteral("Ready");
+}
+
+void PlaybackModel::handle(const event::PlaybackRestart&) {
+  buffering_ = QStringLiteral("Ready");
+  hardware_.lastPlaybackRestart = clock_.now();
+  showVideoReady();
+}
+
+void PlaybackModel::showVideoReady() {
+  player().setVideoReady(true);
+  player().reveal();
+}
+
+void PlaybackModel::handle(const event::EndFile& end) {
+  isLoaded_ = false;
+  if (end.error) {
+    handleFailedFile(QString::fromUtf8(*end.error));
+  } else {
+    status_ = QStringLiteral("Ready for a video");
+    buffering_ = kUnknown;
+  }
+}
+
+void PlaybackModel::handleFailedFile(const QString& error) {
+  const QString what = title_ + QStringLiteral(": ") + error;
+  reportPlaybackError(QStringLiteral("Could not play ") + what);
+  if (outlook_.hasNext()) {
+    player().showToast(QStringLiteral("Skipped ") + what);
+    return;
+  }
+  player().setAwaitingVideo(false);
+  if (player().hasWindow()) {
+    player().close();
+  } else {
+    player().showLibrary();
+  }
+}
+
+void PlaybackModel::handle(const event::CommandFailed& failure) {
+  if (!isLoaded_) reportPlaybackError(QString::fromUtf8(failure.error));
+}
+
+void PlaybackModel::handle(const event::Shutdown&) {
+  isLoaded_ = false;
+  status_ = QStringLiteral("Playback engine stopped");
+  buffering_ = kUnknown;
+}
+
+// The engine goes on decoding as it chose to.
+void PlaybackModel::handle(const event::HardwareDecodeError&) {}
+
+void PlaybackModel::updateStatus() {
+  if (!isLoaded_) return;
+  if (buffering_.get() == QLatin1String("Buffering")) {
+    status_ = QStringLiteral("Buffering");
+  } else {
+    status_ = isPaused_ ? QStringLiteral("Paused") : QStringLiteral("Playing");
+  }
+}
+
+void PlaybackModel::publishQueue(const PlayQueue& queue) {
+  outlook_.reported(queue);
+  queue_ = queue;
+}
+
+}  // namespace tromelo

@@ -1,0 +1,85 @@
+#include <algorithm>
+#include <cmath>
+
+#include "platform/Clock.h"
+#include "platform/NumberText.h"
+#include "playback/PlaybackModel.h"
+#include "playback/SpeedLadder.h"
+
+namespace tromelo {
+
+namespace {
+
+/// The least time between two seeks while the position is dragged.
+constexpr double kScrubInterval = 0.08;
+
+double toMilliseconds(double seconds) { return std::round(seconds * 1000) / 1000; }
+
+}  // namespace
+
+void PlaybackModel::togglePlayback() {
+  if (!isLoaded_) return;
+  engine_.setProperty("pause", flagText(!isPaused_));
+}
+
+void PlaybackModel::seek(double seconds, const char* how) {
+  engine_.command({"seek", numberText(seconds), how});
+}
+
+void PlaybackModel::seekBy(double seconds) {
+  if (isLoaded_) seek(seconds, "relative");
+}
+
+void PlaybackModel::seekTo(double seconds) {
+  if (isLoaded_) seek(std::max(seconds, 0.0), "absolute+exact");
+}
+
+void PlaybackModel::beginScrubbing() {
+  scrubPosition_ = elapsed_;
+  isScrubbing_ = true;
+}
+
+void PlaybackModel::scrubTo(double seconds) {
+  scrubPosition_ = seconds;
+  const double now = clock_.now();
+  if (now - lastScrubSeek_ <= kScrubInterval) return;
+  lastScrubSeek_ = now;
+  seek(std::max(seconds, 0.0), "absolute+keyframes");
+}
+
+void PlaybackModel::endScrubbing() {
+  seekTo(scrubPosition_);
+  elapsed_ = scrubPosition_;
+  isScrubbing_ = false;
+}
+
+void PlaybackModel::setVolume(double volume) {
+  volume_ = std::clamp(volume, 0.0, 100.0);
+  engine_.setProperty("volume", numberText(volume_));
+  if (!isMuted_ || volume_ <= 0) return;
+  isMuted_ = false;
+  engine_.setProperty("mute", flagText(false));
+}
+
+double PlaybackModel::stepSpeed(int steps) {
+  speed_ = steppedSpeed(speed_, steps);
+  engine_.setProperty("speed", numberText(speed_));
+  return speed_;
+}
+
+void PlaybackModel::toggleLoop() {
+  isLooping_ = !isLooping_;
+  engine_.setProperty("loop-file", isLooping_ ? "inf" : "no");
+}
+
+void PlaybackModel::setSubtitleDelay(double seconds) {
+  subtitleDelay_ = toMilliseconds(seconds);
+  engine_.setProperty("sub-delay", numberText(subtitleDelay_));
+}
+
+void PlaybackModel::setAudioDelay(double seconds) {
+  audioDelay_ = toMilliseconds(seconds);
+  engine_.setProperty("audio-delay", numberText(audioDelay_));
+}
+
+}  // namespace tromelo

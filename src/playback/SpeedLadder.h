@@ -1,0 +1,9 @@
+#pragma once
+
+namespace tromelo {
+
+/// The speed that is `steps` rungs away from `speed`; a speed between two rungs counts as the upper
+/// one. Stays on the ladder, which goes from 0.25 to 3.0.
+double steppedSpeed(double speed, int steps);
+
+}  // namespace tromelo
