@@ -10,10 +10,15 @@ namespace tromelo {
 namespace {
 
 TEST(FilePath, KeepsEveryByteOfAPathThroughAUrl) {
-  const std::string paths[] = {
-      "/a/plain.mkv",        "/with space/per%20cent%.mkv", "/new\nline.mkv", "/quote'\".mkv",
-      "/comma,semi;hash#?.x", "/bad\xff\xfe utf8.mkv",       "/\xe2\x82\xac.mkv", "/a//b/../c",
-      "/" + std::string(3990, 'x')};
+  const std::string paths[] = {"/a/plain.mkv",
+                               "/with space/per%20cent%.mkv",
+                               "/new\nline.mkv",
+                               "/quote'\".mkv",
+                               "/comma,semi;hash#?.x",
+                               "/bad\xff\xfe utf8.mkv",
+                               "/\xe2\x82\xac.mkv",
+                               "/a//b/../c",
+                               "/" + std::string(3990, 'x')};
   for (const std::string& path : paths) {
     const QUrl url = fileUrlFromPath(path);
     EXPECT_TRUE(url.isValid() && url.isLocalFile()) << path;
@@ -56,7 +61,7 @@ TEST(FilePath, ShortensNamesForPeople) {
 
 TEST(NumberText, IsTheShortestThatReadsBackAndAlwaysAFloat) {
   const std::pair<double, const char*> rows[] = {
-      {1, "1.0"},     {0.25, "0.25"},   {90, "90.0"},   {12.5, "12.5"},
+      {1, "1.0"},     {0.25, "0.25"},   {90, "90.0"},    {12.5, "12.5"},
       {-0.1, "-0.1"}, {0.123, "0.123"}, {1e21, "1e+21"}, {100.0 / 3, "33.333333333333336"}};
   for (const auto& [value, text] : rows) EXPECT_EQ(numberText(value), text);
 }

@@ -19,7 +19,8 @@ TEST(HostEnvironment, GivesProcessesWeStartTheHostsDisplayBack) {
   const QString said = directory.filePath(QStringLiteral("said"));
   ASSERT_TRUE(HostEnvironment::startDetached(
       QStringLiteral("/bin/sh"),
-      {QStringLiteral("-c"), QStringLiteral("printf %s \"$WAYLAND_DISPLAY\" > \"$1.new\" && mv \"$1.new\" \"$1\""),
+      {QStringLiteral("-c"),
+       QStringLiteral("printf %s \"$WAYLAND_DISPLAY\" > \"$1.new\" && mv \"$1.new\" \"$1\""),
        QStringLiteral("sh"), said}));
   ASSERT_TRUE(testing::waitFor([&] { return QFile::exists(said); }));
   QFile file(said);

@@ -55,7 +55,8 @@ TEST_F(UserDefaultsTest, SetsADamagedFileAsideAndGoesOn) {
 }
 
 TEST_F(UserDefaultsTest, KeepsTheValueInMemoryWhenItCannotBeWritten) {
-  QDir(directory_.path()).mkpath(QStringLiteral("store/defaults.json"));  // a directory in its place
+  QDir(directory_.path())
+      .mkpath(QStringLiteral("store/defaults.json"));  // a directory in its place
   UserDefaults defaults(path());
   defaults.set(QStringLiteral("a"), 1);
   EXPECT_EQ(defaults.value(QStringLiteral("a")), QJsonValue(1));

@@ -1,0 +1,67 @@
+#include <QDir>
+#include <QFile>
+
+#include "EndToEnd.h"
+
+namespace tromelo::testing {
+namespace {
+
+TEST_F(EndToEnd, SaysWhatIsWrongWithAFileAndGoesOn) {
+  player.start();
+  ASSERT_TRUE(player.waitFor(QStringLiteral("status"), QStringLiteral("Open a video to begin")));
+  EngineProbe engine = probe();
+  for (const char* name : {"empty.mp4", "text.txt", "missing.mkv"}) {
+    engine.command({QStringLiteral("loadfile"), clip(name), QStringLiteral("replace")});
+    ASSERT_TRUE(player.waitUntil([&] {
+      return player.said(QStringLiteral("error")).startsWith(u"Could not play ") &&
+             player.said(QStringLiteral("status")) == player.said(QStringLiteral("error"));
+    })) << name;
+    engine.command({QStringLiteral("loadfile"), clip("short-320x240.mp4")});
+    ASSERT_TRUE(player.waitUntil([&] { return player.isRevealed(); })) << name;
+    engine.command({QStringLiteral("stop")});
+    ASSERT_TRUE(player.waitFor(QStringLiteral("window"), QStringLiteral("none")));
+  }
+  EXPECT_EQ(player.quit(), 0);
+}
+
+TEST_F(EndToEnd, IgnoresAMissingLaunchFile) {
+  player.start({QStringLiteral("/no/such/film.mkv"), QStringLiteral("--unknown")});
+  ASSERT_TRUE(player.waitFor(QStringLiteral("status"), QStringLiteral("Open a video to begin")));
+  EXPECT_EQ(player.said(QStringLiteral("error")), QString());
+  EXPECT_EQ(player.quit(), 0);
+}
+
+TEST_F(EndToEnd, PlaysAPathOfStrangeBytes) {
+  const QString strange = player.homePath() + QStringLiteral("/new\nline, \"quoted\" %20 'é'.mp4");
+  ASSERT_TRUE(QFile::copy(clip("sample.mp4"), strange));
+  player.start({strange});
+  EXPECT_TRUE(player.waitUntilPlaying());
+}
+
+TEST_F(EndToEnd, PlaysSoundWithoutAPictureFromTheLibrary) {
+  player.start({clip("audio-only.m4a")});
+  ASSERT_TRUE(player.waitFor(QStringLiteral("status"), QStringLiteral("Playing")));
+  EXPECT_EQ(player.said(QStringLiteral("window")), QStringLiteral("none"));
+  if (!screen::isX11()) return;
+  ASSERT_TRUE(player.waitUntil([&] { return !window("Tromelo").isEmpty(); }));
+  screen::run(QStringLiteral("xdotool"),
+              {QStringLiteral("windowfocus"), QStringLiteral("--sync"), window("Tromelo")});
+  screen::press(QStringLiteral("space"));
+  ASSERT_TRUE(player.waitFor(QStringLiteral("status"), QStringLiteral("Paused")));
+  screen::press(QStringLiteral("Escape"));
+  ASSERT_TRUE(player.waitFor(QStringLiteral("status"), QStringLiteral("Ready for a video")));
+}
+
+TEST_F(EndToEnd, GoesOnWithoutAVulkanDevice) {
+  player.environment.insert(QStringLiteral("VK_DRIVER_FILES"), QStringLiteral("/no/driver.json"));
+  player.start({clip("sample.mp4")});
+  ASSERT_TRUE(player.waitUntil([&] {
+    return player.said(QStringLiteral("error")).startsWith(u"Could not play sample") ||
+           player.said(QStringLiteral("status")) == QStringLiteral("Playing");
+  }));
+  EXPECT_EQ(player.said(QStringLiteral("window")), QStringLiteral("none"));
+  EXPECT_EQ(player.quit(), 0);
+}
+
+}  // namespace
+}  // namespace tromelo::testing

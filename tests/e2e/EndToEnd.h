@@ -1,0 +1,37 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "EngineProbe.h"
+#include "RunningPlayer.h"
+#include "Screen.h"
+#include "support/Clips.h"
+
+namespace tromelo::testing {
+
+class EndToEnd : public ::testing::Test {
+ protected:
+  static QString clip(const char* name) { return QString::fromStdString(clipPath(name)); }
+
+  EngineProbe probe() { return EngineProbe(player.ipcPath()); }
+
+  /// X11: the visible window whose title holds this, by its id.
+  QString window(const char* title) {
+    return screen::windowOf(player.processId(), QString::fromLatin1(title));
+  }
+
+  RunningPlayer player;
+};
+
+/// The picture that the clips made from ffmpeg's test source have: strong colours side by side.
+inline bool showsTestPicture(const QImage& image) {
+  int strong = 0;
+  for (int y = 0; y < image.height(); y += 8)
+    for (int x = 0; x < image.width(); x += 8) {
+      const QColor colour = image.pixelColor(x, y);
+      strong += colour.hsvSaturation() > 200 && colour.value() > 200;
+    }
+  return strong * 64 * 20 > image.width() * image.height() / 20;
+}
+
+}  // namespace tromelo::testing

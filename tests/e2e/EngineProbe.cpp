@@ -1,0 +1,53 @@
+#include "EngineProbe.h"
+
+#include <gtest/gtest.h>
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "support/WaitFor.h"
+
+namespace tromelo::testing {
+
+EngineProbe::EngineProbe(const QString& path) {
+  const bool connected = testing::waitFor([&] {
+    if (socket_.state() == QLocalSocket::UnconnectedState) socket_.connectToServer(path);
+    return socket_.state() == QLocalSocket::ConnectedState;
+  });
+  EXPECT_TRUE(connected) << "the engine does not answer";
+}
+
+QJsonValue EngineProbe::command(const QJsonArray& command) {
+  const int id = ++request_;
+  const QJsonObject request{{QStringLiteral("command"), command},
+                            {QStringLiteral("request_id"), id}};
+  socket_.write(QJsonDocument(request).toJson(QJsonDocument::Compact) + '\n');
+  QJsonObject reply;
+  const bool answered = testing::waitFor([&] {
+    while (socket_.canReadLine()) {
+      reply = QJsonDocument::fromJson(socket_.readLine()).object();
+      if (reply.value(QStringLiteral("request_id")).toInt() == id &&
+          reply.contains(QStringLiteral("error")))
+        return true;
+    }
+    return false;
+  });
+  EXPECT_TRUE(answered);
+  if (reply.value(QStringLiteral("error")).toString() != QStringLiteral("success"))
+    return QJsonValue(QJsonValue::Undefined);
+  return reply.value(QStringLiteral("data"));
+}
+
+QJsonValue EngineProbe::get(const QString& property) {
+  return command({QStringLiteral("get_property"), property});
+}
+
+void EngineProbe::set(const QString& property, const QJsonValue& value) {
+  command({QStringLiteral("set_property"), property, value});
+}
+
+bool EngineProbe::waitFor(const QString& property, const QJsonValue& value) {
+  return testing::waitFor([&] { return get(property) == value; });
+}
+
+}  // namespace tromelo::testing

@@ -1,0 +1,65 @@
+#include <QDir>
+#include <QFile>
+
+#include "EndToEnd.h"
+
+namespace tromelo::testing {
+namespace {
+
+TEST_F(EndToEnd, QuitsInOrderDuringPlayback) {
+  player.start({clip("sample.mp4")});
+  ASSERT_TRUE(player.waitUntilPlaying());
+  EXPECT_FALSE(player.runtimeFiles().isEmpty());
+  EXPECT_EQ(player.quit(), 0);
+  EXPECT_EQ(player.runtimeFiles(), QStringList());
+  EXPECT_EQ(player.errors(), QByteArray());
+  QFile log(player.logPath());
+  ASSERT_TRUE(log.open(QIODevice::ReadOnly));
+  EXPECT_FALSE(log.readAll().isEmpty());
+}
+
+TEST_F(EndToEnd, QuitsFromTheLibraryAndFromItsKey) {
+  player.start();
+  ASSERT_TRUE(player.waitFor(QStringLiteral("status"), QStringLiteral("Open a video to begin")));
+  if (screen::isX11()) {
+    ASSERT_TRUE(player.waitUntil([&] { return !window("Tromelo").isEmpty(); }));
+    screen::run(QStringLiteral("xdotool"),
+                {QStringLiteral("windowfocus"), QStringLiteral("--sync"), window("Tromelo")});
+    screen::press(QStringLiteral("ctrl+q"));
+    EXPECT_EQ(player.waitForEnd(), 0);
+  } else {
+    EXPECT_EQ(player.quit(), 0);
+  }
+  EXPECT_EQ(player.runtimeFiles(), QStringList());
+}
+
+TEST_F(EndToEnd, RunsSideBySideAndClearsUpAfterACrash) {
+  RunningPlayer other;
+  other.start({clip("sample.mp4")});
+  player.start({clip("sample.mp4")});
+  ASSERT_TRUE(other.waitUntilPlaying());
+  ASSERT_TRUE(player.waitUntilPlaying());
+  EXPECT_EQ(player.runtimeFiles().size(), 2);
+  QProcess::execute(QStringLiteral("kill"),
+                    {QStringLiteral("-KILL"), QString::number(other.processId())});
+  ASSERT_EQ(other.waitForEnd(), -1);
+  RunningPlayer third;
+  third.start();
+  ASSERT_TRUE(third.waitFor(QStringLiteral("status"), QStringLiteral("Open a video to begin")));
+  EXPECT_EQ(player.runtimeFiles().size(), 2);
+}
+
+TEST_F(EndToEnd, AnswersForHelpWithoutADisplay) {
+  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+    player.environment.remove(QString::fromLatin1(name));
+  for (const char* option : {"--help", "--version"}) {
+    player.start({QString::fromLatin1(option)});
+    EXPECT_EQ(player.waitForEnd(), 0) << option;
+  }
+  player.start();
+  EXPECT_EQ(player.waitForEnd(), 1);
+  EXPECT_TRUE(player.errors().contains("needs a display"));
+}
+
+}  // namespace
+}  // namespace tromelo::testing

@@ -1,0 +1,84 @@
+#include "Screen.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <functional>
+
+#include "support/WaitFor.h"
+
+namespace tromelo::testing::screen {
+
+namespace {
+
+void grab(const QString& directory) {
+  QProcess process;
+  process.setWorkingDirectory(directory);
+  if (isX11())
+    process.start(QStringLiteral("ffmpeg"),
+                  {QStringLiteral("-loglevel"), QStringLiteral("error"), QStringLiteral("-f"),
+                   QStringLiteral("x11grab"), QStringLiteral("-draw_mouse"), QStringLiteral("0"),
+                   QStringLiteral("-i"), qEnvironmentVariable("DISPLAY"),
+                   QStringLiteral("-frames:v"), QStringLiteral("1"), QStringLiteral("shot.png")});
+  else
+    process.start(QStringLiteral("weston-screenshooter"));
+  process.waitForFinished();
+}
+
+}  // namespace
+
+bool isX11() { return qEnvironmentVariable("QT_QPA_PLATFORM") == QStringLiteral("xcb"); }
+
+QImage shot() {
+  QTemporaryDir directory;
+  grab(directory.path());
+  const QStringList files = QDir(directory.path()).entryList({QStringLiteral("*.png")});
+  if (files.isEmpty()) return {};
+  return QImage(directory.filePath(files.first())).convertToFormat(QImage::Format_RGB32);
+}
+
+bool waitForShot(const QString& name, const std::function<bool(const QImage&)>& holds) {
+  QImage last;
+  const bool held = testing::waitFor([&] {
+    last = shot();
+    return !last.isNull() && holds(last);
+  });
+  const QString folder = QStringLiteral(TROMELO_SHOTS) + (isX11() ? u"/x11/" : u"/wayland/");
+  QDir().mkpath(folder);
+  last.save(folder + name + QStringLiteral(".png"));
+  return held;
+}
+
+QString run(const QString& program, const QStringList& arguments) {
+  QProcess process;
+  process.start(program, arguments);
+  process.waitForFinished();
+  return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+}
+
+void press(const QString& keys) { run(QStringLiteral("xdotool"), {QStringLiteral("key"), keys}); }
+
+QString windowOf(qint64 processId, const QString& title) {
+  return run(QStringLiteral("xdotool"),
+             {QStringLiteral("search"), QStringLiteral("--all"), QStringLiteral("--onlyvisible"),
+              QStringLiteral("--pid"), QString::number(processId), QStringLiteral("--name"), title})
+      .section(u'\n', 0, 0);
+}
+
+QRect geometryOf(const QString& windowId) {
+  QRect rect;
+  const QString text = run(QStringLiteral("xdotool"), {QStringLiteral("getwindowgeometry"),
+                                                       QStringLiteral("--shell"), windowId});
+  for (const QString& line : text.split(u'\n')) {
+    const int value = line.section(u'=', 1).toInt();
+    if (line.startsWith(u"X=")) rect.moveLeft(value);
+    if (line.startsWith(u"Y=")) rect.moveTop(value);
+    if (line.startsWith(u"WIDTH=")) rect.setWidth(value);
+    if (line.startsWith(u"HEIGHT=")) rect.setHeight(value);
+  }
+  return rect;
+}
+
+}  // namespace tromelo::testing::screen

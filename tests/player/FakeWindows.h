@@ -1,0 +1,94 @@
+#pragma once
+
+#include "platform/Clock.h"
+#include "player/VideoWindow.h"
+#include "player/WindowSystem.h"
+
+namespace tromelo::testing {
+
+/// Fades on a driven clock. `Base` is HostWindow or VideoWindow.
+template <typename Base>
+class FakeWindow : public Base {
+ public:
+  explicit FakeWindow(Clock& clock) : clock_(clock) {}
+
+  bool isVisible() const override { return visible; }
+  void setOpacity(double value) override {
+    fade_.reset();
+    opacity = value;
+  }
+  void fadeTo(double value, std::chrono::milliseconds duration, QEasingCurve::Type,
+              std::function<void()> completed) override {
+    ++fades;
+    fade_ = clock_.after(duration, [this, value, completed] {
+      opacity = value;
+      if (completed) completed();
+    });
+  }
+  void makeKeyAndOrderFront() override {
+    ordered = true;
+    visible = true;
+  }
+  void orderOut() override { ordered = false; }
+
+  bool visible = false;
+  bool ordered = false;
+  double opacity = 1;
+  int fades = 0;
+
+ private:
+  Clock& clock_;
+  std::unique_ptr<Clock::Timer> fade_;
+};
+
+class FakeLibraryWindow final : public FakeWindow<HostWindow> {
+ public:
+  using FakeWindow::FakeWindow;
+  void orderOut() override { visible = ordered = false; }
+};
+
+class FakeVideoWindow final : public FakeWindow<VideoWindow> {
+ public:
+  explicit FakeVideoWindow(Clock& clock) : FakeWindow(clock) { visible = true; }
+
+  bool isMinimized() const override { return minimized; }
+  bool isFullscreen() const override { return fullscreen; }
+  bool hasDrawingSurface() const override { return drawingSurface; }
+  void dress(QSize size) override {
+    ++dressed;
+    minimumSize = size;
+  }
+  std::unique_ptr<PlayerOverlay> installOverlay() override {
+    auto made = std::make_unique<Overlay>(*this);
+    overlay = made.get();
+    return made;
+  }
+  void showPointer() override {}
+
+  bool minimized = false;
+  bool fullscreen = false;
+  bool drawingSurface = true;
+  int dressed = 0;
+  QSize minimumSize;
+  PlayerOverlay* overlay = nullptr;
+
+ private:
+  struct Overlay : PlayerOverlay {
+    explicit Overlay(FakeVideoWindow& on) : window(on) {}
+    ~Overlay() override { window.overlay = nullptr; }
+    FakeVideoWindow& window;
+  };
+};
+
+class FakeWindowSystem final : public WindowSystem {
+ public:
+  QList<VideoWindow*> videoWindows() const override { return windows; }
+  void add(VideoWindow& window) {
+    windows.append(&window);
+    Q_EMIT windowsChanged();
+  }
+
+  QList<VideoWindow*> windows;
+};
+
+}  // namespace tromelo::testing

@@ -1,0 +1,288 @@
+#include "player/PlayerWindowController.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include "FakeWindows.h"
+#include "SentRequests.h"
+#include "platform/FilePath.h"
+#include "playback/FileChooser.h"
+#include "playback/PlaybackModel.h"
+#include "support/ManualClock.h"
+
+namespace tromelo {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::FakeLibraryWindow;
+using testing::FakeVideoWindow;
+using Sent = std::vector<std::string>;
+
+struct NoFileChooser : FileChooser {
+  void chooseFiles(const Request&, Callback) override {}
+};
+
+class PlayerWindowControllerTest : public ::testing::Test {
+ protected:
+  PlayerWindowControllerTest() {
+    library_.visible = true;
+    player().setLibraryWindow(&library_);
+    sent_.take();
+  }
+
+  PlayerWindowController& player() {
+    return static_cast<PlayerWindowController&>(playback_.player());
+  }
+
+  /// As the model does when a person opens a file.
+  void await() {
+    player().setAwaitingVideo(true);
+    player().setVideoReady(false);
+  }
+
+  void ready() {
+    player().setVideoReady(true);
+    player().reveal();
+  }
+
+  void showVideo(FakeVideoWindow& window) {
+    await();
+    windows_.add(window);
+    ready();
+    clock_.advance(320ms);
+  }
+
+  /// The engine takes its window down.
+  void takeDown(FakeVideoWindow& window) {
+    window.visible = false;
+    Q_EMIT windows_.windowsChanged();
+  }
+
+  testing::ManualClock clock_;
+  testing::FakeWindowSystem windows_;
+  testing::SentRequests sent_;
+  MpvClientApi api_ = sent_.api();
+  NoFileChooser files_;
+  QTemporaryDir directory_;
+  FakeLibraryWindow library_{clock_};
+  FakeVideoWindow window_{clock_};
+  PlaybackModel playback_{
+      {api_, clock_, files_, directory_.path(), [this](PlaybackModel& playback) {
+         return std::make_unique<PlayerWindowController>(playback, windows_, clock_);
+       }}};
+};
+
+TEST_F(PlayerWindowControllerTest, DressesANewWindowUnseenAndRevealsItWhenTheVideoIsReady) {
+  await();
+  windows_.add(window_);
+  EXPECT_EQ(window_.opacity, 0);
+  EXPECT_EQ(window_.dressed, 1);
+  EXPECT_EQ(window_.minimumSize, QSize(520, 300));
+  EXPECT_NE(window_.overlay, nullptr);
+  EXPECT_FALSE(window_.ordered);
+
+  ready();
+  EXPECT_TRUE(window_.ordered);
+  clock_.advance(319ms);
+  EXPECT_TRUE(library_.visible);
+  clock_.advance(1ms);
+  EXPECT_EQ(window_.opacity, 1);
+  EXPECT_EQ(library_.opacity, 0);
+  EXPECT_FALSE(library_.visible);
+
+  ready();  // after a seek
+  EXPECT_EQ(window_.fades, 1);
+}
+
+TEST_F(PlayerWindowControllerTest, RevealsAWindowAtOnceWhenTheVideoWasReadyBefore) {
+  await();
+  player().setVideoReady(true);
+  windows_.add(window_);
+  EXPECT_TRUE(player().isRevealed());
+}
+
+TEST_F(PlayerWindowControllerTest, RevealsAWindowThatTheEngineNeverDeclaresReady) {
+  await();
+  windows_.add(window_);
+  clock_.advance(1499ms);
+  EXPECT_FALSE(player().isRevealed());
+  clock_.advance(1ms);
+  EXPECT_TRUE(player().isRevealed());
+}
+
+TEST_F(PlayerWindowControllerTest, LeavesWindowsAloneThatShowNoVideo) {
+  window_.drawingSurface = false;
+  windows_.add(window_);
+  EXPECT_FALSE(player().hasWindow());
+  window_.drawingSurface = true;
+  Q_EMIT windows_.windowsChanged();
+  EXPECT_TRUE(player().hasWindow());
+}
+
+TEST_F(PlayerWindowControllerTest, ASecondWindowTakesTheFirstOnesPlaceForGood) {
+  showVideo(window_);
+  FakeVideoWindow second(clock_);
+  windows_.add(second);
+  EXPECT_EQ(window_.overlay, nullptr);
+  EXPECT_NE(second.overlay, nullptr);
+  takeDown(second);
+  EXPECT_FALSE(player().hasWindow());  // the first is not adopted again
+  EXPECT_EQ(window_.dressed, 1);
+}
+
+TEST_F(PlayerWindowControllerTest, ClosesOnceHoweverOftenItIsAsked) {
+  showVideo(window_);
+  player().close();
+  player().close();
+  EXPECT_TRUE(library_.visible);
+  clock_.advance(239ms);
+  EXPECT_EQ(sent_.take(), Sent{"pause=yes"});
+  clock_.advance(1ms);
+  EXPECT_EQ(sent_.take(), Sent{"stop"});
+  EXPECT_FALSE(window_.ordered);
+  EXPECT_EQ(window_.overlay, nullptr);
+  EXPECT_FALSE(player().hasWindow());
+  clock_.advance(80ms);
+  EXPECT_EQ(library_.opacity, 1);
+  player().close();
+  EXPECT_EQ(sent_.take(), Sent{});
+}
+
+TEST_F(PlayerWindowControllerTest, LeavesFullScreenBeforeItFadesOut) {
+  showVideo(window_);
+  window_.fullscreen = true;
+  player().close();
+  EXPECT_EQ(sent_.take(), (Sent{"pause=yes", "fullscreen=no"}));
+  clock_.advance(500ms);
+  EXPECT_EQ(window_.fades, 1);
+  window_.fullscreen = false;
+  Q_EMIT window_.leftFullscreen();
+  EXPECT_EQ(window_.fades, 2);
+  clock_.advance(2000ms);
+  EXPECT_EQ(window_.fades, 2);
+  EXPECT_EQ(sent_.take(), Sent{"stop"});
+}
+
+TEST_F(PlayerWindowControllerTest, FadesOutAfterTwoSecondsWhenFullScreenNeverEnds) {
+  showVideo(window_);
+  window_.fullscreen = true;
+  player().close();
+  clock_.advance(1999ms);
+  EXPECT_EQ(window_.fades, 1);
+  clock_.advance(1ms);
+  EXPECT_EQ(window_.fades, 2);
+}
+
+TEST_F(PlayerWindowControllerTest, ReturnsToTheLibraryWhenTheEngineTakesItsWindowDown) {
+  showVideo(window_);
+  takeDown(window_);
+  EXPECT_FALSE(player().hasWindow());
+  EXPECT_TRUE(library_.visible);
+  clock_.advance(320ms);
+  EXPECT_EQ(library_.opacity, 1);
+}
+
+TEST_F(PlayerWindowControllerTest, KeepsAMinimisedWindow) {
+  showVideo(window_);
+  window_.minimized = true;
+  takeDown(window_);
+  EXPECT_TRUE(player().hasWindow());
+}
+
+TEST_F(PlayerWindowControllerTest, WaitsForTheNextFileWithoutTheLibrary) {
+  showVideo(window_);
+  await();
+  takeDown(window_);
+  EXPECT_FALSE(library_.visible);
+}
+
+TEST_F(PlayerWindowControllerTest, ShowsAFileThatComesUpInTheWindowJustClosed) {
+  showVideo(window_);
+  player().close();
+  clock_.advance(320ms);
+  await();
+  ready();
+  EXPECT_TRUE(player().isRevealed());
+  EXPECT_TRUE(window_.ordered);
+}
+
+TEST_F(PlayerWindowControllerTest, ShowsTheLibraryForAFileWithoutAPicture) {
+  showVideo(window_);
+  await();
+  takeDown(window_);
+  ready();
+  EXPECT_TRUE(library_.visible);
+}
+
+TEST_F(PlayerWindowControllerTest, SortsDroppedFiles) {
+  struct Row {
+    std::vector<std::string> dropped;
+    Sent sent;
+    std::optional<QString> toast;
+  };
+  const Row rows[] = {
+      {{"/a.mkv"}, {"loadfile /a.mkv append -1 "}, QStringLiteral("Added to queue")},
+      {{"/a.mkv", "/b.mp4", "/c"},
+       {"loadfile /a.mkv append -1 ", "loadfile /b.mp4 append -1 ", "loadfile /c append -1 "},
+       QStringLiteral("Added 3 videos to queue")},
+      {{"/a.mkv", "/My.Film.SRT", "/b.mkv"},
+       {"sub-add /My.Film.SRT select", "loadfile /a.mkv append -1 ", "loadfile /b.mkv append -1 "},
+       QStringLiteral("Subtitles: My.Film")},
+      {{}, {}, std::nullopt},
+  };
+  showVideo(window_);
+  for (const Row& row : rows) {
+    QList<QUrl> urls;
+    for (const std::string& path : row.dropped) urls.append(fileUrlFromPath(path));
+    window_.overlay->onDropFiles(urls);
+    EXPECT_EQ(sent_.take(), row.sent);
+    EXPECT_EQ(player().chrome().toast(), row.toast);
+    clock_.advance(1400ms);
+  }
+}
+
+TEST_F(PlayerWindowControllerTest, AToastStaysForItsFullTime) {
+  player().showToast(QStringLiteral("first"));
+  clock_.advance(1000ms);
+  player().showToast(QStringLiteral("second"));
+  clock_.advance(1399ms);
+  EXPECT_EQ(player().chrome().toast(), QStringLiteral("second"));
+  clock_.advance(1ms);
+  EXPECT_EQ(player().chrome().toast(), std::nullopt);
+}
+
+TEST_F(PlayerWindowControllerTest, AdoptsNothingOnceTheProgramQuits) {
+  showVideo(window_);
+  player().prepareForTermination();
+  EXPECT_EQ(window_.overlay, nullptr);
+  FakeVideoWindow late(clock_);
+  windows_.add(late);
+  EXPECT_EQ(late.dressed, 0);
+  clock_.advance(5000ms);
+  EXPECT_EQ(sent_.take(), Sent{});
+}
+
+TEST_F(PlayerWindowControllerTest, SurvivesAWindowThatDiesAtAnyMoment) {
+  for (const auto after : {0ms, 100ms, 320ms, 400ms, 500ms}) {
+    auto window = std::make_unique<FakeVideoWindow>(clock_);
+    windows_.windows.clear();
+    await();
+    windows_.add(*window);
+    ready();
+    clock_.advance(after);
+    player().close();
+    clock_.advance(after);
+    windows_.windows.clear();
+    if (window->overlay) takeDown(*window);
+    FakeVideoWindow next(clock_);
+    showVideo(next);
+    window.reset();
+    EXPECT_TRUE(player().isRevealed());
+    EXPECT_FALSE(player().isClosing());
+    takeDown(next);
+  }
+}
+
+}  // namespace
+}  // namespace tromelo
