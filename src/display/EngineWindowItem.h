@@ -2,14 +2,18 @@
 
 #include <QPointer>
 #include <QQuickItem>
+#include <memory>
 
 #include "display/EngineWindow.h"
 
 namespace tromelo {
 
+class FrameSource;
+class SceneItemSink;
+
 /// Shows an engine window's picture in a Qt Quick scene: one to one where item and picture have the
 /// same size in device pixels, else fitted with the aspect kept. Repaints when the engine commits a
-/// frame and never otherwise.
+/// frame and never otherwise. While it can't be seen, the engine is told "suspended".
 class EngineWindowItem : public QQuickItem {
   Q_OBJECT
 
@@ -18,11 +22,30 @@ class EngineWindowItem : public QQuickItem {
   ~EngineWindowItem() override;
 
   EngineWindow* engineWindow() const;
+  /// Takes the pictures of `window` from any other item. The last picture of a window that was
+  /// taken down stays until another is set.
   void setEngineWindow(EngineWindow* window);
 
  Q_SIGNALS:
   /// The first picture of the present engine window is on its way to the screen.
   void firstFrameShown();
+
+ protected:
+  QSGNode* updatePaintNode(QSGNode* node, UpdatePaintNodeData* data) override;
+  void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
+  void itemChange(ItemChange change, const ItemChangeData& data) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  FrameSource* source() const;
+  void detach();
+  void watch(QQuickWindow* window);
+  void updateExposure();
+
+  QPointer<EngineWindow> engineWindow_;
+  std::shared_ptr<SceneItemSink> sink_;
+  QPointer<QQuickWindow> watched_;
+  bool wasExposed_ = false;  // with the present engine window
 };
 
 }  // namespace tromelo

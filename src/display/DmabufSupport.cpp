@@ -1,0 +1,74 @@
+#include "display/DmabufSupport.h"
+
+#include <sys/stat.h>
+
+#include <QtEnvironmentVariables>
+#include <algorithm>
+
+#include "display/EglDevice.h"
+#include "display/PixelFormat.h"
+
+namespace tromelo {
+
+namespace {
+
+constexpr std::uint64_t linearModifier = 0;
+
+std::optional<dev_t> deviceOf(EGLDisplay display) {
+  struct stat status{};
+  const QByteArray path = drmNodePath(display);
+  if (path.isEmpty() || stat(path.constData(), &status) != 0 || !S_ISCHR(status.st_mode))
+    return std::nullopt;
+  return status.st_rdev;
+}
+
+std::vector<EGLint> importableFormats(EGLDisplay display) {
+  const auto query = eglFunction<PFNEGLQUERYDMABUFFORMATSEXTPROC>("eglQueryDmaBufFormatsEXT");
+  EGLint count = 0;
+  if (!query || !query(display, 0, nullptr, &count)) return {};
+  std::vector<EGLint> formats(std::size_t(std::max(count, 0)));
+  if (!query(display, count, formats.data(), &count)) return {};
+  return formats;
+}
+
+/// External-only ones are left out: they can be sampled only by a kind of texture that the scene's
+/// materials don't know.
+std::vector<std::uint64_t> sampledModifiers(EGLDisplay display, EGLint format) {
+  const auto query = eglFunction<PFNEGLQUERYDMABUFMODIFIERSEXTPROC>("eglQueryDmaBufModifiersEXT");
+  EGLint count = 0;
+  if (!query || !query(display, format, 0, nullptr, nullptr, &count)) return {};
+  std::vector<EGLuint64KHR> modifiers(std::size_t(std::max(count, 0)));
+  std::vector<EGLBoolean> externalOnly(modifiers.size());
+  if (!query(display, format, count, modifiers.data(), externalOnly.data(), &count)) return {};
+  std::vector<std::uint64_t> sampled;
+  for (std::size_t i = 0; i < modifiers.size(); ++i)
+    if (!externalOnly[i]) sampled.push_back(modifiers[i]);
+  return sampled;
+}
+
+}  // namespace
+
+std::optional<DmabufSupport> DmabufSupport::query() {
+  const EGLDisplay display = platformEglDisplay();
+  if (display == EGL_NO_DISPLAY || !hasEglExtension(display, "EGL_EXT_image_dma_buf_import") ||
+      !hasEglExtension(display, "EGL_EXT_image_dma_buf_import_modifiers"))
+    return std::nullopt;
+  const auto device = deviceOf(display);
+  if (!device) return std::nullopt;
+  DmabufSupport support{*device, {}};
+  const auto importable = importableFormats(display);
+  for (const PixelFormat& format : pixelFormats) {
+    const auto fourcc = EGLint(format.fourcc);
+    if (std::ranges::find(importable, fourcc) == importable.end()) continue;
+    auto modifiers = sampledModifiers(display, fourcc);
+    if (std::ranges::find(modifiers, linearModifier) == modifiers.end())
+      modifiers.push_back(linearModifier);
+    support.formats.push_back({format.fourcc, std::move(modifiers)});
+  }
+  if (support.formats.empty()) return std::nullopt;
+  return support;
+}
+
+void DmabufSupport::presentThroughSharedMemory() { qputenv("MESA_VK_WSI_DEBUG", "sw"); }
+
+}  // namespace tromelo

@@ -1,0 +1,112 @@
+#include "display/EngineSurface.h"
+
+#include <utility>
+
+#include "display/TaskQueue.h"
+
+namespace tromelo {
+
+namespace {
+
+QRegion toRegion(const pixman_region32_t& region) {
+  int count = 0;
+  const pixman_box32_t* boxes = pixman_region32_rectangles(&region, &count);
+  QRegion result;
+  for (int i = 0; i < count; ++i)
+    result += QRect(QPoint(boxes[i].x1, boxes[i].y1), QPoint(boxes[i].x2 - 1, boxes[i].y2 - 1));
+  return result;
+}
+
+bool coversSurface(const pixman_region32_t& region, const wlr_surface& surface) {
+  const pixman_box32_t whole{0, 0, surface.current.width, surface.current.height};
+  return pixman_region32_contains_rectangle(&region, &whole) == PIXMAN_REGION_IN;
+}
+
+QRectF sourceOf(wlr_surface* surface) {
+  wlr_fbox box{};
+  wlr_surface_get_buffer_source_box(surface, &box);
+  return {box.x, box.y, box.width, box.height};
+}
+
+Frame::Report reportTo(const std::shared_ptr<TaskQueue>& queue,
+                       const std::shared_ptr<FrameLedger>& ledger, std::uint64_t sequence) {
+  return [queue, sequence, ledger = std::weak_ptr(ledger)](auto shownAt) {
+    queue->postUnlessClosed([ledger, sequence, shownAt] {
+      const auto open = ledger.lock();
+      if (open && shownAt)
+        open->shown(sequence, *shownAt);
+      else if (open)
+        open->dropped(sequence);
+    });
+  };
+}
+
+}  // namespace
+
+EngineSurface::EngineSurface(wlr_surface* surface, const Place& place,
+                             std::function<void()> destroyed)
+    : surface_(surface),
+      queue_(place.queue),
+      ledger_(std::make_shared<FrameLedger>(place.loop, place.output)) {
+  surface->data = this;
+  commit_.connect(surface->events.commit, [this](void*) { committed(); });
+  destroy_.connect(surface->events.destroy,
+                   [destroyed = std::move(destroyed)](void*) { destroyed(); });
+}
+
+EngineSurface* EngineSurface::of(wlr_surface* surface) {
+  return static_cast<EngineSurface*>(surface->data);
+}
+
+void EngineSurface::setHasWindow(bool hasWindow) {
+  hasWindow_ = hasWindow;
+  if (hasWindow) return;
+  sink_.reset();
+  unclaimed_.reset();
+}
+
+void EngineSurface::setSink(std::shared_ptr<VideoSink> sink) {
+  sink_ = hasWindow_ ? std::move(sink) : nullptr;
+  if (sink_ && unclaimed_) sink_->commit(std::exchange(unclaimed_, nullptr));
+}
+
+void EngineSurface::committed() {
+  const wlr_surface_state& state = surface_->current;
+  const bool hasNewPicture = hasWindow_ && (state.committed & WLR_SURFACE_STATE_BUFFER);
+  if (hasNewPicture) ++sequence_;
+  ledger_->committed(surface_, sequence_);
+  if (!hasNewPicture) return;
+  if (!state.buffer) {
+    deliver(nullptr);
+  } else if (auto frame = makeFrame()) {
+    deliver(std::move(frame));
+  } else {
+    ledger_->dropped(sequence_);
+    wl_client_post_implementation_error(wl_resource_get_client(surface_->resource),
+                                        "the buffer's memory can't be read");
+  }
+}
+
+std::shared_ptr<Frame> EngineSurface::makeFrame() {
+  wlr_buffer* buffer = surface_->current.buffer;
+  Frame::Content content{
+      .sequence = sequence_,
+      .buffer = ClientBuffer::of(buffer),
+      .source = sourceOf(surface_),
+      .size = QSize(surface_->current.width, surface_->current.height),
+      .damage = toRegion(surface_->buffer_damage),
+      .opaque = coversSurface(surface_->opaque_region, *surface_),
+  };
+  if (!content.buffer) return nullptr;
+  return std::make_shared<Frame>(std::move(content), std::make_unique<BufferLock>(buffer, queue_),
+                                 reportTo(queue_, ledger_, sequence_));
+}
+
+void EngineSurface::deliver(std::shared_ptr<Frame> frame) {
+  if (sink_)
+    sink_->commit(std::move(frame));
+  else
+    unclaimed_ = std::move(frame);
+}
+
+}  // namespace tromelo

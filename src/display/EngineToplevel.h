@@ -1,0 +1,50 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "display/EngineSurface.h"
+#include "display/EngineWindow.h"
+#include "display/WindowState.h"
+
+namespace tromelo {
+
+/// The display's side of one of the engine's windows. Display's thread.
+class EngineToplevel {
+ public:
+  struct Events {
+    /// The window is about to be drawn first, or something of its state is new.
+    std::function<void(const WindowState&)> changed;
+    std::function<void(bool)> fullscreenRequested;
+    /// The engine has destroyed the window. May destroy this object.
+    std::function<void()> destroyed;
+  };
+
+  EngineToplevel(wlr_xdg_toplevel* toplevel, Events events);
+  ~EngineToplevel();
+  EngineToplevel(const EngineToplevel&) = delete;
+  EngineToplevel& operator=(const EngineToplevel&) = delete;
+
+  void setHostState(const EngineWindow::HostState& state);
+  void setExposed(bool exposed);
+  void setSink(std::shared_ptr<VideoSink> sink);
+
+ private:
+  wlr_surface* surface() const { return toplevel_->base->surface; }
+  void connect();
+  void committed();
+  void configure();
+  void answer();
+  void publish();
+
+  wlr_xdg_toplevel* toplevel_;
+  EngineSurface* engineSurface_;  // outlives the toplevel
+  Events events_;
+  WindowState state_;
+  std::optional<WindowState> published_;
+  EngineWindow::HostState host_;
+  bool exposed_ = true;
+  Listener commit_, unmap_, destroy_, title_, fullscreen_, maximize_, minimize_;
+};
+
+}  // namespace tromelo

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <deque>
+#include <memory>
+
+#include "display/EventSource.h"
+#include "display/Wlroots.h"
+
+namespace tromelo {
+
+/// What one surface of the engine's is still owed for its commits: frame callbacks and presentation
+/// feedback. Display's thread.
+///
+/// Callbacks go out when the sink has shown the picture. The engine must never wait for a scene
+/// that is busy, hidden or gone, so the display's own timer answers instead:
+/// - a sink that is silent for two refreshes is taken to be busy, and until it is heard again every
+///   callback is answered one refresh after its commit;
+/// - a hidden surface gets its callbacks once a second.
+class FrameLedger {
+ public:
+  FrameLedger(wl_event_loop* loop, wlr_output* output);
+  ~FrameLedger();
+
+  /// Takes over what the surface's newest commit asked for. `sequence` is that of its picture.
+  void committed(wlr_surface* surface, std::uint64_t sequence);
+  void shown(std::uint64_t sequence, std::chrono::nanoseconds at);
+  void dropped(std::uint64_t sequence);
+  void setHidden(bool hidden);
+
+ private:
+  struct Debt;
+
+  std::chrono::nanoseconds refresh() const;
+  bool owesCallbacks() const;
+  void arm();
+  void timeout();
+  void present(wlr_presentation_feedback* feedback, std::chrono::nanoseconds at);
+
+  wlr_output* output_;
+  EventSource timer_;
+  std::deque<std::unique_ptr<Debt>> debts_;  // in order of commit
+  std::uint64_t shownSequence_ = 0;
+  std::uint64_t refreshCount_ = 0;
+  bool sinkIsSilent_ = false;
+  bool hidden_ = false;
+};
+
+}  // namespace tromelo

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QRegion>
+#include <memory>
+
+#include "display/Frame.h"
+
+class QQuickWindow;
+class QSGTexture;
+
+namespace tromelo {
+
+/// Brings frames of one kind to the GPU. Render thread, with the scene's OpenGL context current.
+class FrameTexture {
+ public:
+  virtual ~FrameTexture() = default;
+
+  /// The texture that will hold the frame's picture; good until the next call. None when it can't
+  /// be had.
+  virtual QSGTexture* prepare(QQuickWindow* window, const Frame& frame) = 0;
+  /// Makes the texture hold the picture. Only `damage` differs from the frame before.
+  virtual void update(Frame& frame, const QRegion& damage) = 0;
+};
+
+std::unique_ptr<FrameTexture> createShmTexture();
+std::unique_ptr<FrameTexture> createDmabufTextures();
+
+}  // namespace tromelo

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QSize>
+#include <memory>
+
+#include "display/PixelFormat.h"
+
+class QQuickWindow;
+class QSGTexture;
+
+namespace tromelo {
+
+/// An OpenGL texture of our own with the scene's handle for it. Render thread, with the scene's
+/// context current.
+class GlTexture {
+ public:
+  GlTexture();
+  ~GlTexture();
+  GlTexture(const GlTexture&) = delete;
+  GlTexture& operator=(const GlTexture&) = delete;
+
+  void bind() const;
+  /// The scene's handle; made anew when size or kind differ from the last.
+  QSGTexture* handle(QQuickWindow* window, QSize size, bool hasAlpha);
+
+ private:
+  unsigned id_ = 0;
+  QSize size_;
+  bool hasAlpha_ = false;
+  std::unique_ptr<QSGTexture> handle_;
+};
+
+}  // namespace tromelo

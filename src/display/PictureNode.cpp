@@ -1,0 +1,86 @@
+#include "display/PictureNode.h"
+
+#include <QQuickWindow>
+#include <chrono>
+#include <utility>
+
+#include "display/PicturePlacement.h"
+
+namespace tromelo {
+
+PictureNode::PictureNode(QQuickWindow* window, std::shared_ptr<SceneItemSink> sink)
+    : window_(window), sink_(std::move(sink)) {
+  // Direct: both come on the render thread.
+  connect(window, &QQuickWindow::beforeRendering, this, &PictureNode::upload, Qt::DirectConnection);
+  connect(window, &QQuickWindow::frameSwapped, this, &PictureNode::swapped, Qt::DirectConnection);
+}
+
+PictureNode::~PictureNode() { removeAllChildNodes(); }
+
+void PictureNode::synchronize(QSizeF size) {
+  takePicture();
+  if (image_) place(size);
+}
+
+void PictureNode::takePicture() {
+  auto picture = sink_->take();
+  if (!picture) return;
+  if (picture->frame) {
+    show(std::move(picture->frame), picture->damage);
+    return;
+  }
+  removeAllChildNodes();
+  image_.reset();
+  if (frame_) replaced_.push_back(std::exchange(frame_, nullptr));
+  needsUpload_ = false;
+}
+
+void PictureNode::show(std::shared_ptr<Frame> frame, const QRegion& damage) {
+  FrameTexture* texture = textureFor(*frame);
+  QSGTexture* handle = texture->prepare(window_, *frame);
+  if (!handle) return;  // the picture before stays
+  if (!image_) {
+    image_.reset(window_->createImageNode());
+    image_->setFlag(QSGNode::OwnedByParent, false);
+    appendChildNode(image_.get());
+  }
+  image_->setTexture(handle);
+  if (frame_) replaced_.push_back(std::move(frame_));
+  frame_ = std::move(frame);
+  texture_ = texture;
+  damage_ += damage;
+  needsUpload_ = true;
+  awaitsSwap_ = true;
+}
+
+FrameTexture* PictureNode::textureFor(const Frame& frame) {
+  const bool isDmabuf = std::holds_alternative<DmabufPixels>(frame.content().buffer->pixels);
+  auto& texture = isDmabuf ? dmabuf_ : shm_;
+  if (!texture) texture = isDmabuf ? createDmabufTextures() : createShmTexture();
+  return texture.get();
+}
+
+void PictureNode::place(QSizeF size) {
+  const Frame::Content& content = frame_->content();
+  const auto placement = placePicture(content.size, size, window_->effectiveDevicePixelRatio());
+  const bool isUnscaled = placement.isExact && content.source.size() == QSizeF(content.size);
+  image_->setRect(placement.rect);
+  image_->setSourceRect(content.source);
+  image_->setFiltering(isUnscaled ? QSGTexture::Nearest : QSGTexture::Linear);
+}
+
+void PictureNode::upload() {
+  if (!std::exchange(needsUpload_, false)) return;
+  window_->beginExternalCommands();
+  texture_->update(*frame_, std::exchange(damage_, QRegion()));
+  window_->endExternalCommands();
+}
+
+void PictureNode::swapped() {
+  replaced_.clear();
+  if (!frame_ || !std::exchange(awaitsSwap_, false)) return;
+  frame_->markShown(std::chrono::steady_clock::now().time_since_epoch());
+  sink_->shown();
+}
+
+}  // namespace tromelo

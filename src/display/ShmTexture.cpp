@@ -1,0 +1,110 @@
+#include <QOpenGLContext>
+#include <QOpenGLExtraFunctions>
+#include <QQuickWindow>
+#include <optional>
+
+#include "display/FrameTexture.h"
+#include "display/GlTexture.h"
+
+namespace tromelo {
+
+namespace {
+
+constexpr int bytesPerPixel = 4;
+// Beyond this, one upload of everything is cheaper than many of parts.
+constexpr int maximumRectangles = 8;
+constexpr double worthwhileShare = 0.75;
+
+// From desktop OpenGL and OpenGL ES 3, where GLES2's header doesn't have them.
+constexpr GLenum unpackRowLength = 0x0CF2;
+constexpr GLenum swizzleRed = 0x8E42;
+constexpr GLenum swizzleBlue = 0x8E44;
+constexpr GLenum swizzleAlpha = 0x8E45;
+constexpr GLenum red = 0x1903;
+constexpr GLenum blue = 0x1905;
+
+double area(const QRegion& region) {
+  double sum = 0;
+  for (const QRect& rect : region) sum += double(rect.width()) * rect.height();
+  return sum;
+}
+
+QRegion worthUploading(const QRegion& damage, QSize size) {
+  const QRect whole(QPoint(), size);
+  const QRegion region = damage & whole;
+  const bool isWorthwhile = region.rectCount() <= maximumRectangles &&
+                            area(region) < worthwhileShare * size.width() * size.height();
+  return isWorthwhile ? region : QRegion(whole);
+}
+
+/// One texture for all frames of a size. The bytes are uploaded as they are; the sampler puts the
+/// colours in their places and reads one where a format has no alpha.
+class ShmTexture final : public FrameTexture {
+ public:
+  QSGTexture* prepare(QQuickWindow* window, const Frame& frame) override;
+  void update(Frame& frame, const QRegion& damage) override;
+
+ private:
+  void allocate(QSize size, const PixelFormat& format);
+  static void upload(const ShmPixels& pixels, const QRegion& region);
+
+  std::optional<GlTexture> texture_;
+  QSize size_;
+  PixelFormat format_;
+  bool isBlank_ = true;
+};
+
+QSGTexture* ShmTexture::prepare(QQuickWindow* window, const Frame& frame) {
+  const ClientBuffer& buffer = *frame.content().buffer;
+  if (!texture_ || size_ != buffer.size || format_ != buffer.format)
+    allocate(buffer.size, buffer.format);
+  return texture_->handle(window, size_, format_.hasAlpha && !frame.content().opaque);
+}
+
+void ShmTexture::allocate(QSize size, const PixelFormat& format) {
+  texture_.emplace();
+  texture_->bind();
+  size_ = size;
+  format_ = format;
+  isBlank_ = true;
+  QOpenGLFunctions* gl = QOpenGLContext::currentContext()->functions();
+  gl->glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, size.width(), size.height(), 0, GL_RGBA,
+                   GL_UNSIGNED_BYTE, nullptr);
+  gl->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
+  gl->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
+  gl->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
+  if (format.blueFirst) {
+    gl->glTexParameteri(GL_TEXTURE_2D, swizzleRed, blue);
+    gl->glTexParameteri(GL_TEXTURE_2D, swizzleBlue, red);
+  }
+  if (!format.hasAlpha) gl->glTexParameteri(GL_TEXTURE_2D, swizzleAlpha, GL_ONE);
+  gl->glBindTexture(GL_TEXTURE_2D, 0);
+}
+
+void ShmTexture::update(Frame& frame, const QRegion& damage) {
+  const auto& pixels = *std::get<std::shared_ptr<const ShmPixels>>(frame.content().buffer->pixels);
+  QOpenGLFunctions* gl = QOpenGLContext::currentContext()->functions();
+  texture_->bind();
+  upload(pixels, isBlank_ ? QRegion(QRect(QPoint(), size_)) : worthUploading(damage, size_));
+  gl->glBindTexture(GL_TEXTURE_2D, 0);
+  isBlank_ = false;
+  frame.releaseBuffer();
+}
+
+void ShmTexture::upload(const ShmPixels& pixels, const QRegion& region) {
+  QOpenGLFunctions* gl = QOpenGLContext::currentContext()->functions();
+  gl->glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
+  gl->glPixelStorei(unpackRowLength, pixels.stride() / bytesPerPixel);
+  for (const QRect& rect : region) {
+    const auto offset = std::ptrdiff_t(rect.y()) * pixels.stride() + rect.x() * bytesPerPixel;
+    gl->glTexSubImage2D(GL_TEXTURE_2D, 0, rect.x(), rect.y(), rect.width(), rect.height(), GL_RGBA,
+                        GL_UNSIGNED_BYTE, pixels.data() + offset);
+  }
+  gl->glPixelStorei(unpackRowLength, 0);
+}
+
+}  // namespace
+
+std::unique_ptr<FrameTexture> createShmTexture() { return std::make_unique<ShmTexture>(); }
+
+}  // namespace tromelo
