@@ -21,32 +21,56 @@ std::optional<T> held(const Value& value) {
   return pointer ? std::optional<T>(*pointer) : std::nullopt;
 }
 
-bool flag(const Value& value, bool otherwise) { return held<bool>(value).value_or(otherwise); }
-double number(const Value& value, double otherwise) {
-  return held<double>(value).value_or(otherwise);
-}
-std::int64_t integer(const Value& value) { return held<std::int64_t>(value).value_or(0); }
-std::optional<std::string> text(const Value& value) { return held<std::string>(value); }
-
-std::optional<QString> upper(const std::optional<std::string>& name) {
-  return name ? std::optional(QString::fromUtf8(*name).toUpper()) : std::nullopt;
-}
-
 /// The smallest step of the position that is worth showing.
 constexpr double kPositionStep = 0.2;
 
 }  // namespace
 
-/// What becomes of one property, where a line is not enough.
 struct PropertyMapping::Actions {
-  /// Values of another kind leave the field as it is.
-  template <typename T>
-  static void show(PublishedField<Model, T>& field, const std::optional<T>& value) {
-    if (value) field = *value;
+  /// Not used; the property is still observed.
+  static void none(Model&, const Value&) {}
+
+  /// Values of another kind than T leave the field as it is.
+  template <auto Field, typename T>
+  static void show(Model& m, const Value& v) {
+    if (const auto value = held<T>(v)) m.*Field = *value;
+  }
+
+  /// Values of another kind than T count as `Otherwise`.
+  template <auto Field, auto Otherwise>
+  static void showOr(Model& m, const Value& v) {
+    m.*Field = held<std::remove_const_t<decltype(Otherwise)>>(v).value_or(Otherwise);
+  }
+
+  /// Texts of which `Text` makes nothing leave the field as it is.
+  template <auto Field, std::optional<QString> (*Text)(std::string_view)>
+  static void showText(Model& m, const Value& v) {
+    const auto* bytes = v.as<std::string>();
+    if (const auto text = bytes ? Text(*bytes) : std::nullopt) m.*Field = *text;
+  }
+
+  /// Kept for what is made of it; none for values of another kind.
+  template <auto Input>
+  static void store(Model& m, const Value& v) {
+    auto& input = m.inputs_.*Input;
+    input = held<typename std::remove_cvref_t<decltype(input)>::value_type>(v);
+  }
+
+  template <auto Input>
+  static void storeSize(Model& m, const Value& v) {
+    store<Input>(m, v);
+    if (const auto size = videoSizeText(m.inputs_.width, m.inputs_.height)) m.videoSize_ = *size;
+  }
+
+  template <auto Input>
+  static void storeRate(Model& m, const Value& v) {
+    store<Input>(m, v);
+    const auto rate = frameRateText(m.inputs_.containerFps, m.inputs_.estimatedFps);
+    if (rate) m.frameRate_ = *rate;
   }
 
   static void timePos(Model& m, const Value& v) {
-    const double position = number(v, std::nan(""));
+    const double position = held<double>(v).value_or(NAN);
     if (!std::isfinite(position)) return;
     const double shown = m.elapsed_;
     if (position < shown || position - shown >= kPositionStep) m.elapsed_ = position;
@@ -54,20 +78,17 @@ struct PropertyMapping::Actions {
   }
 
   static void duration(Model& m, const Value& v) {
-    const double length = number(v, 0);
+    const double length = held<double>(v).value_or(0);
     m.duration_ = std::isfinite(length) && length > 0 ? length : 0;
   }
 
-  static void voConfigured(Model& m, const Value& v) {
-    if (flag(v, false)) {
-      m.showVideoReady();
-    } else {
-      m.player().setVideoReady(false);
-    }
+  static void pause(Model& m, const Value& v) {
+    showOr<&Model::isPaused_, true>(m, v);
+    m.updateStatus();
   }
 
   static void pausedForCache(Model& m, const Value& v) {
-    if (flag(v, false)) {
+    if (held<bool>(v).value_or(false)) {
       m.buffering_ = QStringLiteral("Buffering");
     } else if (m.isLoaded_) {
       m.buffering_ = QStringLiteral("Ready");
@@ -75,21 +96,27 @@ struct PropertyMapping::Actions {
     m.updateStatus();
   }
 
+  static void voConfigured(Model& m, const Value& v) {
+    if (held<bool>(v).value_or(false)) {
+      m.showVideoReady();
+    } else {
+      m.player().setVideoReady(false);
+    }
+  }
+
   static void path(Model& m, const Value& v) {
-    const auto path = text(v);
+    const auto path = held<std::string>(v);
     if (!path) return;
     m.currentPath_ = path;
     m.lastURL_ = fileUrlFromPath(*path);
     m.hardware_.forcedSoftware = m.hardware_.softwarePaths.contains(*path);
   }
 
-  static void showVideoSize(Model& m) {
-    if (const auto size = videoSizeText(m.inputs_.width, m.inputs_.height)) m.videoSize_ = *size;
-  }
+  static void playlist(Model& m, const Value& v) { m.publishQueue(playQueue(v)); }
 
-  static void showFrameRate(Model& m) {
-    const auto rate = frameRateText(m.inputs_.containerFps, m.inputs_.estimatedFps);
-    if (rate) m.frameRate_ = *rate;
+  /// Anything but "no" is "inf" or a number of rounds.
+  static void loopFile(Model& m, const Value& v) {
+    m.isLooping_ = held<std::string>(v).value_or("no") != "no";
   }
 };
 
@@ -102,49 +129,47 @@ struct PropertyMapping::Row {
 const PropertyMapping::Row& PropertyMapping::row(MpvProperty property) {
   using P = MpvProperty;
   using A = Actions;
+  using I = SignalInputs;
   constexpr bool kSession = true;
   constexpr bool kLasting = false;
-  constexpr auto kUnused = [](Model&, const Value&) {};
-  // clang-format off
+  constexpr std::int64_t kNoDrops = 0;
   static constexpr std::array kRows{
-    Row{P::mediaTitle, kLasting, [](Model& m, const Value& v) { A::show(m.title_, mediaTitleText(text(v).value_or(""))); }},
-    Row{P::timePos, kLasting, A::timePos},
-    Row{P::duration, kLasting, A::duration},
-    Row{P::pause, kLasting, [](Model& m, const Value& v) { m.isPaused_ = flag(v, true); m.updateStatus(); }},
-    Row{P::volume, kLasting, [](Model& m, const Value& v) { A::show(m.volume_, held<double>(v)); }},
-    Row{P::fullscreen, kLasting, [](Model& m, const Value& v) { m.isFullscreen_ = flag(v, false); }},
-    Row{P::voConfigured, kLasting, A::voConfigured},
-    Row{P::pausedForCache, kLasting, A::pausedForCache},
-    Row{P::width, kSession, [](Model& m, const Value& v) { m.inputs_.width = held<std::int64_t>(v); A::showVideoSize(m); }},
-    Row{P::height, kSession, [](Model& m, const Value& v) { m.inputs_.height = held<std::int64_t>(v); A::showVideoSize(m); }},
-    Row{P::containerFps, kSession, [](Model& m, const Value& v) { m.inputs_.containerFps = held<double>(v); A::showFrameRate(m); }},
-    Row{P::estimatedFps, kSession, [](Model& m, const Value& v) { m.inputs_.estimatedFps = held<double>(v); A::showFrameRate(m); }},
-    Row{P::videoFormat, kSession, [](Model& m, const Value& v) { A::show(m.codec_, upper(text(v))); }},
-    Row{P::hwdecCurrent, kSession, kUnused},
-    Row{P::fileFormat, kSession, [](Model& m, const Value& v) { A::show(m.container_, containerText(text(v).value_or(""))); }},
-    Row{P::decoderDrops, kLasting, [](Model& m, const Value& v) { m.decoderFrameDrops_ = integer(v); }},
-    Row{P::outputDrops, kLasting, [](Model& m, const Value& v) { m.outputFrameDrops_ = integer(v); }},
-    Row{P::gamma, kSession, [](Model& m, const Value& v) { m.inputs_.gamma = text(v); }},
-    Row{P::primaries, kSession, kUnused},
-    Row{P::colormatrix, kSession, [](Model& m, const Value& v) { m.inputs_.colormatrix = text(v); }},
-    Row{P::sigPeak, kSession, kUnused},
-    Row{P::dolbyVisionProfile, kSession, [](Model& m, const Value& v) { m.inputs_.dolbyVisionProfile = held<std::int64_t>(v); }},
-    Row{P::targetGamma, kSession, [](Model& m, const Value& v) { m.inputs_.targetGamma = text(v); }},
-    Row{P::targetPrimaries, kSession, [](Model& m, const Value& v) { m.inputs_.targetPrimaries = text(v); }},
-    Row{P::path, kSession, A::path},
-    Row{P::trackList, kLasting, kUnused},
-    Row{P::chapterList, kLasting, kUnused},
-    Row{P::chapter, kLasting, kUnused},
-    Row{P::playlist, kLasting, [](Model& m, const Value& v) { m.publishQueue(playQueue(v)); }},
-    Row{P::playlistPos, kLasting, kUnused},  // the queue's items say which is current
-    Row{P::speed, kLasting, [](Model& m, const Value& v) { A::show(m.speed_, held<double>(v)); }},
-    Row{P::mute, kLasting, [](Model& m, const Value& v) { m.isMuted_ = flag(v, false); }},
-    Row{P::subDelay, kLasting, [](Model& m, const Value& v) { m.subtitleDelay_ = number(v, 0); }},
-    Row{P::audioDelay, kLasting, [](Model& m, const Value& v) { m.audioDelay_ = number(v, 0); }},
-    // Anything but "no" is a number of rounds or "inf".
-    Row{P::loopFile, kLasting, [](Model& m, const Value& v) { m.isLooping_ = text(v).value_or("no") != "no"; }},
+      Row{P::mediaTitle, kLasting, A::showText<&Model::title_, mediaTitleText>},
+      Row{P::timePos, kLasting, A::timePos},
+      Row{P::duration, kLasting, A::duration},
+      Row{P::pause, kLasting, A::pause},
+      Row{P::volume, kLasting, A::show<&Model::volume_, double>},
+      Row{P::fullscreen, kLasting, A::showOr<&Model::isFullscreen_, false>},
+      Row{P::voConfigured, kLasting, A::voConfigured},
+      Row{P::pausedForCache, kLasting, A::pausedForCache},
+      Row{P::width, kSession, A::storeSize<&I::width>},
+      Row{P::height, kSession, A::storeSize<&I::height>},
+      Row{P::containerFps, kSession, A::storeRate<&I::containerFps>},
+      Row{P::estimatedFps, kSession, A::storeRate<&I::estimatedFps>},
+      Row{P::videoFormat, kSession, A::showText<&Model::codec_, codecText>},
+      Row{P::hwdecCurrent, kSession, A::none},
+      Row{P::fileFormat, kSession, A::showText<&Model::container_, containerText>},
+      Row{P::decoderDrops, kLasting, A::showOr<&Model::decoderFrameDrops_, kNoDrops>},
+      Row{P::outputDrops, kLasting, A::showOr<&Model::outputFrameDrops_, kNoDrops>},
+      Row{P::gamma, kSession, A::store<&I::gamma>},
+      Row{P::primaries, kSession, A::none},
+      Row{P::colormatrix, kSession, A::store<&I::colormatrix>},
+      Row{P::sigPeak, kSession, A::none},
+      Row{P::dolbyVisionProfile, kSession, A::store<&I::dolbyVisionProfile>},
+      Row{P::targetGamma, kSession, A::store<&I::targetGamma>},
+      Row{P::targetPrimaries, kSession, A::store<&I::targetPrimaries>},
+      Row{P::path, kSession, A::path},
+      Row{P::trackList, kLasting, A::none},
+      Row{P::chapterList, kLasting, A::none},
+      Row{P::chapter, kLasting, A::none},
+      Row{P::playlist, kLasting, A::playlist},
+      Row{P::playlistPos, kLasting, A::none},  // the queue's items say which is current
+      Row{P::speed, kLasting, A::show<&Model::speed_, double>},
+      Row{P::mute, kLasting, A::showOr<&Model::isMuted_, false>},
+      Row{P::subDelay, kLasting, A::showOr<&Model::subtitleDelay_, 0.0>},
+      Row{P::audioDelay, kLasting, A::showOr<&Model::audioDelay_, 0.0>},
+      Row{P::loopFile, kLasting, A::loopFile},
   };
-  // clang-format on
   static_assert([] {
     for (std::size_t i = 0; i < kRows.size(); ++i) {
       if (static_cast<std::size_t>(kRows[i].property) != i + 1) return false;

@@ -19,6 +19,10 @@ std::optional<QString> frameRateText(std::optional<double> containerFps,
   return QString::fromStdString(std::format("{:.3g} fps", rate));
 }
 
+std::optional<QString> codecText(std::string_view videoFormat) {
+  return QString::fromUtf8(videoFormat).toUpper();
+}
+
 std::optional<QString> containerText(std::string_view fileFormat) {
   const auto first = fileFormat.find_first_not_of(',');
   if (first == std::string_view::npos) return {};

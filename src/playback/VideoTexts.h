@@ -18,6 +18,9 @@ std::optional<QString> videoSizeText(std::optional<std::int64_t> width,
 std::optional<QString> frameRateText(std::optional<double> containerFps,
                                      std::optional<double> estimatedFps);
 
+/// The engine's name for it, in upper case.
+std::optional<QString> codecText(std::string_view videoFormat);
+
 /// The first of the comma-separated names by which the engine knows the format, in upper case.
 std::optional<QString> containerText(std::string_view fileFormat);
 
