@@ -50,7 +50,7 @@ void PlaybackModel::open(const QUrl& url, std::optional<double> startAt) {
   errorMessage_ = QString();
   player().setAwaitingVideo(true);
   player().setVideoReady(false);
-  outlook_.opened(QString::fromUtf8(pathFromFileUrl(url)), 1);
+  outlook_.opened(title_);
   load(url, "replace", startAt);
   engine_.setProperty("pause", "no");
 }
@@ -70,8 +70,10 @@ void PlaybackModel::enqueue(const QList<QUrl>& urls) {
 }
 
 void PlaybackModel::append(const QList<QUrl>& urls) {
-  outlook_.appended(urls.size());
-  for (const QUrl& url : urls) load(url, "append", {});
+  for (const QUrl& url : urls) {
+    outlook_.appended(lastPathComponentWithoutExtension(url));
+    load(url, "append", {});
+  }
 }
 
 void PlaybackModel::load(const QUrl& url, const char* mode, std::optional<double> startAt) {

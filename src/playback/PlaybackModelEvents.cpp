@@ -66,6 +66,7 @@ void PlaybackModel::handle(const event::EndFile& end) {
 }
 
 void PlaybackModel::handleFailedFile(const QString& error) {
+  if (const auto title = outlook_.unreportedTitle()) title_ = *title;
   const QString what = title_ + QStringLiteral(": ") + error;
   reportPlaybackError(QStringLiteral("Could not play ") + what);
   if (outlook_.hasNext()) {

@@ -1,33 +1,37 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 #include "playback/QueueItem.h"
 
 namespace tromelo {
 
-/// Whether the engine will go on to another file when the current one fails. The engine tells of
-/// files that start and end before it tells of its playlist, so that several short-lived ones can
-/// come and go between two reports of it (three missing files opened at once, or a busy main
-/// thread). Here the reported queue is brought up to what was asked for and has started since.
+/// Whether the engine will go on to another file when the current one fails, and which one that is.
+/// The engine tells of files that start and end before it tells of its playlist and of titles, so
+/// that several short-lived ones can come and go in between (three missing files opened at once, or
+/// a busy main thread). Here the reported queue is brought up to what was asked for and has started
+/// since.
 class QueueOutlook {
  public:
-  /// `count` files were asked for, in place of all others.
-  void opened(const QString& firstPath, qsizetype count);
-  void appended(qsizetype count);
+  /// A file was asked for in place of all others; `title` is its name for people.
+  void opened(const QString& title);
+  void appended(const QString& title);
   void fileStarted();
   void reported(const PlayQueue& queue);
 
-  bool hasNext() const { return position_ < count_ - 1; }
+  bool hasNext() const { return position_ < queue_.size() - 1; }
+
+  /// The name of the file that started last, while the engine has not told of it yet.
+  std::optional<QString> unreportedTitle() const;
 
  private:
-  QString awaitedFirst_;     // empty: the reported queue is the one that was asked for
-  bool awaitsMore_ = false;  // appended files that no report has shown yet
-  qsizetype count_ = 0;
-  qsizetype position_ = 0;  // of the file that started last
-  // The last report told of a file whose start had not been told yet.
-  bool reportIsAhead_ = false;
+  PlayQueue queue_;
+  qsizetype position_ = 0;    // in queue_, of the file that started last
+  bool awaitsFirst_ = false;  // reports are of what played before
+  bool awaitsMore_ = false;   // appended files that no report has shown yet
   bool startedSinceReport_ = false;
+  bool reportIsAhead_ = false;  // it told of a file whose start has not been told
 };
 
 }  // namespace tromelo
