@@ -1,0 +1,124 @@
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "engine/MpvEngine.h"
+#include "engine/WakeupTarget.h"
+#include "support/FakeMpv.h"
+#include "support/WaitFor.h"
+
+namespace tromelo {
+
+namespace {
+
+using testing::FakeMpv;
+using testing::waitFor;
+
+struct EngineEvents : ::testing::Test {
+  FakeMpv mpv;
+  std::unique_ptr<MpvEngine> engine = std::make_unique<MpvEngine>(mpv.api());
+  std::vector<MpvEvent> received;
+
+  void SetUp() override {
+    engine->initialize("/diagnostics");
+    engine->onEvent = [this](const MpvEvent& event) { received.push_back(event); };
+  }
+};
+
+}  // namespace
+
+TEST_F(EngineEvents, OneWakeupFromAnotherThreadDeliversAllThatWaits) {
+  for (int i = 0; i < 3; ++i) mpv.queue(MPV_EVENT_START_FILE);
+  mpv.queue(MPV_EVENT_SEEK);
+  mpv.queue(MPV_EVENT_FILE_LOADED);
+  std::thread([this] { mpv.wake(); }).join();
+  EXPECT_TRUE(received.empty());
+  ASSERT_TRUE(waitFor([this] { return received.size() == 4; }));
+  EXPECT_EQ(received.back(), MpvEvent(event::FileLoaded{}));
+}
+
+TEST_F(EngineEvents, AnEventThatComesJustAfterTheLastWasTakenIsNotLost) {
+  MpvClientApi api = mpv.api();
+  bool late = false;
+  api.waitEvent = [&, wait = api.waitEvent](mpv_handle* handle, double timeout) {
+    mpv_event* event = wait(handle, timeout);
+    if (event->event_id == MPV_EVENT_NONE && !std::exchange(late, true)) {
+      mpv.queue(MPV_EVENT_FILE_LOADED);
+      mpv.wake();
+    }
+    return event;
+  };
+  MpvEngine other(api);
+  other.initialize("/diagnostics");
+  other.onEvent = engine->onEvent;
+  mpv.queue(MPV_EVENT_START_FILE);
+  mpv.wake();
+  EXPECT_TRUE(waitFor([this] { return received.size() == 2; }));
+}
+
+TEST_F(EngineEvents, NothingArrivesOnceTheHandlerHasEndedTheEngine) {
+  bool completed = false;
+  engine->onEvent = [&](const MpvEvent& event) {
+    received.push_back(event);
+    engine->terminate([&completed] { completed = true; });
+  };
+  for (int i = 0; i < 3; ++i) mpv.queue(MPV_EVENT_START_FILE);
+  mpv.wake();
+  ASSERT_TRUE(waitFor([&completed] { return completed; }));
+  EXPECT_EQ(received.size(), 1u);
+  EXPECT_EQ(mpv.queuedEvents(), 2u);
+  engine->drainEvents();
+  engine->command({"stop"});
+  EXPECT_EQ(received.size(), 1u);
+  EXPECT_TRUE(mpv.requests.empty());
+  EXPECT_EQ(mpv.destroyed, 1);
+}
+
+TEST_F(EngineEvents, AWakeupOnItsWayFindsNoEngine) {
+  mpv.queue(MPV_EVENT_START_FILE);
+  mpv.wake();
+  engine.reset();
+  testing::settle();
+  mpv.wake();
+  WakeupTarget::wakeup(nullptr);
+  testing::settle();
+  EXPECT_TRUE(received.empty());
+  EXPECT_EQ(mpv.queuedEvents(), 1u);
+}
+
+TEST_F(EngineEvents, RequestsKeepTheirOrderAndTheirWords) {
+  engine->command({"loadfile", "/a,b \"c\"\n\xff", "replace", "-1", ""});
+  engine->setProperty("pause", "no");
+  const std::vector<std::vector<std::string>> expected{
+      {"loadfile", "/a,b \"c\"\n\xff", "replace", "-1", ""}, {"set", "pause", "no"}};
+  EXPECT_EQ(mpv.requests, expected);
+}
+
+TEST_F(EngineEvents, RequestsBeyondTheEnginesRoomWaitForIt) {
+  mpv.room = 2;
+  for (int i = 0; i < 4; ++i) engine->command({"loadfile", std::to_string(i)});
+  engine->setProperty("pause", "yes");
+  EXPECT_EQ(mpv.requests.size(), 2u);
+  mpv.room = 1;
+  engine->drainEvents();
+  EXPECT_EQ(mpv.requests.size(), 3u);
+  mpv.room = 10;
+  engine->drainEvents();
+  ASSERT_EQ(mpv.requests.size(), 5u);
+  EXPECT_EQ(mpv.requests[3][1], "3");
+  EXPECT_EQ(mpv.requests[4][1], "pause");
+}
+
+TEST_F(EngineEvents, ACommandThatIsRefusedOnTheSpotFailsLater) {
+  mpv.refusal = MPV_ERROR_INVALID_PARAMETER;
+  engine->command({"no-such-command"});
+  engine->setProperty("pause", "perhaps");
+  EXPECT_TRUE(received.empty());
+  ASSERT_TRUE(waitFor([this] { return !received.empty(); }));
+  testing::settle();
+  EXPECT_EQ(
+      received,
+      (std::vector<MpvEvent>{event::CommandFailed{mpv_error_string(MPV_ERROR_INVALID_PARAMETER)}}));
+}
+
+}  // namespace tromelo

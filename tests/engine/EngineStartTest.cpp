@@ -1,0 +1,180 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <clocale>
+
+#include "engine/EngineEnvironment.h"
+#include "engine/MpvEngine.h"
+#include "support/FakeMpv.h"
+#include "support/WaitFor.h"
+
+namespace tromelo {
+
+namespace {
+
+using testing::FakeMpv;
+using Options = std::vector<std::pair<std::string, std::string>>;
+
+const Options kExpectedOptions{
+    {"vo", "gpu-next"},
+    {"gpu-api", "vulkan"},
+    {"gpu-context", "waylandvk"},
+    {"hwdec", "auto-safe"},
+    {"target-colorspace-hint", "yes"},
+    {"hdr-compute-peak", "auto"},
+    {"force-window", "no"},
+    {"title-bar", "no"},
+    {"keepaspect-window", "yes"},
+    {"autofit-larger", "80%x80%"},
+    {"native-fs", "yes"},
+    {"title", "${media-title}"},
+    {"window-dragging", "no"},
+    {"cursor-autohide", "no"},
+    {"input-default-bindings", "no"},
+    {"input-vo-keyboard", "no"},
+    {"osc", "no"},
+    {"osd-level", "0"},
+    {"load-scripts", "no"},
+    {"ytdl", "no"},
+    {"keep-open", "yes"},
+    {"idle", "yes"},
+    {"config", "no"},
+    {"terminal", "no"},
+    {"volume", "100"},
+    {"sub-auto", "fuzzy"},
+    {"log-file", "/diagnostics/mpv.log"},
+    {"msg-level", "all=info"},
+    {"gpu-sw", "yes"},
+    {"clipboard-backends", ""},
+};
+
+struct EngineStart : ::testing::Test {
+  FakeMpv mpv;
+  MpvEngine engine{mpv.api()};
+
+  std::optional<std::string> start() { return engine.initialize("/diagnostics"); }
+};
+
+}  // namespace
+
+TEST_F(EngineStart, SetsItsOptionsInOrderAndObservesEveryProperty) {
+  EXPECT_EQ(start(), std::nullopt);
+  EXPECT_TRUE(engine.hasHandle());
+  EXPECT_EQ(mpv.options, kExpectedOptions);
+  EXPECT_EQ(mpv.logLevel, "warn");
+  ASSERT_EQ(mpv.observed.size(), 35u);
+  for (std::size_t i = 0; i < mpv.observed.size(); ++i) EXPECT_EQ(mpv.observed[i].reply, i + 1);
+  EXPECT_EQ(mpv.observed[1], (FakeMpv::Observed{2, "time-pos", MPV_FORMAT_DOUBLE}));
+  EXPECT_EQ(mpv.observed[21],
+            (FakeMpv::Observed{22, "current-tracks/video/dolby-vision-profile", MPV_FORMAT_INT64}));
+  EXPECT_EQ(mpv.observed[25], (FakeMpv::Observed{26, "track-list", MPV_FORMAT_NODE}));
+  EXPECT_EQ(mpv.observed[34], (FakeMpv::Observed{35, "loop-file", MPV_FORMAT_STRING}));
+}
+
+TEST_F(EngineStart, ASecondStartDoesNothing) {
+  start();
+  EXPECT_EQ(start(), std::nullopt);
+  EXPECT_EQ(mpv.created, 1);
+  EXPECT_EQ(mpv.options.size(), kExpectedOptions.size());
+}
+
+TEST_F(EngineStart, AFailureIsOneLineAndLeavesNoHandle) {
+  const std::string notFound = mpv_error_string(MPV_ERROR_OPTION_NOT_FOUND);
+  const struct {
+    const char* what;
+    std::function<void(FakeMpv&)> fault;
+    std::string message;
+  } rows[] = {
+      {"no engine", [](FakeMpv& m) { m.cannotBeCreated = true; },
+       "Could not create the playback engine"},
+      {"unknown option", [](FakeMpv& m) { m.optionResults["vo"] = MPV_ERROR_OPTION_NOT_FOUND; },
+       "vo: " + notFound},
+      {"refused value", [](FakeMpv& m) { m.optionResults["ytdl"] = MPV_ERROR_OPTION_FORMAT; },
+       std::string("ytdl: ") + mpv_error_string(MPV_ERROR_OPTION_FORMAT)},
+      {"no initialisation", [](FakeMpv& m) { m.initializeResult = MPV_ERROR_NOMEM; },
+       mpv_error_string(MPV_ERROR_NOMEM)},
+      {"a code without words", [](FakeMpv& m) { m.initializeResult = -4711; },
+       "Playback engine error (-4711)"},
+  };
+  for (const auto& row : rows) {
+    FakeMpv faulty;
+    row.fault(faulty);
+    MpvEngine failing(faulty.api());
+    EXPECT_EQ(failing.initialize("/diagnostics"), row.message) << row.what;
+    EXPECT_FALSE(failing.hasHandle()) << row.what;
+    EXPECT_EQ(faulty.destroyed, faulty.created) << row.what;
+    failing.command({"stop"});
+    failing.setProperty("pause", "no");
+    EXPECT_TRUE(faulty.requests.empty()) << row.what;
+  }
+}
+
+TEST_F(EngineStart, OptionsThatALibraryMayLackAreNoFailure) {
+  for (const char* option : {"osc", "ytdl", "gpu-sw", "clipboard-backends"}) {
+    mpv.optionResults[option] = MPV_ERROR_OPTION_NOT_FOUND;
+  }
+  EXPECT_EQ(start(), std::nullopt);
+  EXPECT_EQ(mpv.options, kExpectedOptions);
+}
+
+TEST_F(EngineStart, TheDiagnosticSocketIsThePersonsChoice) {
+  qputenv("TROMELO_IPC", "/socket");
+  start();
+  qunsetenv("TROMELO_IPC");
+  EXPECT_EQ(mpv.options.back(), (Options::value_type{"input-ipc-server", "/socket"}));
+}
+
+TEST_F(EngineStart, WithoutAHandleTerminationCompletesAtOnce) {
+  bool completed = false;
+  engine.terminate([&completed] { completed = true; });
+  EXPECT_TRUE(completed);
+  EXPECT_EQ(mpv.destroyed, 0);
+}
+
+TEST_F(EngineStart, NothingButTerminationDestroysTheHandle) {
+  {
+    MpvEngine other(mpv.api());
+    other.initialize("/diagnostics");
+  }
+  EXPECT_EQ(mpv.destroyed, 0);
+  start();
+  bool completed = false;
+  engine.terminate([&completed] { completed = true; });
+  EXPECT_FALSE(engine.hasHandle());
+  EXPECT_FALSE(completed);
+  EXPECT_TRUE(testing::waitFor([&completed] { return completed; }));
+  EXPECT_EQ(mpv.destroyed, 1);
+}
+
+TEST(EngineEnvironment, TheShippedDriverYieldsToThePersonsChoice) {
+  qunsetenv("VK_DRIVER_FILES");
+  qunsetenv("MPVBUNDLE");
+  prepareEngineEnvironment({});
+  EXPECT_FALSE(qEnvironmentVariableIsSet("VK_DRIVER_FILES"));
+  EXPECT_EQ(qgetenv("MPVBUNDLE"), "true");
+  prepareEngineEnvironment("/shipped.json");
+  EXPECT_EQ(qgetenv("VK_DRIVER_FILES"), "/shipped.json");
+  prepareEngineEnvironment("/other.json");
+  EXPECT_EQ(qgetenv("VK_DRIVER_FILES"), "/shipped.json");
+  qunsetenv("VK_DRIVER_FILES");
+}
+
+TEST(EngineEnvironment, FindsTheDriverInTheDataDirectories) {
+  EXPECT_EQ(shippedVulkanManifest(), QString());
+  const QString directory = qEnvironmentVariable("XDG_DATA_HOME") + "/tromelo/vulkan/icd.d";
+  ASSERT_TRUE(QDir().mkpath(directory));
+  QFile manifest(directory + "/tromelo_icd.json");
+  ASSERT_TRUE(manifest.open(QFile::WriteOnly));
+  EXPECT_EQ(shippedVulkanManifest(), manifest.fileName());
+  manifest.remove();
+}
+
+TEST(EngineEnvironment, NumbersAreReadWithAPoint) {
+  std::setlocale(LC_NUMERIC, "");
+  prepareEngineEnvironment({});
+  EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C");
+}
+
+}  // namespace tromelo

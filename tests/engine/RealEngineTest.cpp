@@ -1,0 +1,88 @@
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <clocale>
+
+#include "engine/MpvEngine.h"
+#include "support/Clips.h"
+#include "support/HeadlessMpv.h"
+#include "support/WaitFor.h"
+
+namespace tromelo {
+
+namespace {
+
+using testing::waitFor;
+
+struct RealEngine : ::testing::Test {
+  QTemporaryDir directory;
+  MpvEngine engine{testing::headlessMpv()};
+  std::vector<MpvEvent> received;
+  MpvValue playlist;
+
+  void SetUp() override {
+    // The person's locale may write numbers with a comma, which libmpv doesn't start with.
+    std::setlocale(LC_ALL, "C.UTF-8");
+    engine.onEvent = [this](const MpvEvent& event) {
+      const auto* change = std::get_if<event::Property>(&event);
+      if (change && change->property == MpvProperty::playlist) playlist = change->value;
+      if (!change) received.push_back(event);
+    };
+    ASSERT_EQ(engine.initialize(directory.path()), std::nullopt);
+  }
+
+  void TearDown() override {
+    bool ended = false;
+    engine.terminate([&ended] { ended = true; });
+    EXPECT_TRUE(waitFor([&ended] { return ended; }));
+  }
+
+  bool has(const MpvEvent& event) const { return std::ranges::count(received, event) > 0; }
+};
+
+}  // namespace
+
+TEST_F(RealEngine, TakesEveryOptionAndWritesItsLog) {
+  EXPECT_TRUE(QFile::exists(directory.filePath("mpv.log")));
+}
+
+TEST_F(RealEngine, PlaysAFileFromLoadToEnd) {
+  engine.command({"loadfile", testing::clipPath("short-wide.mp4")});
+  ASSERT_TRUE(waitFor([this] { return has(event::PlaybackRestart{}); }));
+  EXPECT_EQ(received[0], MpvEvent(event::StartFile{}));
+  EXPECT_EQ(received[1], MpvEvent(event::FileLoaded{}));
+  engine.command({"stop"});
+  EXPECT_TRUE(waitFor([this] { return has(event::EndFile{}); }));
+}
+
+TEST_F(RealEngine, ReportsAFailedCommandOnceAndAFailedWriteNever) {
+  engine.setProperty("pause", "perhaps");
+  engine.setProperty("no-such-property", "1");
+  engine.command({"sub-add", "/no/such/file"});
+  ASSERT_TRUE(waitFor([this] { return !received.empty(); }));
+  engine.command({"seek", "nonsense"});
+  ASSERT_TRUE(waitFor([this] { return received.size() == 2; }));
+  for (const MpvEvent& event : received) {
+    EXPECT_TRUE(std::holds_alternative<event::CommandFailed>(event));
+  }
+}
+
+TEST_F(RealEngine, LosesNoRequestOfThousands) {
+  constexpr std::size_t kFiles = 3000;
+  for (std::size_t i = 0; i < kFiles; ++i) {
+    engine.command({"loadfile", "/no/such/file/" + std::to_string(i), "append", "-1", ""});
+  }
+  ASSERT_TRUE(waitFor([this] { return playlist.list().size() == kFiles; }));
+  const auto* last = mpvEntry<std::string>(*playlist.list().back(), "filename");
+  ASSERT_TRUE(last);
+  EXPECT_EQ(*last, "/no/such/file/" + std::to_string(kFiles - 1));
+}
+
+TEST_F(RealEngine, EndsWhileItPlays) {
+  engine.command({"loadfile", testing::clipPath("sample.mp4")});
+  ASSERT_TRUE(waitFor([this] { return has(event::PlaybackRestart{}); }));
+}
+
+}  // namespace tromelo

@@ -1,0 +1,92 @@
+#include "engine/MpvTranslation.h"
+
+#include <gtest/gtest.h>
+
+#include "engine/MpvClientApi.h"
+
+namespace tromelo {
+
+namespace {
+
+std::optional<MpvEvent> translated(mpv_event_id id, void* data = nullptr, int error = 0,
+                                   std::uint64_t reply = 0) {
+  return translateMpvEvent(MpvClientApi::libmpv(), {id, error, reply, data});
+}
+
+std::optional<MpvEvent> translatedLog(const char* prefix, const char* text) {
+  mpv_event_log_message message{prefix, "warn", text, MPV_LOG_LEVEL_WARN};
+  return translated(MPV_EVENT_LOG_MESSAGE, &message);
+}
+
+std::optional<MpvEvent> translatedEnd(mpv_end_file_reason reason, int error) {
+  mpv_event_end_file end{};
+  end.reason = reason;
+  end.error = error;
+  return translated(MPV_EVENT_END_FILE, &end);
+}
+
+}  // namespace
+
+TEST(Translation, EventsWithoutPayload) {
+  EXPECT_EQ(translated(MPV_EVENT_START_FILE), MpvEvent(event::StartFile{}));
+  EXPECT_EQ(translated(MPV_EVENT_FILE_LOADED), MpvEvent(event::FileLoaded{}));
+  EXPECT_EQ(translated(MPV_EVENT_PLAYBACK_RESTART), MpvEvent(event::PlaybackRestart{}));
+  EXPECT_EQ(translated(MPV_EVENT_SHUTDOWN), MpvEvent(event::Shutdown{}));
+  for (const mpv_event_id other : {MPV_EVENT_SET_PROPERTY_REPLY, MPV_EVENT_GET_PROPERTY_REPLY,
+                                   MPV_EVENT_SEEK, MPV_EVENT_VIDEO_RECONFIG, MPV_EVENT_HOOK}) {
+    EXPECT_EQ(translated(other, nullptr, MPV_ERROR_GENERIC), std::nullopt) << other;
+  }
+}
+
+TEST(Translation, OnlyTheVideoDecodersWarningsAboutHardwareCount) {
+  const std::optional<MpvEvent> hardwareError = event::HardwareDecodeError{};
+  EXPECT_EQ(translatedLog("vd", "Error while decoding (hardware decoding)!"), hardwareError);
+  EXPECT_EQ(translatedLog("ad", "Error while decoding (hardware decoding)!"), std::nullopt);
+  EXPECT_EQ(translatedLog("vd", "Error while decoding frame"), std::nullopt);
+  EXPECT_EQ(translatedLog(nullptr, "hardware decoding"), std::nullopt);
+  EXPECT_EQ(translatedLog("vd", nullptr), std::nullopt);
+  EXPECT_EQ(translated(MPV_EVENT_LOG_MESSAGE), std::nullopt);
+}
+
+TEST(Translation, EndOfFile) {
+  const auto ended = [](std::optional<std::string> error) {
+    return std::optional<MpvEvent>(event::EndFile{std::move(error)});
+  };
+  const struct {
+    const char* what;
+    std::optional<MpvEvent> got;
+    std::optional<MpvEvent> expected;
+  } rows[] = {
+      {"played to its end", translatedEnd(MPV_END_FILE_REASON_EOF, 0), ended({})},
+      {"stopped", translatedEnd(MPV_END_FILE_REASON_STOP, 0), ended({})},
+      {"redirected", translatedEnd(MPV_END_FILE_REASON_REDIRECT, 0), ended({})},
+      {"failed", translatedEnd(MPV_END_FILE_REASON_ERROR, MPV_ERROR_LOADING_FAILED),
+       ended(mpv_error_string(MPV_ERROR_LOADING_FAILED))},
+      {"failed without a reason", translatedEnd(MPV_END_FILE_REASON_ERROR, 0),
+       ended("Playback failed")},
+      {"no payload", translated(MPV_EVENT_END_FILE), std::nullopt},
+  };
+  for (const auto& row : rows) EXPECT_EQ(row.got, row.expected) << row.what;
+}
+
+TEST(Translation, RepliesToCommandsMatterWhenTheyFail) {
+  EXPECT_EQ(translated(MPV_EVENT_COMMAND_REPLY, nullptr, 0), std::nullopt);
+  EXPECT_EQ(translated(MPV_EVENT_COMMAND_REPLY, nullptr, MPV_ERROR_COMMAND),
+            MpvEvent(event::CommandFailed{mpv_error_string(MPV_ERROR_COMMAND)}));
+}
+
+TEST(Translation, ChangesOfOurPropertiesOnly) {
+  double position = 3.5;
+  mpv_event_property change{"time-pos", MPV_FORMAT_DOUBLE, &position};
+  mpv_event_property unavailable{"duration", MPV_FORMAT_NONE, nullptr};
+  EXPECT_EQ(translated(MPV_EVENT_PROPERTY_CHANGE, &change, 0, 2),
+            MpvEvent(event::Property{MpvProperty::timePos, 3.5}));
+  EXPECT_EQ(translated(MPV_EVENT_PROPERTY_CHANGE, &unavailable, 0, 3),
+            MpvEvent(event::Property{MpvProperty::duration, {}}));
+  for (const std::uint64_t foreign : {0u, 36u, 1000u}) {
+    EXPECT_EQ(translated(MPV_EVENT_PROPERTY_CHANGE, &change, 0, foreign), std::nullopt) << foreign;
+  }
+  EXPECT_EQ(translated(MPV_EVENT_PROPERTY_CHANGE, nullptr, 0, 2), std::nullopt);
+}
+
+}  // namespace tromelo

@@ -1,0 +1,183 @@
+#include <QDir>
+
+#include "ModelTest.h"
+#include "platform/FilePath.h"
+
+namespace tromelo {
+
+namespace {
+
+using P = MpvProperty;
+using testing::ModelTest;
+
+struct Events : ModelTest {};
+
+}  // namespace
+
+TEST_F(Events, StartsWithNothingToPlay) {
+  const struct {
+    const char* field;
+    QVariant expected;
+  } rows[] = {{"title", "No video selected"},
+              {"status", "Open a video to begin"},
+              {"isLoaded", false},
+              {"isPaused", true},
+              {"isFullscreen", false},
+              {"volume", 100.0},
+              {"speed", 1.0},
+              {"errorMessage", ""},
+              {"videoSize", "—"},
+              {"frameRate", "—"},
+              {"codec", "—"},
+              {"decoder", "—"},
+              {"container", "—"},
+              {"buffering", "—"},
+              {"output", "—"},
+              {"display", "—"},
+              {"hasNext", false},
+              {"hasPrevious", false},
+              {"currentChapter", -1},
+              {"lastURL", QUrl()}};
+  for (const auto& row : rows) EXPECT_EQ(model().property(row.field), row.expected) << row.field;
+  EXPECT_EQ(model().dynamicRange(), DynamicRange());
+  EXPECT_TRUE(QDir(directory_.filePath("state/diagnostics")).exists());
+  EXPECT_TRUE(player_.calls.isEmpty());
+}
+
+TEST_F(Events, AnEngineThatDoesNotStartLeavesItsReason) {
+  mpv_.optionResults["vo"] = MPV_ERROR_OPTION_ERROR;
+  remake();
+  const QString reason = QStringLiteral("vo: ") + mpv_error_string(MPV_ERROR_OPTION_ERROR);
+  EXPECT_EQ(model().status(), reason);
+  EXPECT_EQ(model().errorMessage(), reason);
+  model().open(fileUrlFromPath("/films/a.mkv"));
+  model().setVolume(20);
+  EXPECT_EQ(model().title(), "No video selected");
+  EXPECT_TRUE(player_.calls.isEmpty());
+  EXPECT_TRUE(mpv_.requests.empty());
+}
+
+TEST_F(Events, ANewFileForgetsTheLastOnesState) {
+  load();
+  for (const auto& [property, value] :
+       std::initializer_list<std::pair<P, MpvValue>>{{P::timePos, 5.0},
+                                                     {P::duration, 60.0},
+                                                     {P::width, std::int64_t{640}},
+                                                     {P::height, std::int64_t{360}},
+                                                     {P::containerFps, 25.0},
+                                                     {P::videoFormat, "h264"},
+                                                     {P::fileFormat, "mkv"},
+                                                     {P::decoderDrops, std::int64_t{1}},
+                                                     {P::outputDrops, std::int64_t{2}},
+                                                     {P::speed, 2.0},
+                                                     {P::subDelay, 1.0}}) {
+    report(property, value);
+  }
+  reportPlaylist({"a.mkv", "b.mkv"}, 1);
+  report(event::StartFile{});
+
+  EXPECT_EQ(model().status(), "Opening media");
+  EXPECT_EQ(model().buffering(), "Loading");
+  EXPECT_EQ(model().decoder(), "Selecting decoder");
+  EXPECT_FALSE(model().isLoaded());
+  EXPECT_EQ(model().elapsed() + model().duration() + model().scrubPosition(), 0.0);
+  EXPECT_EQ(model().decoderFrameDrops() + model().outputFrameDrops(), 0);
+  EXPECT_EQ(model().videoSize() + model().frameRate() + model().codec(), "———");
+  EXPECT_EQ(model().container(), "MKV");
+  EXPECT_EQ(model().speed(), 2.0);
+  EXPECT_EQ(model().subtitleDelay(), 1.0);
+  EXPECT_EQ(model().queue().size(), 2);
+  // One side of the new file's size doesn't go with the other of the old one's.
+  report(P::width, std::int64_t{320});
+  EXPECT_EQ(model().videoSize(), "—");
+}
+
+TEST_F(Events, PlaybackThatStartsIsRevealed) {
+  report(event::FileLoaded{});
+  EXPECT_TRUE(model().isLoaded());
+  EXPECT_EQ(model().buffering(), "Ready");
+  EXPECT_TRUE(player_.calls.isEmpty());
+  report(event::PlaybackRestart{});
+  EXPECT_EQ(player_.take(), (QStringList{"ready", "reveal"}));
+}
+
+TEST_F(Events, AFileThatEndsLeavesRoomForAnother) {
+  load();
+  report(event::EndFile{});
+  EXPECT_FALSE(model().isLoaded());
+  EXPECT_EQ(model().status(), "Ready for a video");
+  EXPECT_EQ(model().buffering(), "—");
+  EXPECT_EQ(model().errorMessage(), "");
+}
+
+TEST_F(Events, AnEngineThatStopsSaysSo) {
+  load();
+  report(event::Shutdown{});
+  EXPECT_FALSE(model().isLoaded());
+  EXPECT_EQ(model().status(), "Playback engine stopped");
+  EXPECT_EQ(model().buffering(), "—");
+}
+
+TEST_F(Events, AFailedCommandMattersWhileNothingPlays) {
+  load();
+  report(event::CommandFailed{"refused"});
+  EXPECT_EQ(model().errorMessage(), "");
+  report(event::EndFile{});
+  report(event::CommandFailed{"refused"});
+  EXPECT_EQ(model().errorMessage(), "refused");
+  EXPECT_EQ(model().status(), "refused");
+  EXPECT_EQ(model().buffering(), "Unavailable");
+}
+
+TEST_F(Events, AFileThatFailsGivesWayToTheNextOrClosesThePlayer) {
+  const struct {
+    const char* what;
+    std::size_t current;
+    bool hasWindow;
+    QStringList calls;
+  } rows[] = {
+      {"the next is coming", 0, true, {"toast Skipped Movie: no data"}},
+      {"the last, with a window", 1, true, {"not awaiting", "close"}},
+      {"the last, without one", 1, false, {"not awaiting", "library"}},
+  };
+  for (const auto& row : rows) {
+    remake();
+    player_ = {.calls = {}, .hasWindow = row.hasWindow};
+    report(event::StartFile{});
+    report(P::mediaTitle, "Movie.mkv");
+    reportPlaylist({"a.mkv", "b.mkv"}, row.current);
+    report(event::EndFile{"no data"});
+    EXPECT_EQ(model().errorMessage(), "Could not play Movie: no data") << row.what;
+    EXPECT_EQ(model().status(), model().errorMessage()) << row.what;
+    EXPECT_EQ(model().buffering(), "Unavailable") << row.what;
+    EXPECT_EQ(player_.take(), row.calls) << row.what;
+  }
+}
+
+TEST_F(Events, FilesThatFailBeforeTheQueueIsReportedAreNamedEach) {
+  model().open(QList<QUrl>{fileUrlFromPath("/films/a.mkv"), fileUrlFromPath("/films/b.mkv"),
+                           fileUrlFromPath("/films/c.mkv")});
+  player_.take();
+  reportPlaylist({"former.mkv", "other.mkv"}, 0);
+  for (int i = 0; i < 3; ++i) {
+    report(event::StartFile{});
+    report(event::EndFile{"gone"});
+  }
+  EXPECT_EQ(player_.take(), (QStringList{"toast Skipped a: gone", "toast Skipped b: gone",
+                                         "not awaiting", "library"}));
+  EXPECT_EQ(model().errorMessage(), "Could not play c: gone");
+}
+
+TEST_F(Events, NothingHappensOnceTheModelIsGone) {
+  const auto handler = model().engine().onEvent;
+  const auto answer = [this] {
+    model().presentOpenPanel();
+    return chooser_.answer;
+  }();
+  model_.reset();
+  handler(event::StartFile{});
+  answer({fileUrlFromPath("/films/a.mkv")});
+  EXPECT_TRUE(mpv_.requests.empty());
+}
+
+}  // namespace tromelo

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <optional>
+
+#include "playback/FileChooser.h"
+
+namespace tromelo::testing {
+
+/// A person who looks at the dialog for as long as a test wants.
+class FakeChooser final : public FileChooser {
+ public:
+  void chooseFiles(const Request& request, Callback chosen) override {
+    asked = request;
+    answer = std::move(chosen);
+  }
+
+  std::optional<Request> asked;
+  Callback answer;
+};
+
+}  // namespace tromelo::testing

@@ -1,0 +1,178 @@
+#include "playback/PropertyMapping.h"
+
+#include <QMetaProperty>
+#include <algorithm>
+#include <limits>
+
+#include "ModelTest.h"
+
+namespace tromelo {
+
+namespace {
+
+using P = MpvProperty;
+using testing::ModelTest;
+
+std::int64_t operator""_i(unsigned long long value) { return static_cast<std::int64_t>(value); }
+
+struct Mapping : ModelTest {
+  QVariant shown(const char* field) { return model().property(field); }
+};
+
+}  // namespace
+
+TEST_F(Mapping, EachKindOfValueChangesItsFieldOrLeavesIt) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  const MpvValue none;
+  const struct {
+    P property;
+    std::vector<MpvValue> reports;
+    const char* field;
+    QVariant expected;
+  } rows[] = {
+      {P::mediaTitle, {"Movie.mkv"}, "title", "Movie"},
+      {P::mediaTitle, {"Movie.mkv", ""}, "title", "Movie"},
+      {P::mediaTitle, {"Movie.mkv", none, 3_i}, "title", "Movie"},
+      {P::duration, {12.5}, "duration", 12.5},
+      {P::duration, {12.5, none}, "duration", 0.0},
+      {P::duration, {12.5, -1.0}, "duration", 0.0},
+      {P::duration, {12.5, kInfinity}, "duration", 0.0},
+      {P::pause, {false}, "isPaused", false},
+      {P::pause, {false, none}, "isPaused", true},
+      {P::volume, {30.0, none}, "volume", 30.0},
+      {P::fullscreen, {true}, "isFullscreen", true},
+      {P::fullscreen, {true, none}, "isFullscreen", false},
+      {P::videoFormat, {"h264", none}, "codec", "H264"},
+      {P::fileFormat, {"mov,mp4,m4a"}, "container", "MOV"},
+      {P::fileFormat, {",,mkv"}, "container", "MKV"},
+      {P::fileFormat, {"mkv", ","}, "container", "MKV"},
+      {P::decoderDrops, {3_i}, "decoderFrameDrops", 3},
+      {P::decoderDrops, {3_i, none}, "decoderFrameDrops", 0},
+      {P::outputDrops, {4_i}, "outputFrameDrops", 4},
+      {P::outputDrops, {4_i, none}, "outputFrameDrops", 0},
+      {P::speed, {1.5, none}, "speed", 1.5},
+      {P::mute, {true}, "isMuted", true},
+      {P::mute, {true, none}, "isMuted", false},
+      {P::subDelay, {0.5}, "subtitleDelay", 0.5},
+      {P::subDelay, {0.5, none}, "subtitleDelay", 0.0},
+      {P::audioDelay, {-0.5}, "audioDelay", -0.5},
+      {P::audioDelay, {-0.5, none}, "audioDelay", 0.0},
+      {P::loopFile, {"inf"}, "isLooping", true},
+      {P::loopFile, {"5"}, "isLooping", true},
+      {P::loopFile, {"inf", "no"}, "isLooping", false},
+      {P::loopFile, {"inf", 5_i}, "isLooping", false},
+      {P::containerFps, {25.0}, "frameRate", "25 fps"},
+      {P::containerFps, {25.0, none}, "frameRate", "25 fps"},
+      {P::containerFps, {0.0}, "frameRate", "—"},
+      {P::path, {"/films/50%.mkv"}, "lastURL", QUrl("file:///films/50%25.mkv")},
+      {P::path, {"/films/\xff.mkv", none}, "lastURL", QUrl("file:///films/%FF.mkv")},
+      {P::primaries, {"bt.2020"}, "output", "—"},
+      {P::playlistPos, {2_i}, "queue", QVariant::fromValue(QList<QueueItem>())},
+  };
+  for (const auto& row : rows) {
+    remake();
+    for (const MpvValue& value : row.reports) report(row.property, value);
+    EXPECT_EQ(shown(row.field), row.expected)
+        << mpvPropertyName(row.property) << " after " << row.reports.size()
+        << " reports: " << shown(row.field).toString().toStdString();
+  }
+}
+
+TEST_F(Mapping, WhatBelongsToTheFileOutlivesItsEnd) {
+  std::vector<P> session;
+  std::ranges::copy_if(allMpvProperties(), std::back_inserter(session),
+                       PropertyMapping::isSessionProperty);
+  const std::vector<P> expected{P::width,        P::height,          P::containerFps,
+                                P::estimatedFps, P::videoFormat,     P::hwdecCurrent,
+                                P::fileFormat,   P::gamma,           P::primaries,
+                                P::colormatrix,  P::sigPeak,         P::dolbyVisionProfile,
+                                P::targetGamma,  P::targetPrimaries, P::path};
+  EXPECT_EQ(session, expected);
+}
+
+TEST_F(Mapping, ThePositionIsThinnedForwardsOnly) {
+  const struct {
+    double reported;
+    double shown;
+  } rows[] = {{10.0, 10.0},   {10.1, 10.0}, {10.19, 10.0}, {10.25, 10.25},
+              {10.15, 10.15}, {3.0, 3.0},   {NAN, 3.0},    {INFINITY, 3.0}};
+  for (const auto& row : rows) {
+    report(P::timePos, row.reported);
+    EXPECT_DOUBLE_EQ(model().elapsed(), row.shown) << row.reported;
+    EXPECT_DOUBLE_EQ(model().scrubPosition(), row.shown) << row.reported;
+  }
+  model().beginScrubbing();
+  report(P::timePos, 40.0);
+  EXPECT_EQ(model().elapsed(), 40.0);
+  EXPECT_EQ(model().scrubPosition(), 3.0);
+}
+
+TEST_F(Mapping, TheSizeNeedsBothItsSides) {
+  report(P::width, 1920_i);
+  EXPECT_EQ(model().videoSize(), "—");
+  report(P::height, 1080_i);
+  EXPECT_EQ(model().videoSize(), "1920 × 1080");
+  report(P::height, 0_i);
+  report(P::width, {});
+  EXPECT_EQ(model().videoSize(), "1920 × 1080");
+  report(P::height, 800_i);
+  EXPECT_EQ(model().videoSize(), "1920 × 800");
+  report(P::width, "wide");
+  report(P::height, 600_i);
+  EXPECT_EQ(model().videoSize(), "1920 × 800");
+}
+
+TEST_F(Mapping, TheContainersRateGoesBeforeTheMeasuredOne) {
+  report(P::estimatedFps, 29.97);
+  EXPECT_EQ(model().frameRate(), "30 fps");
+  report(P::containerFps, 23.976);
+  EXPECT_EQ(model().frameRate(), "24 fps");
+  report(P::estimatedFps, 12.5);
+  EXPECT_EQ(model().frameRate(), "24 fps");
+  report(P::containerFps, "variable");
+  EXPECT_EQ(model().frameRate(), "12.5 fps");
+}
+
+TEST_F(Mapping, BufferingShowsInTheStatus) {
+  report(P::pausedForCache, true);
+  EXPECT_EQ(model().buffering(), "Buffering");
+  EXPECT_EQ(model().status(), "Open a video to begin");
+  report(P::pausedForCache, false);
+  EXPECT_EQ(model().buffering(), "Buffering");
+  load();
+  EXPECT_EQ(model().status(), "Opening media");
+  report(P::pause, false);
+  EXPECT_EQ(model().status(), "Playing");
+  report(P::pausedForCache, true);
+  EXPECT_EQ(model().status(), "Buffering");
+  report(P::pause, true);
+  EXPECT_EQ(model().status(), "Buffering");
+  report(P::pausedForCache, {});
+  EXPECT_EQ(model().buffering(), "Ready");
+  EXPECT_EQ(model().status(), "Paused");
+}
+
+TEST_F(Mapping, AConfiguredPictureIsRevealed) {
+  report(P::voConfigured, true);
+  EXPECT_EQ(player_.take(), (QStringList{"ready", "reveal"}));
+  report(P::voConfigured, false);
+  report(P::voConfigured, {});
+  EXPECT_EQ(player_.take(), (QStringList{"not ready", "not ready"}));
+}
+
+TEST_F(Mapping, EqualValuesAreNotAnnounced) {
+  int paused = 0;
+  int queue = 0;
+  QObject::connect(&model(), &PlaybackModel::isPausedChanged, &model(), [&] { ++paused; });
+  QObject::connect(&model(), &PlaybackModel::queueChanged, &model(), [&] { ++queue; });
+  report(P::pause, true);
+  EXPECT_EQ(paused, 0);
+  for (int i = 0; i < 2; ++i) {
+    report(P::pause, false);
+    reportPlaylist({"a.mkv", "b.mkv"}, 0);
+  }
+  EXPECT_EQ(paused, 1);
+  EXPECT_EQ(queue, 1);
+}
+
+}  // namespace tromelo

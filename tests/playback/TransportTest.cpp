@@ -1,0 +1,152 @@
+#include "ModelTest.h"
+#include "platform/FilePath.h"
+#include "playback/SubtitleExtensions.h"
+
+namespace tromelo {
+
+namespace {
+
+using P = MpvProperty;
+using testing::ModelTest;
+
+QUrl film(const char* name) { return fileUrlFromPath(std::string("/films/") + name); }
+
+struct Transport : ModelTest {
+  /// What the engine is asked for by `action`.
+  Requests asked(const std::function<void()>& action) {
+    takeRequests();
+    action();
+    return takeRequests();
+  }
+};
+
+}  // namespace
+
+TEST_F(Transport, OpeningShowsWhatIsComing) {
+  model().reportPlaybackError("an earlier error");
+  model().open(film("A film.mkv"), 90);
+  EXPECT_EQ(model().title(), "A film");
+  EXPECT_EQ(model().status(), "Opening media");
+  EXPECT_EQ(model().errorMessage(), "");
+  EXPECT_EQ(player_.take(), (QStringList{"awaiting", "not ready"}));
+  EXPECT_EQ(takeRequests(),
+            (Requests{{"loadfile", "/films/A film.mkv", "replace", "-1", "start=90.0"},
+                      {"set", "pause", "no"}}));
+}
+
+TEST_F(Transport, TheFirstOfSeveralFilesPlaysAndTheOthersFollow) {
+  EXPECT_EQ(asked([this] { model().open(QList<QUrl>()); }), Requests());
+  const Requests expected{{"loadfile", "/films/a,\"1\".mkv", "replace", "-1", ""},
+                          {"set", "pause", "no"},
+                          {"loadfile", "/films/b\n.mkv", "append", "-1", ""},
+                          {"loadfile", "/films/\xff.mkv", "append", "-1", ""}};
+  const QList<QUrl> films{film("a,\"1\".mkv"), film("b\n.mkv"), film("\xff.mkv")};
+  EXPECT_EQ(asked([&] { model().open(films); }), expected);
+  EXPECT_EQ(asked([&] { model().openFiles(films); }), expected);
+  EXPECT_EQ(asked([&] { model().enqueue(films); }), expected);
+}
+
+TEST_F(Transport, WhatIsAddedWhileSomethingPlaysWaitsItsTurn) {
+  const Requests expected{{"loadfile", "/films/c.mkv", "append", "-1", ""}};
+  reportPlaylist({"a.mkv"}, 1);
+  EXPECT_EQ(asked([this] { model().enqueue({film("c.mkv")}); }), expected);
+  remake();
+  load();
+  EXPECT_EQ(asked([this] { model().enqueue({film("c.mkv")}); }), expected);
+  EXPECT_EQ(asked([this] { model().enqueue({}); }), Requests());
+}
+
+TEST_F(Transport, ThePanelsAskAndDoAsTheyAreTold) {
+  model().presentOpenPanel();
+  EXPECT_EQ(chooser_.asked->prompt, "Play");
+  EXPECT_TRUE(chooser_.asked->allowsSeveral);
+  EXPECT_TRUE(chooser_.asked->extensions.isEmpty());
+  EXPECT_EQ(asked([this] { chooser_.answer({film("a.mkv"), film("b.mkv")}); }).size(), 3u);
+
+  model().presentQueuePanel();
+  EXPECT_EQ(chooser_.asked->prompt, "Add to Queue");
+  EXPECT_TRUE(chooser_.asked->allowsSeveral);
+  load();
+  EXPECT_EQ(asked([this] { chooser_.answer({film("c.mkv")}); }),
+            (Requests{{"loadfile", "/films/c.mkv", "append", "-1", ""}}));
+
+  model().presentSubtitleFilePanel();
+  EXPECT_EQ(chooser_.asked->prompt, "Add Subtitle");
+  EXPECT_FALSE(chooser_.asked->allowsSeveral);
+  EXPECT_EQ(chooser_.asked->extensions, subtitleExtensions());
+  EXPECT_EQ(asked([this] { chooser_.answer({film("a.srt")}); }),
+            (Requests{{"sub-add", "/films/a.srt", "select"}}));
+}
+
+TEST_F(Transport, NothingLoadedIsNeitherPausedNorSought) {
+  EXPECT_EQ(asked([this] {
+              model().togglePlayback();
+              model().seekBy(10);
+              model().seekTo(10);
+            }),
+            Requests());
+}
+
+TEST_F(Transport, PausesAndSeeks) {
+  load();
+  report(P::pause, false);
+  EXPECT_EQ(asked([this] { model().togglePlayback(); }), (Requests{{"set", "pause", "yes"}}));
+  EXPECT_FALSE(model().isPaused());
+  report(P::pause, true);
+  EXPECT_EQ(asked([this] { model().togglePlayback(); }), (Requests{{"set", "pause", "no"}}));
+  EXPECT_EQ(asked([this] { model().seekBy(-10); }), (Requests{{"seek", "-10.0", "relative"}}));
+  EXPECT_EQ(asked([this] { model().seekTo(12.25); }),
+            (Requests{{"seek", "12.25", "absolute+exact"}}));
+  EXPECT_EQ(asked([this] { model().seekTo(-3); }), (Requests{{"seek", "0.0", "absolute+exact"}}));
+}
+
+TEST_F(Transport, DraggingSeeksCoarselyAtTimesAndExactlyAtTheEnd) {
+  load();
+  report(P::timePos, 30.0);
+  const auto coarse = [](const char* position) {
+    return Requests{{"seek", position, "absolute+keyframes"}};
+  };
+  model().beginScrubbing();
+  EXPECT_TRUE(model().isScrubbing());
+  EXPECT_EQ(model().scrubPosition(), 30.0);
+  EXPECT_EQ(asked([this] { model().scrubTo(40); }), coarse("40.0"));
+  clock_.advance(std::chrono::milliseconds(80));
+  EXPECT_EQ(asked([this] { model().scrubTo(41); }), Requests());
+  EXPECT_EQ(model().scrubPosition(), 41.0);
+  clock_.advance(std::chrono::milliseconds(1));
+  EXPECT_EQ(asked([this] { model().scrubTo(-1); }), coarse("0.0"));
+  EXPECT_EQ(asked([this] { model().scrubTo(42.5); }), Requests());
+  EXPECT_EQ(model().elapsed(), 30.0);
+  EXPECT_EQ(asked([this] { model().endScrubbing(); }),
+            (Requests{{"seek", "42.5", "absolute+exact"}}));
+  EXPECT_EQ(model().elapsed(), 42.5);
+  EXPECT_FALSE(model().isScrubbing());
+}
+
+TEST_F(Transport, VolumeIsClampedAndEndsMute) {
+  report(P::mute, true);
+  EXPECT_EQ(asked([this] { model().setVolume(-5); }), (Requests{{"set", "volume", "0.0"}}));
+  EXPECT_TRUE(model().isMuted());
+  EXPECT_EQ(asked([this] { model().setVolume(150); }),
+            (Requests{{"set", "volume", "100.0"}, {"set", "mute", "no"}}));
+  EXPECT_FALSE(model().isMuted());
+  EXPECT_EQ(model().volume(), 100.0);
+  EXPECT_EQ(asked([this] { model().setVolume(45); }), (Requests{{"set", "volume", "45.0"}}));
+}
+
+TEST_F(Transport, SpeedLoopAndDelaysShowAtOnce) {
+  EXPECT_EQ(asked([this] { EXPECT_EQ(model().stepSpeed(1), 1.25); }),
+            (Requests{{"set", "speed", "1.25"}}));
+  EXPECT_EQ(model().speed(), 1.25);
+  EXPECT_EQ(asked([this] { model().toggleLoop(); }), (Requests{{"set", "loop-file", "inf"}}));
+  EXPECT_TRUE(model().isLooping());
+  EXPECT_EQ(asked([this] { model().toggleLoop(); }), (Requests{{"set", "loop-file", "no"}}));
+  EXPECT_EQ(asked([this] { model().setSubtitleDelay(0.12345); }),
+            (Requests{{"set", "sub-delay", "0.123"}}));
+  EXPECT_EQ(model().subtitleDelay(), 0.123);
+  EXPECT_EQ(asked([this] { model().setAudioDelay(-0.0625); }),
+            (Requests{{"set", "audio-delay", "-0.063"}}));
+  EXPECT_EQ(model().audioDelay(), -0.063);
+}
+
+}  // namespace tromelo
