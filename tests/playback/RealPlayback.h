@@ -7,7 +7,9 @@
 #include "FakeChooser.h"
 #include "FakePlayer.h"
 #include "platform/Clock.h"
+#include "platform/FilePath.h"
 #include "playback/PlaybackModel.h"
+#include "support/Clips.h"
 #include "support/HeadlessMpv.h"
 #include "support/WaitFor.h"
 
@@ -16,24 +18,60 @@ namespace tromelo::testing {
 /// The model over the real libmpv, without picture and sound.
 class RealPlayback : public ::testing::Test {
  protected:
+  RealPlayback() {
+    auto& onEvent = model_.engine().onEvent;
+    onEvent = [this, toModel = onEvent](const MpvEvent& event) {
+      note(event);
+      toModel(event);
+    };
+  }
   ~RealPlayback() override {
     bool ended = false;
-    model_->engine().terminate([&ended] { ended = true; });
+    model_.engine().terminate([&ended] { ended = true; });
     EXPECT_TRUE(waitFor([&ended] { return ended; }));
   }
 
-  PlaybackModel& model() { return *model_; }
+  static QUrl clip(const std::string& name) { return fileUrlFromPath(clipPath(name)); }
+
+  /// Opens a file and waits until it plays.
+  [[nodiscard]] bool plays(const QUrl& url, std::optional<double> startAt = {}) {
+    restarts_ = 0;
+    model_.open(url, startAt);
+    return waitFor([this] { return restarts_ > 0 && model_.isLoaded() && !model_.isPaused(); });
+  }
+
+  /// Does something that seeks, and waits until playback goes on from there.
+  [[nodiscard]] bool seeks(const std::function<void()>& action) {
+    restarts_ = 0;
+    action();
+    return waitFor([this] { return restarts_ > 0; });
+  }
+
+  [[nodiscard]] bool pauses() {
+    model_.togglePlayback();
+    return waitFor([this] { return model_.isPaused(); });
+  }
 
   QTemporaryDir directory_;
   SystemClock clock_;
   FakeChooser chooser_;
   FakePlayer::Log player_;
-  std::unique_ptr<PlaybackModel> model_ = std::make_unique<PlaybackModel>(PlaybackModel::Parts{
-      .api = headlessMpv(),
-      .clock = clock_,
-      .files = chooser_,
-      .diagnosticsDirectory = directory_.filePath("diagnostics"),
-      .makePlayer = [this](PlaybackModel&) { return std::make_unique<FakePlayer>(player_); }});
+  int restarts_ = 0;
+  double position_ = 0;  // as the engine reports it, seconds
+  PlaybackModel model_{
+      {.api = headlessMpv(),
+       .clock = clock_,
+       .files = chooser_,
+       .diagnosticsDirectory = directory_.filePath("diagnostics"),
+       .makePlayer = [this](PlaybackModel&) { return std::make_unique<FakePlayer>(player_); }}};
+
+ private:
+  void note(const MpvEvent& event) {
+    if (std::holds_alternative<event::PlaybackRestart>(event)) ++restarts_;
+    const auto* change = std::get_if<event::Property>(&event);
+    if (!change || change->property != MpvProperty::timePos) return;
+    if (const auto* seconds = change->value.as<double>()) position_ = *seconds;
+  }
 };
 
 }  // namespace tromelo::testing

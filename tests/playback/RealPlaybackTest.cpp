@@ -1,39 +1,125 @@
 #include "RealPlayback.h"
-#include "platform/FilePath.h"
-#include "support/Clips.h"
-#include <QElapsedTimer>
-#include <iostream>
-#include <thread>
-namespace tromelo::testing {
+
+namespace tromelo {
+
 namespace {
-QUrl clip(const std::string& n) { return fileUrlFromPath(clipPath(n)); }
-struct Probe : RealPlayback {
-  void SetUp() override {
-    auto old = model().engine().onEvent;
-    model().engine().onEvent = [this, old](const MpvEvent& e) {
-      t_.isValid() || (t_.start(), true);
-      std::cout << t_.elapsed() << " ";
-      if (auto* p = std::get_if<event::Property>(&e)) {
-        std::cout << "P " << mpvPropertyName(p->property) << " ";
-        if (auto* s = p->value.as<std::string>()) std::cout << *s;
-        if (auto* s = p->value.as<double>()) std::cout << *s;
-        if (auto* s = p->value.as<std::int64_t>()) std::cout << *s;
-        if (auto* s = p->value.as<bool>()) std::cout << *s;
-        if (p->value.isNone()) std::cout << "none";
-        if (p->property==MpvProperty::playlist) for (auto& i : playQueue(p->value)) std::cout << i.path.toStdString().substr(i.path.lastIndexOf('/')+1) << (i.isCurrent ? "*":"") << " ";
-      } else if (auto* p = std::get_if<event::EndFile>(&e)) std::cout << "END " << p->error.value_or("-");
-      else if (auto* p = std::get_if<event::CommandFailed>(&e)) std::cout << "FAILED " << p->error;
-      else { static const char* k[]={"","","","START","LOADED","RESTART","SHUTDOWN","HWERR"}; std::cout << k[e.index()]; }
-      std::cout << "\n";
-      old(e);
-    };
+
+using testing::RealPlayback;
+using testing::waitFor;
+
+/// A little more than a frame of the clips.
+constexpr double kFrame = 0.04;
+
+}  // namespace
+
+TEST_F(RealPlayback, OpensShowsAndPlays) {
+  ASSERT_TRUE(plays(clip("sample.mp4"), 4));
+  EXPECT_TRUE(waitFor([this] { return position_ > 4.1; }));
+  EXPECT_LT(position_, 8);
+  EXPECT_EQ(model_.title(), "sample");
+  EXPECT_NEAR(model_.duration(), 10, 0.1);
+  EXPECT_EQ(model_.videoSize(), "640 × 360");
+  EXPECT_EQ(model_.frameRate(), "30 fps");
+  EXPECT_EQ(model_.codec(), "H264");
+  EXPECT_EQ(model_.container(), "MOV");
+  EXPECT_EQ(model_.buffering(), "Ready");
+  EXPECT_EQ(model_.lastURL(), clip("sample.mp4"));
+  EXPECT_TRUE(player_.calls.contains("reveal"));
+  EXPECT_TRUE(QFile::exists(directory_.filePath("diagnostics/mpv.log")));
+}
+
+TEST_F(RealPlayback, PausesSeeksAndScrubs) {
+  ASSERT_TRUE(plays(clip("sample.mp4")));
+  ASSERT_TRUE(pauses());
+  EXPECT_EQ(model_.status(), "Paused");
+
+  ASSERT_TRUE(seeks([this] { model_.seekTo(5.5); }));
+  EXPECT_TRUE(waitFor([this] { return std::abs(position_ - 5.5) < kFrame; })) << position_;
+  ASSERT_TRUE(seeks([this] { model_.seekBy(-2); }));
+  EXPECT_TRUE(waitFor([this] { return std::abs(position_ - 3.5) < kFrame; })) << position_;
+
+  // Key frames are a second apart.
+  model_.beginScrubbing();
+  ASSERT_TRUE(seeks([this] { model_.scrubTo(7.4); }));
+  EXPECT_TRUE(waitFor([this] { return std::abs(position_ - 7) < kFrame; })) << position_;
+  EXPECT_EQ(model_.scrubPosition(), 7.4);
+  ASSERT_TRUE(seeks([this] { model_.endScrubbing(); }));
+  EXPECT_TRUE(waitFor([this] { return std::abs(position_ - 7.4) < kFrame; })) << position_;
+
+  model_.togglePlayback();
+  EXPECT_TRUE(waitFor([this] { return model_.status() == "Playing"; }));
+}
+
+TEST_F(RealPlayback, SpeedDelaysVolumeAndLoopComeBackFromTheEngine) {
+  ASSERT_TRUE(plays(clip("sample.mp4")));
+  // What the engine reports back is noted apart from what the model shows at once.
+  std::map<MpvProperty, MpvValue> reported;
+  auto& onEvent = model_.engine().onEvent;
+  onEvent = [&reported, former = onEvent](const MpvEvent& event) {
+    if (const auto* change = std::get_if<event::Property>(&event)) {
+      reported.insert_or_assign(change->property, change->value);
+    }
+    former(event);
+  };
+  model_.stepSpeed(2);
+  model_.setSubtitleDelay(0.25);
+  model_.setAudioDelay(-0.5);
+  model_.setVolume(40);
+  model_.toggleLoop();
+  using P = MpvProperty;
+  const std::map<P, MpvValue> expected{{P::speed, 1.5},
+                                       {P::subDelay, 0.25},
+                                       {P::audioDelay, -0.5},
+                                       {P::volume, 40.0},
+                                       {P::loopFile, "inf"}};
+  for (const auto& [property, value] : expected) {
+    EXPECT_TRUE(waitFor([&] { return reported[property] == value; })) << mpvPropertyName(property);
   }
-  void run(int ms) { QElapsedTimer t; t.start(); (void)waitFor([&]{return t.elapsed()>ms;}); std::cout << "== title=" << model().title().toStdString() << " status=" << model().status().toStdString() << " err=" << model().errorMessage().toStdString() << " calls=" << player_.take().join(" | ").toStdString() << "\n"; }
-  QElapsedTimer t_;
-};
-TEST_F(Probe, missing3) { model().open(QList<QUrl>{clip("m1.mkv"), clip("m2.mkv"), clip("m3.mkv")}); run(700); }
-TEST_F(Probe, brokenThenGood) { model().open(QList<QUrl>{clip("text.mkv"), clip("short-wide.mp4")}); run(1500); }
-TEST_F(Probe, blocked) { model().open(QList<QUrl>{clip("m1.mkv"), clip("short-wide.mp4")}); std::this_thread::sleep_for(std::chrono::milliseconds(300)); run(500); }
-TEST_F(Probe, files) { for (auto n : {"text.txt","empty.mkv","noise.mkv","unknown-codec.mkv","headless.mp4","", "missing.mkv", "truncated.mkv", "audio.m4a"}) { std::cout << "#### " << n << "\n"; model().open(clip(n)); run(1500);} }
 }
+
+TEST_F(RealPlayback, AFileStaysAtItsEndOrStartsOver) {
+  ASSERT_TRUE(plays(clip("short-wide.mp4")));
+  EXPECT_TRUE(waitFor([this] { return model_.isPaused(); }));
+  EXPECT_TRUE(model_.isLoaded());
+  EXPECT_EQ(model_.status(), "Paused");
+
+  ASSERT_TRUE(plays(clip("short-wide.mp4")));
+  model_.toggleLoop();
+  EXPECT_TRUE(waitFor([this] { return restarts_ >= 2; }));
+  EXPECT_FALSE(model_.isPaused());
 }
+
+TEST_F(RealPlayback, SeveralFilesPlayOneAfterTheOther) {
+  QStringList sizes;
+  QObject::connect(&model_, &PlaybackModel::videoSizeChanged, &model_, [this, &sizes] {
+    if (model_.videoSize() != PlaybackModel::kUnknown) sizes << model_.videoSize();
+  });
+  model_.open(
+      QList<QUrl>{clip("short-wide.mp4"), clip("short-square.mp4"), clip("short-tall.mp4")});
+  ASSERT_TRUE(waitFor([this] { return model_.queue().size() == 3 && model_.hasNext(); }));
+  EXPECT_FALSE(model_.hasPrevious());
+  EXPECT_TRUE(waitFor([&sizes] { return sizes.size() >= 3; }));
+  EXPECT_TRUE(waitFor([this] { return model_.hasPrevious() && !model_.hasNext(); }));
+  EXPECT_EQ(sizes, (QStringList{"320 × 180", "240 × 240", "180 × 320"}));
+  EXPECT_EQ(model_.title(), "short-tall");
+}
+
+TEST_F(RealPlayback, SoundWithoutPicturePlays) {
+  ASSERT_TRUE(plays(clip("audio.m4a")));
+  EXPECT_TRUE(waitFor([this] { return position_ > 0.1; }));
+  EXPECT_EQ(model_.videoSize(), "—");
+  EXPECT_EQ(model_.errorMessage(), "");
+}
+
+TEST_F(RealPlayback, TheEngineEndsWhileItPlaysAndTellsNothingMore) {
+  ASSERT_TRUE(plays(clip("sample.mp4")));
+  model_.setShuttingDown(true);
+  bool ended = false;
+  model_.engine().terminate([&ended] { ended = true; });
+  const QString status = model_.status();
+  EXPECT_TRUE(waitFor([&ended] { return ended; }));
+  testing::settle();
+  EXPECT_EQ(model_.status(), status);
+}
+
+}  // namespace tromelo
