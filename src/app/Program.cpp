@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "display/DmabufSupport.h"
+#include "engine/MpvClientApi.h"
 #include "library/LibraryWindow.h"
 #include "overlay/QuickPlayerOverlay.h"
 #include "platform/FilePath.h"
@@ -50,7 +51,7 @@ int Program::run() {
 }
 
 bool Program::startDisplay() {
-  const auto dmabuf = DmabufSupport::ofHost();
+  const auto dmabuf = DmabufSupport::query();
   QString error;
   display_ = PrivateDisplay::start(PlayerStage::outputOf(*QGuiApplication::primaryScreen()), dmabuf,
                                    &error);
@@ -58,7 +59,7 @@ bool Program::startDisplay() {
     std::fprintf(stderr, "Tromelo can't start its video display: %s\n", qPrintable(error));
     return false;
   }
-  if (!dmabuf) presentThroughSharedMemory();
+  if (!dmabuf) DmabufSupport::presentThroughSharedMemory();
   HostEnvironment::enterPrivateDisplay(display_->socketPath());
   QObject::connect(display_.get(), &PrivateDisplay::idleInhibitedChanged, &idleInhibitor_,
                    &IdleInhibitor::setInhibited);
@@ -71,11 +72,11 @@ void Program::makeDelegate() {
   });
   AppDelegate::Parts parts;
   parts.makePlayback = [this] {
-    return std::make_unique<PlaybackModel>(
+    return std::make_unique<PlaybackModel>(PlaybackModel::Parts{
         MpvClientApi::libmpv(), clock_, chooser_, diagnosticsDirectoryPath(),
         [this](PlaybackModel& playback) -> std::unique_ptr<PlayerPresenting> {
           return std::make_unique<PlayerWindowController>(playback, *stage_, clock_);
-        });
+        }});
   };
   parts.makeLibraryWindow = [this](PlaybackModel& playback, PlayerWindowController& player) {
     return makeLibraryWindow(playback, player);

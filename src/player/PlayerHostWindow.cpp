@@ -11,16 +11,12 @@ namespace {
 // A window of this size is dressed and mapped before the engine says how large its picture is.
 constexpr QSize kProvisionalSize(640, 360);
 
-QSurfaceFormat translucentFormat() {
-  QSurfaceFormat format = QSurfaceFormat::defaultFormat();
-  format.setAlphaBufferSize(8);
-  return format;
-}
-
 }  // namespace
 
 PlayerHostWindow::PlayerHostWindow(QQmlEngine& engine) {
-  setFormat(translucentFormat());
+  QSurfaceFormat translucent = format();  // a scene needs the depth that it asks for
+  translucent.setAlphaBufferSize(8);
+  setFormat(translucent);
   setFlags(Qt::Window | Qt::FramelessWindowHint);
   setColor(Qt::transparent);
   setTitle(QGuiApplication::applicationDisplayName());

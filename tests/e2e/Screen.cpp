@@ -45,7 +45,8 @@ bool waitForShot(const QString& name, const std::function<bool(const QImage&)>& 
     last = shot();
     return !last.isNull() && holds(last);
   });
-  const QString folder = QStringLiteral(TROMELO_SHOTS) + (isX11() ? u"/x11/" : u"/wayland/");
+  const QString folder = QStringLiteral(TROMELO_SHOTS) +
+                         (isX11() ? QStringLiteral("/x11/") : QStringLiteral("/wayland/"));
   QDir().mkpath(folder);
   last.save(folder + name + QStringLiteral(".png"));
   return held;

@@ -222,12 +222,14 @@ TEST_F(PlayerWindowControllerTest, SortsDroppedFiles) {
     std::optional<QString> toast;
   };
   const Row rows[] = {
-      {{"/a.mkv"}, {"loadfile /a.mkv append -1 "}, QStringLiteral("Added to queue")},
+      {{"/a.mkv"}, {"loadfile /a.mkv replace -1 ", "pause=no"}, QStringLiteral("Added to queue")},
       {{"/a.mkv", "/b.mp4", "/c"},
-       {"loadfile /a.mkv append -1 ", "loadfile /b.mp4 append -1 ", "loadfile /c append -1 "},
+       {"loadfile /a.mkv replace -1 ", "pause=no", "loadfile /b.mp4 append -1 ",
+        "loadfile /c append -1 "},
        QStringLiteral("Added 3 videos to queue")},
       {{"/a.mkv", "/My.Film.SRT", "/b.mkv"},
-       {"sub-add /My.Film.SRT select", "loadfile /a.mkv append -1 ", "loadfile /b.mkv append -1 "},
+       {"sub-add /My.Film.SRT select", "loadfile /a.mkv replace -1 ", "pause=no",
+        "loadfile /b.mkv append -1 "},
        QStringLiteral("Subtitles: My.Film")},
       {{}, {}, std::nullopt},
   };
