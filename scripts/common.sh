@@ -44,16 +44,19 @@ locked() {
 # logged NAME WHAT COMMAND...: runs COMMAND quietly, saying what goes on, and for how long, as soon
 # as it takes more than a moment. Where it fails, ends with the reason.
 logged() {
-    local log=$cache/logs/$1.log what=$2 started=$SECONDS status=0
+    local log=$cache/logs/$1.log what=$2 started=$SECONDS status=0 stopped=
     shift 2
     { mkdir -p "$cache/logs" && : >"$log"; } 2>/dev/null \
         || die "$cache can't be written to; set XDG_CACHE_HOME to a directory with room."
     show_progress "$what" "$log" $$ &
     local ticker=$!
+    trap 'stopped=yes' INT
     "$@" </dev/null >"$log" 2>&1 || status=$?
+    trap - INT
     kill "$ticker" 2>/dev/null || true
     wait "$ticker" 2>/dev/null || true
     [ ! -t 2 ] || printf '\r\e[K' >&2
+    [ -z "$stopped" ] || { say "$what: stopped."; exit 130; }
     [ $status = 0 ] || explain "$what" "$log"
     [ $((SECONDS - started)) -lt 2 ] || say "$what: took $((SECONDS - started)) s."
 }
