@@ -37,17 +37,17 @@ std::optional<MpvNode> mpvNode(const mpv_node& node) {
   switch (node.format) {
     case MPV_FORMAT_STRING:
       if (!node.u.string) return {};
-      return MpvNode{std::string(node.u.string)};
+      return std::make_optional<MpvNode>(std::string(node.u.string));
     case MPV_FORMAT_FLAG:
-      return MpvNode{node.u.flag != 0};
+      return std::make_optional<MpvNode>(node.u.flag != 0);
     case MPV_FORMAT_INT64:
-      return MpvNode{node.u.int64};
+      return std::make_optional<MpvNode>(node.u.int64);
     case MPV_FORMAT_DOUBLE:
-      return MpvNode{node.u.double_};
+      return std::make_optional<MpvNode>(node.u.double_);
     case MPV_FORMAT_NODE_ARRAY:
-      return MpvNode{mpvList(node.u.list)};
+      return std::make_optional<MpvNode>(mpvList(node.u.list));
     case MPV_FORMAT_NODE_MAP:
-      return MpvNode{mpvMap(node.u.list)};
+      return std::make_optional<MpvNode>(mpvMap(node.u.list));
     default:
       return {};
   }
