@@ -64,21 +64,16 @@ bool PlayerWindow::hasDrawingSurface() const {
   return engineWindow_ && engineWindow_->hasDrawingSurface();
 }
 
-void PlayerWindow::setOpacity(double opacity) {
-  isFadingOut_ = false;
-  host_->fade().setOpacity(opacity);
-}
+void PlayerWindow::setOpacity(double opacity) { host_->fade().setOpacity(opacity); }
 
 void PlayerWindow::fadeTo(double opacity, std::chrono::milliseconds duration,
                           QEasingCurve::Type curve, std::function<void()> completed) {
-  isFadingOut_ = opacity <= 0;
   host_->fade().start(opacity, duration, curve, std::move(completed));
 }
 
 void PlayerWindow::makeKeyAndOrderFront() { host_->present(); }
 
 void PlayerWindow::orderOut() {
-  isFadingOut_ = false;
   host_->hide();
   if (!isVisible()) Q_EMIT finished();
 }
@@ -145,7 +140,8 @@ void PlayerWindow::handleVisibility(QWindow::Visibility visibility) {
 void PlayerWindow::handleTakenDown() {
   engineWindow_ = nullptr;
   Q_EMIT stateChanged();
-  if (!isFadingOut_) orderOut();
+  // What is on the screen goes when the player's rules say so: it may be fading out.
+  if (host_ && !host_->isVisible()) Q_EMIT finished();
 }
 
 std::unique_ptr<PlayerHostWindow> PlayerWindow::takeHost() {

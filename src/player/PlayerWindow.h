@@ -65,7 +65,6 @@ class PlayerWindow : public VideoWindow {
   std::deque<QSize> requestedSizes_;
   bool wasFullscreen_ = false;
   bool hostStateScheduled_ = false;
-  bool isFadingOut_ = false;
 };
 
 }  // namespace tromelo

@@ -174,7 +174,6 @@ void PlayerWindowController::finishClose() {
 
 void PlayerWindowController::stopAndTearDown() {
   playback_.engine().command({"stop"});
-  window_->orderOut();
   tearDownWindowState();
 }
 
@@ -182,19 +181,23 @@ void PlayerWindowController::tearDownWindowState() {
   revealFallback_.reset();
   fullscreenExitFallback_.reset();
   overlay_.reset();
-  if (window_) {
-    window_->showPointer();
-    window_->disconnect(this);
-    forgetWhenDestroyed(*window_);
-    window_ = nullptr;
-  }
+  const QPointer<VideoWindow> window = window_;
+  window_ = nullptr;
   isRevealed_ = false;
   isClosing_ = false;
   isFadingOut_ = false;
   chrome_.setShowsInfo(false);
   chrome_.setPanel(std::nullopt);
   chrome_.setToast(std::nullopt);
+  if (window) giveUp(*window);
   Q_EMIT windowStateChanged();
+}
+
+void PlayerWindowController::giveUp(VideoWindow& window) {
+  window.disconnect(this);
+  forgetWhenDestroyed(window);
+  window.showPointer();
+  window.orderOut();
 }
 
 void PlayerWindowController::handleDroppedFiles(const QList<QUrl>& urls) {

@@ -67,6 +67,7 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   void finishClose();
   void stopAndTearDown();
   void tearDownWindowState();
+  void giveUp(VideoWindow& window);
 
   PlaybackModel& playback_;
   WindowSystem& windows_;

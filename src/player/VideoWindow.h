@@ -9,7 +9,7 @@
 namespace tromelo {
 
 /// A window that the engine has opened, with the host window that shows it. It begins transparent
-/// and off the screen.
+/// and off the screen, and stays alive until the engine has taken it down and it is ordered out.
 class VideoWindow : public HostWindow {
   Q_OBJECT
 

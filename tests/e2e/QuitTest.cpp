@@ -12,7 +12,8 @@ TEST_F(EndToEnd, QuitsInOrderDuringPlayback) {
   EXPECT_FALSE(player.runtimeFiles().isEmpty());
   EXPECT_EQ(player.quit(), 0);
   EXPECT_EQ(player.runtimeFiles(), QStringList());
-  EXPECT_EQ(player.errors(), QByteArray());
+  for (const char* ours : {"QObject", "QSocket", "qrc:", "qt.", "ERROR: "})
+    EXPECT_FALSE(player.errors().contains(ours)) << player.errors().toStdString();
   QFile log(player.logPath());
   ASSERT_TRUE(log.open(QIODevice::ReadOnly));
   EXPECT_FALSE(log.readAll().isEmpty());
@@ -22,9 +23,9 @@ TEST_F(EndToEnd, QuitsFromTheLibraryAndFromItsKey) {
   player.start();
   ASSERT_TRUE(player.waitFor(QStringLiteral("status"), QStringLiteral("Open a video to begin")));
   if (screen::isX11()) {
-    ASSERT_TRUE(player.waitUntil([&] { return !window("Tromelo").isEmpty(); }));
+    ASSERT_TRUE(player.waitUntil([&] { return !window("^Tromelo$").isEmpty(); }));
     screen::run(QStringLiteral("xdotool"),
-                {QStringLiteral("windowfocus"), QStringLiteral("--sync"), window("Tromelo")});
+                {QStringLiteral("windowfocus"), QStringLiteral("--sync"), window("^Tromelo$")});
     screen::press(QStringLiteral("ctrl+q"));
     EXPECT_EQ(player.waitForEnd(), 0);
   } else {

@@ -11,14 +11,14 @@ TEST_F(EndToEnd, PlaysAFileFromItsStartAndReturnsToTheLibrary) {
   EXPECT_TRUE(screen::waitForShot(QStringLiteral("playing"), showsTestPicture));
   if (!screen::isX11()) return;
 
-  ASSERT_EQ(window("Tromelo"), window("sample"));
+  EXPECT_TRUE(window("^Tromelo$").isEmpty());
   screen::press(QStringLiteral("alt+F4"));
   ASSERT_TRUE(player.waitFor(QStringLiteral("window"), QStringLiteral("none")));
   EXPECT_TRUE(player.isRunning());
   EXPECT_TRUE(screen::waitForShot(QStringLiteral("library"), [](const QImage& image) {
     return !showsTestPicture(image) && image.pixelColor(image.rect().center()).lightness() < 60;
   }));
-  EXPECT_FALSE(window("Tromelo").isEmpty());
+  EXPECT_FALSE(window("^Tromelo$").isEmpty());
 }
 
 TEST_F(EndToEnd, GoesToFullScreenAndBackToTheSizeItHad) {
@@ -70,10 +70,9 @@ TEST_F(EndToEnd, OpensFiftyFilesInARow) {
   ASSERT_TRUE(player.waitUntilPlaying());
   EngineProbe engine = probe();
   for (int i = 0; i < 50; ++i) {
-    const QString file = clip(i % 2 ? "sample.mp4" : "short-320x240.mp4");
+    const QString file = clip(i % 2 ? "sample.mp4" : "short-wide.mp4");
     engine.command({QStringLiteral("loadfile"), file, QStringLiteral("replace")});
-    const QString title =
-        QString(i % 2 ? QStringLiteral("sample") : QStringLiteral("short-320x240"));
+    const QString title = QString(i % 2 ? QStringLiteral("sample") : QStringLiteral("short-wide"));
     ASSERT_TRUE(player.waitUntil([&] {
       return player.said(QStringLiteral("title")) == title && player.isRevealed() &&
              player.said(QStringLiteral("status")) != QStringLiteral("Opening media");
