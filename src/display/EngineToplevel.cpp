@@ -59,6 +59,10 @@ void EngineToplevel::setSink(std::shared_ptr<VideoSink> sink) {
 void EngineToplevel::committed() {
   if (toplevel_->base->initial_commit) {
     state_.visible = true;
+    if (wl_resource_get_version(toplevel_->resource) >= XDG_TOPLEVEL_WM_CAPABILITIES_SINCE_VERSION)
+      wlr_xdg_toplevel_set_wm_capabilities(
+          toplevel_,
+          WLR_XDG_TOPLEVEL_WM_CAPABILITIES_FULLSCREEN | WLR_XDG_TOPLEVEL_WM_CAPABILITIES_MINIMIZE);
     configure();
   }
   state_.size = QSize(surface()->current.width, surface()->current.height);

@@ -19,7 +19,7 @@ class EngineWindow : public QObject {
   virtual bool isMinimized() const = 0;
   /// The engine draws its video here, as opposed to a helper's window without a surface to draw on.
   virtual bool hasDrawingSurface() const = 0;
-  /// What the engine last asked for.
+  /// What the engine last asked for, or was told since.
   virtual bool isFullscreen() const = 0;
   virtual QString title() const = 0;
   /// The size that the engine chose for itself and last committed; empty before its first buffer.

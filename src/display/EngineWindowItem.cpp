@@ -2,6 +2,8 @@
 
 #include <QEvent>
 #include <QQuickWindow>
+#include <QSGRendererInterface>
+#include <utility>
 
 #include "display/PictureNode.h"
 #include "display/SceneItemSink.h"
@@ -9,8 +11,17 @@
 
 namespace tromelo {
 
+namespace {
+
+bool canShowPictures(const QQuickWindow& window) {
+  return window.rendererInterface()->graphicsApi() == QSGRendererInterface::OpenGL;
+}
+
+}  // namespace
+
 EngineWindowItem::EngineWindowItem(QQuickItem* parent) : QQuickItem(parent) {
   setFlag(ItemHasContents);
+  watch(window());  // the base's constructor has told only itself of it
 }
 
 EngineWindowItem::~EngineWindowItem() { detach(); }
@@ -44,11 +55,11 @@ void EngineWindowItem::detach() {
 
 QSGNode* EngineWindowItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {
   auto* picture = static_cast<PictureNode*>(node);
-  if (picture && picture->sink() != sink_.get()) {
+  if (picture && picture->sink() != sink_.get()) delete std::exchange(picture, nullptr);
+  if (!sink_ || !canShowPictures(*window())) {
     delete picture;
-    picture = nullptr;
+    return nullptr;
   }
-  if (!sink_) return nullptr;
   if (!picture) picture = new PictureNode(window(), sink_);  // the scene graph owns it
   picture->synchronize(size());
   return picture;

@@ -3,8 +3,6 @@
 #include <QSize>
 #include <memory>
 
-#include "display/PixelFormat.h"
-
 class QQuickWindow;
 class QSGTexture;
 
@@ -24,6 +22,8 @@ class GlTexture {
   QSGTexture* handle(QQuickWindow* window, QSize size, bool hasAlpha);
 
  private:
+  void setAlpha(bool hasAlpha) const;
+
   unsigned id_ = 0;
   QSize size_;
   bool hasAlpha_ = false;

@@ -6,6 +6,8 @@
 
 namespace tromelo {
 
+inline constexpr int bytesPerPixel = 4;
+
 /// An 8-bit format that the scene can sample; named by its DRM FourCC.
 struct PixelFormat {
   std::uint32_t fourcc = 0;

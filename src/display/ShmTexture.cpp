@@ -10,7 +10,6 @@ namespace tromelo {
 
 namespace {
 
-constexpr int bytesPerPixel = 4;
 // Beyond this, one upload of everything is cheaper than many of parts.
 constexpr int maximumRectangles = 8;
 constexpr double worthwhileShare = 0.75;
@@ -19,7 +18,6 @@ constexpr double worthwhileShare = 0.75;
 constexpr GLenum unpackRowLength = 0x0CF2;
 constexpr GLenum swizzleRed = 0x8E42;
 constexpr GLenum swizzleBlue = 0x8E44;
-constexpr GLenum swizzleAlpha = 0x8E45;
 constexpr GLenum red = 0x1903;
 constexpr GLenum blue = 0x1905;
 
@@ -38,7 +36,7 @@ QRegion worthUploading(const QRegion& damage, QSize size) {
 }
 
 /// One texture for all frames of a size. The bytes are uploaded as they are; the sampler puts the
-/// colours in their places and reads one where a format has no alpha.
+/// colours in their places.
 class ShmTexture final : public FrameTexture {
  public:
   QSGTexture* prepare(QQuickWindow* window, const Frame& frame) override;
@@ -77,7 +75,6 @@ void ShmTexture::allocate(QSize size, const PixelFormat& format) {
     gl->glTexParameteri(GL_TEXTURE_2D, swizzleRed, blue);
     gl->glTexParameteri(GL_TEXTURE_2D, swizzleBlue, red);
   }
-  if (!format.hasAlpha) gl->glTexParameteri(GL_TEXTURE_2D, swizzleAlpha, GL_ONE);
   gl->glBindTexture(GL_TEXTURE_2D, 0);
 }
 

@@ -1,0 +1,120 @@
+// The engine's pixels in the scene, out of memory that EGL imports. A software EGL on a Wayland
+// host takes a memfd for a GPU's buffer.
+#include <sys/sysmacros.h>
+
+#include "SceneTest.h"
+#include "display/PixelFormat.h"
+
+namespace tromelo::testing {
+namespace {
+
+constexpr std::uint64_t linear = 0;
+constexpr std::uint64_t someTiling = 0x0100000000000001;
+
+class DmabufTest : public SceneTest {
+ protected:
+  std::optional<DmabufSupport> dmabuf() const override {
+    DmabufSupport support{makedev(226, 128), {}};
+    for (const PixelFormat& format : pixelFormats)
+      support.formats.push_back({format.fourcc, {linear}});
+    return support;
+  }
+
+  TestBuffer& add(TestBuffer::Layout layout, std::uint64_t modifier = linear) {
+    auto& buffer = buffers_.emplace_back(std::make_unique<TestBuffer>(layout));
+    buffer->createDmabuf(*client_, modifier);
+    return *buffer;
+  }
+  TestBuffer& addPlain(QColor color) {
+    TestBuffer& buffer = add({.size = sceneSize});
+    buffer.fill([color](int, int) { return color; });
+    return buffer;
+  }
+};
+
+TEST_F(DmabufTest, EveryFormatArrivesAsItIs) {
+  for (const PixelFormat& format : pixelFormats)
+    for (const int padding : {0, 64}) {
+      SCOPED_TRACE(::testing::Message() << std::hex << format.fourcc << " padding " << padding);
+      TestBuffer& buffer = add({sceneSize, format.fourcc, padding});
+      buffer.fill(patternColor, format.hasAlpha ? 255 : 17);
+      show(buffer);
+      EXPECT_EQ(firstDifference(grab(), patternColor), "");
+    }
+}
+
+TEST_F(DmabufTest, ABufferIsShownAgainWithItsNewContentAndWithoutACopy) {
+  TestBuffer& buffer = addPlain(Qt::red);
+  show(buffer);
+  EXPECT_EQ(grab().pixelColor(80, 45), QColor(Qt::red));
+  buffer.fill([](int, int) { return QColor(Qt::green); });
+  show(buffer);
+  EXPECT_EQ(grab().pixelColor(80, 45), QColor(Qt::green));
+}
+
+TEST_F(DmabufTest, ABufferGoesBackWhenTheNextIsOnTheScreenAndNotBefore) {
+  TestBuffer& first = addPlain(Qt::red);
+  TestBuffer& second = addPlain(Qt::green);
+  show(first);
+  client_->roundtrip();
+  EXPECT_EQ(first.releases(), 0);
+  show(second);
+  EXPECT_TRUE(wait([&] { return first.releases() == 1; }));
+  EXPECT_EQ(second.releases(), 0);
+}
+
+TEST_F(DmabufTest, TheEngineMayDestroyABufferThatIsShown) {
+  TestBuffer& first = addPlain(Qt::red);
+  show(first);
+  first.destroyBuffer();
+  client_->roundtrip();
+  EXPECT_EQ(grab().pixelColor(80, 45), QColor(Qt::red));
+  show(addPlain(Qt::green));
+  EXPECT_EQ(grab().pixelColor(80, 45), QColor(Qt::green));
+}
+
+TEST_F(DmabufTest, ABufferThatIsDestroyedOnTheWayIsShown) {
+  TestBuffer& buffer = addPlain(Qt::red);
+  const auto answers = toplevel_->commit(&buffer);
+  buffer.destroyBuffer();
+  ASSERT_TRUE(wait([&] { return answers->presentation.has_value(); }));
+  EXPECT_TRUE(answers->presentation->presented);
+  EXPECT_EQ(grab().pixelColor(80, 45), QColor(Qt::red));
+}
+
+TEST_F(DmabufTest, KindsOfMemoryMayChangeFromFrameToFrame) {
+  const auto shared = plainBuffer(*client_, sceneSize, Qt::blue);
+  show(addPlain(Qt::red));
+  show(*shared);
+  EXPECT_EQ(grab().pixelColor(80, 45), QColor(Qt::blue));
+  show(addPlain(Qt::green));
+  EXPECT_EQ(grab().pixelColor(80, 45), QColor(Qt::green));
+}
+
+TEST_F(DmabufTest, WhatWasNotAnnouncedIsRefused) {
+  constexpr std::uint32_t tenBit = 0x30335258;  // XR30
+  const struct {
+    const char* name;
+    std::uint32_t fourcc;
+    std::uint64_t modifier;
+    int padding;
+  } cases[] = {
+      {"modifier", pixelFormats[0].fourcc, someTiling, 0},
+      {"format", tenBit, linear, 0},
+      {"stride shorter than a line", pixelFormats[0].fourcc, linear, -sceneSize.width() * 2},
+  };
+  for (const auto& row : cases) {
+    SCOPED_TRACE(row.name);
+    TestClient client(display_->socketPath());
+    TestBuffer buffer({sceneSize, row.fourcc, row.padding});
+    buffer.createDmabuf(client, row.modifier);
+    TestToplevel toplevel(client);
+    toplevel.start();
+    EXPECT_TRUE(client.faultyInterface().starts_with("zwp_linux"));
+    buffer.destroyBuffer();
+  }
+  show(addPlain(Qt::green));
+}
+
+}  // namespace
+}  // namespace tromelo::testing

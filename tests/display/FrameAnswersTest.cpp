@@ -1,0 +1,203 @@
+// What the engine gets back for a frame: its buffer, a frame callback, the time it was shown.
+#include <chrono>
+#include <thread>
+
+#include "DisplayTest.h"
+#include "support/WaitFor.h"
+
+namespace tromelo::testing {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr QSize pictureSize(32, 18);
+
+std::chrono::nanoseconds now() { return std::chrono::steady_clock::now().time_since_epoch(); }
+
+/// A window with a sink that only the test empties, on a screen so slow that the display's own
+/// timer is far away.
+class FrameAnswersTest : public DisplayTest {
+ protected:
+  PrivateDisplay::Output output() const override { return {QSize(1280, 800), refreshMillihertz_}; }
+
+  void SetUp() override {
+    DisplayTest::SetUp();
+    toplevel_ = std::make_unique<TestToplevel>(*client_);
+    toplevel_->start();
+    window_ = announcedWindow();
+    ASSERT_TRUE(window_);
+    sink_ = std::make_shared<KeepingSink>();
+    framesOf(window_).setSink(sink_);
+    for (auto& buffer : buffers_) buffer = plainBuffer(*client_, pictureSize);
+  }
+  void TearDown() override {
+    toplevel_.reset();
+    sink_.reset();
+    for (auto& buffer : buffers_) buffer.reset();
+    DisplayTest::TearDown();
+  }
+
+  std::shared_ptr<Frame> takeFrame() {
+    std::shared_ptr<Frame> frame;
+    EXPECT_TRUE(wait([&] { return (frame = sink_->takeLast()) != nullptr; }));
+    return frame;
+  }
+
+  int refreshMillihertz_ = 20;  // 50 seconds
+  std::unique_ptr<TestToplevel> toplevel_;
+  EngineWindow* window_ = nullptr;
+  std::shared_ptr<KeepingSink> sink_;
+  std::unique_ptr<TestBuffer> buffers_[3];
+};
+
+TEST_F(FrameAnswersTest, TheCallbackComesWhenTheFrameWasShownAndNotBefore) {
+  const auto answers = toplevel_->commit(buffers_[0].get());
+  const auto frame = takeFrame();
+  client_->roundtrip();
+  EXPECT_EQ(answers->frameCallbacks, 0);
+  EXPECT_FALSE(answers->presentation);
+  frame->markShown(now());
+  EXPECT_TRUE(wait([&] { return answers->frameCallbacks == 1; }));
+}
+
+TEST_F(FrameAnswersTest, ACallbackIsNotAnsweredByTheFrameBefore) {
+  const auto first = toplevel_->commit(buffers_[0].get());
+  const auto frame = takeFrame();
+  const auto second = toplevel_->commit(buffers_[1].get());
+  frame->markShown(now());
+  EXPECT_TRUE(wait([&] { return first->frameCallbacks == 1; }));
+  EXPECT_EQ(second->frameCallbacks, 0);
+}
+
+TEST_F(FrameAnswersTest, PresentationHasTheTimeOfTheSwapARisingCountAndTheRefresh) {
+  std::uint64_t lastSequence = 0;
+  for (int i = 0; i < 3; ++i) {
+    const auto answers = toplevel_->commit(buffers_[i].get());
+    const auto frame = takeFrame();
+    const auto shownAt = now();
+    frame->markShown(shownAt);
+    ASSERT_TRUE(wait([&] { return answers->presentation.has_value(); }));
+    EXPECT_TRUE(answers->presentation->presented);
+    EXPECT_EQ(answers->presentation->nanoseconds, std::uint64_t(shownAt.count()));
+    EXPECT_EQ(answers->presentation->refresh, std::uint32_t(std::chrono::nanoseconds(50s).count()));
+    EXPECT_GT(answers->presentation->sequence, lastSequence);
+    lastSequence = answers->presentation->sequence;
+  }
+}
+
+TEST_F(FrameAnswersTest, ASupersededFrameIsDiscardedAndItsBufferComesBack) {
+  const auto first = toplevel_->commit(buffers_[0].get());
+  const auto second = toplevel_->commit(buffers_[1].get());
+  EXPECT_TRUE(wait([&] { return first->presentation && buffers_[0]->releases() == 1; }));
+  EXPECT_FALSE(first->presentation->presented);
+
+  takeFrame()->markShown(now());
+  EXPECT_TRUE(wait([&] { return second->presentation.has_value(); }));
+  EXPECT_TRUE(second->presentation->presented);
+  EXPECT_EQ(first->frameCallbacks, 1);
+  EXPECT_EQ(second->frameCallbacks, 1);
+}
+
+TEST_F(FrameAnswersTest, ABufferIsTheSinksUntilItIsGivenBack) {
+  toplevel_->commit(buffers_[0].get());
+  const auto frame = takeFrame();
+  client_->roundtrip();
+  EXPECT_EQ(buffers_[0]->releases(), 0);
+  frame->releaseBuffer();
+  EXPECT_TRUE(wait([&] { return buffers_[0]->releases() == 1; }));
+}
+
+TEST_F(FrameAnswersTest, ASinkThatComesLateGetsTheNewestFrame) {
+  TestToplevel other(*client_);
+  other.start();
+  ASSERT_TRUE(wait([&] { return added_.size() == 2; }));
+  other.commit(buffers_[0].get());
+  other.commit(buffers_[1].get());
+  EXPECT_TRUE(wait([&] { return buffers_[0]->releases() == 1; }));
+  framesOf(added_.last()).setSink(sink_);
+  EXPECT_EQ(takeFrame()->content().sequence, 2u);
+}
+
+TEST_F(FrameAnswersTest, AFrameSaysWhatIsNewAndWhatToShow) {
+  toplevel_->commit(buffers_[0].get());
+  takeFrame();
+  const Proxy<wp_viewport> viewport(
+      wp_viewporter_get_viewport(client_->viewporter(), toplevel_->surface()));
+  wp_viewport_set_source(viewport.get(), wl_fixed_from_int(4), wl_fixed_from_int(2),
+                         wl_fixed_from_int(16), wl_fixed_from_int(9));
+  wp_viewport_set_destination(viewport.get(), 160, 90);
+  toplevel_->commit(buffers_[1].get(), QRect(1, 2, 3, 4));
+  const auto frame = takeFrame();
+  EXPECT_EQ(frame->content().buffer->size, pictureSize);
+  EXPECT_EQ(frame->content().source, QRectF(4, 2, 16, 9));
+  EXPECT_EQ(frame->content().size, QSize(160, 90));
+  EXPECT_EQ(frame->content().damage, QRegion(1, 2, 3, 4));
+}
+
+TEST_F(FrameAnswersTest, AFrameMayOutliveWindowClientAndDisplay) {
+  toplevel_->commit(buffers_[0].get());
+  const auto frame = takeFrame();
+  toplevel_.reset();
+  for (auto& buffer : buffers_) buffer.reset();
+  client_.reset();
+  display_.reset();
+  const auto& pixels = std::get<std::shared_ptr<const ShmPixels>>(frame->content().buffer->pixels);
+  EXPECT_NE(pixels->data()[0], pixels->data()[2]);  // red, still mapped
+  frame->markShown(now());
+}
+
+class HiddenTest : public FrameAnswersTest {};
+
+/// A second is what a hidden window waits for a callback, however fast or slow the screen is.
+TEST_F(HiddenTest, TheEngineIsToldAndStillGetsItsCallbacks) {
+  window_->setHostState({{}, false, false, false});
+  EXPECT_TRUE(
+      wait([&] { return toplevel_->configure()->states.contains(XDG_TOPLEVEL_STATE_SUSPENDED); }));
+  for (int i = 0; i < 2; ++i) {
+    const auto answers = toplevel_->commit(buffers_[i].get());
+    EXPECT_TRUE(wait([&] { return answers->frameCallbacks == 1; }));
+    EXPECT_FALSE(answers->presentation && answers->presentation->presented);
+  }
+}
+
+TEST_F(HiddenTest, NotBeingExposedIsBeingHidden) {
+  framesOf(window_).setExposed(false);
+  EXPECT_TRUE(
+      wait([&] { return toplevel_->configure()->states.contains(XDG_TOPLEVEL_STATE_SUSPENDED); }));
+  framesOf(window_).setExposed(true);
+  EXPECT_TRUE(
+      wait([&] { return !toplevel_->configure()->states.contains(XDG_TOPLEVEL_STATE_SUSPENDED); }));
+}
+
+class BusySceneTest : public FrameAnswersTest {
+ protected:
+  BusySceneTest() { refreshMillihertz_ = 60'000; }
+};
+
+TEST_F(BusySceneTest, TheDisplaysOwnTimerAnswersWhereTheSceneDoesNot) {
+  // Nothing here runs the main thread's event loop.
+  for (int i = 0; i < 20; ++i) {
+    TestBuffer* buffer = buffers_[i % 3].get();
+    const auto answers = toplevel_->commit(buffer);
+    while (answers->frameCallbacks == 0) ASSERT_TRUE(client_->roundtrip());
+    EXPECT_FALSE(answers->presentation);
+  }
+  // Two are with the engine all the time: one waits for the scene, and the others came back.
+  EXPECT_EQ(sink_->commits(), 20u);
+  EXPECT_EQ(buffers_[0]->releases() + buffers_[1]->releases() + buffers_[2]->releases(), 19);
+}
+
+TEST_F(BusySceneTest, SurfacesWithoutAWindowAreAnsweredToo) {
+  const Proxy<wl_surface> surface(wl_compositor_create_surface(client_->compositor()));
+  int done = 0;
+  static constexpr wl_callback_listener listener{
+      .done = [](void* self, wl_callback*, std::uint32_t) { ++*static_cast<int*>(self); }};
+  const Proxy<wl_callback> callback(wl_surface_frame(surface.get()));
+  wl_callback_add_listener(callback.get(), &listener, &done);
+  wl_surface_attach(surface.get(), buffers_[0]->get(), 0, 0);
+  wl_surface_commit(surface.get());
+  EXPECT_TRUE(wait([&] { return done == 1 && buffers_[0]->releases() == 1; }));
+}
+
+}  // namespace
+}  // namespace tromelo::testing
