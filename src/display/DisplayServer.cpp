@@ -17,7 +17,6 @@ namespace {
 constexpr std::uint32_t compositorVersion = 6;
 constexpr std::uint32_t shellVersion = 6;
 constexpr std::uint32_t shmVersion = 1;
-constexpr std::uint32_t dmabufVersion = 4;
 #if WLR_VERSION_NUM >= ((0 << 16) | (19 << 8))
 constexpr std::uint32_t presentationVersion = 1;
 #endif
@@ -60,7 +59,7 @@ DisplayServer::DisplayServer(const PrivateDisplay::Output& output,
   if (!display_ || queue_->fd() < 0) return;
   output_ = OutputHead::create(display_.get(), output);
   if (!output_ || !createGlobals()) return;
-  if (dmabuf) createDmabuf(*dmabuf);
+  if (dmabuf) dmabuf_ = std::make_unique<DmabufGlobal>(display_.get(), *dmabuf);
   wl_event_loop* loop = wl_display_get_event_loop(display_.get());
   tasks_ = EventSource::readable(loop, queue_->fd(), [this] { queue_->run(); });
   door_ = EventSource::readable(loop, listeningFd_, [this] { acceptClients(); });
@@ -72,6 +71,7 @@ DisplayServer::~DisplayServer() {
   door_.reset();
   tasks_.reset();
   wl_display_destroy_clients(display_.get());
+  dmabuf_.reset();
   inhibitors_.reset();
   newSurface_.disconnect();
   newToplevel_.disconnect();
@@ -98,20 +98,6 @@ bool DisplayServer::createGlobals() {
   inhibitors_ = std::make_unique<IdleInhibitors>(
       inhibit, [this](bool inhibited) { observer_.idleInhibitedChanged(inhibited); });
   return true;
-}
-
-/// wlroots makes the global only for a real DRM device; without one the engine uses shared memory.
-void DisplayServer::createDmabuf(const DmabufSupport& support) {
-  wlr_linux_dmabuf_feedback_v1 feedback{};
-  feedback.main_device = support.mainDevice;
-  if (auto* tranche = wlr_linux_dmabuf_feedback_add_tranche(&feedback)) {
-    tranche->target_device = support.mainDevice;
-    for (const DmabufSupport::Format& format : support.formats)
-      for (const std::uint64_t modifier : format.modifiers)
-        wlr_drm_format_set_add(&tranche->formats, format.fourcc, modifier);
-    wlr_linux_dmabuf_v1_create(display_.get(), dmabufVersion, &feedback);
-  }
-  wlr_linux_dmabuf_feedback_v1_finish(&feedback);
 }
 
 void DisplayServer::run() {

@@ -6,7 +6,7 @@
 #include <memory>
 #include <optional>
 
-#include "display/DmabufSupport.h"
+#include "display/DmabufGlobal.h"
 #include "display/EngineToplevel.h"
 #include "display/IdleInhibitors.h"
 #include "display/OutputHead.h"
@@ -53,7 +53,6 @@ class DisplayServer {
   };
 
   bool createGlobals();
-  void createDmabuf(const DmabufSupport& support);
   void acceptClients();
   void addSurface(wlr_surface* surface);
   void addWindow(wlr_xdg_toplevel* toplevel);
@@ -65,6 +64,7 @@ class DisplayServer {
   std::unique_ptr<OutputHead> output_;
   std::optional<EventSource> tasks_;
   std::optional<EventSource> door_;
+  std::unique_ptr<DmabufGlobal> dmabuf_;
   std::unique_ptr<IdleInhibitors> inhibitors_;
   wlr_seat* seat_ = nullptr;
   Listener newSurface_;

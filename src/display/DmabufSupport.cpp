@@ -12,8 +12,6 @@ namespace tromelo {
 
 namespace {
 
-constexpr std::uint64_t linearModifier = 0;
-
 std::optional<dev_t> deviceOf(EGLDisplay display) {
   struct stat status{};
   const QByteArray path = drmNodePath(display);
@@ -61,6 +59,7 @@ std::optional<DmabufSupport> DmabufSupport::query() {
     const auto fourcc = EGLint(format.fourcc);
     if (std::ranges::find(importable, fourcc) == importable.end()) continue;
     auto modifiers = sampledModifiers(display, fourcc);
+    if (modifiers.empty()) modifiers.push_back(implicitModifier);  // a driver older than modifiers
     if (std::ranges::find(modifiers, linearModifier) == modifiers.end())
       modifiers.push_back(linearModifier);
     support.formats.push_back({format.fourcc, std::move(modifiers)});

@@ -32,9 +32,6 @@ constexpr std::array<PlaneNames, 4> planeNames{{
      EGL_DMA_BUF_PLANE3_MODIFIER_LO_EXT, EGL_DMA_BUF_PLANE3_MODIFIER_HI_EXT},
 }};
 
-// The modifier of a buffer whose layout only its driver knows.
-constexpr std::uint64_t implicitModifier = 0x00ffffffffffffff;
-
 std::vector<EGLint> importAttributes(const ClientBuffer& buffer, const DmabufPixels& pixels) {
   std::vector<EGLint> list{
       EGL_WIDTH,

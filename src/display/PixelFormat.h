@@ -8,6 +8,10 @@ namespace tromelo {
 
 inline constexpr int bytesPerPixel = 4;
 
+// Layouts of a GPU's buffer.
+inline constexpr std::uint64_t linearModifier = 0;
+inline constexpr std::uint64_t implicitModifier = 0x00ffffffffffffff;  // only its driver knows
+
 /// An 8-bit format that the scene can sample; named by its DRM FourCC.
 struct PixelFormat {
   std::uint32_t fourcc = 0;

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "display/DmabufSupport.h"
+#include "display/Wlroots.h"
+
+namespace tromelo {
+
+/// Announces zwp_linux_dmabuf_v1 and refuses every buffer that isn't of an announced kind.
+/// Display's thread; ends before the display does, and after its clients.
+class DmabufGlobal {
+ public:
+  /// wlroots announces it only for a real DRM device; without one the engine uses shared memory.
+  DmabufGlobal(wl_display* display, DmabufSupport support);
+  DmabufGlobal(const DmabufGlobal&) = delete;
+  DmabufGlobal& operator=(const DmabufGlobal&) = delete;
+
+  /// The layout of the memory is what was announced, as far as that can be told from outside.
+  static bool accepts(const DmabufSupport& support, const wlr_dmabuf_attributes& attributes);
+
+ private:
+  DmabufSupport support_;
+};
+
+}  // namespace tromelo
