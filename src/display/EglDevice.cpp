@@ -1,5 +1,7 @@
 #include "display/EglDevice.h"
 
+#include <QtGui/private/qguiapplication_p.h>
+#include <qpa/qplatformintegration.h>
 #include <qpa/qplatformnativeinterface.h>
 #include <QGuiApplication>
 #include <QList>
@@ -16,6 +18,9 @@ bool listHas(const char* list, const char* name) {
 
 EGLDisplay platformEglDisplay() {
   if (!qGuiApp) return EGL_NO_DISPLAY;
+  // Asking makes the X11 platform load its OpenGL integration, which alone knows the display.
+  if (!QGuiApplicationPrivate::platformIntegration()->hasCapability(QPlatformIntegration::OpenGL))
+    return EGL_NO_DISPLAY;
   QPlatformNativeInterface* platform = QGuiApplication::platformNativeInterface();
   if (!platform) return EGL_NO_DISPLAY;
   return platform->nativeResourceForIntegration("egldisplay");

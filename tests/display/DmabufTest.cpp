@@ -4,6 +4,7 @@
 
 #include "SceneTest.h"
 #include "display/PixelFormat.h"
+#include "display/SelftestLines.h"
 
 namespace tromelo::testing {
 namespace {
@@ -89,6 +90,14 @@ TEST_F(DmabufTest, KindsOfMemoryMayChangeFromFrameToFrame) {
   EXPECT_EQ(grab().pixelColor(80, 45), QColor(Qt::blue));
   show(addPlain(Qt::green));
   EXPECT_EQ(grab().pixelColor(80, 45), QColor(Qt::green));
+}
+
+TEST_F(DmabufTest, AnnouncesItsDeviceFormatsAndModifiers) {
+  const QStringList lines = displayLines(display_->socketPath());
+  EXPECT_TRUE(lines.contains("dmabuf main device: 226:128"));
+  EXPECT_EQ(lines.filter("dmabuf format: "),
+            (QStringList{"dmabuf format: AR24 with linear", "dmabuf format: XR24 with linear",
+                         "dmabuf format: AB24 with linear", "dmabuf format: XB24 with linear"}));
 }
 
 TEST_F(DmabufTest, WhatWasNotAnnouncedIsRefused) {

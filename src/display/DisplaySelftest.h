@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <functional>
+
+namespace tromelo {
+
+/// The engine, for a selftest: plays something with video on the private display.
+struct SelftestEngine {
+  std::function<void(const QByteArray& socketPath)> start;
+  std::function<QString()> hardwareDecoder;  // the one in use; empty: none
+  std::function<void()> stop;                // returns when the engine is gone
+};
+
+/// What a report from the field needs to say of the way that pictures take on this machine, one
+/// "name: value" a line. Starts a private display, asks it as the engine would, and, where there is
+/// an engine, waits a few seconds for its first frame. Main thread, after the application object;
+/// runs the event loop.
+QString displaySelftest(const SelftestEngine& engine = {});
+
+}  // namespace tromelo
