@@ -1,11 +1,11 @@
 #include "engine/MpvEngine.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QThreadPool>
 #include <utility>
 
 #include "engine/EngineEnvironment.h"
+#include "engine/MainThread.h"
 #include "engine/MpvClientApi.h"
 #include "engine/MpvErrorText.h"
 #include "engine/MpvOptions.h"
@@ -27,7 +27,8 @@ int sendCommand(const MpvClientApi& api, mpv_handle* handle, const MpvCommand& c
 
 int sendWrite(const MpvClientApi& api, mpv_handle* handle, const MpvPropertyWrite& write) {
   const char* value = write.value.c_str();
-  return api.setPropertyAsync(handle, 0, write.name.c_str(), MPV_FORMAT_STRING, &value);
+  return api.setPropertyAsync(handle, 0, write.name.c_str(), MPV_FORMAT_STRING,
+                              static_cast<void*>(&value));
 }
 
 }  // namespace
@@ -98,11 +99,9 @@ void MpvEngine::terminate(std::function<void()> completion) {
   // The application object waits for the pool before it is gone, so that the process never ends
   // under libmpv's threads.
   QThreadPool::globalInstance()->start(
-      [destroy = api_->terminateDestroy, handle, completion = std::move(completion)]() mutable {
+      [destroy = api_->terminateDestroy, handle, completion = std::move(completion)] {
         destroy(handle.pointer);
-        if (QObject* mainThread = QCoreApplication::instance()) {
-          QMetaObject::invokeMethod(mainThread, std::move(completion), Qt::QueuedConnection);
-        }
+        postToMainThread(completion);
       });
 }
 

@@ -1,8 +1,6 @@
 #include "engine/WakeupTarget.h"
 
-#include <QCoreApplication>
-#include <QMetaObject>
-
+#include "engine/MainThread.h"
 #include "engine/MpvEngine.h"
 
 namespace tromelo {
@@ -11,10 +9,7 @@ void WakeupTarget::wakeup(void* context) {
   if (!context) return;
   auto target = static_cast<WakeupTarget*>(context)->shared_from_this();
   if (target->posted_.exchange(true)) return;
-  // Without an application object the process is ending and nobody listens any more.
-  QObject* mainThread = QCoreApplication::instance();
-  if (!mainThread) return;
-  QMetaObject::invokeMethod(mainThread, [target] { target->drain(); }, Qt::QueuedConnection);
+  postToMainThread([target] { target->drain(); });
 }
 
 void WakeupTarget::drain() {

@@ -34,7 +34,7 @@ void PlaybackModel::startEngine(const QString& diagnosticsDirectory) {
   };
   if (const auto error = engine_.initialize(diagnosticsDirectory)) {
     status_ = QString::fromUtf8(*error);
-    errorMessage_ = status_;
+    errorMessage_ = status_.get();
   }
 }
 

@@ -35,7 +35,7 @@ void PlaybackModel::seekTo(double seconds) {
 }
 
 void PlaybackModel::beginScrubbing() {
-  scrubPosition_ = elapsed_;
+  scrubPosition_ = elapsed_.get();
   isScrubbing_ = true;
 }
 
@@ -49,7 +49,7 @@ void PlaybackModel::scrubTo(double seconds) {
 
 void PlaybackModel::endScrubbing() {
   seekTo(scrubPosition_);
-  elapsed_ = scrubPosition_;
+  elapsed_ = scrubPosition_.get();
   isScrubbing_ = false;
 }
 

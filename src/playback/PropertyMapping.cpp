@@ -74,7 +74,7 @@ struct PropertyMapping::Actions {
     if (!std::isfinite(position)) return;
     const double shown = m.elapsed_;
     if (position < shown || position - shown >= kPositionStep) m.elapsed_ = position;
-    if (!m.isScrubbing_) m.scrubPosition_ = m.elapsed_;
+    if (!m.isScrubbing_) m.scrubPosition_ = m.elapsed_.get();
   }
 
   static void duration(Model& m, const Value& v) {

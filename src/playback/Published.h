@@ -14,6 +14,7 @@ class PublishedField {
   PublishedField(Owner* owner, Signal changed, T initial = {})
       : owner_(owner), changed_(changed), value_(std::move(initial)) {}
   PublishedField(const PublishedField&) = delete;
+  PublishedField& operator=(const PublishedField&) = delete;
 
   const T& get() const { return value_; }
   operator const T&() const { return value_; }  // NOLINT(google-explicit-constructor)
@@ -24,7 +25,6 @@ class PublishedField {
     (owner_->*changed_)();
     return *this;
   }
-  PublishedField& operator=(const PublishedField& other) { return *this = other.value_; }
 
  private:
   Owner* owner_;

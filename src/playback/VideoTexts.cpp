@@ -8,7 +8,7 @@ namespace tromelo {
 
 std::optional<QString> videoSizeText(std::optional<std::int64_t> width,
                                      std::optional<std::int64_t> height) {
-  if (width.value_or(0) < 1 || height.value_or(0) < 1) return {};
+  if (!width || !height || *width < 1 || *height < 1) return {};
   return QStringLiteral("%1 × %2").arg(*width).arg(*height);
 }
 
