@@ -136,8 +136,8 @@ void DisplayServer::addWindow(wlr_xdg_toplevel* toplevel) {
       .fullscreenRequested = [this, id](bool f) { observer_.fullscreenRequested(id, f); },
       .destroyed =
           [this, id] {
-            windows_.erase(id);
             observer_.windowDestroyed(id);
+            windows_.erase(id);
           },
   };
   windows_.emplace(id, std::make_unique<EngineToplevel>(toplevel, std::move(events)));

@@ -21,7 +21,10 @@ void EngineToplevel::connect() {
     state_.visible = false;
     publish();
   });
-  destroy_.connect(toplevel_->events.destroy, [this](void*) { events_.destroyed(); });
+  destroy_.connect(toplevel_->events.destroy, [this](void*) {
+    const auto destroyed = events_.destroyed;  // this object may go while it is called
+    destroyed();
+  });
   title_.connect(toplevel_->events.set_title, [this](void*) {
     state_.title = QString::fromUtf8(toplevel_->title);
     publish();
