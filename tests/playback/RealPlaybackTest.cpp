@@ -16,14 +16,17 @@ TEST_F(RealPlayback, OpensShowsAndPlays) {
   ASSERT_TRUE(plays(clip("sample.mp4"), 4));
   EXPECT_TRUE(waitFor([this] { return position_ > 4.1; }));
   EXPECT_LT(position_, 8);
-  EXPECT_EQ(model_.title(), "sample");
-  EXPECT_NEAR(model_.duration(), 10, 0.1);
-  EXPECT_EQ(model_.videoSize(), "640 × 360");
-  EXPECT_EQ(model_.frameRate(), "30 fps");
-  EXPECT_EQ(model_.codec(), "H264");
-  EXPECT_EQ(model_.container(), "MOV");
-  EXPECT_EQ(model_.buffering(), "Ready");
-  EXPECT_EQ(model_.lastURL(), clip("sample.mp4"));
+  const auto shows = [this](const char* field, const QVariant& text) {
+    return waitFor([&] { return model_.property(field) == text; });
+  };
+  EXPECT_TRUE(shows("title", "sample"));
+  EXPECT_TRUE(shows("videoSize", "640 × 360"));
+  EXPECT_TRUE(shows("frameRate", "30 fps"));
+  EXPECT_TRUE(shows("codec", "H264"));
+  EXPECT_TRUE(shows("container", "MOV"));
+  EXPECT_TRUE(shows("buffering", "Ready"));
+  EXPECT_TRUE(shows("lastURL", clip("sample.mp4")));
+  EXPECT_TRUE(waitFor([this] { return std::abs(model_.duration() - 10) < 0.1; }));
   EXPECT_TRUE(player_.calls.contains("reveal"));
   EXPECT_TRUE(QFile::exists(directory_.filePath("diagnostics/mpv.log")));
 }
@@ -97,11 +100,10 @@ TEST_F(RealPlayback, SeveralFilesPlayOneAfterTheOther) {
   model_.open(
       QList<QUrl>{clip("short-wide.mp4"), clip("short-square.mp4"), clip("short-tall.mp4")});
   ASSERT_TRUE(waitFor([this] { return model_.queue().size() == 3 && model_.hasNext(); }));
-  EXPECT_FALSE(model_.hasPrevious());
   EXPECT_TRUE(waitFor([&sizes] { return sizes.size() >= 3; }));
   EXPECT_TRUE(waitFor([this] { return model_.hasPrevious() && !model_.hasNext(); }));
   EXPECT_EQ(sizes, (QStringList{"320 × 180", "240 × 240", "180 × 320"}));
-  EXPECT_EQ(model_.title(), "short-tall");
+  EXPECT_TRUE(waitFor([this] { return model_.title() == "short-tall"; }));
 }
 
 TEST_F(RealPlayback, SoundWithoutPicturePlays) {
