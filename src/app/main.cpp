@@ -7,11 +7,7 @@
 
 #include "app/CommandLine.h"
 #include "app/Program.h"
-#if __has_include("display/DisplaySelftest.h")
-#include "display/DisplaySelftest.h"
-#else
-namespace tromelo { inline QString displaySelftestText() { return {}; } }
-#endif
+#include "app/SelftestCommand.h"
 
 namespace {
 
@@ -51,7 +47,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   describe(application);
   if (line.displaySelftest)
-    return std::fputs(qPrintable(tromelo::displaySelftestText()), stdout) < 0;
+    return std::fputs(qPrintable(tromelo::runDisplaySelftest()), stdout) < 0;
   tromelo::Program program(line);
   return program.run();
 }

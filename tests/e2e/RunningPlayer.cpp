@@ -88,7 +88,7 @@ int RunningPlayer::waitForEnd() {
 
 QStringList RunningPlayer::runtimeFiles() const {
   return QDir(environment.value(QStringLiteral("XDG_RUNTIME_DIR")))
-      .entryList({QStringLiteral("tromelo*")}, QDir::AllEntries | QDir::System | QDir::Hidden);
+      .entryList({QStringLiteral("tromelo*")}, QDir::Dirs);
 }
 
 }  // namespace tromelo::testing

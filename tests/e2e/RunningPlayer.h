@@ -41,7 +41,7 @@ class RunningPlayer {
   QString ipcPath() const { return home_.filePath(QStringLiteral("ipc")); }
   QString homePath() const { return home_.path(); }
   QString logPath() const { return home_.filePath(QStringLiteral("state/Tromelo/mpv.log")); }
-  /// What the program keeps while it runs: sockets and their folders.
+  /// The folders that running programs keep their sockets in.
   QStringList runtimeFiles() const;
   QByteArray errors() const { return errors_; }
 
