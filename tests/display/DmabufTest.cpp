@@ -2,9 +2,12 @@
 // host takes a memfd for a GPU's buffer.
 #include <sys/sysmacros.h>
 
+#include <atomic>
+
 #include "SceneTest.h"
 #include "display/PixelFormat.h"
 #include "display/SelftestLines.h"
+#include "support/WaitFor.h"
 
 namespace tromelo::testing {
 namespace {
@@ -57,9 +60,19 @@ TEST_F(DmabufTest, ABufferGoesBackWhenTheNextIsOnTheScreenAndNotBefore) {
   TestBuffer& first = addPlain(Qt::red);
   TestBuffer& second = addPlain(Qt::green);
   show(first);
-  client_->roundtrip();
-  EXPECT_EQ(first.releases(), 0);
-  show(second);
+  std::atomic<int> releasesBeforeSwap = -1;
+  QObject::connect(
+      window_.get(), &QQuickWindow::afterRendering, window_.get(),
+      [&] {
+        // On the render thread, while the main thread leaves the client alone.
+        client_->roundtrip();
+        client_->roundtrip();
+        releasesBeforeSwap = first.releases();
+      },
+      static_cast<Qt::ConnectionType>(Qt::DirectConnection | Qt::SingleShotConnection));
+  toplevel_->commit(&second);
+  ASSERT_TRUE(waitFor([&] { return releasesBeforeSwap >= 0; }));
+  EXPECT_EQ(releasesBeforeSwap, 0);
   EXPECT_TRUE(wait([&] { return first.releases() == 1; }));
   EXPECT_EQ(second.releases(), 0);
 }
