@@ -145,6 +145,8 @@ void PlayerWindow::handleTakenDown() {
 }
 
 std::unique_ptr<PlayerHostWindow> PlayerWindow::takeHost() {
+  if (engineWindow_) engineWindow_->disconnect(this);
+  engineWindow_ = nullptr;
   host_->disconnect(this);
   host_->hide();
   host_->fade().setOpacity(0);

@@ -47,9 +47,7 @@ TEST_F(EndToEnd, PlaysSoundWithoutAPictureFromTheLibrary) {
   ASSERT_TRUE(player.waitFor(QStringLiteral("status"), QStringLiteral("Playing")));
   EXPECT_EQ(player.said(QStringLiteral("window")), QStringLiteral("none"));
   if (!screen::isX11()) return;
-  ASSERT_TRUE(player.waitUntil([&] { return !window("^Tromelo$").isEmpty(); }));
-  screen::run(QStringLiteral("xdotool"),
-              {QStringLiteral("windowfocus"), QStringLiteral("--sync"), window("^Tromelo$")});
+  ASSERT_TRUE(player.waitUntil([&] { return isActive("^Tromelo$"); }));
   screen::press(QStringLiteral("space"));
   ASSERT_TRUE(player.waitFor(QStringLiteral("status"), QStringLiteral("Paused")));
   screen::press(QStringLiteral("Escape"));

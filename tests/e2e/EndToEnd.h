@@ -20,6 +20,13 @@ class EndToEnd : public ::testing::Test {
     return screen::windowOf(player.processId(), QString::fromLatin1(title));
   }
 
+  /// X11: whether that window has the keyboard.
+  bool isActive(const char* title) {
+    const QString id = window(title);
+    return !id.isEmpty() &&
+           id == screen::run(QStringLiteral("xdotool"), {QStringLiteral("getactivewindow")});
+  }
+
   RunningPlayer player;
 };
 

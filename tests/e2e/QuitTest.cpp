@@ -23,9 +23,7 @@ TEST_F(EndToEnd, QuitsFromTheLibraryAndFromItsKey) {
   player.start();
   ASSERT_TRUE(player.waitFor(QStringLiteral("status"), QStringLiteral("Open a video to begin")));
   if (screen::isX11()) {
-    ASSERT_TRUE(player.waitUntil([&] { return !window("^Tromelo$").isEmpty(); }));
-    screen::run(QStringLiteral("xdotool"),
-                {QStringLiteral("windowfocus"), QStringLiteral("--sync"), window("^Tromelo$")});
+    ASSERT_TRUE(player.waitUntil([&] { return isActive("^Tromelo$"); }));
     screen::press(QStringLiteral("ctrl+q"));
     EXPECT_EQ(player.waitForEnd(), 0);
   } else {
