@@ -8,6 +8,7 @@
 #include "app/CommandLine.h"
 #include "app/Program.h"
 #include "app/SelftestCommand.h"
+#include "platform/HostEnvironment.h"
 
 namespace {
 
@@ -20,7 +21,7 @@ bool hasHostDisplay() {
 void prepareGraphics() {
   // The picture comes in as a texture, or as a buffer that only EGL can import: GLX can't.
   if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
-    qputenv("QT_XCB_GL_INTEGRATION", "xcb_egl");
+    tromelo::HostEnvironment::set("QT_XCB_GL_INTEGRATION", "xcb_egl");
   QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
 }
 

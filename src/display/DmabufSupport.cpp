@@ -7,6 +7,7 @@
 
 #include "display/EglDevice.h"
 #include "display/PixelFormat.h"
+#include "platform/HostEnvironment.h"
 
 namespace tromelo {
 
@@ -68,6 +69,8 @@ std::optional<DmabufSupport> DmabufSupport::query() {
   return support;
 }
 
-void DmabufSupport::presentThroughSharedMemory() { qputenv("MESA_VK_WSI_DEBUG", "sw"); }
+void DmabufSupport::presentThroughSharedMemory() {
+  HostEnvironment::set("MESA_VK_WSI_DEBUG", "sw");
+}
 
 }  // namespace tromelo

@@ -6,6 +6,8 @@
 #include <QStandardPaths>
 #include <clocale>
 
+#include "platform/HostEnvironment.h"
+
 namespace tromelo {
 
 QString shippedVulkanManifest() {
@@ -19,9 +21,9 @@ QString shippedVulkanManifest() {
 
 void prepareEngineEnvironment(const QString& vulkanManifest) {
   if (!vulkanManifest.isEmpty() && !qEnvironmentVariableIsSet("VK_DRIVER_FILES")) {
-    qputenv("VK_DRIVER_FILES", QFile::encodeName(vulkanManifest));
+    HostEnvironment::set("VK_DRIVER_FILES", QFile::encodeName(vulkanManifest));
   }
-  qputenv("MPVBUNDLE", "true");
+  HostEnvironment::set("MPVBUNDLE", "true");
   // The application object has taken over the person's locale by now; libmpv would read "1,5" as 1
   // and refuses to be created.
   std::setlocale(LC_NUMERIC, "C");

@@ -1,44 +1,41 @@
 #include "platform/HostEnvironment.h"
 
 #include <QProcess>
+#include <map>
 #include <optional>
 
 namespace tromelo {
 
 namespace {
 
-constexpr const char* kWaylandDisplay = "WAYLAND_DISPLAY";
+using HostValue = std::optional<QByteArray>;  // none: the host had no such variable
 
-struct HostDisplay {
-  bool entered = false;
-  std::optional<QByteArray> waylandDisplay;
-};
-
-HostDisplay& hostDisplay() {
-  static HostDisplay display;
-  return display;
+std::map<QByteArray, HostValue>& hostValues() {
+  static std::map<QByteArray, HostValue> values;
+  return values;
 }
 
 }  // namespace
 
+void HostEnvironment::set(const char* name, const QByteArray& value) {
+  // What stands there the first time is the host's.
+  hostValues().try_emplace(
+      name, qEnvironmentVariableIsSet(name) ? HostValue(qgetenv(name)) : HostValue());
+  qputenv(name, value);
+}
+
 void HostEnvironment::enterPrivateDisplay(const QByteArray& socketPath) {
-  HostDisplay& host = hostDisplay();
-  if (!host.entered) {
-    host.entered = true;
-    if (qEnvironmentVariableIsSet(kWaylandDisplay)) host.waylandDisplay = qgetenv(kWaylandDisplay);
-  }
-  qputenv(kWaylandDisplay, socketPath);
+  set("WAYLAND_DISPLAY", socketPath);
 }
 
 QProcessEnvironment HostEnvironment::processEnvironment() {
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  const HostDisplay& host = hostDisplay();
-  if (!host.entered) return environment;
-  const auto name = QString::fromLatin1(kWaylandDisplay);
-  if (host.waylandDisplay)
-    environment.insert(name, QString::fromLocal8Bit(*host.waylandDisplay));
-  else
-    environment.remove(name);
+  for (const auto& [name, value] : hostValues()) {
+    if (value)
+      environment.insert(QString::fromLatin1(name), QString::fromLocal8Bit(*value));
+    else
+      environment.remove(QString::fromLatin1(name));
+  }
   return environment;
 }
 

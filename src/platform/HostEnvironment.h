@@ -7,15 +7,18 @@
 
 namespace tromelo {
 
-/// The one place that turns this process's Wayland clients to the private display, and that gives
-/// every process we start the host's display back. Main thread only.
+/// What this process alone needs in its environment, above all the private display's name, and what
+/// the host had there, which every process that we start gets back. Main thread only.
 class HostEnvironment {
  public:
-  /// Points WAYLAND_DISPLAY at `socketPath`. Call it when the application object has connected to
-  /// the host and before the engine starts any thread that could read the environment.
+  /// Sets a variable of this process, while no other thread reads the environment.
+  static void set(const char* name, const QByteArray& value);
+
+  /// Turns this process's Wayland clients to the private display: when the application object has
+  /// connected to the host, and before the engine starts.
   static void enterPrivateDisplay(const QByteArray& socketPath);
 
-  /// The environment as it was before enterPrivateDisplay.
+  /// The environment as it would be without set().
   static QProcessEnvironment processEnvironment();
 
   /// Starts a program that outlives us, in the host's environment. False when it can't be started.

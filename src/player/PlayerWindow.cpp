@@ -118,7 +118,9 @@ void PlayerWindow::sendHostState() {
   if (!engineWindow_ || chosenSize_.isEmpty()) return;
   const QSize pixels = host_->pixelSize();
   EngineWindow::HostState state;
-  state.fullscreen = isFullscreen();
+  // A new size can come before the state that it belongs to; told the state before, the engine
+  // would take its request back.
+  state.fullscreen = requestedFullscreen_.value_or(isFullscreen());
   state.size = state.fullscreen ? pixels : chosenSize_.scaled(pixels, Qt::KeepAspectRatio);
   if (nearlyEqual(state.size, chosenSize_) && !state.fullscreen) state.size = chosenSize_;
   state.activated = host_->isActive();
@@ -131,6 +133,7 @@ void PlayerWindow::sendHostState() {
 }
 
 void PlayerWindow::handleVisibility(QWindow::Visibility visibility) {
+  requestedFullscreen_.reset();
   scheduleHostState();
   const bool fullscreen = visibility == QWindow::FullScreen;
   if (std::exchange(wasFullscreen_, fullscreen) && !fullscreen) Q_EMIT leftFullscreen();

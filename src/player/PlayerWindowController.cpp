@@ -24,24 +24,26 @@ PlayerWindowController::PlayerWindowController(PlaybackModel& playback, WindowSy
                                                Clock& clock)
     : playback_(playback), windows_(windows), clock_(clock) {
   connect(&windows_, &WindowSystem::windowsChanged, this, &PlayerWindowController::scanWindows);
-  connect(&playback_, &PlaybackModel::isLoadedChanged, this,
-          &PlayerWindowController::playsWithoutWindowChanged);
+  connect(&playback_, &PlaybackModel::isLoadedChanged, this, [this] {
+    isStopping_ = false;
+    Q_EMIT playsWithoutWindowChanged();
+  });
   connect(this, &PlayerWindowController::windowStateChanged, this,
           &PlayerWindowController::playsWithoutWindowChanged);
 }
 
 PlayerWindowController::~PlayerWindowController() = default;
 
-void PlayerWindowController::setAwaitingVideo(bool awaiting) { awaitingVideo_ = awaiting; }
-
-void PlayerWindowController::setVideoReady(bool ready) {
-  if (videoReady_ == ready) return;
-  videoReady_ = ready;
+void PlayerWindowController::setAwaitingVideo(bool awaiting) {
+  if (awaitingVideo_ == awaiting) return;
+  awaitingVideo_ = awaiting;
   Q_EMIT windowStateChanged();
 }
 
+void PlayerWindowController::setVideoReady(bool ready) { videoReady_ = ready; }
+
 bool PlayerWindowController::playsWithoutWindow() const {
-  return playback_.isLoaded() && videoReady_ && !window_;
+  return playback_.isLoaded() && !window_ && !awaitingVideo_ && !isStopping_;
 }
 
 void PlayerWindowController::stopPlayback() { playback_.engine().command({"stop"}); }
@@ -129,7 +131,7 @@ void PlayerWindowController::readoptOrShowLibrary() {
   for (VideoWindow* window : windows_.videoWindows())
     if (window->isVisible() && window->hasDrawingSurface()) return adopt(*window);
   if (!videoReady_) return;
-  awaitingVideo_ = false;
+  setAwaitingVideo(false);
   showLibrary();
 }
 
@@ -174,6 +176,7 @@ void PlayerWindowController::finishClose() {
 
 void PlayerWindowController::stopAndTearDown() {
   playback_.engine().command({"stop"});
+  isStopping_ = true;
   tearDownWindowState();
 }
 

@@ -89,6 +89,7 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   bool isRevealed_ = false;
   bool isClosing_ = false;
   bool isFadingOut_ = false;
+  bool isStopping_ = false;  // a file that ends has no window any more, but isn't one without
   bool isTerminating_ = false;
 };
 

@@ -13,14 +13,17 @@ namespace {
 TEST(HostEnvironment, GivesProcessesWeStartTheHostsDisplayBack) {
   qputenv("WAYLAND_DISPLAY", "host-0");
   HostEnvironment::enterPrivateDisplay("/private/engine-0");
-  ASSERT_EQ(qgetenv("WAYLAND_DISPLAY"), "/private/engine-0");
+  HostEnvironment::enterPrivateDisplay("/private/engine-1");
+  HostEnvironment::set("TROMELO_TEST_ONLY", "ours");
+  ASSERT_EQ(qgetenv("WAYLAND_DISPLAY"), "/private/engine-1");
 
   QTemporaryDir directory;
   const QString said = directory.filePath(QStringLiteral("said"));
   ASSERT_TRUE(HostEnvironment::startDetached(
       QStringLiteral("/bin/sh"),
       {QStringLiteral("-c"),
-       QStringLiteral("printf %s \"$WAYLAND_DISPLAY\" > \"$1.new\" && mv \"$1.new\" \"$1\""),
+       QStringLiteral(
+           "printf %s \"$WAYLAND_DISPLAY$TROMELO_TEST_ONLY\" > \"$1.new\" && mv \"$1.new\" \"$1\""),
        QStringLiteral("sh"), said}));
   ASSERT_TRUE(testing::waitFor([&] { return QFile::exists(said); }));
   QFile file(said);
