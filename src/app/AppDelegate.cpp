@@ -49,8 +49,9 @@ void AppDelegate::showLibraryWindow() {
 }
 
 TerminateReply AppDelegate::applicationShouldTerminate() {
-  if (!playback_->engine().hasHandle()) return TerminateReply::now;
+  // Asked first: the engine gives its handle up as soon as it begins to shut down.
   if (playback_->isShuttingDown()) return TerminateReply::later;
+  if (!playback_->engine().hasHandle()) return TerminateReply::now;
   playback_->setShuttingDown(true);
   player().prepareForTermination();
   playback_->engine().terminate([this] { Q_EMIT readyToTerminate(); });

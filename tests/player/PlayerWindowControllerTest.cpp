@@ -5,10 +5,10 @@
 #include <QTemporaryDir>
 
 #include "FakeWindows.h"
-#include "SentRequests.h"
 #include "platform/FilePath.h"
 #include "playback/FileChooser.h"
 #include "playback/PlaybackModel.h"
+#include "support/FakeMpv.h"
 #include "support/ManualClock.h"
 
 namespace tromelo {
@@ -28,7 +28,7 @@ class PlayerWindowControllerTest : public ::testing::Test {
   PlayerWindowControllerTest() {
     library_.visible = true;
     player().setLibraryWindow(&library_);
-    sent_.take();
+    takeSent();
   }
 
   PlayerWindowController& player() {
@@ -39,6 +39,17 @@ class PlayerWindowControllerTest : public ::testing::Test {
   void await() {
     player().setAwaitingVideo(true);
     player().setVideoReady(false);
+  }
+
+  /// What the engine was told since the last call, a line each.
+  Sent takeSent() {
+    Sent lines;
+    for (const auto& words : std::exchange(mpv_.requests, {})) {
+      std::string line;
+      for (const std::string& word : words) line += (line.empty() ? "" : " ") + word;
+      lines.push_back(line);
+    }
+    return lines;
   }
 
   void ready() {
@@ -61,8 +72,8 @@ class PlayerWindowControllerTest : public ::testing::Test {
 
   testing::ManualClock clock_;
   testing::FakeWindowSystem windows_;
-  testing::SentRequests sent_;
-  MpvClientApi api_ = sent_.api();
+  testing::FakeMpv mpv_;
+  MpvClientApi api_ = mpv_.api();
   NoFileChooser files_;
   QTemporaryDir directory_;
   FakeLibraryWindow library_{clock_};
@@ -137,23 +148,23 @@ TEST_F(PlayerWindowControllerTest, ClosesOnceHoweverOftenItIsAsked) {
   player().close();
   EXPECT_TRUE(library_.visible);
   clock_.advance(239ms);
-  EXPECT_EQ(sent_.take(), Sent{"pause=yes"});
+  EXPECT_EQ(takeSent(), Sent{"set pause yes"});
   clock_.advance(1ms);
-  EXPECT_EQ(sent_.take(), Sent{"stop"});
+  EXPECT_EQ(takeSent(), Sent{"stop"});
   EXPECT_FALSE(window_.ordered);
   EXPECT_EQ(window_.overlay, nullptr);
   EXPECT_FALSE(player().hasWindow());
   clock_.advance(80ms);
   EXPECT_EQ(library_.opacity, 1);
   player().close();
-  EXPECT_EQ(sent_.take(), Sent{});
+  EXPECT_EQ(takeSent(), Sent{});
 }
 
 TEST_F(PlayerWindowControllerTest, LeavesFullScreenBeforeItFadesOut) {
   showVideo(window_);
   window_.fullscreen = true;
   player().close();
-  EXPECT_EQ(sent_.take(), (Sent{"pause=yes", "fullscreen=no"}));
+  EXPECT_EQ(takeSent(), (Sent{"set pause yes", "set fullscreen no"}));
   clock_.advance(500ms);
   EXPECT_EQ(window_.fades, 1);
   window_.fullscreen = false;
@@ -161,7 +172,7 @@ TEST_F(PlayerWindowControllerTest, LeavesFullScreenBeforeItFadesOut) {
   EXPECT_EQ(window_.fades, 2);
   clock_.advance(2000ms);
   EXPECT_EQ(window_.fades, 2);
-  EXPECT_EQ(sent_.take(), Sent{"stop"});
+  EXPECT_EQ(takeSent(), Sent{"stop"});
 }
 
 TEST_F(PlayerWindowControllerTest, FadesOutAfterTwoSecondsWhenFullScreenNeverEnds) {
@@ -222,13 +233,15 @@ TEST_F(PlayerWindowControllerTest, SortsDroppedFiles) {
     std::optional<QString> toast;
   };
   const Row rows[] = {
-      {{"/a.mkv"}, {"loadfile /a.mkv replace -1 ", "pause=no"}, QStringLiteral("Added to queue")},
+      {{"/a.mkv"},
+       {"loadfile /a.mkv replace -1 ", "set pause no"},
+       QStringLiteral("Added to queue")},
       {{"/a.mkv", "/b.mp4", "/c"},
-       {"loadfile /a.mkv replace -1 ", "pause=no", "loadfile /b.mp4 append -1 ",
+       {"loadfile /a.mkv replace -1 ", "set pause no", "loadfile /b.mp4 append -1 ",
         "loadfile /c append -1 "},
        QStringLiteral("Added 3 videos to queue")},
       {{"/a.mkv", "/My.Film.SRT", "/b.mkv"},
-       {"sub-add /My.Film.SRT select", "loadfile /a.mkv replace -1 ", "pause=no",
+       {"sub-add /My.Film.SRT select", "loadfile /a.mkv replace -1 ", "set pause no",
         "loadfile /b.mkv append -1 "},
        QStringLiteral("Subtitles: My.Film")},
       {{}, {}, std::nullopt},
@@ -238,7 +251,7 @@ TEST_F(PlayerWindowControllerTest, SortsDroppedFiles) {
     QList<QUrl> urls;
     for (const std::string& path : row.dropped) urls.append(fileUrlFromPath(path));
     window_.overlay->onDropFiles(urls);
-    EXPECT_EQ(sent_.take(), row.sent);
+    EXPECT_EQ(takeSent(), row.sent);
     EXPECT_EQ(player().chrome().toast(), row.toast);
     clock_.advance(1400ms);
   }
@@ -262,7 +275,7 @@ TEST_F(PlayerWindowControllerTest, AdoptsNothingOnceTheProgramQuits) {
   windows_.add(late);
   EXPECT_EQ(late.dressed, 0);
   clock_.advance(5000ms);
-  EXPECT_EQ(sent_.take(), Sent{});
+  EXPECT_EQ(takeSent(), Sent{});
 }
 
 TEST_F(PlayerWindowControllerTest, SurvivesAWindowThatDiesAtAnyMoment) {

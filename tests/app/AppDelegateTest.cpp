@@ -1,0 +1,144 @@
+#include "app/AppDelegate.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include "../player/FakeWindows.h"
+#include "platform/FilePath.h"
+#include "playback/FileChooser.h"
+#include "support/FakeMpv.h"
+#include "support/ManualClock.h"
+#include "support/WaitFor.h"
+
+namespace tromelo {
+namespace {
+
+struct NoFileChooser : FileChooser {
+  void chooseFiles(const Request&, Callback) override {}
+};
+
+class AppDelegateTest : public ::testing::Test {
+ protected:
+  void launch(const CommandLine& line) {
+    delegate_ = std::make_unique<AppDelegate>(
+        line, defaults_, std::vector<UserDefaults>{},
+        AppDelegate::Parts{[this] { return makePlayback(); },
+                           [this](PlaybackModel&, PlayerWindowController&) {
+                             ++libraries_;
+                             auto window = std::make_unique<testing::FakeLibraryWindow>(clock_);
+                             library_ = window.get();
+                             return window;
+                           }});
+    QObject::connect(delegate_.get(), &AppDelegate::readyToTerminate, delegate_.get(),
+                     [this] { ++ready_; });
+  }
+
+  std::unique_ptr<PlaybackModel> makePlayback() {
+    return std::make_unique<PlaybackModel>(PlaybackModel::Parts{
+        api_, clock_, files_, directory_.path(), [this](PlaybackModel& playback) {
+          return std::make_unique<PlayerWindowController>(playback, windows_, clock_);
+        }});
+  }
+
+  /// The "loadfile" requests since the last call: path and options.
+  std::vector<std::string> takeLoaded() {
+    std::vector<std::string> loaded;
+    for (const auto& words : std::exchange(mpv_.requests, {}))
+      if (words.front() == "loadfile") loaded.push_back(words[1] + " " + words.back());
+    return loaded;
+  }
+
+  std::string file(const char* name) {
+    const QString path = directory_.filePath(QString::fromLatin1(name));
+    QFile created(path);
+    EXPECT_TRUE(created.open(QIODevice::WriteOnly));
+    return path.toStdString();
+  }
+
+  testing::ManualClock clock_;
+  testing::FakeWindowSystem windows_;
+  testing::FakeMpv mpv_;
+  MpvClientApi api_ = mpv_.api();
+  NoFileChooser files_;
+  QTemporaryDir directory_;
+  UserDefaults defaults_{directory_.filePath(QStringLiteral("defaults.json"))};
+  std::unique_ptr<AppDelegate> delegate_;
+  testing::FakeLibraryWindow* library_ = nullptr;
+  int libraries_ = 0;
+  int ready_ = 0;
+};
+
+TEST_F(AppDelegateTest, OpensTheLaunchFileAfterTheLibraryIsShown) {
+  const std::string movie = file("movie.mkv");
+  launch({.path = movie, .start = 90});
+  EXPECT_EQ(libraries_, 0);
+  delegate_->applicationDidFinishLaunching();
+  EXPECT_TRUE(library_->visible);
+  EXPECT_EQ(takeLoaded(), std::vector{movie + " start=90.0"});
+}
+
+TEST_F(AppDelegateTest, IgnoresALaunchFileThatIsNotThere) {
+  launch({.path = "/no/such/movie.mkv"});
+  delegate_->applicationDidFinishLaunching();
+  EXPECT_EQ(takeLoaded(), std::vector<std::string>{});
+  EXPECT_EQ(delegate_->playback().errorMessage(), QString());
+}
+
+TEST_F(AppDelegateTest, OpensTheFirstOfTheFilesHandedOver) {
+  launch({});
+  delegate_->applicationDidFinishLaunching();
+  delegate_->applicationOpen({});
+  EXPECT_EQ(takeLoaded(), std::vector<std::string>{});
+  delegate_->applicationOpen({fileUrlFromPath("/a.mkv"), fileUrlFromPath("/b.mkv")});
+  EXPECT_EQ(takeLoaded(), std::vector<std::string>{"/a.mkv "});
+}
+
+TEST_F(AppDelegateTest, DoesNotOpenTheLaunchFileTwice) {
+  const std::string movie = file("movie.mkv");
+  launch({.path = movie});
+  delegate_->applicationOpen({fileUrlFromPath(movie)});
+  delegate_->applicationDidFinishLaunching();
+  EXPECT_EQ(takeLoaded(), std::vector{movie + " "});
+  delegate_->applicationOpen({fileUrlFromPath(movie)});
+  EXPECT_EQ(takeLoaded(), std::vector{movie + " "});
+}
+
+TEST_F(AppDelegateTest, ReopensItsOneLibraryWindow) {
+  launch({});
+  delegate_->applicationDidFinishLaunching();
+  library_->orderOut();
+  EXPECT_TRUE(delegate_->applicationShouldHandleReopen(true));
+  EXPECT_FALSE(library_->visible);
+  library_->setOpacity(0);
+  EXPECT_TRUE(delegate_->applicationShouldHandleReopen(false));
+  EXPECT_TRUE(library_->visible);
+  EXPECT_EQ(library_->opacity, 1);
+  EXPECT_EQ(libraries_, 1);
+}
+
+TEST_F(AppDelegateTest, QuitsOnceHoweverOftenItIsAsked) {
+  launch({});
+  delegate_->applicationDidFinishLaunching();
+  delegate_->quit();
+  EXPECT_TRUE(delegate_->playback().isShuttingDown());
+  delegate_->quit();
+  EXPECT_EQ(delegate_->applicationShouldTerminate(), TerminateReply::later);
+  EXPECT_TRUE(testing::waitFor([this] { return ready_ > 0; }));
+  testing::settle();
+  EXPECT_EQ(ready_, 1);
+  EXPECT_EQ(mpv_.destroyed, 1);
+}
+
+TEST_F(AppDelegateTest, QuitsAtOnceWithoutAnEngine) {
+  mpv_.cannotBeCreated = true;
+  launch({});
+  delegate_->applicationDidFinishLaunching();
+  EXPECT_EQ(delegate_->playback().errorMessage(),
+            QStringLiteral("Could not create the playback engine"));
+  delegate_->quit();
+  EXPECT_EQ(ready_, 1);
+}
+
+}  // namespace
+}  // namespace tromelo
