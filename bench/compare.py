@@ -1,0 +1,178 @@
+"""Tromelo next to mpv with the same output, on the display that this runs on. See bench/run."""
+
+import argparse
+import os
+import subprocess
+import sys
+import tempfile
+import time
+
+from player import LIMIT, Engine, Player, clean_environment
+from screen import Screen
+from table import Table
+
+CLIP_SIZE = (640, 360)
+SETTLED = 8  # seconds after the start: the controls are hidden, caches are full
+SPAN = 10  # seconds that processor time and repaints are counted in
+POLL = 0.002
+MPV = (
+    "mpv --no-config --osc=no --vo=gpu-next --gpu-api=vulkan --gpu-sw=yes --really-quiet"
+).split()
+
+
+def has_colour(pixel):
+    """The clip is all strong colours; the desktop and the library are greys and near-blacks."""
+    return max(pixel) - min(pixel) > 24
+
+
+def is_backdrop(pixel):
+    """The library's: nearly black, a little blue."""
+    return 0 < pixel[0] < pixel[2] < 40
+
+
+class Bench:
+    def __init__(self, options, home):
+        self.options = options
+        self.home = home
+        self.program = os.path.join(options.build, "src/app/tromelo")
+        self.screen = Screen()
+        self.table = Table()
+        self.log = open(os.path.join(home, "log"), "wb")
+        self.clip = self._long_clip()
+
+    def _long_clip(self):
+        """Long enough for a span without an end in it, and silent: sound is not compared."""
+        clip = os.path.join(self.home, "clip.mp4")
+        subprocess.run(
+            ["ffmpeg", "-loglevel", "error", "-stream_loop", "5", "-i", self.options.sample]
+            + ["-map", "0:v", "-c", "copy", clip],
+            check=True,
+            stdin=subprocess.DEVNULL,
+        )
+        return clip
+
+    def start(self, name, *files):
+        environment = clean_environment(self.home)
+        self.ipc = os.path.join(self.home, "ipc")
+        if os.path.exists(self.ipc):
+            os.unlink(self.ipc)
+        if name == "mpv":
+            command = MPV + [f"--input-ipc-server={self.ipc}"]
+        else:
+            command = [self.program]
+            environment["TROMELO_IPC"] = self.ipc
+        return Player([*command, *files], environment, self.log)
+
+    def milliseconds_until(self, player, matches):
+        """Looks at a part of the screen that the clip fills with strong colours in either player,
+        and the library with its backdrop."""
+        x = (self.screen.width - CLIP_SIZE[0]) // 2 + 140
+        y = (self.screen.height - CLIP_SIZE[1]) // 2 + 40
+        while not any(map(matches, self.screen.row(x, y, 160))):
+            player.check()
+            if player.age > LIMIT:
+                raise SystemExit(f"bench: {player.process.args[0]} shows nothing")
+            time.sleep(POLL)
+        return player.age * 1000
+
+    def wait_until_quiet(self):
+        """Until nothing was drawn for a second, or for as long as that may take."""
+        for _ in range(SPAN):
+            self.screen.updates()
+            time.sleep(1)
+            if not self.screen.updates():
+                return
+
+    def measure_start(self, name):
+        with self.start(name, self.clip) as player:
+            shown = self.milliseconds_until(player, has_colour)
+            processor = player.processor_seconds()
+        self.table.add(name, "start to first video pixel, ms", shown)
+        self.table.add(name, "  processor time until then, ms", processor * 1000)
+
+    def measure_play(self, name):
+        with self.start(name, self.clip) as player:
+            self.milliseconds_until(player, has_colour)
+            engine = Engine(self.ipc)
+            player.wait_until_age(SETTLED)
+            resident, proportional = player.memory()
+            drops, position = engine.drops(), engine.get("time-pos")
+            self.screen.updates()
+            processor = self.processor_over_span(player)
+            updates = self.screen.updates()
+            drops, position = engine.drops() - drops, engine.get("time-pos") - position
+            add = self.table.add
+            add(name, f"{SPAN} s of {CLIP_SIZE[0]}x{CLIP_SIZE[1]}: processor, s", processor, 2)
+            add(name, "  frames dropped", drops)
+            add(name, "  seconds played", position, 2)
+            add(name, "  screen updates", updates)
+            add(name, f"resident memory after {SETTLED} s, MB", resident)
+            add(name, "  proportional, MB", proportional)
+            engine.command("set_property", "pause", True)
+            self.measure_idle(name, player, "paused")
+
+    def measure_library(self, name):
+        with self.start(name) as player:
+            shown = self.milliseconds_until(player, is_backdrop)
+            self.table.add(name, "start to library window, ms", shown)
+            player.wait_until_age(SETTLED)
+            self.table.add(name, "library: resident memory, MB", player.memory()[0])
+            self.measure_idle(name, player, "library")
+
+    def measure_idle(self, name, player, what):
+        self.wait_until_quiet()
+        processor = self.processor_over_span(player)
+        share = 100 * processor / SPAN
+        self.table.add(name, f"{what}: processor, % of a core", share, 2)
+        self.table.add(name, f"{what}: screen updates in {SPAN} s", self.screen.updates())
+
+    def processor_over_span(self, player):
+        before = player.processor_seconds()
+        time.sleep(SPAN)
+        player.check()
+        return player.processor_seconds() - before
+
+    def compare(self, part):
+        measure = getattr(self, f"measure_{part}")
+        names = ("Tromelo",) if part == "library" else ("mpv", "Tromelo")
+        for run in range(self.options.runs):
+            for name in names:
+                print(f"bench: {part} {run + 1}/{self.options.runs} {name}", file=sys.stderr)
+                measure(name)
+
+    def warm_up(self):
+        """Programs, shaders and fonts come from the caches in each run that counts."""
+        for name in ("mpv", "Tromelo"):
+            with self.start(name, self.clip) as player:
+                self.milliseconds_until(player, has_colour)
+
+    def run(self):
+        comparisons = [part for part in self.options.parts if part != "events"]
+        if comparisons:
+            self.warm_up()
+        for part in comparisons:
+            self.compare(part)
+        if comparisons:
+            self.table.print()
+        if "events" in self.options.parts:
+            subprocess.run([os.path.join(self.options.build, "bench/bench_drain_events")], check=True)
+
+
+def main():
+    parts = ("start", "play", "library", "events")
+    parser = argparse.ArgumentParser(prog="bench/run")
+    parser.add_argument("--build", required=True, help=argparse.SUPPRESS)
+    parser.add_argument("--sample", required=True, help=argparse.SUPPRESS)
+    parser.add_argument("--runs", type=int, default=3, help="how many of each; the best counts")
+    parser.add_argument("parts", nargs="*", metavar="PART", help=", ".join(parts))
+    options = parser.parse_args()
+    unknown = set(options.parts) - set(parts)
+    if unknown or options.runs < 1:
+        parser.error(f"there is no part {unknown.pop()}" if unknown else "--runs wants 1 or more")
+    options.parts = options.parts or parts
+    with tempfile.TemporaryDirectory(prefix="tromelo-bench.") as home:
+        Bench(options, home).run()
+
+
+if __name__ == "__main__":
+    main()
