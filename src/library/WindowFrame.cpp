@@ -3,6 +3,9 @@
 #include <QGuiApplication>
 #include <QJsonArray>
 #include <QScreen>
+#include <optional>
+
+#include "platform/KeptInside.h"
 
 namespace tromelo {
 
@@ -11,12 +14,14 @@ namespace {
 // So much of a remembered window has to be on a screen that a person can get hold of it.
 constexpr int kReachable = 80;
 
-bool isReachable(const QRect& frame) {
+/// The part of a screen where windows may be, if the frame can be reached on one.
+std::optional<QRect> screenOf(const QRect& frame) {
   for (const QScreen* screen : QGuiApplication::screens()) {
     const QRect shown = frame & screen->availableGeometry();
-    if (shown.width() >= kReachable && shown.height() >= kReachable) return true;
+    if (shown.width() >= kReachable && shown.height() >= kReachable)
+      return screen->availableGeometry();
   }
-  return false;
+  return std::nullopt;
 }
 
 }  // namespace
@@ -29,13 +34,13 @@ QRect WindowFrame::restored(QSize size) const {
   if (numbers.size() == 4) {
     const QRect frame(numbers[0].toInt(), numbers[1].toInt(), numbers[2].toInt(),
                       numbers[3].toInt());
-    if (!frame.isEmpty() && isReachable(frame)) return frame;
+    const auto screen = screenOf(frame);
+    if (screen) return keptInside(frame, *screen);
   }
   QRect frame(QPoint(), size);
   if (const QScreen* screen = QGuiApplication::primaryScreen()) {
-    const QRect available = screen->availableGeometry();
-    frame.setSize(size.boundedTo(available.size()));
-    frame.moveCenter(available.center());
+    frame.moveCenter(screen->availableGeometry().center());
+    frame = keptInside(frame, screen->availableGeometry());
   }
   return frame;
 }

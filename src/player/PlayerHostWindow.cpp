@@ -4,6 +4,8 @@
 #include <QQmlComponent>
 #include <QScreen>
 
+#include "platform/KeptInside.h"
+
 namespace tromelo {
 
 namespace {
@@ -40,10 +42,20 @@ void PlayerHostWindow::fillWindow() { scene_->setSize(size()); }
 QSize PlayerHostWindow::pixelSize() const { return (QSizeF(size()) * devicePixelRatio()).toSize(); }
 
 void PlayerHostWindow::resizeToPixels(QSize pixels) {
-  const QSize points = (QSizeF(pixels) / devicePixelRatio()).toSize();
+  const QSize points = roomFor((QSizeF(pixels) / devicePixelRatio()).toSize());
   if (points == size()) return;
-  resize(points.expandedTo(minimumSize()));
+  resize(points);
   center();
+}
+
+/// A picture smaller than the smallest window is enlarged with its aspect kept, where the screen
+/// has the room.
+QSize PlayerHostWindow::roomFor(QSize picture) const {
+  const QSize atLeast = picture.expandedTo(minimumSize());
+  if (atLeast == picture || !screen()) return atLeast;
+  const QSize enlarged = picture.scaled(minimumSize(), Qt::KeepAspectRatioByExpanding);
+  const QSize available = screen()->availableSize();
+  return enlarged.boundedTo(available) == enlarged ? enlarged : atLeast;
 }
 
 void PlayerHostWindow::center() {
@@ -52,11 +64,7 @@ void PlayerHostWindow::center() {
   QRect frame(QPoint(), size());
   // A window that a person has seen stays where it is, one that is new goes to the middle.
   frame.moveCenter(scene_->opacity() > 0 ? geometry().center() : available.center());
-  frame.moveRight(qMin(frame.right(), available.right()));
-  frame.moveBottom(qMin(frame.bottom(), available.bottom()));
-  frame.moveLeft(qMax(frame.left(), available.left()));
-  frame.moveTop(qMax(frame.top(), available.top()));
-  setPosition(frame.topLeft());
+  setPosition(keptInside(frame, available).topLeft());
 }
 
 void PlayerHostWindow::showUnseen() {

@@ -40,6 +40,7 @@ class PlayerHostWindow : public QQuickWindow {
   bool event(QEvent* event) override;
 
  private:
+  QSize roomFor(QSize picture) const;
   void fillWindow();
   void center();
 

@@ -1,0 +1,49 @@
+#include "library/WindowFrame.h"
+
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QJsonArray>
+#include <QScreen>
+#include <QTemporaryDir>
+
+namespace tromelo {
+namespace {
+
+class WindowFrameTest : public ::testing::Test {
+ protected:
+  QTemporaryDir directory_;
+  UserDefaults defaults_{directory_.filePath(QStringLiteral("defaults.json"))};
+  WindowFrame frame_{defaults_, QStringLiteral("Test")};
+  const QRect screen_ = QGuiApplication::primaryScreen()->availableGeometry();
+};
+
+TEST_F(WindowFrameTest, BeginsInTheMiddleAndFitsTheScreen) {
+  EXPECT_EQ(frame_.restored({200, 100}).center(), screen_.center());
+  EXPECT_TRUE(screen_.contains(frame_.restored({10000, 10000})));
+}
+
+TEST_F(WindowFrameTest, ComesBackWhereItWas) {
+  const QRect before(screen_.topLeft() + QPoint(20, 30), QSize(300, 200));
+  frame_.save(before);
+  EXPECT_EQ(frame_.restored({640, 360}), before);
+}
+
+TEST_F(WindowFrameTest, IsMovedWhereAPersonCanReachIt) {
+  frame_.save(QRect(screen_.bottomRight() - QPoint(100, 100), QSize(400, 300)));
+  EXPECT_TRUE(screen_.contains(frame_.restored({640, 360})));
+  frame_.save(QRect(screen_.topLeft(), screen_.size() * 2));
+  EXPECT_EQ(frame_.restored({640, 360}), screen_);
+}
+
+TEST_F(WindowFrameTest, ForgetsAScreenThatIsGoneAndNonsense) {
+  for (const QJsonValue& stored :
+       {QJsonValue(QJsonArray{100000, 100000, 300, 200}), QJsonValue(QJsonArray{0, 0, -5, 10}),
+        QJsonValue(QJsonArray{1, 2}), QJsonValue(QStringLiteral("here")), QJsonValue()}) {
+    defaults_.set(QStringLiteral("windowFrame Test"), stored);
+    EXPECT_EQ(frame_.restored({200, 100}).size(), QSize(200, 100));
+  }
+}
+
+}  // namespace
+}  // namespace tromelo
