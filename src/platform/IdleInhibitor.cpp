@@ -4,6 +4,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QPointer>
 #include <utility>
 
 #include "platform/SessionBus.h"
@@ -16,6 +17,12 @@ QDBusMessage screenSaverCall(const QString& method) {
   return QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.ScreenSaver"),
                                         QStringLiteral("/org/freedesktop/ScreenSaver"),
                                         QStringLiteral("org.freedesktop.ScreenSaver"), method);
+}
+
+void release(uint cookie) {
+  QDBusMessage call = screenSaverCall(QStringLiteral("UnInhibit"));
+  call << cookie;
+  if (auto bus = sessionBus()) bus->send(call);
 }
 
 }  // namespace
@@ -34,21 +41,24 @@ void IdleInhibitor::inhibit() {
   requested_ = true;
   QDBusMessage call = screenSaverCall(QStringLiteral("Inhibit"));
   call << QCoreApplication::applicationName() << QStringLiteral("Playing a video");
-  auto* watcher = new QDBusPendingCallWatcher(bus->asyncCall(call), this);
-  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-    const QDBusPendingReply<uint> reply = *watcher;
-    watcher->deleteLater();
-    requested_ = false;
-    if (reply.isError()) return;
-    cookie_ = reply.value();
-    if (!wanted_) release(std::exchange(cookie_, 0));
-  });
+  // Not a child of ours: an answer that comes after our end has to be given back too.
+  auto* watcher = new QDBusPendingCallWatcher(bus->asyncCall(call), qApp);
+  connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
+          [watcher, self = QPointer<IdleInhibitor>(this)] {
+            const QDBusPendingReply<uint> reply = *watcher;
+            watcher->deleteLater();
+            const uint cookie = reply.isError() ? 0 : reply.value();
+            if (self)
+              self->hold(cookie);
+            else if (cookie != 0)
+              release(cookie);
+          });
 }
 
-void IdleInhibitor::release(uint cookie) {
-  QDBusMessage call = screenSaverCall(QStringLiteral("UnInhibit"));
-  call << cookie;
-  if (auto bus = sessionBus()) bus->send(call);
+void IdleInhibitor::hold(uint cookie) {
+  requested_ = false;
+  cookie_ = cookie;
+  if (!wanted_ && cookie_ != 0) release(std::exchange(cookie_, 0));
 }
 
 }  // namespace tromelo

@@ -18,7 +18,7 @@ class IdleInhibitor : public QObject {
 
  private:
   void inhibit();
-  void release(uint cookie);
+  void hold(uint cookie);
 
   bool wanted_ = false;
   bool requested_ = false;  // an answer is on its way

@@ -1,0 +1,85 @@
+#include "platform/IdleInhibitor.h"
+
+#include <gtest/gtest.h>
+
+#include <QDBusConnection>
+#include <QProcess>
+#include <set>
+
+#include "support/WaitFor.h"
+
+namespace tromelo {
+namespace {
+
+/// A session bus of the test's own.
+class BusDaemon {
+ public:
+  BusDaemon() {
+    process_.start(QStringLiteral("dbus-daemon"),
+                   {QStringLiteral("--session"), QStringLiteral("--nofork"),
+                    QStringLiteral("--print-address")});
+    process_.waitForReadyRead();
+    address = process_.readLine().trimmed();
+  }
+  ~BusDaemon() {
+    process_.kill();
+    process_.waitForFinished();
+  }
+  QByteArray address;
+
+ private:
+  QProcess process_;
+};
+
+/// The desktop's side.
+class ScreenSaver : public QObject {
+  Q_OBJECT
+  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.ScreenSaver")
+
+ public:
+  std::set<uint> held;
+  int inhibited = 0;
+
+ public Q_SLOTS:
+  uint Inhibit(const QString&, const QString&) {
+    held.insert(++inhibited);
+    return inhibited;
+  }
+  void UnInhibit(uint cookie) { held.erase(cookie); }
+};
+
+TEST(IdleInhibitor, HoldsTheScreenAwakeWhileItIsWanted) {
+  const BusDaemon daemon;
+  ASSERT_FALSE(daemon.address.isEmpty());
+  qputenv("DBUS_SESSION_BUS_ADDRESS", daemon.address);
+  const QString name = QStringLiteral("desktop");
+  ScreenSaver saver;
+  {
+    QDBusConnection desktop =
+        QDBusConnection::connectToBus(QString::fromLatin1(daemon.address), name);
+    ASSERT_TRUE(desktop.registerObject(QStringLiteral("/org/freedesktop/ScreenSaver"), &saver,
+                                       QDBusConnection::ExportAllSlots));
+    ASSERT_TRUE(desktop.registerService(QStringLiteral("org.freedesktop.ScreenSaver")));
+
+    IdleInhibitor inhibitor;
+    inhibitor.setInhibited(true);
+    inhibitor.setInhibited(true);
+    EXPECT_TRUE(testing::waitFor([&] { return saver.held.size() == 1; }));
+    inhibitor.setInhibited(false);
+    EXPECT_TRUE(testing::waitFor([&] { return saver.held.empty(); }));
+
+    inhibitor.setInhibited(true);  // taken back before the desktop has answered
+    inhibitor.setInhibited(false);
+    EXPECT_TRUE(testing::waitFor([&] { return saver.inhibited == 2 && saver.held.empty(); }));
+
+    inhibitor.setInhibited(true);
+    EXPECT_TRUE(testing::waitFor([&] { return saver.held.size() == 1; }));
+  }
+  EXPECT_TRUE(testing::waitFor([&] { return saver.held.empty(); })) << "still held after its end";
+  QDBusConnection::disconnectFromBus(name);
+}
+
+}  // namespace
+}  // namespace tromelo
+
+#include "IdleInhibitorTest.moc"
