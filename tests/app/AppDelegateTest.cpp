@@ -18,6 +18,13 @@ struct NoFileChooser : FileChooser {
   void chooseFiles(const Request&, Callback) override {}
 };
 
+CommandLine fileAt(const std::string& path, std::optional<double> start = {}) {
+  CommandLine line;
+  line.path = path;
+  line.start = start;
+  return line;
+}
+
 class AppDelegateTest : public ::testing::Test {
  protected:
   void launch(const CommandLine& line) {
@@ -71,7 +78,7 @@ class AppDelegateTest : public ::testing::Test {
 
 TEST_F(AppDelegateTest, OpensTheLaunchFileAfterTheLibraryIsShown) {
   const std::string movie = file("movie.mkv");
-  launch({.path = movie, .start = 90});
+  launch(fileAt(movie, 90));
   EXPECT_EQ(libraries_, 0);
   delegate_->applicationDidFinishLaunching();
   EXPECT_TRUE(library_->visible);
@@ -79,7 +86,7 @@ TEST_F(AppDelegateTest, OpensTheLaunchFileAfterTheLibraryIsShown) {
 }
 
 TEST_F(AppDelegateTest, IgnoresALaunchFileThatIsNotThere) {
-  launch({.path = "/no/such/movie.mkv"});
+  launch(fileAt("/no/such/movie.mkv"));
   delegate_->applicationDidFinishLaunching();
   EXPECT_EQ(takeLoaded(), std::vector<std::string>{});
   EXPECT_EQ(delegate_->playback().errorMessage(), QString());
@@ -96,7 +103,7 @@ TEST_F(AppDelegateTest, OpensTheFirstOfTheFilesHandedOver) {
 
 TEST_F(AppDelegateTest, DoesNotOpenTheLaunchFileTwice) {
   const std::string movie = file("movie.mkv");
-  launch({.path = movie});
+  launch(fileAt(movie));
   delegate_->applicationOpen({fileUrlFromPath(movie)});
   delegate_->applicationDidFinishLaunching();
   EXPECT_EQ(takeLoaded(), std::vector{movie + " "});
