@@ -21,9 +21,11 @@ PlayerWindowController& AppDelegate::player() {
 
 void AppDelegate::applicationDidFinishLaunching() {
   didFinishLaunching_ = true;
-  showLibraryWindow();
+  // The engine is told first: it loads the file while the library window is made, and what comes of
+  // it can't show before that window does.
   if (launchPath_ && fileExists(*launchPath_))
     playback_->open(fileUrlFromPath(*launchPath_), launchStart_);
+  showLibraryWindow();
 }
 
 void AppDelegate::applicationOpen(const QList<QUrl>& urls, std::optional<double> start) {

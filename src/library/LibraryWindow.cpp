@@ -16,37 +16,58 @@ constexpr QSize kContentSize(1100, 720);  // points
 
 LibraryWindow::LibraryWindow(QQmlEngine& engine, PlaybackModel& playback,
                              PlayerWindowController& player, UserDefaults& defaults)
-    : frame_(defaults, QStringLiteral("TromeloLibrary")) {
-  QQmlComponent component(&engine, QStringLiteral("Tromelo.Library"),
+    : engine_(engine),
+      playback_(playback),
+      player_(player),
+      frame_(defaults, QStringLiteral("TromeloLibrary")) {}
+
+LibraryWindow::~LibraryWindow() = default;
+
+void LibraryWindow::make() {
+  QQmlComponent component(&engine_, QStringLiteral("Tromelo.Library"),
                           QStringLiteral("LibraryWindow"));
   window_.reset(qobject_cast<QQuickWindow*>(component.createWithInitialProperties(
-      {{QStringLiteral("playback"), QVariant::fromValue(&playback)},
-       {QStringLiteral("player"), QVariant::fromValue(&player)}})));
+      {{QStringLiteral("playback"), QVariant::fromValue(&playback_)},
+       {QStringLiteral("player"), QVariant::fromValue(&player_)}})));
   if (!window_) qFatal("%s", qPrintable(component.errorString()));
   fade_ = std::make_unique<WindowFade>(
       *window_->findChild<QQuickItem*>(QStringLiteral("libraryScene")));
+  fade_->setOpacity(opacity_);
   window_->setGeometry(frame_.restored(kContentSize));
   window_->installEventFilter(this);
 }
 
-LibraryWindow::~LibraryWindow() = default;
+bool LibraryWindow::isVisible() const { return window_ ? window_->isVisible() : isComing_; }
 
-bool LibraryWindow::isVisible() const { return window_->isVisible(); }
-
-void LibraryWindow::setOpacity(double opacity) { fade_->setOpacity(opacity); }
+void LibraryWindow::setOpacity(double opacity) {
+  opacity_ = opacity;
+  if (fade_) fade_->setOpacity(opacity);
+}
 
 void LibraryWindow::fadeTo(double opacity, std::chrono::milliseconds duration,
                            QEasingCurve::Type curve, std::function<void()> completed) {
+  if (!window_) make();
   fade_->start(opacity, duration, curve, std::move(completed));
 }
 
 void LibraryWindow::makeKeyAndOrderFront() {
+  isComing_ = true;
+  if (window_) return present();
+  QMetaObject::invokeMethod(this, &LibraryWindow::present, Qt::QueuedConnection);
+}
+
+void LibraryWindow::present() {
+  if (!isComing_) return;
+  isComing_ = false;
+  if (!window_) make();
   window_->show();
   window_->raise();
   window_->requestActivate();
 }
 
 void LibraryWindow::orderOut() {
+  isComing_ = false;
+  if (!window_) return;
   if (window_->visibility() == QWindow::Windowed) frame_.save(window_->geometry());
   window_->hide();
 }

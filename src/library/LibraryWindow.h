@@ -13,7 +13,8 @@ namespace tromelo {
 class PlaybackModel;
 class PlayerWindowController;
 
-/// The program's home. Closing it only hides it. Main thread only.
+/// The program's home. Closing it only hides it. It comes on the screen when the event loop runs: a
+/// file that is opened together with it doesn't wait for its scene. Main thread only.
 class LibraryWindow : public HostWindow {
   Q_OBJECT
 
@@ -38,7 +39,15 @@ class LibraryWindow : public HostWindow {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void make();
+  void present();
+
+  QQmlEngine& engine_;
+  PlaybackModel& playback_;
+  PlayerWindowController& player_;
   WindowFrame frame_;
+  bool isComing_ = false;
+  double opacity_ = 1;
   std::unique_ptr<QQuickWindow> window_;
   std::unique_ptr<WindowFade> fade_;
 };

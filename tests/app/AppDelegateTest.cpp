@@ -76,7 +76,7 @@ class AppDelegateTest : public ::testing::Test {
   int ready_ = 0;
 };
 
-TEST_F(AppDelegateTest, OpensTheLaunchFileAfterTheLibraryIsShown) {
+TEST_F(AppDelegateTest, ShowsTheLibraryAndOpensTheLaunchFile) {
   const std::string movie = file("movie.mkv");
   launch(fileAt(movie, 90));
   EXPECT_EQ(libraries_, 0);
