@@ -1,5 +1,7 @@
 #include "library/LibraryWindow.h"
 
+#include <malloc.h>
+
 #include <QEvent>
 #include <QQmlComponent>
 
@@ -11,6 +13,13 @@ namespace tromelo {
 namespace {
 
 constexpr QSize kContentSize(1100, 720);  // points
+
+/// What starting up and the scene used and left is of no use to the film that plays next.
+void giveFreedMemoryBack() {
+#ifdef __GLIBC__
+  malloc_trim(0);
+#endif
+}
 
 }  // namespace
 
@@ -34,6 +43,9 @@ void LibraryWindow::make() {
       *window_->findChild<QQuickItem*>(QStringLiteral("libraryScene")));
   fade_->setOpacity(opacity_);
   window_->setGeometry(frame_.restored(kContentSize));
+  // Hidden, which it is while a film plays, it keeps no graphics memory.
+  window_->setPersistentSceneGraph(false);
+  window_->setPersistentGraphics(false);
   window_->installEventFilter(this);
 }
 
@@ -70,6 +82,7 @@ void LibraryWindow::orderOut() {
   if (!window_) return;
   if (window_->visibility() == QWindow::Windowed) frame_.save(window_->geometry());
   window_->hide();
+  QMetaObject::invokeMethod(this, &giveFreedMemoryBack, Qt::QueuedConnection);
 }
 
 bool LibraryWindow::eventFilter(QObject* watched, QEvent* event) {
