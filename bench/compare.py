@@ -22,7 +22,7 @@ MPV = (
 
 def has_colour(pixel):
     """The clip is all strong colours; the desktop and the library are greys and near-blacks."""
-    return max(pixel) - min(pixel) > 24
+    return max(pixel) - min(pixel) > 12
 
 
 def is_backdrop(pixel):
