@@ -21,11 +21,9 @@ PlayerWindowController& AppDelegate::player() {
 
 void AppDelegate::applicationDidFinishLaunching() {
   didFinishLaunching_ = true;
-  // The engine is told first: it loads the file while the library window is made, and what comes of
-  // it can't show before that window does.
+  showLibraryWindow();
   if (launchPath_ && fileExists(*launchPath_))
     playback_->open(fileUrlFromPath(*launchPath_), launchStart_);
-  showLibraryWindow();
 }
 
 void AppDelegate::applicationOpen(const QList<QUrl>& urls, std::optional<double> start) {

@@ -22,8 +22,6 @@ class Commands : public QObject {
   /// Listens to the application object from now on.
   explicit Commands(std::vector<Command> commands);
 
-  const std::vector<Command>& all() const { return commands_; }
-
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 

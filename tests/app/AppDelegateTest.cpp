@@ -6,17 +6,13 @@
 
 #include "../player/FakeWindows.h"
 #include "platform/FilePath.h"
-#include "playback/FileChooser.h"
 #include "support/FakeMpv.h"
 #include "support/ManualClock.h"
+#include "support/NoFileChooser.h"
 #include "support/WaitFor.h"
 
 namespace tromelo {
 namespace {
-
-struct NoFileChooser : FileChooser {
-  void chooseFiles(const Request&, Callback) override {}
-};
 
 CommandLine fileAt(const std::string& path, std::optional<double> start = {}) {
   CommandLine line;
@@ -67,7 +63,7 @@ class AppDelegateTest : public ::testing::Test {
   testing::FakeWindowSystem windows_;
   testing::FakeMpv mpv_;
   MpvClientApi api_ = mpv_.api();
-  NoFileChooser files_;
+  testing::NoFileChooser files_;
   QTemporaryDir directory_;
   UserDefaults defaults_{directory_.filePath(QStringLiteral("defaults.json"))};
   std::unique_ptr<AppDelegate> delegate_;
@@ -76,7 +72,7 @@ class AppDelegateTest : public ::testing::Test {
   int ready_ = 0;
 };
 
-TEST_F(AppDelegateTest, ShowsTheLibraryAndOpensTheLaunchFile) {
+TEST_F(AppDelegateTest, OpensTheLaunchFileAfterTheLibraryIsShown) {
   const std::string movie = file("movie.mkv");
   launch(fileAt(movie, 90));
   EXPECT_EQ(libraries_, 0);

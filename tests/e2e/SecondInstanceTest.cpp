@@ -1,33 +1,11 @@
-#include <QFile>
-
 #include "EndToEnd.h"
+#include "support/BusDaemon.h"
 
 namespace tromelo::testing {
 namespace {
 
-/// A session bus of the test's own.
-class SessionBus {
- public:
-  SessionBus() {
-    process_.start(QStringLiteral("dbus-daemon"),
-                   {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                    QStringLiteral("--print-address")});
-    process_.waitForReadyRead();
-    address_ = QString::fromUtf8(process_.readLine()).trimmed();
-  }
-  ~SessionBus() {
-    process_.terminate();
-    process_.waitForFinished();
-  }
-  const QString& address() const { return address_; }
-
- private:
-  QProcess process_;
-  QString address_;
-};
-
 TEST_F(EndToEnd, ASecondStartHandsItsFileToTheFirst) {
-  const SessionBus bus;
+  const BusDaemon bus;
   ASSERT_FALSE(bus.address().isEmpty());
   RunningPlayer second;
   for (RunningPlayer* each : {&player, &second})

@@ -3,33 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QDBusConnection>
-#include <QProcess>
 #include <set>
 
+#include "support/BusDaemon.h"
 #include "support/WaitFor.h"
 
 namespace tromelo {
 namespace {
-
-/// A session bus of the test's own.
-class BusDaemon {
- public:
-  BusDaemon() {
-    process_.start(QStringLiteral("dbus-daemon"),
-                   {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                    QStringLiteral("--print-address")});
-    process_.waitForReadyRead();
-    address = process_.readLine().trimmed();
-  }
-  ~BusDaemon() {
-    process_.kill();
-    process_.waitForFinished();
-  }
-  QByteArray address;
-
- private:
-  QProcess process_;
-};
 
 /// The desktop's side.
 class ScreenSaver : public QObject {
@@ -49,14 +29,13 @@ class ScreenSaver : public QObject {
 };
 
 TEST(IdleInhibitor, HoldsTheScreenAwakeWhileItIsWanted) {
-  const BusDaemon daemon;
-  ASSERT_FALSE(daemon.address.isEmpty());
-  qputenv("DBUS_SESSION_BUS_ADDRESS", daemon.address);
+  const testing::BusDaemon daemon;
+  ASSERT_FALSE(daemon.address().isEmpty());
+  qputenv("DBUS_SESSION_BUS_ADDRESS", daemon.address().toUtf8());
   const QString name = QStringLiteral("desktop");
   ScreenSaver saver;
   {
-    QDBusConnection desktop =
-        QDBusConnection::connectToBus(QString::fromLatin1(daemon.address), name);
+    QDBusConnection desktop = QDBusConnection::connectToBus(daemon.address(), name);
     ASSERT_TRUE(desktop.registerObject(QStringLiteral("/org/freedesktop/ScreenSaver"), &saver,
                                        QDBusConnection::ExportAllSlots));
     ASSERT_TRUE(desktop.registerService(QStringLiteral("org.freedesktop.ScreenSaver")));

@@ -6,10 +6,10 @@
 
 #include "FakeWindows.h"
 #include "platform/FilePath.h"
-#include "playback/FileChooser.h"
 #include "playback/PlaybackModel.h"
 #include "support/FakeMpv.h"
 #include "support/ManualClock.h"
+#include "support/NoFileChooser.h"
 
 namespace tromelo {
 namespace {
@@ -18,10 +18,6 @@ using namespace std::chrono_literals;
 using testing::FakeLibraryWindow;
 using testing::FakeVideoWindow;
 using Sent = std::vector<std::string>;
-
-struct NoFileChooser : FileChooser {
-  void chooseFiles(const Request&, Callback) override {}
-};
 
 class PlayerWindowControllerTest : public ::testing::Test {
  protected:
@@ -74,7 +70,7 @@ class PlayerWindowControllerTest : public ::testing::Test {
   testing::FakeWindowSystem windows_;
   testing::FakeMpv mpv_;
   MpvClientApi api_ = mpv_.api();
-  NoFileChooser files_;
+  testing::NoFileChooser files_;
   QTemporaryDir directory_;
   FakeLibraryWindow library_{clock_};
   FakeVideoWindow window_{clock_};

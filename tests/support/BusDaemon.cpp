@@ -1,0 +1,18 @@
+#include "support/BusDaemon.h"
+
+namespace tromelo::testing {
+
+BusDaemon::BusDaemon() {
+  process_.start(
+      QStringLiteral("dbus-daemon"),
+      {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address")});
+  process_.waitForReadyRead();
+  address_ = QString::fromUtf8(process_.readLine()).trimmed();
+}
+
+BusDaemon::~BusDaemon() {
+  process_.terminate();
+  process_.waitForFinished();
+}
+
+}  // namespace tromelo::testing
