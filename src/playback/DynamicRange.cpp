@@ -1,5 +1,7 @@
 #include "playback/DynamicRange.h"
 
+#include "playback/SignalInputs.h"
+
 namespace tromelo {
 
 QString DynamicRange::label() const {
@@ -15,6 +17,16 @@ QString DynamicRange::label() const {
   }
   const QString name = QStringLiteral("Dolby Vision");
   return profile ? name + QStringLiteral(" · Profile %1").arg(*profile) : name;
+}
+
+DynamicRange dynamicRangeOf(const SignalInputs& inputs) {
+  using Kind = DynamicRange::Kind;
+  if (inputs.colormatrix == "dolbyvision" || inputs.dolbyVisionProfile.value_or(0) >= 1) {
+    return {Kind::dolbyVision, inputs.dolbyVisionProfile};
+  }
+  if (inputs.gamma == "pq") return {Kind::hdr10, {}};
+  if (inputs.gamma == "hlg") return {Kind::hlg, {}};
+  return {};
 }
 
 }  // namespace tromelo

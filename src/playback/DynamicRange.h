@@ -7,6 +7,8 @@
 
 namespace tromelo {
 
+struct SignalInputs;
+
 /// What kind of signal the current video carries.
 class DynamicRange {
   Q_GADGET
@@ -25,5 +27,8 @@ class DynamicRange {
 
   friend bool operator==(const DynamicRange&, const DynamicRange&) = default;
 };
+
+/// Of the video that the engine describes; Dolby Vision goes before what it is built on.
+DynamicRange dynamicRangeOf(const SignalInputs& inputs);
 
 }  // namespace tromelo

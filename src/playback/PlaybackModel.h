@@ -10,6 +10,7 @@
 #include <string>
 
 #include "engine/MpvEngine.h"
+#include "platform/ScreenHeadroom.h"
 #include "playback/Chapter.h"
 #include "playback/DynamicRange.h"
 #include "playback/HardwareDecoding.h"
@@ -99,11 +100,9 @@ class PlaybackModel : public QObject {
   double speed() const { return speed_; }                  // 1 is the file's own
   double subtitleDelay() const { return subtitleDelay_; }  // seconds
   double audioDelay() const { return audioDelay_; }        // seconds
-  bool isLooping() const { return isLooping_; }  // the current file starts over at its end
-  QString status() const { return status_; }     // one line on the state
-  QString errorMessage() const {
-    return errorMessage_;
-  }  // the last error; empty when there is none
+  bool isLooping() const { return isLooping_; }           // the current file starts over at its end
+  QString status() const { return status_; }              // one line on the state
+  QString errorMessage() const { return errorMessage_; }  // the last one, or empty
   QString videoSize() const { return videoSize_; }
   QString frameRate() const { return frameRate_; }
   QString codec() const { return codec_; }  // of the video
@@ -120,11 +119,9 @@ class PlaybackModel : public QObject {
   QList<Chapter> chapters() const { return chapters_; }
   std::optional<int> currentChapter() const { return currentChapter_; }  // in chapters
   QList<QueueItem> queue() const { return queue_; }
-  bool isScrubbing() const { return isScrubbing_; }  // the position is being dragged
-  double scrubPosition() const {
-    return scrubPosition_;
-  }  // seconds; follows elapsed unless it is being dragged
-  QList<QUrl> recents() const { return recents_; }  // newest first
+  bool isScrubbing() const { return isScrubbing_; }        // the position is being dragged
+  double scrubPosition() const { return scrubPosition_; }  // seconds; elapsed unless dragged
+  QList<QUrl> recents() const { return recents_; }         // newest first
   QUrl lastURL() const {
     return lastURL_;
   }  // the file that the engine told of last; empty when there is none
@@ -175,6 +172,9 @@ class PlaybackModel : public QObject {
   /// Seconds, rounded to milliseconds.
   Q_INVOKABLE void setSubtitleDelay(double seconds);
   Q_INVOKABLE void setAudioDelay(double seconds);
+
+  /// The player's window is on this screen; without one nothing changes.
+  void updateDisplay(const std::optional<ScreenHeadroom>& screen);
 
   void reportPlaybackError(const QString& message);
 
@@ -230,6 +230,8 @@ class PlaybackModel : public QObject {
   void handleFailedFile(const QString& error);
   void resetForNewFile();
   void updateStatus();
+  void describeSignal();
+  void describeOutput();
   void showVideoReady();
   void publishQueue(const PlayQueue& queue);
 

@@ -57,6 +57,18 @@ struct PropertyMapping::Actions {
   }
 
   template <auto Input>
+  static void storeSignal(Model& m, const Value& v) {
+    store<Input>(m, v);
+    m.describeSignal();
+  }
+
+  template <auto Input>
+  static void storeOutput(Model& m, const Value& v) {
+    store<Input>(m, v);
+    m.describeOutput();
+  }
+
+  template <auto Input>
   static void storeSize(Model& m, const Value& v) {
     store<Input>(m, v);
     if (const auto size = videoSizeText(m.inputs_.width, m.inputs_.height)) m.videoSize_ = *size;
@@ -151,13 +163,13 @@ const PropertyMapping::Row& PropertyMapping::row(MpvProperty property) {
       Row{P::fileFormat, kSession, A::showText<&Model::container_, containerText>},
       Row{P::decoderDrops, kLasting, A::showOr<&Model::decoderFrameDrops_, kNoDrops>},
       Row{P::outputDrops, kLasting, A::showOr<&Model::outputFrameDrops_, kNoDrops>},
-      Row{P::gamma, kSession, A::store<&I::gamma>},
+      Row{P::gamma, kSession, A::storeSignal<&I::gamma>},
       Row{P::primaries, kSession, A::none},
-      Row{P::colormatrix, kSession, A::store<&I::colormatrix>},
+      Row{P::colormatrix, kSession, A::storeSignal<&I::colormatrix>},
       Row{P::sigPeak, kSession, A::none},
-      Row{P::dolbyVisionProfile, kSession, A::store<&I::dolbyVisionProfile>},
-      Row{P::targetGamma, kSession, A::store<&I::targetGamma>},
-      Row{P::targetPrimaries, kSession, A::store<&I::targetPrimaries>},
+      Row{P::dolbyVisionProfile, kSession, A::storeSignal<&I::dolbyVisionProfile>},
+      Row{P::targetGamma, kSession, A::storeOutput<&I::targetGamma>},
+      Row{P::targetPrimaries, kSession, A::storeOutput<&I::targetPrimaries>},
       Row{P::path, kSession, A::path},
       Row{P::trackList, kLasting, A::none},
       Row{P::chapterList, kLasting, A::none},

@@ -32,7 +32,7 @@ class ModelTest : public ::testing::Test {
   PlaybackModel& model() { return *model_; }
   void report(const MpvEvent& event) { model_->engine().onEvent(event); }
   void report(MpvProperty property, MpvValue value) {
-    report(event::Property{property, std::move(value)});
+    report(MpvEvent(std::in_place_type<event::Property>, property, std::move(value)));
   }
   /// A file that plays.
   void load() {

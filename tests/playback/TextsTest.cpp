@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "playback/DynamicRange.h"
 #include "playback/FileOptions.h"
 #include "playback/SpeedLadder.h"
 
@@ -24,15 +23,6 @@ TEST(SpeedLadder, ClimbsByRungsAndStaysOn) {
   for (const auto& row : rows) {
     EXPECT_EQ(steppedSpeed(row.speed, row.steps), row.expected) << row.speed << " " << row.steps;
   }
-}
-
-TEST(DynamicRange, IsNamed) {
-  using Kind = DynamicRange::Kind;
-  EXPECT_EQ((DynamicRange{Kind::sdr, {}}.label()), "SDR");
-  EXPECT_EQ((DynamicRange{Kind::hdr10, {}}.label()), "HDR10 · PQ");
-  EXPECT_EQ((DynamicRange{Kind::hlg, {}}.label()), "HLG");
-  EXPECT_EQ((DynamicRange{Kind::dolbyVision, {}}.label()), "Dolby Vision");
-  EXPECT_EQ((DynamicRange{Kind::dolbyVision, 8}.label()), "Dolby Vision · Profile 8");
 }
 
 }  // namespace tromelo

@@ -1,0 +1,114 @@
+#include "ModelTest.h"
+#include "playback/SignalTexts.h"
+
+namespace tromelo {
+
+namespace {
+
+using Kind = DynamicRange::Kind;
+using P = MpvProperty;
+using testing::ModelTest;
+
+struct Signal : ModelTest {};
+
+}  // namespace
+
+TEST(DynamicRange, ComesFromWhatTheEngineSaysOfTheVideo) {
+  const struct {
+    const char* what;
+    std::optional<std::string> gamma;
+    std::optional<std::string> colormatrix;
+    std::optional<std::int64_t> profile;
+    DynamicRange expected;
+    const char* label;
+  } rows[] = {
+      {"nothing", {}, {}, {}, {}, "SDR"},
+      {"bt.1886", "bt.1886", "bt.709", {}, {}, "SDR"},
+      {"an empty gamma", "", "", {}, {}, "SDR"},
+      {"pq", "pq", "bt.2020-ncl", {}, {Kind::hdr10, {}}, "HDR10 · PQ"},
+      {"pq, profile 0", "pq", {}, 0, {Kind::hdr10, {}}, "HDR10 · PQ"},
+      {"pq, profile -1", "pq", {}, -1, {Kind::hdr10, {}}, "HDR10 · PQ"},
+      {"hlg", "hlg", {}, {}, {Kind::hlg, {}}, "HLG"},
+      {"pq, profile 8", "pq", {}, 8, {Kind::dolbyVision, 8}, "Dolby Vision · Profile 8"},
+      {"its matrix only", "pq", "dolbyvision", {}, {Kind::dolbyVision, {}}, "Dolby Vision"},
+      {"its matrix, profile 0",
+       {},
+       "dolbyvision",
+       0,
+       {Kind::dolbyVision, 0},
+       "Dolby Vision · Profile 0"},
+  };
+  for (const auto& row : rows) {
+    SignalInputs inputs;
+    inputs.gamma = row.gamma;
+    inputs.colormatrix = row.colormatrix;
+    inputs.dolbyVisionProfile = row.profile;
+    EXPECT_EQ(dynamicRangeOf(inputs), row.expected) << row.what;
+    EXPECT_EQ(dynamicRangeOf(inputs).label(), row.label) << row.what;
+  }
+}
+
+TEST(SignalTexts, SayWhatGoesToTheScreen) {
+  const struct {
+    std::optional<std::string> gamma;
+    std::optional<std::string> primaries;
+    Kind kind;
+    std::optional<QString> expected;
+  } rows[] = {
+      {{}, {}, Kind::sdr, {}},
+      {{}, "bt.709", Kind::hdr10, {}},
+      {"pq", "bt.2020", Kind::hdr10, "HDR · PQ · BT.2020 (EDR)"},
+      {"pq", {}, Kind::sdr, "HDR · PQ (EDR)"},
+      {"hlg", "bt.2020", Kind::hlg, "HDR · HLG · BT.2020 (EDR)"},
+      {"bt.1886", "bt.709", Kind::hdr10, "Tone-mapped to SDR · BT.709"},
+      {"bt.1886", "bt.709", Kind::sdr, "SDR · BT.709"},
+      {"srgb", {}, Kind::dolbyVision, "Tone-mapped to SDR"},
+      {"srgb", {}, Kind::sdr, "SDR"},
+  };
+  for (const auto& row : rows) {
+    SignalInputs inputs;
+    inputs.targetGamma = row.gamma;
+    inputs.targetPrimaries = row.primaries;
+    EXPECT_EQ(outputText(inputs, {row.kind, {}}), row.expected)
+        << row.expected.value_or("none").toStdString();
+  }
+}
+
+TEST(SignalTexts, SayWhatTheScreenCanShow) {
+  EXPECT_EQ(displayText({16, 4.3}), "EDR · 16.0× headroom (now 4.3×)");
+  EXPECT_EQ(displayText({1.04, 1}), "EDR · 1.0× headroom (now 1.0×)");
+  EXPECT_EQ(displayText({1, 1}), "SDR display");
+  EXPECT_EQ(displayText({NAN, NAN}), "SDR display");
+}
+
+TEST_F(Signal, FollowsWhatIsReportedAndIsForgottenWithItsFile) {
+  report(P::targetGamma, "bt.1886");
+  EXPECT_EQ(model().output(), "SDR");
+  report(P::gamma, "pq");
+  EXPECT_EQ(model().dynamicRange().label(), "HDR10 · PQ");
+  EXPECT_EQ(model().output(), "Tone-mapped to SDR");
+  report(P::targetPrimaries, "bt.709");
+  report(P::colormatrix, "dolbyvision");
+  report(P::dolbyVisionProfile, std::int64_t{5});
+  EXPECT_EQ(model().dynamicRange().label(), "Dolby Vision · Profile 5");
+  for (const P gone :
+       {P::gamma, P::colormatrix, P::dolbyVisionProfile, P::targetGamma, P::targetPrimaries}) {
+    report(gone, {});
+  }
+  EXPECT_EQ(model().dynamicRange().label(), "Dolby Vision · Profile 5");
+  EXPECT_EQ(model().output(), "Tone-mapped to SDR · BT.709");
+
+  model().updateDisplay(ScreenHeadroom{2, 1.5});
+  report(event::StartFile{});
+  EXPECT_EQ(model().dynamicRange(), DynamicRange());
+  EXPECT_EQ(model().output(), "—");
+  EXPECT_EQ(model().display(), "EDR · 2.0× headroom (now 1.5×)");
+  model().updateDisplay({});
+  EXPECT_EQ(model().display(), "EDR · 2.0× headroom (now 1.5×)");
+  report(P::targetGamma, "hlg");
+  EXPECT_EQ(model().output(), "HDR · HLG (EDR)");
+  report(P::targetGamma, true);
+  EXPECT_EQ(model().output(), "—");
+}
+
+}  // namespace tromelo
