@@ -67,9 +67,11 @@ bool Program::startDisplay() {
 }
 
 void Program::makeDelegate() {
-  stage_ = std::make_unique<PlayerStage>(*display_, qmlEngine_, [this](QQuickItem& scene) {
-    return std::make_unique<QuickPlayerOverlay>(qmlEngine_, scene);
-  });
+  stage_ = std::make_unique<PlayerStage>(
+      *display_, qmlEngine_,
+      [this](QQuickItem& scene, PlaybackModel&, PlayerWindowController&) {
+        return std::make_unique<QuickPlayerOverlay>(qmlEngine_, scene);
+      });
   AppDelegate::Parts parts;
   parts.makePlayback = [this] {
     return std::make_unique<PlaybackModel>(PlaybackModel::Parts{

@@ -18,6 +18,11 @@ class QuickPlayerOverlay : public QObject, public PlayerOverlay {
   QuickPlayerOverlay(QQmlEngine& engine, QQuickItem& scene);
   ~QuickPlayerOverlay() override;
 
+  bool isMouseInsideChrome() const override { return false; }
+  void setChromeVisible(bool, bool) override {}
+  double height() const override { return view_->height(); }
+  double controlsTop() const override { return 0; }
+
  private Q_SLOTS:
   void reportDoubleClick();
   void reportDrop(const QList<QUrl>& urls);

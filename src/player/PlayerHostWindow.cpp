@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QScreen>
+#include <utility>
 
 #include "platform/KeptInside.h"
 
@@ -82,7 +83,20 @@ void PlayerHostWindow::present() {
   requestActivate();
 }
 
+void PlayerHostWindow::hidePointer() {
+  pointerHidden_ = true;
+  pointerHiddenAt_ = QCursor::pos(screen());
+  setCursor(Qt::BlankCursor);
+}
+
+void PlayerHostWindow::showPointer() {
+  if (std::exchange(pointerHidden_, false)) unsetCursor();
+}
+
 bool PlayerHostWindow::event(QEvent* event) {
+  if (event->type() == QEvent::MouseMove &&
+      static_cast<QMouseEvent*>(event)->globalPosition() != pointerHiddenAt_)
+    showPointer();
   if (event->type() == QEvent::Close) {
     event->ignore();
     Q_EMIT closeRequested();

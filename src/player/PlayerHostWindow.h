@@ -32,6 +32,10 @@ class PlayerHostWindow : public QQuickWindow {
   void showUnseen();
   void present();
 
+  /// Until it next moves over the window.
+  void hidePointer();
+  void showPointer();
+
  Q_SIGNALS:
   void closeRequested();
   void devicePixelRatioChanged();
@@ -47,6 +51,8 @@ class PlayerHostWindow : public QQuickWindow {
   std::unique_ptr<QQuickItem> scene_;
   EngineWindowItem* video_ = nullptr;
   std::unique_ptr<WindowFade> fade_;
+  QPointF pointerHiddenAt_;  // on the screen
+  bool pointerHidden_ = false;
 };
 
 }  // namespace tromelo

@@ -40,6 +40,9 @@ void PlayerWindow::followHost() {
           Qt::QueuedConnection);
   connect(host_.get(), &PlayerHostWindow::devicePixelRatioChanged, this,
           &PlayerWindow::scheduleHostState);
+  connect(host_.get(), &QWindow::screenChanged, this, &VideoWindow::screenChanged);
+  connect(host_.get(), &PlayerHostWindow::devicePixelRatioChanged, this,
+          &VideoWindow::screenChanged);
 }
 
 void PlayerWindow::followEngine() {
@@ -64,6 +67,13 @@ bool PlayerWindow::hasDrawingSurface() const {
   return engineWindow_ && engineWindow_->hasDrawingSurface();
 }
 
+bool PlayerWindow::isKey() const { return host_->isActive(); }
+
+std::optional<ScreenHeadroom> PlayerWindow::screenHeadroom() const {
+  if (!host_->screen()) return {};
+  return ScreenHeadroom();
+}
+
 void PlayerWindow::setOpacity(double opacity) { host_->fade().setOpacity(opacity); }
 
 void PlayerWindow::fadeTo(double opacity, std::chrono::milliseconds duration,
@@ -84,11 +94,14 @@ void PlayerWindow::dress(QSize minimumSize) {
   host_->showUnseen();
 }
 
-std::unique_ptr<PlayerOverlay> PlayerWindow::installOverlay() {
-  return overlayFactory_(host_->scene());
+std::unique_ptr<PlayerOverlay> PlayerWindow::installOverlay(PlaybackModel& playback,
+                                                            PlayerWindowController& controller) {
+  return overlayFactory_(host_->scene(), playback, controller);
 }
 
-void PlayerWindow::showPointer() { host_->unsetCursor(); }
+void PlayerWindow::hidePointer() { host_->hidePointer(); }
+
+void PlayerWindow::showPointer() { host_->showPointer(); }
 
 void PlayerWindow::adoptEngineSize() {
   const QSize pixels = engineWindow_ ? engineWindow_->size() : QSize();

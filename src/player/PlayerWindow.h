@@ -13,7 +13,8 @@
 namespace tromelo {
 
 /// Makes the overlay for a scene; see PlayerOverlay.
-using PlayerOverlayFactory = std::function<std::unique_ptr<PlayerOverlay>(QQuickItem& scene)>;
+using PlayerOverlayFactory = std::function<std::unique_ptr<PlayerOverlay>(
+    QQuickItem& scene, PlaybackModel& playback, PlayerWindowController& controller)>;
 
 /// An engine window in a host window: keeps the two agreed on size, full screen and visibility.
 class PlayerWindow : public VideoWindow {
@@ -29,13 +30,17 @@ class PlayerWindow : public VideoWindow {
   bool isMinimized() const override;
   bool isFullscreen() const override;
   bool hasDrawingSurface() const override;
+  bool isKey() const override;
+  std::optional<ScreenHeadroom> screenHeadroom() const override;
   void setOpacity(double opacity) override;
   void fadeTo(double opacity, std::chrono::milliseconds duration, QEasingCurve::Type curve,
               std::function<void()> completed) override;
   void makeKeyAndOrderFront() override;
   void orderOut() override;
   void dress(QSize minimumSize) override;
-  std::unique_ptr<PlayerOverlay> installOverlay() override;
+  std::unique_ptr<PlayerOverlay> installOverlay(PlaybackModel& playback,
+                                                PlayerWindowController& controller) override;
+  void hidePointer() override;
   void showPointer() override;
 
   PlayerHostWindow& host() { return *host_; }

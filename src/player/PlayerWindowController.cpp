@@ -79,7 +79,7 @@ void PlayerWindowController::adopt(VideoWindow& window) {
 }
 
 void PlayerWindowController::installOverlay(VideoWindow& window) {
-  overlay_ = window.installOverlay();
+  overlay_ = window.installOverlay(playback_, *this);
   overlay_->onDoubleClick = [this] { toggleFullscreen(); };
   overlay_->onDropFiles = [this](const QList<QUrl>& urls) { handleDroppedFiles(urls); };
 }

@@ -2,11 +2,16 @@
 
 #include <QSize>
 #include <memory>
+#include <optional>
 
+#include "platform/ScreenHeadroom.h"
 #include "player/HostWindow.h"
 #include "player/PlayerOverlay.h"
 
 namespace tromelo {
+
+class PlaybackModel;
+class PlayerWindowController;
 
 /// A window that the engine has opened, with the host window that shows it. It begins transparent
 /// and off the screen, and stays alive until the engine has taken it down and it is ordered out.
@@ -21,15 +26,24 @@ class VideoWindow : public HostWindow {
   virtual bool isMinimized() const = 0;
   virtual bool isFullscreen() const = 0;
   virtual bool hasDrawingSurface() const = 0;
+  /// It has the keyboard.
+  virtual bool isKey() const = 0;
+  /// Of the screen that it is on; none while it is on no screen.
+  virtual std::optional<ScreenHeadroom> screenHeadroom() const = 0;
 
   /// Dark, borderless, black behind the picture, no smaller than `minimumSize` (points); the scene
   /// is made ready, still transparent.
   virtual void dress(QSize minimumSize) = 0;
-  virtual std::unique_ptr<PlayerOverlay> installOverlay() = 0;
+  virtual std::unique_ptr<PlayerOverlay> installOverlay(PlaybackModel& playback,
+                                                        PlayerWindowController& controller) = 0;
+  /// Until the pointer next moves.
+  virtual void hidePointer() = 0;
   virtual void showPointer() = 0;
 
  Q_SIGNALS:
   void leftFullscreen();
+  /// It is on another screen, or its screen shows another range.
+  void screenChanged();
   /// The person asked the window manager to close it.
   void closeRequested();
 };

@@ -47,6 +47,30 @@ class FakeLibraryWindow final : public FakeWindow<HostWindow> {
   void orderOut() override { visible = ordered = false; }
 };
 
+class FakeOverlay final : public PlayerOverlay {
+ public:
+  /// Empties `self` when it goes.
+  explicit FakeOverlay(FakeOverlay*& self) : self_(self) {}
+  ~FakeOverlay() override { self_ = nullptr; }
+
+  bool isMouseInsideChrome() const override { return mouseInside; }
+  void setChromeVisible(bool visible, bool animated) override {
+    chromeVisible = visible;
+    wasAnimated = animated;
+  }
+  double height() const override { return size; }
+  double controlsTop() const override { return top; }
+
+  bool mouseInside = false;
+  bool chromeVisible = true;
+  bool wasAnimated = false;
+  double size = 400;
+  double top = 60;
+
+ private:
+  FakeOverlay*& self_;
+};
+
 class FakeVideoWindow final : public FakeWindow<VideoWindow> {
  public:
   explicit FakeVideoWindow(Clock& clock) : FakeWindow(clock) { visible = true; }
@@ -58,26 +82,25 @@ class FakeVideoWindow final : public FakeWindow<VideoWindow> {
     ++dressed;
     minimumSize = size;
   }
-  std::unique_ptr<PlayerOverlay> installOverlay() override {
-    auto made = std::make_unique<Overlay>(*this);
+  bool isKey() const override { return key; }
+  std::optional<ScreenHeadroom> screenHeadroom() const override { return headroom; }
+  std::unique_ptr<PlayerOverlay> installOverlay(PlaybackModel&, PlayerWindowController&) override {
+    auto made = std::make_unique<FakeOverlay>(overlay);
     overlay = made.get();
     return made;
   }
-  void showPointer() override {}
+  void hidePointer() override { pointerShown = false; }
+  void showPointer() override { pointerShown = true; }
 
   bool minimized = false;
   bool fullscreen = false;
   bool drawingSurface = true;
   int dressed = 0;
   QSize minimumSize;
-  PlayerOverlay* overlay = nullptr;
-
- private:
-  struct Overlay : PlayerOverlay {
-    explicit Overlay(FakeVideoWindow& on) : window(on) {}
-    ~Overlay() override { window.overlay = nullptr; }
-    FakeVideoWindow& window;
-  };
+  bool key = true;
+  bool pointerShown = true;
+  std::optional<ScreenHeadroom> headroom = ScreenHeadroom();
+  FakeOverlay* overlay = nullptr;
 };
 
 class FakeWindowSystem final : public WindowSystem {
