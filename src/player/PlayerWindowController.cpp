@@ -15,7 +15,6 @@ constexpr auto kRevealFallback = 1500ms;
 constexpr auto kFullscreenExitFallback = 2000ms;
 constexpr auto kFadeIn = 320ms;
 constexpr auto kFadeOut = 240ms;
-constexpr auto kToast = 1400ms;
 constexpr QSize kMinimumSize(520, 300);  // points
 
 }  // namespace
@@ -30,6 +29,7 @@ PlayerWindowController::PlayerWindowController(PlaybackModel& playback, WindowSy
   });
   connect(this, &PlayerWindowController::windowStateChanged, this,
           &PlayerWindowController::playsWithoutWindowChanged);
+  followState();
 }
 
 PlayerWindowController::~PlayerWindowController() = default;
@@ -71,6 +71,7 @@ void PlayerWindowController::adopt(VideoWindow& window) {
   isFadingOut_ = false;
   installOverlay(window);
   observe(window);
+  updateDisplay();
   Q_EMIT windowStateChanged();
   if (videoReady_)
     reveal();
@@ -80,13 +81,21 @@ void PlayerWindowController::adopt(VideoWindow& window) {
 
 void PlayerWindowController::installOverlay(VideoWindow& window) {
   overlay_ = window.installOverlay(playback_, *this);
+  overlay_->onActivity = [this] { handleActivity(); };
+  overlay_->onClick = [this] { toggleChrome(); };
   overlay_->onDoubleClick = [this] { toggleFullscreen(); };
+  overlay_->onLayout = [this] { updateSubtitleLift(); };
+  overlay_->onScroll = [this](double steps) { adjustVolume(steps); };
   overlay_->onDropFiles = [this](const QList<QUrl>& urls) { handleDroppedFiles(urls); };
+  chromeVisible_ = true;
+  overlay_->setChromeVisible(true, false);
+  updateSubtitleLift();
 }
 
 void PlayerWindowController::observe(VideoWindow& window) {
   forgetWhenDestroyed(window);
   connect(&window, &VideoWindow::closeRequested, this, &PlayerWindowController::close);
+  connect(&window, &VideoWindow::screenChanged, this, &PlayerWindowController::updateDisplay);
   connect(&window, &VideoWindow::leftFullscreen, this, [this] {
     if (fullscreenExitFallback_) finishClose();
     Q_EMIT windowStateChanged();
@@ -114,10 +123,12 @@ void PlayerWindowController::reveal() {
   awaitingVideo_ = false;
   revealFallback_.reset();
   window_->makeKeyAndOrderFront();
+  updateDisplay();
   const QPointer<VideoWindow> revealed = window_;
   window_->fadeTo(1, kFadeIn, QEasingCurve::OutQuad, [this, revealed] {
     if (!isRevealed_ || isClosing_ || !revealed || window_ != revealed) return;
     if (libraryWindow_) libraryWindow_->orderOut();
+    scheduleChromeHide();
   });
   if (libraryWindow_ && libraryWindow_->isVisible())
     libraryWindow_->fadeTo(0, kFadeIn, QEasingCurve::OutQuad, {});
@@ -148,16 +159,12 @@ void PlayerWindowController::showLibrary() {
   libraryWindow_->fadeTo(1, kFadeIn, QEasingCurve::OutQuad, {});
 }
 
-void PlayerWindowController::showToast(const QString& text) {
-  chrome_.setToast(text);
-  toastTimer_ = clock_.after(kToast, [this] { chrome_.setToast(std::nullopt); });
-}
-
 void PlayerWindowController::close() {
   if (!window_ || isClosing_) return;
   isClosing_ = true;
   awaitingVideo_ = false;
   playback_.engine().setProperty("pause", flagText(true));
+  hideTimer_.reset();
   if (!window_->isFullscreen()) return finishClose();
   playback_.engine().setProperty("fullscreen", flagText(false));
   fullscreenExitFallback_ = clock_.after(kFullscreenExitFallback, [this] { finishClose(); });
@@ -181,6 +188,7 @@ void PlayerWindowController::stopAndTearDown() {
 }
 
 void PlayerWindowController::tearDownWindowState() {
+  hideTimer_.reset();
   revealFallback_.reset();
   fullscreenExitFallback_.reset();
   overlay_.reset();
@@ -192,6 +200,7 @@ void PlayerWindowController::tearDownWindowState() {
   chrome_.setShowsInfo(false);
   chrome_.setPanel(std::nullopt);
   chrome_.setToast(std::nullopt);
+  updateSubtitleLift();
   if (window) giveUp(*window);
   Q_EMIT windowStateChanged();
 }

@@ -43,11 +43,15 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   /// Asks the engine, whose window it is.
   void toggleFullscreen();
   void handleDroppedFiles(const QList<QUrl>& urls);
+  /// By percent points, up or down, with a toast.
+  void adjustVolume(double percent);
   /// Before the engine is destroyed: drops all window state and watches for no more windows.
   void prepareForTermination();
 
   bool isRevealed() const { return isRevealed_; }
   bool isClosing() const { return isClosing_; }
+  /// The controls are shown, or coming up.
+  bool chromeVisible() const { return chromeVisible_; }
   /// A file plays that has no picture, so that no window has come.
   bool playsWithoutWindow() const;
   /// The way back from a file without a window: stops it.
@@ -69,6 +73,18 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   void tearDownWindowState();
   void giveUp(VideoWindow& window);
 
+  // The controls: when they are shown, and what follows from that.
+  void followState();
+  void showChrome();
+  void hideChrome();
+  void toggleChrome();
+  void scheduleChromeHide();
+  bool mayHideChrome() const;
+  void handleActivity();
+  void setInfoRefresh(bool shown);
+  void updateDisplay();
+  void updateSubtitleLift();
+
   PlaybackModel& playback_;
   WindowSystem& windows_;
   Clock& clock_;
@@ -83,9 +99,12 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   std::unique_ptr<Clock::Timer> revealFallback_;
   std::unique_ptr<Clock::Timer> fullscreenExitFallback_;
   std::unique_ptr<Clock::Timer> toastTimer_;
+  std::unique_ptr<Clock::Timer> hideTimer_;
+  std::unique_ptr<Clock::Timer> infoTimer_;
 
   bool awaitingVideo_ = false;
   bool videoReady_ = false;
+  bool chromeVisible_ = true;
   bool isRevealed_ = false;
   bool isClosing_ = false;
   bool isFadingOut_ = false;

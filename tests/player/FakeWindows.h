@@ -64,8 +64,8 @@ class FakeOverlay final : public PlayerOverlay {
   bool mouseInside = false;
   bool chromeVisible = true;
   bool wasAnimated = false;
-  double size = 400;
-  double top = 60;
+  double size = 0;
+  double top = 0;
 
  private:
   FakeOverlay*& self_;

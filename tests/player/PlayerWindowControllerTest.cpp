@@ -1,84 +1,13 @@
-#include "player/PlayerWindowController.h"
-
-#include <gtest/gtest.h>
-
-#include <QTemporaryDir>
-
-#include "FakeWindows.h"
+#include "PlayerTest.h"
 #include "platform/FilePath.h"
-#include "playback/PlaybackModel.h"
-#include "support/FakeMpv.h"
-#include "support/ManualClock.h"
-#include "support/NoFileChooser.h"
 
 namespace tromelo {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::FakeLibraryWindow;
 using testing::FakeVideoWindow;
-using Sent = std::vector<std::string>;
-
-class PlayerWindowControllerTest : public ::testing::Test {
- protected:
-  PlayerWindowControllerTest() {
-    library_.visible = true;
-    player().setLibraryWindow(&library_);
-    takeSent();
-  }
-
-  PlayerWindowController& player() {
-    return static_cast<PlayerWindowController&>(playback_.player());
-  }
-
-  /// As the model does when a person opens a file.
-  void await() {
-    player().setAwaitingVideo(true);
-    player().setVideoReady(false);
-  }
-
-  /// What the engine was told since the last call, a line each.
-  Sent takeSent() {
-    Sent lines;
-    for (const auto& words : std::exchange(mpv_.requests, {})) {
-      std::string line;
-      for (const std::string& word : words) line += (line.empty() ? "" : " ") + word;
-      lines.push_back(line);
-    }
-    return lines;
-  }
-
-  void ready() {
-    player().setVideoReady(true);
-    player().reveal();
-  }
-
-  void showVideo(FakeVideoWindow& window) {
-    await();
-    windows_.add(window);
-    ready();
-    clock_.advance(320ms);
-  }
-
-  /// The engine takes its window down.
-  void takeDown(FakeVideoWindow& window) {
-    window.visible = false;
-    Q_EMIT windows_.windowsChanged();
-  }
-
-  testing::ManualClock clock_;
-  testing::FakeWindowSystem windows_;
-  testing::FakeMpv mpv_;
-  MpvClientApi api_ = mpv_.api();
-  testing::NoFileChooser files_;
-  QTemporaryDir directory_;
-  FakeLibraryWindow library_{clock_};
-  FakeVideoWindow window_{clock_};
-  PlaybackModel playback_{
-      {api_, clock_, files_, directory_.path(), [this](PlaybackModel& playback) {
-         return std::make_unique<PlayerWindowController>(playback, windows_, clock_);
-       }}};
-};
+using PlayerWindowControllerTest = testing::PlayerTest;
+using Sent = PlayerWindowControllerTest::Sent;
 
 TEST_F(PlayerWindowControllerTest, DressesANewWindowUnseenAndRevealsItWhenTheVideoIsReady) {
   await();

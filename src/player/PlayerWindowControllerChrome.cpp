@@ -1,0 +1,106 @@
+#include <algorithm>
+#include <cmath>
+
+#include "playback/PlaybackModel.h"
+#include "player/PlayerWindowController.h"
+#include "player/SubtitleLift.h"
+
+namespace tromelo {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kToast = 1400ms;
+constexpr auto kInfoRefresh = 1000ms;
+constexpr double kLongestDelay = 24 * 60 * 60;  // seconds; a timer can't count to everything
+
+}  // namespace
+
+void PlayerWindowController::followState() {
+  connect(&playback_, &PlaybackModel::isPausedChanged, this, [this] {
+    if (window_) playback_.isPaused() ? showChrome() : scheduleChromeHide();
+  });
+  connect(&chrome_, &PlayerChrome::panelChanged, this, [this] {
+    if (window_) chrome_.panel() ? showChrome() : scheduleChromeHide();
+  });
+  connect(&chrome_, &PlayerChrome::showsInfoChanged, this,
+          [this] { setInfoRefresh(chrome_.showsInfo()); });
+  connect(
+      &playback_.settings(), &PlayerSettings::changed, this,
+      [this] {
+        if (window_) scheduleChromeHide();
+      },
+      Qt::QueuedConnection);
+}
+
+void PlayerWindowController::showChrome() {
+  if (chromeVisible_) return;
+  chromeVisible_ = true;
+  if (overlay_) overlay_->setChromeVisible(true, true);
+  updateSubtitleLift();
+}
+
+void PlayerWindowController::hideChrome() {
+  if (!chromeVisible_ || !window_ || !(window_->isKey() || window_->isFullscreen())) return;
+  chromeVisible_ = false;
+  if (overlay_) overlay_->setChromeVisible(false, true);
+  updateSubtitleLift();
+  window_->hidePointer();
+}
+
+void PlayerWindowController::toggleChrome() {
+  if (chromeVisible_) return hideChrome();
+  showChrome();
+  scheduleChromeHide();
+}
+
+void PlayerWindowController::scheduleChromeHide() {
+  hideTimer_.reset();
+  const double delay = playback_.settings().autoHideDelay();
+  if (!(delay > 0)) return;
+  const std::chrono::duration<double> seconds(std::min(delay, kLongestDelay));
+  hideTimer_ = clock_.after(std::chrono::ceil<std::chrono::milliseconds>(seconds),
+                            [this] { mayHideChrome() ? hideChrome() : scheduleChromeHide(); });
+}
+
+bool PlayerWindowController::mayHideChrome() const {
+  return !playback_.isPaused() && !playback_.isScrubbing() && !chrome_.panel() &&
+         !(overlay_ && overlay_->isMouseInsideChrome());
+}
+
+void PlayerWindowController::handleActivity() {
+  showChrome();
+  scheduleChromeHide();
+}
+
+void PlayerWindowController::setInfoRefresh(bool shown) {
+  infoTimer_.reset();
+  if (!shown) return;
+  updateDisplay();
+  infoTimer_ = clock_.every(kInfoRefresh, [this] { updateDisplay(); });
+}
+
+void PlayerWindowController::updateDisplay() {
+  playback_.updateDisplay(window_ ? window_->screenHeadroom() : std::nullopt);
+}
+
+void PlayerWindowController::showToast(const QString& text) {
+  chrome_.setToast(text);
+  toastTimer_ = clock_.after(kToast, [this] { chrome_.setToast(std::nullopt); });
+}
+
+void PlayerWindowController::adjustVolume(double percent) {
+  playback_.setVolume(playback_.volume() + percent);
+  showToast(QStringLiteral("Volume %1%").arg(std::lround(playback_.volume())));
+}
+
+void PlayerWindowController::updateSubtitleLift() {
+  const bool covered = overlay_ && chromeVisible_ && overlay_->height() > 0;
+  const double lift = covered ? subtitleLift(overlay_->controlsTop(), overlay_->height()) : 0;
+  if (std::abs(lift - playback_.subtitleLift()) <= kSubtitleLiftStep) return;
+  playback_.setSubtitleLift(lift);
+  playback_.engine().setProperty("sub-pos", QString::number(100 - lift, 'f', 2).toStdString());
+}
+
+}  // namespace tromelo

@@ -1,0 +1,203 @@
+#include <QCoreApplication>
+
+#include "PlayerTest.h"
+#include "engine/MpvValue.h"
+
+namespace tromelo {
+namespace {
+
+using namespace std::chrono_literals;
+using Sent = testing::PlayerTest::Sent;
+
+class ChromeTest : public testing::PlayerTest {
+ protected:
+  ChromeTest() {
+    report(MpvProperty::pause, false);
+    showVideo(window_);
+    takeSent();
+  }
+
+  void report(MpvProperty property, MpvValue value) {
+    playback_.engine().onEvent(event::Property{property, std::move(value)});
+  }
+  PlayerChrome& chrome() { return player().chrome(); }
+  /// What the overlay was told last, which the rules and it agree on.
+  bool shown() {
+    EXPECT_EQ(window_.overlay->chromeVisible, player().chromeVisible());
+    return player().chromeVisible();
+  }
+  void hide() {
+    window_.overlay->onActivity();
+    clock_.advance(2000ms);
+    ASSERT_FALSE(shown());
+  }
+};
+
+TEST_F(ChromeTest, HidesTheControlsAfterTheDelayAndShowsThemOnActivity) {
+  EXPECT_TRUE(shown());
+  clock_.advance(1000ms);
+  window_.overlay->onActivity();
+  clock_.advance(1999ms);
+  EXPECT_TRUE(shown());
+  EXPECT_TRUE(window_.pointerShown);
+  clock_.advance(1ms);
+  EXPECT_FALSE(shown());
+  EXPECT_TRUE(window_.overlay->wasAnimated);
+  EXPECT_FALSE(window_.pointerShown);
+  clock_.advance(60s);
+  EXPECT_FALSE(shown());
+  window_.overlay->onActivity();
+  EXPECT_TRUE(shown());
+}
+
+TEST_F(ChromeTest, KeepsTheControlsWhileTheyAreNeeded) {
+  struct Row {
+    const char* name;
+    std::function<void()> begin;
+    std::function<void()> end;
+  };
+  const Row rows[] = {
+      {"paused", [&] { report(MpvProperty::pause, true); },
+       [&] { report(MpvProperty::pause, false); }},
+      {"a panel is open", [&] { chrome().toggle(PlayerPanel::queue); },
+       [&] { chrome().toggle(PlayerPanel::queue); }},
+      {"the position is dragged", [&] { playback_.beginScrubbing(); },
+       [&] { playback_.endScrubbing(); }},
+      {"the pointer is on them", [&] { window_.overlay->mouseInside = true; },
+       [&] { window_.overlay->mouseInside = false; }},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.name);
+    window_.overlay->onActivity();
+    row.begin();
+    clock_.advance(7000ms);
+    EXPECT_TRUE(shown());
+    row.end();
+    clock_.advance(2000ms);
+    EXPECT_FALSE(shown());
+  }
+}
+
+TEST_F(ChromeTest, ShowsTheControlsForAPauseAndForAPanel) {
+  hide();
+  report(MpvProperty::pause, true);
+  EXPECT_TRUE(shown());
+  report(MpvProperty::pause, false);
+  hide();
+  chrome().toggle(PlayerPanel::chapters);
+  EXPECT_TRUE(shown());
+  chrome().toggle(PlayerPanel::queue);
+  EXPECT_EQ(chrome().panel(), PlayerPanel::queue);
+}
+
+TEST_F(ChromeTest, AClickHidesAndShowsTheControls) {
+  window_.overlay->onClick();
+  EXPECT_FALSE(shown());
+  EXPECT_FALSE(window_.pointerShown);
+  window_.overlay->onClick();
+  EXPECT_TRUE(shown());
+  clock_.advance(2000ms);
+  EXPECT_FALSE(shown());
+}
+
+TEST_F(ChromeTest, OnlyAWindowInUseLosesItsControls) {
+  window_.key = false;
+  window_.overlay->onClick();
+  clock_.advance(10s);
+  EXPECT_TRUE(shown());
+  window_.fullscreen = true;
+  window_.overlay->onActivity();
+  clock_.advance(2000ms);
+  EXPECT_FALSE(shown());
+}
+
+TEST_F(ChromeTest, FollowsTheDelayThatThePersonChooses) {
+  playback_.settings().setAutoHideDelay(0);
+  QCoreApplication::processEvents();
+  clock_.advance(1h);
+  EXPECT_TRUE(shown());
+  playback_.settings().setAutoHideDelay(0.5);
+  QCoreApplication::processEvents();
+  clock_.advance(499ms);
+  EXPECT_TRUE(shown());
+  clock_.advance(1ms);
+  EXPECT_FALSE(shown());
+}
+
+TEST_F(ChromeTest, AClosingWindowKeepsItsControlsAndTheNextOneBeginsWithThem) {
+  window_.fullscreen = true;  // so that it takes time
+  player().close();
+  clock_.advance(1990ms);
+  EXPECT_TRUE(shown());
+  window_.fullscreen = false;
+  clock_.advance(1000ms);
+  ASSERT_EQ(window_.overlay, nullptr);
+  testing::FakeVideoWindow next(clock_);
+  showVideo(next);
+  clock_.advance(2000ms);
+  EXPECT_FALSE(player().chromeVisible());
+  takeDown(next);
+  testing::FakeVideoWindow third(clock_);
+  showVideo(third);
+  EXPECT_TRUE(player().chromeVisible());
+  EXPECT_TRUE(third.overlay->chromeVisible);
+}
+
+TEST_F(ChromeTest, LooksAtTheScreenEverySecondWhileTheInfoIsShown) {
+  const auto now = [&](double headroom) {
+    window_.headroom = ScreenHeadroom{4, headroom};
+    return QStringLiteral("EDR · 4.0× headroom (now %1×)").arg(headroom, 0, 'f', 1);
+  };
+  QString text = now(2);
+  EXPECT_NE(playback_.display(), text);
+  chrome().setShowsInfo(true);
+  EXPECT_EQ(playback_.display(), text);
+  text = now(3);
+  clock_.advance(1000ms);
+  EXPECT_EQ(playback_.display(), text);
+  chrome().setShowsInfo(false);
+  now(1);
+  clock_.advance(5000ms);
+  EXPECT_EQ(playback_.display(), text);
+  text = now(2);
+  Q_EMIT window_.screenChanged();
+  EXPECT_EQ(playback_.display(), text);
+}
+
+TEST_F(ChromeTest, ScrollingSetsTheVolumeAndSaysIt) {
+  report(MpvProperty::volume, 97.4);
+  window_.overlay->onScroll(2);
+  EXPECT_EQ(chrome().toast(), QStringLiteral("Volume 99%"));
+  window_.overlay->onScroll(2);
+  EXPECT_EQ(chrome().toast(), QStringLiteral("Volume 100%"));
+  EXPECT_EQ(takeSent(), (Sent{"set volume 99.4", "set volume 100.0"}));
+}
+
+TEST_F(ChromeTest, SubtitlesRiseAboveTheControlsAndSinkWithThem) {
+  window_.overlay->size = 400;
+  const std::pair<double, Sent> rows[] = {
+      {60, {"set sub-pos 82.50"}},  {60.9, {}}, {62, {"set sub-pos 82.00"}},
+      {200, {"set sub-pos 55.00"}}, {399, {}},  {60, {"set sub-pos 82.50"}},
+  };
+  for (const auto& [top, sent] : rows) {
+    window_.overlay->top = top;
+    window_.overlay->onLayout();
+    EXPECT_EQ(takeSent(), sent) << top;
+  }
+  window_.overlay->onClick();
+  window_.overlay->onLayout();
+  EXPECT_EQ(takeSent(), Sent{"set sub-pos 100.00"});
+  window_.overlay->onClick();
+  EXPECT_EQ(takeSent(), Sent{"set sub-pos 82.50"});
+  window_.overlay->size = 0;
+  window_.overlay->onLayout();
+  EXPECT_EQ(takeSent(), Sent{"set sub-pos 100.00"});
+  window_.overlay->size = 400;
+  window_.overlay->onLayout();
+  takeSent();
+  takeDown(window_);
+  EXPECT_EQ(takeSent(), Sent{"set sub-pos 100.00"});
+}
+
+}  // namespace
+}  // namespace tromelo

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include "FakeWindows.h"
+#include "playback/PlaybackModel.h"
+#include "player/PlayerWindowController.h"
+#include "support/FakeMpv.h"
+#include "support/ManualClock.h"
+#include "support/NoFileChooser.h"
+
+namespace tromelo::testing {
+
+/// The player's rules over windows, an engine and time that do as a test says.
+class PlayerTest : public ::testing::Test {
+ public:
+  using Sent = std::vector<std::string>;
+
+ protected:
+  PlayerTest() {
+    library_.visible = true;
+    player().setLibraryWindow(&library_);
+    takeSent();
+  }
+
+  PlayerWindowController& player() {
+    return static_cast<PlayerWindowController&>(playback_.player());
+  }
+
+  /// As the model does when a person opens a file.
+  void await() {
+    player().setAwaitingVideo(true);
+    player().setVideoReady(false);
+  }
+
+  /// What the engine was told since the last call, a line each.
+  Sent takeSent() {
+    Sent lines;
+    for (const auto& words : std::exchange(mpv_.requests, {})) {
+      std::string line;
+      for (const std::string& word : words) line += (line.empty() ? "" : " ") + word;
+      lines.push_back(line);
+    }
+    return lines;
+  }
+
+  void ready() {
+    player().setVideoReady(true);
+    player().reveal();
+  }
+
+  void showVideo(FakeVideoWindow& window) {
+    await();
+    windows_.add(window);
+    ready();
+    clock_.advance(std::chrono::milliseconds(320));
+  }
+
+  /// The engine takes its window down.
+  void takeDown(FakeVideoWindow& window) {
+    window.visible = false;
+    Q_EMIT windows_.windowsChanged();
+  }
+
+  ManualClock clock_;
+  FakeWindowSystem windows_;
+  FakeMpv mpv_;
+  MpvClientApi api_ = mpv_.api();
+  NoFileChooser files_;
+  QTemporaryDir directory_;
+  FakeLibraryWindow library_{clock_};
+  FakeVideoWindow window_{clock_};
+  PlaybackModel playback_{
+      {api_, clock_, files_, directory_.path(), [this](PlaybackModel& playback) {
+         return std::make_unique<PlayerWindowController>(playback, windows_, clock_);
+       }}};
+};
+
+}  // namespace tromelo::testing
