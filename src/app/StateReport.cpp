@@ -18,7 +18,7 @@ QString yesNo(bool value) { return value ? QStringLiteral("yes") : QStringLitera
 StateReport::StateReport(const PlaybackModel& playback, const PlayerWindowController& player,
                          Clock& clock, std::function<QString()> windowText, std::FILE* out)
     : playback_(playback), clock_(clock), windowText_(std::move(windowText)), out_(out) {
-  const QMetaObject* type = playback.metaObject();
+  const QMetaObject* type = &PlaybackState::staticMetaObject;
   const QMetaMethod slot = metaObject()->method(metaObject()->indexOfMethod("schedule()"));
   for (int i = type->propertyOffset(); i < type->propertyCount(); ++i)
     if (type->property(i).hasNotifySignal())

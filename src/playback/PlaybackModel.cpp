@@ -12,7 +12,7 @@
 namespace tromelo {
 
 PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
-    : QObject(parent),
+    : PlaybackState(parent),
       clock_(parts.clock),
       files_(parts.files),
       makePlayer_(std::move(parts.makePlayer)),

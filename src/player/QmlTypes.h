@@ -17,6 +17,12 @@ struct EngineWindowItemForQml {
   QML_NAMED_ELEMENT(EngineWindowItem)
 };
 
+struct PlaybackStateForQml {
+  Q_GADGET
+  QML_FOREIGN(tromelo::PlaybackState)
+  QML_ANONYMOUS
+};
+
 struct PlaybackModelForQml {
   Q_GADGET
   QML_FOREIGN(tromelo::PlaybackModel)
