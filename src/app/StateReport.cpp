@@ -2,6 +2,7 @@
 
 #include <QMetaProperty>
 
+#include "platform/PlatformWording.h"
 #include "playback/PlaybackModel.h"
 #include "player/PlayerWindowController.h"
 
@@ -46,7 +47,7 @@ void StateReport::flush() {
   line(QStringLiteral("title"), playback_.title());
   line(QStringLiteral("signal"), playback_.dynamicRange().label());
   line(QStringLiteral("output"), playback_.output());
-  line(QStringLiteral("decoder"), playback_.decoder());
+  line(QStringLiteral("decoder"), platformWording(playback_.decoder()));
   line(QStringLiteral("decoder-drops"), QString::number(playback_.decoderFrameDrops()));
   line(QStringLiteral("output-drops"), QString::number(playback_.outputFrameDrops()));
   line(QStringLiteral("duration"), QString::number(playback_.duration(), 'f', 3));

@@ -1,10 +1,14 @@
 #pragma once
 
+#include <QList>
 #include <QMetaType>
 #include <QObject>
 #include <QString>
+#include <optional>
 
 namespace tromelo {
+
+class MpvValue;
 
 /// A named place in the current file.
 class Chapter {
@@ -20,5 +24,14 @@ class Chapter {
 
   friend bool operator==(const Chapter&, const Chapter&) = default;
 };
+
+/// From the engine's "chapter-list"; what is not a list gives none.
+QList<Chapter> chapterList(const MpvValue& list);
+
+/// The position of the chapter that is `steps` away from the `current` one at `elapsed` seconds;
+/// none where there is no such chapter. A step back goes to the start of the current chapter first,
+/// unless that has only just begun.
+std::optional<int> steppedChapter(const QList<Chapter>& chapters, std::optional<int> current,
+                                  double elapsed, int steps);
 
 }  // namespace tromelo

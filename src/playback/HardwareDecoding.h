@@ -1,17 +1,30 @@
 #pragma once
 
+#include <QString>
+#include <optional>
 #include <set>
 #include <string>
 
 namespace tromelo {
 
-/// What is known of decoding in hardware. Times are seconds of the clock.
+/// Whether a file is decoded in hardware, and when that is given up. Errors that follow each other
+/// closely are one burst; a single burst just after loading or seeking is forgiven. Times are
+/// seconds of a monotonic clock.
 struct HardwareDecoding {
   int errorBursts = 0;   // in the current file
   double lastError = 0;  // in the current file
   double lastPlaybackRestart = 0;
   bool forcedSoftware = false;  // the current file is decoded in software because of its errors
   std::set<std::string, std::less<>> softwarePaths;  // files that always are
+
+  void fileStarted();
+  void pathReported(const std::string& path);
+  /// The decoder warned about the hardware. True when the file is to go on in software from now on.
+  bool givesUpAfterError(double now);
 };
+
+/// What decodes, for people: `reported` is the engine's name for it. None where it isn't known yet.
+std::optional<QString> decoderText(const std::optional<std::string>& reported, bool forcedSoftware,
+                                   bool isLoaded);
 
 }  // namespace tromelo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QMetaType>
 #include <QObject>
 #include <QString>
@@ -7,11 +8,15 @@
 
 namespace tromelo {
 
+class MpvValue;
+
 /// One track of the current file.
 class MediaTrack {
   Q_GADGET
   Q_PROPERTY(qint64 id MEMBER id CONSTANT)
   Q_PROPERTY(Kind kind MEMBER kind CONSTANT)
+  Q_PROPERTY(QString name READ name CONSTANT)
+  Q_PROPERTY(QString details READ details CONSTANT)
   Q_PROPERTY(bool isSelected MEMBER isSelected CONSTANT)
 
  public:
@@ -21,7 +26,7 @@ class MediaTrack {
   qint64 id = 0;  // the engine's number, counted within the kind
   Kind kind = Kind::video;
   std::optional<QString> title;
-  std::optional<QString> language;
+  std::optional<QString> language;  // a code
   std::optional<QString> codec;
   std::optional<qint64> channels;
   bool isDefault = false;
@@ -29,7 +34,16 @@ class MediaTrack {
   bool isExternal = false;
   bool isSelected = false;
 
+  /// For people, with the language in theirs: "Commentary (English)".
+  QString name() const;
+  /// "EAC3 · 6 ch · Forced"; may be empty.
+  QString details() const;
+
   friend bool operator==(const MediaTrack&, const MediaTrack&) = default;
 };
+
+/// The tracks of a kind, from the engine's "track-list", in order; those without a usable id are
+/// left out, and what is not a list gives none.
+QList<MediaTrack> mediaTracks(const MpvValue& list, MediaTrack::Kind kind);
 
 }  // namespace tromelo

@@ -88,6 +88,14 @@ class PlaybackModel : public PlaybackState {
   Q_INVOKABLE void setSubtitleDelay(double seconds);
   Q_INVOKABLE void setAudioDelay(double seconds);
 
+  /// Goes to the next subtitle track, behind the last one to none, and says so for a toast.
+  Q_INVOKABLE QString cycleSubtitle();
+  /// Goes to the next audio track and says so for a toast.
+  Q_INVOKABLE QString cycleAudio();
+  Q_INVOKABLE void seekToChapter(int position);
+  /// The chapter that it goes to; none where there is none in that direction.
+  std::optional<Chapter> stepChapter(int steps);
+
   /// The player's window is on this screen; without one nothing changes.
   void updateDisplay(const std::optional<ScreenHeadroom>& screen);
 
@@ -112,6 +120,9 @@ class PlaybackModel : public PlaybackState {
   void describeSignal();
   void describeOutput();
   void showVideoReady();
+  void publishTracks(const MpvValue& list);
+  void selectTrack(const char* property, const MediaTrack& track);
+  void rememberSoftwareDecode(const std::string& path);
   void publishQueue(const PlayQueue& queue);
 
   void load(const QUrl& url, const char* mode, std::optional<double> startAt);

@@ -35,8 +35,7 @@ void PlaybackModel::resetForNewFile() {
   output_ = kUnknown;
   currentChapter_ = std::nullopt;
   inputs_ = {};
-  hardware_.errorBursts = 0;
-  hardware_.lastError = 0;
+  hardware_.fileStarted();
 }
 
 void PlaybackModel::handle(const event::FileLoaded&) {
@@ -91,8 +90,15 @@ void PlaybackModel::handle(const event::Shutdown&) {
   buffering_ = kUnknown;
 }
 
-// The engine goes on decoding as it chose to.
-void PlaybackModel::handle(const event::HardwareDecodeError&) {}
+void PlaybackModel::handle(const event::HardwareDecodeError&) {
+  if (!hardware_.givesUpAfterError(clock_.now())) return;
+  engine_.setProperty("file-local-options/hwdec", "no");
+  if (currentPath_) rememberSoftwareDecode(*currentPath_);
+}
+
+void PlaybackModel::rememberSoftwareDecode(const std::string& path) {
+  hardware_.softwarePaths.insert(path);
+}
 
 void PlaybackModel::updateStatus() {
   if (!isLoaded_) return;

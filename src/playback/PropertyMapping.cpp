@@ -1,7 +1,9 @@
 #include "playback/PropertyMapping.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 
 #include "engine/MpvValue.h"
 #include "platform/FilePath.h"
@@ -121,7 +123,25 @@ struct PropertyMapping::Actions {
     if (!path) return;
     m.currentPath_ = path;
     m.lastURL_ = fileUrlFromPath(*path);
-    m.hardware_.forcedSoftware = m.hardware_.softwarePaths.contains(*path);
+    m.hardware_.pathReported(*path);
+  }
+
+  static void hwdecCurrent(Model& m, const Value& v) {
+    const bool forced = m.hardware_.forcedSoftware;
+    if (const auto text = decoderText(held<std::string>(v), forced, m.isLoaded_)) {
+      m.decoder_ = *text;
+    }
+  }
+
+  static void trackList(Model& m, const Value& v) { m.publishTracks(v); }
+
+  static void chapterList(Model& m, const Value& v) { m.chapters_ = tromelo::chapterList(v); }
+
+  static void chapter(Model& m, const Value& v) {
+    constexpr std::int64_t kLast = std::numeric_limits<int>::max();
+    const auto position = held<std::int64_t>(v).value_or(-1);
+    m.currentChapter_ =
+        position < 0 ? std::nullopt : std::optional(static_cast<int>(std::min(position, kLast)));
   }
 
   static void playlist(Model& m, const Value& v) { m.publishQueue(playQueue(v)); }
@@ -159,7 +179,7 @@ const PropertyMapping::Row& PropertyMapping::row(MpvProperty property) {
       Row{P::containerFps, kSession, A::storeRate<&I::containerFps>},
       Row{P::estimatedFps, kSession, A::storeRate<&I::estimatedFps>},
       Row{P::videoFormat, kSession, A::showText<&Model::codec_, codecText>},
-      Row{P::hwdecCurrent, kSession, A::none},
+      Row{P::hwdecCurrent, kSession, A::hwdecCurrent},
       Row{P::fileFormat, kSession, A::showText<&Model::container_, containerText>},
       Row{P::decoderDrops, kLasting, A::showOr<&Model::decoderFrameDrops_, kNoDrops>},
       Row{P::outputDrops, kLasting, A::showOr<&Model::outputFrameDrops_, kNoDrops>},
@@ -171,9 +191,9 @@ const PropertyMapping::Row& PropertyMapping::row(MpvProperty property) {
       Row{P::targetGamma, kSession, A::storeOutput<&I::targetGamma>},
       Row{P::targetPrimaries, kSession, A::storeOutput<&I::targetPrimaries>},
       Row{P::path, kSession, A::path},
-      Row{P::trackList, kLasting, A::none},
-      Row{P::chapterList, kLasting, A::none},
-      Row{P::chapter, kLasting, A::none},
+      Row{P::trackList, kLasting, A::trackList},
+      Row{P::chapterList, kLasting, A::chapterList},
+      Row{P::chapter, kLasting, A::chapter},
       Row{P::playlist, kLasting, A::playlist},
       Row{P::playlistPos, kLasting, A::none},  // the queue's items say which is current
       Row{P::speed, kLasting, A::show<&Model::speed_, double>},

@@ -2,22 +2,16 @@
 
 #include <algorithm>
 
-#include "engine/MpvValue.h"
 #include "platform/FilePath.h"
+#include "playback/NodeText.h"
 
 namespace tromelo {
 
 namespace {
 
-QString text(const MpvMap& entry, std::string_view key) {
-  const auto* bytes = mpvEntry<std::string>(entry, key);
-  return bytes ? QString::fromUtf8(*bytes) : QString();
-}
-
 QString queueTitle(const MpvMap& entry, const QString& path) {
-  const bool hasTitle = mpvEntry<std::string>(entry, "title") != nullptr;
-  return withoutLastPathExtension(hasTitle ? text(entry, "title")
-                                           : path.sliced(path.lastIndexOf(u'/') + 1));
+  const auto title = nodeText(entry, "title");
+  return withoutLastPathExtension(title ? *title : path.sliced(path.lastIndexOf(u'/') + 1));
 }
 
 bool isCurrent(const MpvMap& entry) {
@@ -34,7 +28,7 @@ PlayQueue playQueue(const MpvValue& playlist) {
   PlayQueue queue;
   queue.reserve(static_cast<qsizetype>(entries.size()));
   for (const MpvMap* entry : entries) {
-    const QString path = text(*entry, "filename");
+    const QString path = nodeText(*entry, "filename").value_or(QString());
     queue.append({queue.size(), queueTitle(*entry, path), path, isCurrent(*entry)});
   }
   return queue;

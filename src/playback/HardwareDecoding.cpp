@@ -1,0 +1,43 @@
+#include "playback/HardwareDecoding.h"
+
+namespace tromelo {
+
+namespace {
+
+/// Errors that come within so many seconds of each other are one burst.
+constexpr double kBurst = 1;
+/// For so many seconds after loading or seeking one burst is forgiven.
+constexpr double kForgiving = 1;
+
+}  // namespace
+
+void HardwareDecoding::fileStarted() {
+  errorBursts = 0;
+  lastError = 0;
+}
+
+void HardwareDecoding::pathReported(const std::string& path) {
+  forcedSoftware = softwarePaths.contains(path);
+}
+
+bool HardwareDecoding::givesUpAfterError(double now) {
+  if (forcedSoftware) return false;
+  if (now - lastError > kBurst) ++errorBursts;
+  lastError = now;
+  if (now - lastPlaybackRestart <= kForgiving && errorBursts < 2) return false;
+  forcedSoftware = true;
+  return true;
+}
+
+std::optional<QString> decoderText(const std::optional<std::string>& reported, bool forcedSoftware,
+                                   bool isLoaded) {
+  const std::string hardware = reported.value_or("no");
+  if (!hardware.empty() && hardware != "no") {
+    return QStringLiteral("Hardware (%1)").arg(QString::fromUtf8(hardware));
+  }
+  if (forcedSoftware) return QStringLiteral("Software (stream rejected by VideoToolbox)");
+  if (isLoaded) return QStringLiteral("Software (FFmpeg)");
+  return {};
+}
+
+}  // namespace tromelo

@@ -1,0 +1,93 @@
+#include "playback/MediaTrack.h"
+
+#include <QLocale>
+#include <QStringList>
+
+#include "platform/LanguageName.h"
+#include "playback/NodeText.h"
+
+namespace tromelo {
+
+namespace {
+
+std::string_view engineName(MediaTrack::Kind kind) {
+  switch (kind) {
+    case MediaTrack::Kind::video:
+      return "video";
+    case MediaTrack::Kind::audio:
+      return "audio";
+    case MediaTrack::Kind::sub:
+      break;
+  }
+  return "sub";
+}
+
+bool flag(const MpvMap& entry, std::string_view key) {
+  const auto* value = mpvEntry<bool>(entry, key);
+  return value && *value;
+}
+
+std::optional<qint64> channelCount(const MpvMap& entry) {
+  for (const char* key : {"demux-channel-count", "audio-channels"}) {
+    if (const auto* count = mpvEntry<std::int64_t>(entry, key)) return *count;
+  }
+  return {};
+}
+
+MediaTrack mediaTrack(const MpvMap& entry, qint64 id, MediaTrack::Kind kind) {
+  auto title = nodeText(entry, "title");
+  if (title && title->isEmpty()) title.reset();
+  return {.id = id,
+          .kind = kind,
+          .title = title,
+          .language = nodeText(entry, "lang"),
+          .codec = nodeText(entry, "codec"),
+          .channels = channelCount(entry),
+          .isDefault = flag(entry, "default"),
+          .isForced = flag(entry, "forced"),
+          .isExternal = flag(entry, "external"),
+          .isSelected = flag(entry, "selected")};
+}
+
+QString channelText(qint64 count) {
+  if (count == 1) return QStringLiteral("Mono");
+  if (count == 2) return QStringLiteral("Stereo");
+  return QStringLiteral("%1 ch").arg(count);
+}
+
+/// As people who read the current locale see it.
+bool containsWithoutCase(const QString& text, const QString& part) {
+  const QLocale reader;
+  return reader.toLower(text).contains(reader.toLower(part));
+}
+
+}  // namespace
+
+QString MediaTrack::name() const {
+  const QString named = language ? languageName(*language) : QString();
+  if (named.isEmpty()) return title.value_or(QStringLiteral("Track %1").arg(id));
+  if (!title) return named;
+  if (containsWithoutCase(*title, named)) return *title;
+  return QStringLiteral("%1 (%2)").arg(*title, named);
+}
+
+QString MediaTrack::details() const {
+  QStringList parts;
+  if (codec && !codec->isEmpty()) parts << codec->toUpper();
+  if (channels) parts << channelText(*channels);
+  if (isForced) parts << QStringLiteral("Forced");
+  if (isExternal) parts << QStringLiteral("External");
+  return parts.join(QStringLiteral(" · "));
+}
+
+QList<MediaTrack> mediaTracks(const MpvValue& list, MediaTrack::Kind kind) {
+  QList<MediaTrack> tracks;
+  for (const MpvMap* entry : list.list()) {
+    const auto* id = mpvEntry<std::int64_t>(*entry, "id");
+    const auto* type = mpvEntry<std::string>(*entry, "type");
+    if (id && type && *type == engineName(kind)) tracks.append(mediaTrack(*entry, *id, kind));
+  }
+  return tracks;
+}
+
+}  // namespace tromelo

@@ -1,0 +1,58 @@
+#include <gtest/gtest.h>
+
+#include "platform/LanguageName.h"
+#include "platform/PlatformWording.h"
+
+namespace tromelo {
+
+TEST(LanguageName, IsInTheReadersLanguage) {
+  const struct {
+    const char* reader;
+    QString code;
+    QString expected;
+  } rows[] = {
+      {"en_US", "en", "English"},
+      {"en_US", "eng", "English"},
+      {"C", "en", "English"},
+      {"de_DE", "en", "Englisch"},
+      {"de_DE", "ger", "Deutsch"},
+      {"de_DE", "deu", "Deutsch"},
+      {"fr_FR", "fre", "français"},
+      {"fr_FR", "fra", "français"},
+      {"en_US", "chi", "Chinese"},
+      {"en_US", "pt-BR", "Brazilian Portuguese"},
+      {"en_US", "por_br", "Brazilian Portuguese"},
+      {"de_DE", "pt-BR", "Portugiesisch (Brasilien)"},
+      {"en_US", "zh-Hans", "Simplified Chinese"},
+      {"en_US", "en-XX", "English"},
+      {"en_US", "qaa", "qaa"},
+      {"en_US", "XX", "XX"},
+      {"en_US", "und", "und"},
+      {"en_US", "", ""},
+      {"en_US", "in plain English", "in plain English"},
+      {"en_US", QString(QChar(0xfffd)), QString(QChar(0xfffd))},
+      {"en_US", QString(100000, u'a'), QString(100000, u'a')},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(languageName(row.code, QLocale(QLatin1String(row.reader))), row.expected)
+        << row.reader << " " << row.code.left(20).toStdString();
+  }
+}
+
+TEST(PlatformWording, NamesThingsAsTheyAreCalledHere) {
+  const struct {
+    const char* text;
+    const char* expected;
+  } rows[] = {
+      {"⌘O", "Ctrl+O"},
+      {"⌥⇧⌘L and ⌘L", "Alt+Shift+Ctrl+L and Ctrl+L"},
+      {"Show in Finder", "Show in File Manager"},
+      {"Software (stream rejected by VideoToolbox)",
+       "Software (stream rejected by hardware decoder)"},
+      {"Plain — words", "Plain — words"},
+      {"", ""},
+  };
+  for (const auto& row : rows) EXPECT_EQ(platformWording(row.text), row.expected) << row.text;
+}
+
+}  // namespace tromelo

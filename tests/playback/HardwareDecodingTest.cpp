@@ -1,0 +1,133 @@
+#include "ModelTest.h"
+#include "platform/FilePath.h"
+
+namespace tromelo {
+
+namespace {
+
+using P = MpvProperty;
+using testing::ModelTest;
+
+struct Decoder : ModelTest {
+  static constexpr const char* kRejected = "Software (stream rejected by VideoToolbox)";
+
+  void fails() { report(event::HardwareDecodeError{}); }
+};
+
+}  // namespace
+
+TEST(HardwareDecoding, IsGivenUpAfterErrorsThatSeekingDoesNotExplain) {
+  const struct {
+    const char* what;
+    double restart;
+    std::vector<double> errors;
+    std::optional<double> givenUpAt;
+  } rows[] = {
+      {"none", 100, {}, {}},
+      {"in the middle of playback", 100, {105}, 105},
+      {"just after a seek", 100, {100.5}, {}},
+      {"exactly a second after it", 100, {101}, {}},
+      {"two bursts just after it", 100, {99, 100.5}, 99},
+      {"two bursts around a seek", 100, {100.1, 100.4, 101.5}, 101.5},
+      {"ten errors of one burst",
+       100,
+       {100, 100.1, 100.2, 100.3, 100.4, 100.5, 100.6, 100.7, 100.8, 100.9},
+       {}},
+  };
+  for (const auto& row : rows) {
+    HardwareDecoding decoding;
+    decoding.lastPlaybackRestart = row.restart - 10;
+    std::optional<double> givenUpAt;
+    for (const double error : row.errors) {
+      if (error >= row.restart) decoding.lastPlaybackRestart = row.restart;
+      if (decoding.givesUpAfterError(error)) {
+        EXPECT_FALSE(givenUpAt) << row.what;
+        givenUpAt = error;
+      }
+    }
+    EXPECT_EQ(givenUpAt, row.givenUpAt) << row.what;
+    EXPECT_EQ(decoding.forcedSoftware, givenUpAt.has_value()) << row.what;
+  }
+}
+
+TEST(HardwareDecoding, ASecondBurstCountsHoweverSoonAfterASeek) {
+  HardwareDecoding decoding;
+  decoding.lastPlaybackRestart = 100;
+  EXPECT_FALSE(decoding.givesUpAfterError(100.5));
+  decoding.lastPlaybackRestart = 102;
+  decoding.fileStarted();
+  EXPECT_FALSE(decoding.givesUpAfterError(102.1));  // of another file
+  decoding.lastPlaybackRestart = 104;
+  EXPECT_TRUE(decoding.givesUpAfterError(104.2));
+}
+
+TEST(HardwareDecoding, IsDescribed) {
+  using Reported = std::optional<std::string>;
+  const struct {
+    Reported reported;
+    bool forced;
+    bool loaded;
+    std::optional<QString> expected;
+  } rows[] = {{"vaapi", false, false, "Hardware (vaapi)"},
+              {"vaapi", true, true, "Hardware (vaapi)"},
+              {"no", true, false, "Software (stream rejected by VideoToolbox)"},
+              {"", true, true, "Software (stream rejected by VideoToolbox)"},
+              {"no", false, true, "Software (FFmpeg)"},
+              {{}, false, true, "Software (FFmpeg)"},
+              {"no", false, false, {}}};
+  for (const auto& row : rows) {
+    EXPECT_EQ(decoderText(row.reported, row.forced, row.loaded), row.expected)
+        << row.reported.value_or("none") << row.forced << row.loaded;
+  }
+}
+
+TEST_F(Decoder, FallsBackForThisFileAndOpensItInSoftwareFromThenOn) {
+  clock_.advance(std::chrono::seconds(100));
+  load();
+  report(P::path, "/films/a.mkv");
+  report(P::hwdecCurrent, "vaapi");
+  report(event::PlaybackRestart{});
+  EXPECT_EQ(model().decoder(), "Hardware (vaapi)");
+  takeRequests();
+  fails();
+  EXPECT_EQ(takeRequests(), Requests());
+  clock_.advance(std::chrono::milliseconds(1001));
+  fails();
+  fails();
+  EXPECT_EQ(takeRequests(), (Requests{{"set", "file-local-options/hwdec", "no"}}));
+  report(P::hwdecCurrent, "no");
+  EXPECT_EQ(model().decoder(), kRejected);
+  report(P::hwdecCurrent, {});
+  EXPECT_EQ(model().decoder(), kRejected);
+
+  report(event::StartFile{});
+  EXPECT_EQ(model().decoder(), "Selecting decoder");
+  report(P::path, "/films/b.mkv");
+  report(event::FileLoaded{});
+  report(P::hwdecCurrent, "no");
+  EXPECT_EQ(model().decoder(), "Software (FFmpeg)");
+
+  model().open(fileUrlFromPath("/films/a.mkv"), 12.5);
+  EXPECT_EQ(takeRequests().front().back(), "start=12.5,hwdec=no");
+  model().enqueue({fileUrlFromPath("/films/a.mkv"), fileUrlFromPath("/films/b.mkv")});
+  const auto requests = takeRequests();
+  EXPECT_EQ(requests[0].back(), "hwdec=no");
+  EXPECT_EQ(requests[1].back(), "");
+  report(event::StartFile{});
+  report(P::path, "/films/a.mkv");
+  report(P::hwdecCurrent, "no");
+  EXPECT_EQ(model().decoder(), kRejected);
+}
+
+TEST_F(Decoder, AFileWithoutAKnownPathFallsBackAndIsNotRemembered) {
+  clock_.advance(std::chrono::seconds(100));
+  load();
+  takeRequests();
+  fails();
+  EXPECT_EQ(takeRequests(), (Requests{{"set", "file-local-options/hwdec", "no"}}));
+  report(P::path, "/films/a.mkv");
+  report(P::hwdecCurrent, "no");
+  EXPECT_EQ(model().decoder(), "Software (FFmpeg)");
+}
+
+}  // namespace tromelo
