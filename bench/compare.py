@@ -15,6 +15,9 @@ CLIP_SIZE = (640, 360)
 SETTLED = 8  # seconds after the start: the controls are hidden, caches are full
 SPAN = 10  # seconds that processor time and repaints are counted in
 POLL = 0.002
+POINTER_RATE = 200  # moves a second, a quick mouse
+BAR_MIDDLE = 60  # points above the window's bottom edge
+ALONE = ("library", "pointer")  # mpv has nothing of the kind
 MPV = (
     "mpv --no-config --osc=no --vo=gpu-next --gpu-api=vulkan --gpu-sw=yes --really-quiet"
 ).split()
@@ -111,6 +114,41 @@ class Bench:
             engine.command("set_property", "pause", True)
             self.measure_idle(name, player, "paused")
 
+    def measure_pointer(self, name):
+        """What the controls cost over a playing video, and what a quick pointer costs beyond."""
+        with self.start(name, self.clip) as player:
+            self.milliseconds_until(player, has_colour)
+            engine = Engine(self.ipc)
+            player.wait_until_age(SETTLED)
+            hidden = self.processor_over_span(player)
+            self.pointer_over_bar()
+            shown = self.processor_over_span(player)
+            drops = engine.drops()
+            moving = self.processor_over_span(player, self.keep_pointer_moving)
+            drops = engine.drops() - drops
+        self.screen.move_pointer(self.screen.width - 1, self.screen.height - 1)
+        share = 100 / SPAN
+        self.table.add(name, "playing, controls hidden: processor, s", hidden, 2)
+        self.table.add(name, "  controls shown, s", shown, 2)
+        self.table.add(name, f"  pointer moving {POINTER_RATE} times a second, s", moving, 2)
+        self.table.add(name, "  for the moves alone, % of a core", (moving - shown) * share, 1)
+        self.table.add(name, "  frames dropped meanwhile", drops)
+
+    def pointer_over_bar(self):
+        """Where the controls stay for as long as the pointer does."""
+        self.screen.move_pointer(
+            self.screen.width // 2, (self.screen.height + CLIP_SIZE[1]) // 2 - BAR_MIDDLE
+        )
+
+    def keep_pointer_moving(self):
+        """To and fro over the video and the controls."""
+        start = time.monotonic()
+        left, top = ((self.screen.width, self.screen.height)[i] // 2 for i in (0, 1))
+        for step in range(SPAN * POINTER_RATE):
+            across, down = abs(step % 400 - 200), abs(step % 140 - 70)
+            self.screen.move_pointer(left - 100 + across, top + 100 + down)
+            time.sleep(max(0, start + (step + 1) / POINTER_RATE - time.monotonic()))
+
     def measure_library(self, name):
         with self.start(name) as player:
             shown = self.milliseconds_until(player, is_backdrop)
@@ -126,15 +164,15 @@ class Bench:
         self.table.add(name, f"{what}: processor, % of a core", share, 2)
         self.table.add(name, f"{what}: screen updates in {SPAN} s", self.screen.updates())
 
-    def processor_over_span(self, player):
+    def processor_over_span(self, player, meanwhile=lambda: time.sleep(SPAN)):
         before = player.processor_seconds()
-        time.sleep(SPAN)
+        meanwhile()
         player.check()
         return player.processor_seconds() - before
 
     def compare(self, part):
         measure = getattr(self, f"measure_{part}")
-        names = ("Tromelo",) if part == "library" else ("mpv", "Tromelo")
+        names = ("Tromelo",) if part in ALONE else ("mpv", "Tromelo")
         for run in range(self.options.runs):
             for name in names:
                 print(f"bench: {part} {run + 1}/{self.options.runs} {name}", file=sys.stderr)
@@ -159,7 +197,7 @@ class Bench:
 
 
 def main():
-    parts = ("start", "play", "library", "events")
+    parts = ("start", "play", "pointer", "library", "events")
     parser = argparse.ArgumentParser(prog="bench/run")
     parser.add_argument("--build", required=True, help=argparse.SUPPRESS)
     parser.add_argument("--sample", required=True, help=argparse.SUPPRESS)

@@ -53,9 +53,7 @@ class Screen:
         self.height = x11.XDisplayHeight(self.display, 0)
         x11.XSetWindowBackground(self.display, self.root, ctypes.c_ulong(self.GREY))
         x11.XClearWindow(self.display, self.root)
-        x11.XWarpPointer(
-            self.display, ctypes.c_ulong(0), self.root, 0, 0, 0, 0, self.width - 1, self.height - 1
-        )
+        self.move_pointer(self.width - 1, self.height - 1)
         self.damage_event = self._watch_damage()
 
     def _watch_damage(self):
@@ -67,6 +65,10 @@ class Screen:
         xdamage.XDamageCreate(self.display, self.root, RAW_RECTANGLES)
         x11.XSync(self.display, 0)
         return first_event.value
+
+    def move_pointer(self, x, y):
+        x11.XWarpPointer(self.display, ctypes.c_ulong(0), self.root, 0, 0, 0, 0, x, y)
+        x11.XFlush(self.display)
 
     def updates(self):
         """How many rectangles were drawn since it was asked last."""
