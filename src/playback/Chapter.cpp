@@ -11,7 +11,9 @@ constexpr double kJustBegun = 3;
 
 QString chapterTitle(const MpvMap& entry, qsizetype position) {
   const QString title = nodeText(entry, "title").value_or(QString());
-  return title.isEmpty() ? QStringLiteral("Chapter %1").arg(position + 1) : title;
+  // libmpv makes up a title of its own where the file has none.
+  const bool isUntitled = title.isEmpty() || title == QLatin1String("(unnamed)");
+  return isUntitled ? QStringLiteral("Chapter %1").arg(position + 1) : title;
 }
 
 double chapterTime(const MpvMap& entry) {

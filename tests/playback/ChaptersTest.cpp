@@ -29,12 +29,14 @@ TEST(Chapter, IsReadWithWhatIsUsableOfIt) {
   MpvList list = testing::notEntries();
   list.push_back(testing::map({}));
   list.push_back(testing::map({{"title", text("")}, {"time", text("1")}}));
+  list.push_back(testing::map({{"title", text("(unnamed)")}}));
   list.push_back(testing::map({{"title", integer(1)}, {"time", number(1.5)}}));
   list.push_back(testing::map({{"title", text("\xff")}, {"time", integer(testing::kHuge)}}));
   const QList<Chapter> expected{{0, "Chapter 1", 0},
                                 {1, "Chapter 2", 0},
-                                {2, "Chapter 3", 1.5},
-                                {3, QString(QChar(0xfffd)), static_cast<double>(testing::kHuge)}};
+                                {2, "Chapter 3", 0},
+                                {3, "Chapter 4", 1.5},
+                                {4, QString(QChar(0xfffd)), static_cast<double>(testing::kHuge)}};
   EXPECT_EQ(chapterList(listOf(list)), expected);
   for (const MpvValue& nothing :
        {MpvValue(), MpvValue(1.0), listOf({}), MpvValue(testing::map({}))})
