@@ -10,6 +10,7 @@
 
 #include "engine/MpvClientApi.h"
 #include "platform/Clock.h"
+#include "platform/UserDefaults.h"
 #include "playback/FileChooser.h"
 #include "playback/PlaybackModel.h"
 
@@ -127,12 +128,14 @@ int run(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   constexpr std::size_t kEvents = 2'000'000;
   const QTemporaryDir directory;
+  UserDefaults defaults(directory.filePath(QStringLiteral("defaults.json")));
   Events events(kEvents);
   SystemClock clock;
   NoChooser chooser;
   PlaybackModel model({.api = preparedEngine(events),
                        .clock = clock,
                        .files = chooser,
+                       .defaults = defaults,
                        .diagnosticsDirectory = directory.path(),
                        .makePlayer = [](PlaybackModel&) { return std::make_unique<NoPlayer>(); }});
   int announced = 0;

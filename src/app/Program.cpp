@@ -75,7 +75,7 @@ void Program::makeDelegate() {
   AppDelegate::Parts parts;
   parts.makePlayback = [this] {
     return std::make_unique<PlaybackModel>(PlaybackModel::Parts{
-        MpvClientApi::libmpv(), clock_, chooser_, diagnosticsDirectoryPath(),
+        MpvClientApi::libmpv(), clock_, chooser_, defaults_, diagnosticsDirectoryPath(),
         [this](PlaybackModel& playback) -> std::unique_ptr<PlayerPresenting> {
           return std::make_unique<PlayerWindowController>(playback, *stage_, clock_);
         }});

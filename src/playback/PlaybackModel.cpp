@@ -16,7 +16,8 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       clock_(parts.clock),
       files_(parts.files),
       makePlayer_(std::move(parts.makePlayer)),
-      engine_(parts.api) {
+      engine_(parts.api),
+      settings_(parts.defaults) {
   startEngine(parts.diagnosticsDirectory);
   settings_.apply(engine_);
   // Queued, so that several changes in one go are all made when the first is applied.

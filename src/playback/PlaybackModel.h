@@ -21,6 +21,7 @@ namespace tromelo {
 
 class Clock;
 class FileChooser;
+class UserDefaults;
 struct PropertyMapping;
 
 /// What plays, how, and every way to change it: the one object between the engine and the views.
@@ -35,6 +36,7 @@ class PlaybackModel : public PlaybackState {
     const MpvClientApi& api;
     Clock& clock;
     FileChooser& files;
+    UserDefaults& defaults;        // what is stored
     QString diagnosticsDirectory;  // is made if it is missing
     /// Makes the player window, the first time that it is needed.
     std::function<std::unique_ptr<PlayerPresenting>(PlaybackModel&)> makePlayer;

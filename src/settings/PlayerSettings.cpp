@@ -4,6 +4,7 @@
 #include <string>
 
 #include "engine/MpvEngine.h"
+#include "platform/UserDefaults.h"
 
 namespace tromelo {
 
@@ -18,6 +19,12 @@ struct EngineRow {
 constexpr std::span<const EngineRow> kEngineRows{};
 
 }  // namespace
+
+PlayerSettings::PlayerSettings(UserDefaults& defaults, QObject* parent)
+    : QObject(parent), defaults_(defaults) {
+  const QJsonObject stored = defaults_.value(QStringLiteral("playerSettings")).toObject();
+  autoHideDelay_ = stored.value(QStringLiteral("autoHideDelay")).toDouble(autoHideDelay_);
+}
 
 void PlayerSettings::setAutoHideDelay(double seconds) {
   autoHideDelay_ = seconds;

@@ -5,14 +5,16 @@
 namespace tromelo {
 
 class MpvEngine;
+class UserDefaults;
 
-/// What the person prefers. Main thread only.
+/// What the person prefers, kept in the stored values. Main thread only.
 class PlayerSettings : public QObject {
   Q_OBJECT
   Q_PROPERTY(double autoHideDelay READ autoHideDelay WRITE setAutoHideDelay NOTIFY changed)
 
  public:
-  using QObject::QObject;
+  /// `defaults` outlives it.
+  explicit PlayerSettings(UserDefaults& defaults, QObject* parent = nullptr);
 
   /// Idle seconds after which the player's controls hide; 0 means never.
   double autoHideDelay() const { return autoHideDelay_; }
@@ -26,6 +28,7 @@ class PlayerSettings : public QObject {
   void changed();
 
  private:
+  UserDefaults& defaults_;
   double autoHideDelay_ = 2.0;
 };
 

@@ -39,7 +39,7 @@ class AppDelegateTest : public ::testing::Test {
 
   std::unique_ptr<PlaybackModel> makePlayback() {
     return std::make_unique<PlaybackModel>(PlaybackModel::Parts{
-        api_, clock_, files_, directory_.path(), [this](PlaybackModel& playback) {
+        api_, clock_, files_, defaults_, directory_.path(), [this](PlaybackModel& playback) {
           return std::make_unique<PlayerWindowController>(playback, windows_, clock_);
         }});
   }

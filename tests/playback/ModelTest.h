@@ -6,6 +6,7 @@
 
 #include "FakeChooser.h"
 #include "FakePlayer.h"
+#include "platform/UserDefaults.h"
 #include "playback/PlaybackModel.h"
 #include "support/FakeMpv.h"
 #include "support/ManualClock.h"
@@ -25,6 +26,7 @@ class ModelTest : public ::testing::Test {
         .api = mpv_.api(),
         .clock = clock_,
         .files = chooser_,
+        .defaults = defaults_,
         .diagnosticsDirectory = directory_.filePath("state/diagnostics"),
         .makePlayer = [this](PlaybackModel&) { return std::make_unique<FakePlayer>(player_); }});
   }
@@ -52,6 +54,7 @@ class ModelTest : public ::testing::Test {
   Requests takeRequests() { return std::exchange(mpv_.requests, {}); }
 
   QTemporaryDir directory_;
+  UserDefaults defaults_{directory_.filePath(QStringLiteral("defaults.json"))};
   FakeMpv mpv_;
   ManualClock clock_;
   FakeChooser chooser_;

@@ -8,6 +8,7 @@
 #include "FakePlayer.h"
 #include "platform/Clock.h"
 #include "platform/FilePath.h"
+#include "platform/UserDefaults.h"
 #include "playback/PlaybackModel.h"
 #include "support/Clips.h"
 #include "support/HeadlessMpv.h"
@@ -53,6 +54,7 @@ class RealPlayback : public ::testing::Test {
   }
 
   QTemporaryDir directory_;
+  UserDefaults defaults_{directory_.filePath(QStringLiteral("defaults.json"))};
   SystemClock clock_;
   FakeChooser chooser_;
   FakePlayer::Log player_;
@@ -62,6 +64,7 @@ class RealPlayback : public ::testing::Test {
       {.api = headlessMpv(),
        .clock = clock_,
        .files = chooser_,
+       .defaults = defaults_,
        .diagnosticsDirectory = directory_.filePath("diagnostics"),
        .makePlayer = [this](PlaybackModel&) { return std::make_unique<FakePlayer>(player_); }}};
 

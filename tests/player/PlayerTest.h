@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 
 #include "FakeWindows.h"
+#include "platform/UserDefaults.h"
 #include "playback/PlaybackModel.h"
 #include "player/PlayerWindowController.h"
 #include "support/FakeMpv.h"
@@ -70,10 +71,11 @@ class PlayerTest : public ::testing::Test {
   MpvClientApi api_ = mpv_.api();
   NoFileChooser files_;
   QTemporaryDir directory_;
+  UserDefaults defaults_{directory_.filePath(QStringLiteral("defaults.json"))};
   FakeLibraryWindow library_{clock_};
   FakeVideoWindow window_{clock_};
   PlaybackModel playback_{
-      {api_, clock_, files_, directory_.path(), [this](PlaybackModel& playback) {
+      {api_, clock_, files_, defaults_, directory_.path(), [this](PlaybackModel& playback) {
          return std::make_unique<PlayerWindowController>(playback, windows_, clock_);
        }}};
 };
