@@ -20,9 +20,9 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       settings_(parts.defaults) {
   startEngine(parts.diagnosticsDirectory);
   settings_.apply(engine_);
-  // Queued, so that several changes in one go are all made when the first is applied.
+  // Queued: the change is announced before it is made.
   settingsObserver_ = connect(
-      &settings_, &PlayerSettings::changed, this, [this] { settings_.apply(engine_); },
+      &settings_, &PlayerSettings::willChange, this, [this] { settings_.apply(engine_); },
       Qt::QueuedConnection);
 }
 

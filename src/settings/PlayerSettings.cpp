@@ -1,8 +1,5 @@
 #include "settings/PlayerSettings.h"
 
-#include <span>
-#include <string>
-
 #include "engine/MpvEngine.h"
 #include "platform/UserDefaults.h"
 
@@ -10,29 +7,94 @@ namespace tromelo {
 
 namespace {
 
-struct EngineRow {
-  const char* property;
-  std::string (*value)(const PlayerSettings&);
-};
-
-/// The controls' delay is no concern of the engine's.
-constexpr std::span<const EngineRow> kEngineRows{};
+const QString kKey = QStringLiteral("playerSettings");
 
 }  // namespace
 
 PlayerSettings::PlayerSettings(UserDefaults& defaults, QObject* parent)
-    : QObject(parent), defaults_(defaults) {
-  const QJsonObject stored = defaults_.value(QStringLiteral("playerSettings")).toObject();
-  autoHideDelay_ = stored.value(QStringLiteral("autoHideDelay")).toDouble(autoHideDelay_);
+    : QObject(parent),
+      defaults_(defaults),
+      values_(preferencesOf(defaults.value(kKey).toObject())) {}
+
+const QStringList& PlayerSettings::fonts() {
+  static const QStringList fonts{QStringLiteral("Helvetica Neue"), QStringLiteral("Avenir Next"),
+                                 QStringLiteral("Arial"),          QStringLiteral("Verdana"),
+                                 QStringLiteral("Futura"),         QStringLiteral("Gill Sans"),
+                                 QStringLiteral("Georgia"),        QStringLiteral("Menlo")};
+  return fonts;
+}
+
+const QList<AutoHideChoice>& PlayerSettings::autoHideChoices() {
+  static const QList<AutoHideChoice> choices{
+      {QStringLiteral("1 second"), 1},    {QStringLiteral("2 seconds"), 2},
+      {QStringLiteral("3 seconds"), 3},   {QStringLiteral("5 seconds"), 5},
+      {QStringLiteral("10 seconds"), 10}, {QStringLiteral("Never"), 0}};
+  return choices;
+}
+
+const QList<RgbaColor>& PlayerSettings::colorPresets() {
+  static const QList<RgbaColor> presets{
+      {1, 1, 1}, {1.0, 0.93, 0.35}, {0.55, 0.9, 1.0}, {0.6, 1.0, 0.6}};
+  return presets;
 }
 
 void PlayerSettings::setAutoHideDelay(double seconds) {
-  autoHideDelay_ = seconds;
-  Q_EMIT changed();
+  const double before = values_.autoHideDelay;
+  write(values_.autoHideDelay, keptAutoHideDelay(seconds));
+  if (values_.autoHideDelay != before) Q_EMIT autoHideDelayChanged();
+}
+
+void PlayerSettings::setSubtitleFont(const QString& family) {
+  write(values_.subtitles.font, family);
+}
+
+void PlayerSettings::setSubtitleSize(double size) {
+  write(values_.subtitles.size, keptSubtitleSize(size));
+}
+
+void PlayerSettings::setSubtitleColor(const RgbaColor& color) {
+  write(values_.subtitles.color, color);
+}
+
+void PlayerSettings::setSubtitleOutlineColor(const RgbaColor& color) {
+  write(values_.subtitles.outlineColor, color);
+}
+
+void PlayerSettings::setSubtitleBorderStyle(SubtitleBorderStyle style) {
+  write(values_.subtitles.borderStyle, style);
+}
+
+void PlayerSettings::setSubtitleBold(bool bold) { write(values_.subtitles.bold, bold); }
+
+void PlayerSettings::setSubtitleOverridesStyled(bool overrides) {
+  write(values_.subtitles.overridesStyled, overrides);
+}
+
+void PlayerSettings::resetSubtitleStyle() {
+  const SubtitleStyle fresh;
+  setSubtitleFont(fresh.font);
+  setSubtitleSize(fresh.size);
+  setSubtitleColor(fresh.color);
+  setSubtitleOutlineColor(fresh.outlineColor);
+  setSubtitleBorderStyle(fresh.borderStyle);
+  setSubtitleBold(fresh.bold);
+  setSubtitleOverridesStyled(fresh.overridesStyled);
 }
 
 void PlayerSettings::apply(MpvEngine& engine) const {
-  for (const EngineRow& row : kEngineRows) engine.setProperty(row.property, row.value(*this));
+  for (EngineProperty& property : engineProperties(values_.subtitles))
+    engine.setProperty(std::move(property.name), std::move(property.value));
 }
+
+template <typename T>
+void PlayerSettings::write(T& field, T value) {
+  Q_EMIT willChange();
+  const bool isOther = field != value;
+  field = std::move(value);
+  save();
+  if (isOther) Q_EMIT changed();
+}
+
+void PlayerSettings::save() { defaults_.set(kKey, storedPreferences(values_)); }
 
 }  // namespace tromelo

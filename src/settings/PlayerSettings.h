@@ -1,35 +1,89 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
+#include <QStringList>
+
+#include "settings/AutoHideChoice.h"
+#include "settings/PlayerPreferences.h"
 
 namespace tromelo {
 
 class MpvEngine;
 class UserDefaults;
 
-/// What the person prefers, kept in the stored values. Main thread only.
+/// What the person prefers, loaded from the stored values and stored again, whole, at every write.
+/// Main thread only.
 class PlayerSettings : public QObject {
   Q_OBJECT
-  Q_PROPERTY(double autoHideDelay READ autoHideDelay WRITE setAutoHideDelay NOTIFY changed)
+  Q_PROPERTY(
+      double autoHideDelay READ autoHideDelay WRITE setAutoHideDelay NOTIFY autoHideDelayChanged)
+  Q_PROPERTY(QString subtitleFont READ subtitleFont WRITE setSubtitleFont NOTIFY changed)
+  Q_PROPERTY(double subtitleSize READ subtitleSize WRITE setSubtitleSize NOTIFY changed)
+  Q_PROPERTY(
+      tromelo::RgbaColor subtitleColor READ subtitleColor WRITE setSubtitleColor NOTIFY changed)
+  Q_PROPERTY(tromelo::RgbaColor subtitleOutlineColor READ subtitleOutlineColor WRITE
+                 setSubtitleOutlineColor NOTIFY changed)
+  Q_PROPERTY(tromelo::SubtitleBorderStyle subtitleBorderStyle READ subtitleBorderStyle WRITE
+                 setSubtitleBorderStyle NOTIFY changed)
+  Q_PROPERTY(bool subtitleBold READ subtitleBold WRITE setSubtitleBold NOTIFY changed)
+  Q_PROPERTY(bool subtitleOverridesStyled READ subtitleOverridesStyled WRITE
+                 setSubtitleOverridesStyled NOTIFY changed)
+  Q_PROPERTY(QStringList fonts READ fonts CONSTANT)
+  Q_PROPERTY(QList<tromelo::AutoHideChoice> autoHideChoices READ autoHideChoices CONSTANT)
+  Q_PROPERTY(QList<tromelo::RgbaColor> colorPresets READ colorPresets CONSTANT)
+  Q_PROPERTY(QStringList borderStyleLabels READ borderStyleLabels CONSTANT)
 
  public:
-  /// `defaults` outlives it.
+  /// Writes nothing back. `defaults` outlives it.
   explicit PlayerSettings(UserDefaults& defaults, QObject* parent = nullptr);
 
+  // What is offered, in order.
+  static const QStringList& fonts();
+  static const QList<AutoHideChoice>& autoHideChoices();
+  static const QList<RgbaColor>& colorPresets();
+  static QStringList borderStyleLabels() { return tromelo::borderStyleLabels(); }
+
   /// Idle seconds after which the player's controls hide; 0 means never.
-  double autoHideDelay() const { return autoHideDelay_; }
+  double autoHideDelay() const { return values_.autoHideDelay; }
+  const QString& subtitleFont() const { return values_.subtitles.font; }
+  double subtitleSize() const { return values_.subtitles.size; }
+  RgbaColor subtitleColor() const { return values_.subtitles.color; }
+  RgbaColor subtitleOutlineColor() const { return values_.subtitles.outlineColor; }
+  SubtitleBorderStyle subtitleBorderStyle() const { return values_.subtitles.borderStyle; }
+  bool subtitleBold() const { return values_.subtitles.bold; }
+  bool subtitleOverridesStyled() const { return values_.subtitles.overridesStyled; }
+
   void setAutoHideDelay(double seconds);
+  void setSubtitleFont(const QString& family);
+  void setSubtitleSize(double size);
+  void setSubtitleColor(const RgbaColor& color);
+  void setSubtitleOutlineColor(const RgbaColor& color);
+  void setSubtitleBorderStyle(SubtitleBorderStyle style);
+  void setSubtitleBold(bool bold);
+  void setSubtitleOverridesStyled(bool overrides);
+
+  /// The subtitles as they are before anyone prefers anything; the controls' delay stays.
+  Q_INVOKABLE void resetSubtitleStyle();
 
   /// Writes every preference that the engine draws by to it.
   void apply(MpvEngine& engine) const;
 
  Q_SIGNALS:
-  /// Any preference has changed.
+  /// Before each write, also of the value that is there. Whoever reads the new value when it is
+  /// written connects queued.
+  void willChange();
+  /// Some preference has another value.
   void changed();
+  void autoHideDelayChanged();
 
  private:
+  template <typename T>
+  void write(T& field, T value);
+  void save();
+
   UserDefaults& defaults_;
-  double autoHideDelay_ = 2.0;
+  PlayerPreferences values_;
 };
 
 }  // namespace tromelo

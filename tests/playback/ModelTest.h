@@ -20,7 +20,7 @@ class ModelTest : public ::testing::Test {
 
   ModelTest() { remake(); }
 
-  /// For faults that show when the engine starts.
+  /// For what shows when the model starts.
   void remake() {
     model_ = std::make_unique<PlaybackModel>(PlaybackModel::Parts{
         .api = mpv_.api(),
@@ -29,6 +29,7 @@ class ModelTest : public ::testing::Test {
         .defaults = defaults_,
         .diagnosticsDirectory = directory_.filePath("state/diagnostics"),
         .makePlayer = [this](PlaybackModel&) { return std::make_unique<FakePlayer>(player_); }});
+    startRequests_ = takeRequests();
   }
 
   PlaybackModel& model() { return *model_; }
@@ -60,6 +61,7 @@ class ModelTest : public ::testing::Test {
   FakeChooser chooser_;
   FakePlayer::Log player_;
   std::unique_ptr<PlaybackModel> model_;
+  Requests startRequests_;  // what the last model sent while it was made
 };
 
 }  // namespace tromelo::testing

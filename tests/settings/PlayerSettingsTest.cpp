@@ -1,0 +1,179 @@
+#include "settings/PlayerSettings.h"
+
+#include <gtest/gtest.h>
+
+#include <QJsonArray>
+#include <QTemporaryDir>
+#include <limits>
+
+#include "platform/UserDefaults.h"
+
+namespace tromelo {
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+const QString kKey = QStringLiteral("playerSettings");
+
+QString key(const char* name) { return QString::fromLatin1(name); }
+
+/// Differs from the default in every entry.
+const QJsonObject& allStored() {
+  static const QJsonObject stored{
+      {"autoHideDelay", 0},
+      {"subtitleFont", "Comic Neue"},
+      {"subtitleSize", 52.5},
+      {"subtitleColor", QJsonArray{1.0 / 3, 0.93, 0.35, 0.1}},
+      {"subtitleOutlineColor", QJsonArray{0.1, 0.2, 0.3, 0.4}},
+      {"subtitleBorderStyle", "box"},
+      {"subtitleBold", true},
+      {"subtitleOverridesStyled", true},
+  };
+  return stored;
+}
+
+PlayerPreferences allPreferred() {
+  return {.autoHideDelay = 0,
+          .subtitles = {.font = QStringLiteral("Comic Neue"),
+                        .size = 52.5,
+                        .color = {1.0 / 3, 0.93, 0.35, 0.1},
+                        .outlineColor = {0.1, 0.2, 0.3, 0.4},
+                        .borderStyle = SubtitleBorderStyle::box,
+                        .bold = true,
+                        .overridesStyled = true}};
+}
+
+class PlayerSettingsTest : public ::testing::Test {
+ protected:
+  QJsonObject stored() const { return defaults_.value(kKey).toObject(); }
+
+  QTemporaryDir directory_;
+  QString path_ = directory_.filePath(QStringLiteral("defaults.json"));
+  UserDefaults defaults_{path_};
+};
+
+TEST(PlayerPreferencesTest, KeepsEveryEntryExactly) {
+  EXPECT_EQ(preferencesOf(allStored()), allPreferred());
+  EXPECT_EQ(storedPreferences(allPreferred()), allStored());
+  EXPECT_EQ(preferencesOf({}), PlayerPreferences());
+}
+
+TEST(PlayerPreferencesTest, AnEntryOfAnotherTypeLosesOnlyItself) {
+  struct Case {
+    const char* key;
+    std::vector<QJsonValue> mistyped;
+  };
+  const QJsonValue null(QJsonValue::Null);
+  const std::vector<QJsonValue> noNumbers{true, "2", null, QJsonArray{2}};
+  const std::vector<QJsonValue> noFlags{1, "true", null};
+  const std::vector<QJsonValue> noColors{QJsonArray{0, 0, 0},
+                                         QJsonArray{0, 0, 0, 1, 1},
+                                         QJsonArray{0, 0, 0, "1"},
+                                         QJsonArray{0, 0, true, 1},
+                                         "#ffffff",
+                                         null,
+                                         QJsonObject{{"red", 1}},
+                                         QJsonArray{}};
+  const Case cases[] = {
+      {"autoHideDelay", noNumbers},       {"subtitleFont", {7, null, QJsonArray{"Arial"}}},
+      {"subtitleSize", noNumbers},        {"subtitleColor", noColors},
+      {"subtitleOutlineColor", noColors}, {"subtitleBorderStyle", {"Box", "", 2, null}},
+      {"subtitleBold", noFlags},          {"subtitleOverridesStyled", noFlags},
+  };
+  const QJsonObject fresh = storedPreferences({});
+  QJsonObject allMistyped;
+  for (const auto& [name, mistyped] : cases) {
+    for (const QJsonValue& value : mistyped) {
+      QJsonObject stored = allStored();
+      stored[key(name)] = value;
+      allMistyped[key(name)] = value;
+      QJsonObject expected = allStored();
+      expected[key(name)] = fresh[key(name)];
+      EXPECT_EQ(storedPreferences(preferencesOf(stored)), expected) << name;
+    }
+  }
+  EXPECT_EQ(preferencesOf(allMistyped), PlayerPreferences());
+}
+
+TEST(PlayerPreferencesTest, TakesNonsenseToTheNearestSense) {
+  const QJsonObject stored{{"autoHideDelay", -3},
+                           {"subtitleSize", 1e300},
+                           {"subtitleColor", QJsonArray{255, -1, 0.5, 2}}};
+  const PlayerPreferences kept = preferencesOf(stored);
+  EXPECT_EQ(kept.autoHideDelay, 0);
+  EXPECT_EQ(kept.subtitles.size, 9000);
+  EXPECT_EQ(kept.subtitles.color, RgbaColor(1, 0, 0.5, 1));
+  for (const double unreadable : {-44.0, 0.0, -kInfinity, kNan})
+    EXPECT_EQ(keptSubtitleSize(unreadable), 44) << unreadable;
+  EXPECT_EQ(keptAutoHideDelay(kInfinity), 86'400);
+  EXPECT_EQ(keptAutoHideDelay(kNan), 2);
+  EXPECT_EQ(RgbaColor(kNan, kInfinity, -kInfinity), RgbaColor(0, 1, 0));
+}
+
+TEST(RgbaColorTest, TakesColorsOfEverySpaceAsTheirSrgbComponents) {
+  EXPECT_EQ(RgbaColor(QColor(204, 0, 51, 102)), RgbaColor(0.8, 0, 0.2, 0.4));
+  EXPECT_EQ(RgbaColor(QColor::fromHsv(120, 255, 255)), RgbaColor(0, 1, 0));
+  EXPECT_EQ(RgbaColor(QColor::fromCmyk(0, 255, 255, 0)), RgbaColor(1, 0, 0));
+  EXPECT_EQ(RgbaColor(QColor::fromRgbF(1.5F, 0, -1, 1)), RgbaColor(1, 0, 0));
+  EXPECT_EQ(RgbaColor(QColor()), RgbaColor(1, 1, 1));
+  EXPECT_EQ(RgbaColor(0.8, 0, 0.2, 0.4).toQColor().rgba(), qRgba(204, 0, 51, 102));
+}
+
+TEST_F(PlayerSettingsTest, StoresNothingUntilSomethingIsChanged) {
+  PlayerSettings settings(defaults_);
+  EXPECT_FALSE(defaults_.contains(kKey));
+  settings.setSubtitleBold(true);
+  PlayerPreferences bold;
+  bold.subtitles.bold = true;
+  EXPECT_EQ(stored(), storedPreferences(bold));
+}
+
+TEST_F(PlayerSettingsTest, EveryWriteIsThereAfterARestart) {
+  {
+    PlayerSettings settings(defaults_);
+    settings.setAutoHideDelay(0);
+    settings.setSubtitleFont(QStringLiteral("Comic Neue"));
+    settings.setSubtitleSize(52.5);
+    settings.setSubtitleColor({1.0 / 3, 0.93, 0.35, 0.1});
+    settings.setSubtitleOutlineColor({0.1, 0.2, 0.3, 0.4});
+    settings.setSubtitleBorderStyle(SubtitleBorderStyle::box);
+    settings.setSubtitleBold(true);
+    settings.setSubtitleOverridesStyled(true);
+  }
+  UserDefaults later(path_);
+  EXPECT_EQ(later.value(kKey).toObject(), allStored());
+  PlayerSettings settings(later);
+  EXPECT_EQ(settings.subtitleColor(), RgbaColor(1.0 / 3, 0.93, 0.35, 0.1));
+  settings.resetSubtitleStyle();
+  EXPECT_EQ(later.value(kKey).toObject(), storedPreferences({.autoHideDelay = 0, .subtitles = {}}));
+}
+
+TEST_F(PlayerSettingsTest, LoadingLeavesAHandEditedEntryAsItIs) {
+  const QJsonObject edited{{"subtitleSize", -1}, {"subtitleBold", 1}, {"note", "mine"}};
+  defaults_.set(kKey, edited);
+  const PlayerSettings settings(defaults_);
+  EXPECT_EQ(stored(), edited);
+}
+
+TEST_F(PlayerSettingsTest, AnnouncesEachWriteBeforeAndEachChangeAfterIt) {
+  PlayerSettings settings(defaults_);
+  QList<double> before;
+  QList<double> after;
+  int delays = 0;
+  QObject::connect(&settings, &PlayerSettings::willChange, &settings,
+                   [&] { before << settings.subtitleSize(); });
+  QObject::connect(&settings, &PlayerSettings::changed, &settings,
+                   [&] { after << settings.subtitleSize(); });
+  QObject::connect(&settings, &PlayerSettings::autoHideDelayChanged, &settings, [&] { ++delays; });
+  settings.setSubtitleSize(30);
+  settings.setSubtitleSize(30);
+  EXPECT_EQ(before, (QList<double>{44, 30}));
+  EXPECT_EQ(after, QList<double>{30});
+  settings.setAutoHideDelay(5);
+  settings.setAutoHideDelay(5);
+  EXPECT_EQ(delays, 1);
+  EXPECT_EQ(after, (QList<double>{30, 30}));
+}
+
+}  // namespace
+}  // namespace tromelo
