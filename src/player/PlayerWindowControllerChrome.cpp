@@ -27,7 +27,7 @@ void PlayerWindowController::followState() {
   connect(&chrome_, &PlayerChrome::showsInfoChanged, this,
           [this] { setInfoRefresh(chrome_.showsInfo()); });
   connect(
-      &playback_.settings(), &PlayerSettings::changed, this,
+      &playback_.settings(), &PlayerSettings::autoHideDelayChanged, this,
       [this] {
         if (window_) scheduleChromeHide();
       },
