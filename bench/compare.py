@@ -18,6 +18,8 @@ POLL = 0.002
 POINTER_RATE = 200  # moves a second, a quick mouse
 BAR_MIDDLE = 60  # points above the window's bottom edge
 ALONE = ("library", "pointer")  # mpv has nothing of the kind
+# Parts that are programs of their own, each started with the sample.
+PROGRAMS = {"events": "bench_drain_events", "queue": "bench_queue"}
 MPV = (
     "mpv --no-config --osc=no --vo=gpu-next --gpu-api=vulkan --gpu-sw=yes --really-quiet"
 ).split()
@@ -185,19 +187,21 @@ class Bench:
                 self.milliseconds_until(player, has_colour)
 
     def run(self):
-        comparisons = [part for part in self.options.parts if part != "events"]
+        comparisons = [part for part in self.options.parts if part not in PROGRAMS]
         if comparisons:
             self.warm_up()
         for part in comparisons:
             self.compare(part)
         if comparisons:
             self.table.print()
-        if "events" in self.options.parts:
-            subprocess.run([os.path.join(self.options.build, "bench/bench_drain_events")], check=True)
+        for part in self.options.parts:
+            if program := PROGRAMS.get(part):
+                path = os.path.join(self.options.build, "bench", program)
+                subprocess.run([path, self.options.sample], check=True)
 
 
 def main():
-    parts = ("start", "play", "pointer", "library", "events")
+    parts = ("start", "play", "pointer", "library", *PROGRAMS)
     parser = argparse.ArgumentParser(prog="bench/run")
     parser.add_argument("--build", required=True, help=argparse.SUPPRESS)
     parser.add_argument("--sample", required=True, help=argparse.SUPPRESS)

@@ -8,31 +8,15 @@
 #include <string>
 #include <vector>
 
+#include "HeadlessParts.h"
 #include "engine/MpvClientApi.h"
 #include "platform/Clock.h"
 #include "platform/UserDefaults.h"
-#include "playback/FileChooser.h"
 #include "playback/PlaybackModel.h"
 
 namespace tromelo {
 
 namespace {
-
-class NoPlayer final : public PlayerPresenting {
- public:
-  void setAwaitingVideo(bool) override {}
-  void setVideoReady(bool) override {}
-  bool hasWindow() const override { return false; }
-  void reveal() override {}
-  void close() override {}
-  void showLibrary() override {}
-  void showToast(const QString&) override {}
-};
-
-class NoChooser final : public FileChooser {
- public:
-  void chooseFiles(const Request&, Callback) override {}
-};
 
 /// What one event of each kind points to. Lives as long as the events do.
 class Events {

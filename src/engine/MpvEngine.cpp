@@ -115,8 +115,10 @@ void MpvEngine::setProperty(std::string name, std::string value) {
 
 void MpvEngine::send(MpvRequest request) {
   if (!handle_) return;
+  const bool isHeldUp = !waiting_.empty();
   waiting_.push_back(std::move(request));
-  sendWaiting();
+  // The engine makes room by answering, and what waits is sent then.
+  if (!isHeldUp) sendWaiting();
 }
 
 void MpvEngine::sendWaiting() {
