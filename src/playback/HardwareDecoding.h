@@ -2,8 +2,9 @@
 
 #include <QString>
 #include <optional>
-#include <set>
 #include <string>
+
+#include "playback/SoftwareDecodePaths.h"
 
 namespace tromelo {
 
@@ -15,7 +16,7 @@ struct HardwareDecoding {
   double lastError = 0;  // in the current file
   double lastPlaybackRestart = 0;
   bool forcedSoftware = false;  // the current file is decoded in software because of its errors
-  std::set<std::string, std::less<>> softwarePaths;  // files that always are
+  SoftwareDecodePaths softwarePaths;
 
   void fileStarted();
   void pathReported(const std::string& path);

@@ -15,9 +15,11 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
     : PlaybackState(parent),
       clock_(parts.clock),
       files_(parts.files),
+      defaults_(parts.defaults),
       makePlayer_(std::move(parts.makePlayer)),
       engine_(parts.api),
       settings_(parts.defaults) {
+  hardware_.softwarePaths = storedSoftwareDecodePaths(defaults_);
   startEngine(parts.diagnosticsDirectory);
   settings_.apply(engine_);
   // Queued: the change is announced before it is made.

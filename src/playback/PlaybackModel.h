@@ -133,6 +133,7 @@ class PlaybackModel : public PlaybackState {
 
   Clock& clock_;
   FileChooser& files_;
+  UserDefaults& defaults_;
   std::function<std::unique_ptr<PlayerPresenting>(PlaybackModel&)> makePlayer_;
   MpvEngine engine_;
   PlayerSettings settings_;

@@ -98,6 +98,7 @@ void PlaybackModel::handle(const event::HardwareDecodeError&) {
 
 void PlaybackModel::rememberSoftwareDecode(const std::string& path) {
   hardware_.softwarePaths.insert(path);
+  store(hardware_.softwarePaths, defaults_);
 }
 
 void PlaybackModel::updateStatus() {

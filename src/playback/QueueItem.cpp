@@ -9,9 +9,15 @@ namespace tromelo {
 
 namespace {
 
+/// Of a folder its name.
+QString lastComponent(QStringView path) {
+  while (path.size() > 1 && path.endsWith(u'/')) path.chop(1);
+  return path.sliced(path.lastIndexOf(u'/') + 1).toString();
+}
+
 QString queueTitle(const MpvMap& entry, const QString& path) {
   const auto title = nodeText(entry, "title");
-  return withoutLastPathExtension(title ? *title : path.sliced(path.lastIndexOf(u'/') + 1));
+  return withoutLastPathExtension(title ? *title : lastComponent(path));
 }
 
 bool isCurrent(const MpvMap& entry) {

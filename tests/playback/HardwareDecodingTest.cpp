@@ -1,3 +1,5 @@
+#include <QJsonArray>
+
 #include "ModelTest.h"
 #include "platform/FilePath.h"
 
@@ -119,12 +121,39 @@ TEST_F(Decoder, FallsBackForThisFileAndOpensItInSoftwareFromThenOn) {
   EXPECT_EQ(model().decoder(), kRejected);
 }
 
+TEST_F(Decoder, WhatFellBackIsStoredWholeAndReadAtTheNextStart) {
+  const QString key = QStringLiteral("softwareDecodeFiles");
+  defaults_.set(key, QJsonArray{"/films/b.mkv", 1, QJsonValue(), "", QJsonArray{"/films/c.mkv"}});
+  remake();
+  clock_.advance(std::chrono::seconds(100));
+  load();
+  report(P::path, "/films/\xff %41.mkv");
+  fails();
+  EXPECT_EQ(defaults_.value(key), (QJsonArray{"/films/b.mkv", "file:///films/%FF%20%2541.mkv"}));
+  remake();
+  const struct {
+    const char* path;
+    const char* options;
+  } rows[] = {
+      {"/films/\xff %41.mkv", "hwdec=no"}, {"/films/b.mkv", "hwdec=no"}, {"/films/c.mkv", ""}};
+  for (const auto& row : rows) {
+    takeRequests();
+    model().open(fileUrlFromPath(row.path));
+    EXPECT_EQ(takeRequests().front().back(), row.options) << row.path;
+  }
+  defaults_.set(key, "/films/b.mkv");
+  remake();
+  model().open(fileUrlFromPath("/films/b.mkv"));
+  EXPECT_EQ(takeRequests().front().back(), "");
+}
+
 TEST_F(Decoder, AFileWithoutAKnownPathFallsBackAndIsNotRemembered) {
   clock_.advance(std::chrono::seconds(100));
   load();
   takeRequests();
   fails();
   EXPECT_EQ(takeRequests(), (Requests{{"set", "file-local-options/hwdec", "no"}}));
+  EXPECT_FALSE(defaults_.contains(QStringLiteral("softwareDecodeFiles")));
   report(P::path, "/films/a.mkv");
   report(P::hwdecCurrent, "no");
   EXPECT_EQ(model().decoder(), "Software (FFmpeg)");

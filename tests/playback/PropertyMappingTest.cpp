@@ -173,6 +173,10 @@ TEST_F(Mapping, EqualValuesAreNotAnnounced) {
   }
   EXPECT_EQ(paused, 1);
   EXPECT_EQ(queue, 1);
+  const std::vector<std::string> many(10000, "a.mkv");
+  for (const std::size_t current : {0, 0, 9999}) reportPlaylist(many, current);
+  EXPECT_EQ(queue, 3);
+  EXPECT_FALSE(model().hasNext());
 }
 
 }  // namespace tromelo

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "engine/MpvValue.h"
+#include "Nodes.h"
 #include "playback/QueueItem.h"
 #include "playback/QueueOutlook.h"
 
@@ -8,7 +8,11 @@ namespace tromelo {
 
 namespace {
 
-MpvNode text(const char* value) { return MpvNode{std::string(value)}; }
+using testing::flag;
+using testing::integer;
+using testing::listOf;
+using testing::number;
+using testing::text;
 
 /// `size` items, the one at `current` playing.
 PlayQueue queueOf(qsizetype size, qsizetype current) {
@@ -22,18 +26,29 @@ PlayQueue queueOf(qsizetype size, qsizetype current) {
 }  // namespace
 
 TEST(Queue, EntriesAreNamedByTitleOrFile) {
-  const MpvValue playlist = MpvNode{MpvList{
-      MpvNode{MpvMap{{"filename", text("/films/One.mkv")}}},
-      MpvNode{MpvMap{{"filename", text("/films/two.mkv")}, {"title", text("Second.Film.mkv")}}},
-      MpvNode{true},
-      MpvNode{MpvMap{{"current", MpvNode{false}}, {"playing", MpvNode{true}}}},
-      MpvNode{MpvMap{{"filename", MpvNode{1.0}}, {"playing", MpvNode{true}}}},
-  }};
+  MpvList list = testing::notEntries();
+  for (MpvMap entry : {
+           MpvMap{{"filename", text("/films/One.mkv")}},
+           MpvMap{{"filename", text("/films/two.mkv")}, {"title", text("Second.Film.mkv")}},
+           MpvMap{{"current", flag(false)}, {"playing", flag(true)}},
+           MpvMap{{"filename", number(1)}, {"playing", flag(true)}},
+           MpvMap{{"filename", text("/films/a folder/")}, {"title", integer(1)}},
+           MpvMap{{"filename", text("/films/\xff.mkv")}, {"current", integer(1)}},
+           MpvMap{{"filename", text("/films/a.mkv")}, {"title", text("")}},
+           MpvMap{{"current", text("yes")}, {"playing", flag(true)}},
+       }) {
+    list.push_back(testing::map(std::move(entry)));
+  }
+  const QString lost(QChar(0xfffd));
   const PlayQueue expected{{0, "One", "/films/One.mkv", false},
                            {1, "Second.Film", "/films/two.mkv", false},
                            {2, "", "", false},
-                           {3, "", "", true}};
-  EXPECT_EQ(playQueue(playlist), expected);
+                           {3, "", "", true},
+                           {4, "a folder", "/films/a folder/", false},
+                           {5, lost, "/films/" + lost + ".mkv", false},
+                           {6, "", "/films/a.mkv", false},
+                           {7, "", "", true}};
+  EXPECT_EQ(playQueue(listOf(list)), expected);
   EXPECT_EQ(playQueue(MpvValue(1.0)), PlayQueue());
 }
 
