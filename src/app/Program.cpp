@@ -69,8 +69,8 @@ bool Program::startDisplay() {
 void Program::makeDelegate() {
   stage_ = std::make_unique<PlayerStage>(
       *display_, qmlEngine_,
-      [this](QQuickItem& scene, PlaybackModel&, PlayerWindowController&) {
-        return std::make_unique<QuickPlayerOverlay>(qmlEngine_, scene);
+      [this](QQuickItem& scene, PlaybackModel& playback, PlayerWindowController& player) {
+        return std::make_unique<QuickPlayerOverlay>(qmlEngine_, scene, playback, player);
       });
   AppDelegate::Parts parts;
   parts.makePlayback = [this] {

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import Tromelo.Theme
 
 // A pill-shaped button with a text.
 T.Button {

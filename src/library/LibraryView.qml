@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Tromelo.Player
+import Tromelo.Theme
 
 // The home window's content.
 FocusScope {

@@ -1,27 +1,76 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Tromelo.Player
+import Tromelo.Theme
 
-// Lies over the video and takes all input there.
+// Lies over the video, takes all input there and holds the player's floating views.
 Item {
     id: overlay
 
-    signal doubleClicked
-    signal filesDropped(files: list<url>)
+    required property PlaybackModel playback
+    required property PlayerChrome chrome
+    required property PlayerWindowController player
+
+    readonly property real insetWidth: width - 2 * Theme.overlayInset
+    readonly property real insetHeight: height - 2 * Theme.overlayInset
 
     objectName: "playerOverlay"
 
-    MouseArea {
+    PlayerOverlayInput {
+        objectName: "playerInput"
         anchors.fill: parent
-        onDoubleClicked: overlay.doubleClicked()
     }
 
-    DropArea {
+    // These fade together.
+    Item {
+        objectName: "playerChrome"
         anchors.fill: parent
-        keys: ["text/uri-list"]
-        onDropped: drop => {
-            overlay.filesDropped(drop.urls);
-            drop.accept(Qt.CopyAction);
+
+        PlayerCloseButton {
+            id: closeButton
+            x: Theme.overlayMargin
+            y: Theme.overlayMargin
+            onClicked: overlay.player.close()
         }
+
+        PlayerSignalBadge {
+            id: badge
+            anchors.right: parent.right
+            anchors.top: parent.top
+            anchors.margins: Theme.overlayMargin
+            width: Math.min(implicitWidth, overlay.width - Theme.overlayMargin - Theme.badgeGap - closeButton.x - closeButton.width)
+            playback: overlay.playback
+        }
+
+        PlayerInfoPanel {
+            anchors.right: badge.right
+            anchors.top: badge.bottom
+            anchors.topMargin: Theme.infoGap
+            playback: overlay.playback
+            chrome: overlay.chrome
+        }
+
+        PlayerControlBar {
+            anchors.horizontalCenter: parent.horizontalCenter
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: Theme.controlBarMargin
+            width: Math.min(implicitWidth, overlay.insetWidth)
+            playback: overlay.playback
+        }
+    }
+
+    PlayerToast {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: Theme.controlBarMargin
+        width: Math.min(implicitWidth, overlay.insetWidth)
+        chrome: overlay.chrome
+    }
+
+    PlayerShortcutsPanel {
+        anchors.centerIn: parent
+        width: Math.min(implicitWidth, overlay.insetWidth)
+        height: Math.min(implicitHeight, overlay.insetHeight)
+        chrome: overlay.chrome
     }
 }

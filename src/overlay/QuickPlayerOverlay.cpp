@@ -1,37 +1,92 @@
 #include "overlay/QuickPlayerOverlay.h"
 
 #include <QQmlComponent>
+#include <utility>
+
+#include "overlay/PlayerOverlayInput.h"
+#include "playback/PlaybackModel.h"
+#include "player/PlayerWindowController.h"
 
 namespace tromelo {
 
-QuickPlayerOverlay::QuickPlayerOverlay(QQmlEngine& engine, QQuickItem& scene) : scene_(scene) {
+namespace {
+
+std::unique_ptr<QQuickItem> makeView(QQmlEngine& engine, PlaybackModel& playback,
+                                     PlayerWindowController& player) {
   QQmlComponent component(&engine, QStringLiteral("Tromelo.Overlay"),
                           QStringLiteral("PlayerOverlayView"));
-  view_.reset(qobject_cast<QQuickItem*>(component.create()));
-  if (!view_) qFatal("%s", qPrintable(component.errorString()));
+  std::unique_ptr<QQuickItem> view(qobject_cast<QQuickItem*>(component.createWithInitialProperties(
+      {{QStringLiteral("playback"), QVariant::fromValue(&playback)},
+       {QStringLiteral("chrome"), QVariant::fromValue(&player.chrome())},
+       {QStringLiteral("player"), QVariant::fromValue(&player)}})));
+  if (!view) qFatal("%s", qPrintable(component.errorString()));
+  return view;
+}
+
+template <typename Item>
+Item& childNamed(QQuickItem& view, const char* name) {
+  return *view.findChild<Item*>(QString::fromLatin1(name));
+}
+
+}  // namespace
+
+QuickPlayerOverlay::QuickPlayerOverlay(QQmlEngine& engine, QQuickItem& scene,
+                                       PlaybackModel& playback, PlayerWindowController& player)
+    : scene_(scene),
+      view_(makeView(engine, playback, player)),
+      controls_(&childNamed<QQuickItem>(*view_, "playerControlBar")),
+      chrome_(std::make_unique<ChromeGroup>(childNamed<QQuickItem>(*view_, "playerChrome"))),
+      pointer_(*scene.window(), [this] { onActivity(); }) {
   view_->setParentItem(&scene);
+  connectInput(childNamed<PlayerOverlayInput>(*view_, "playerInput"));
   connect(&scene, &QQuickItem::widthChanged, this, &QuickPlayerOverlay::fillScene);
   connect(&scene, &QQuickItem::heightChanged, this, &QuickPlayerOverlay::fillScene);
   fillScene();
-  connect(view_.get(), SIGNAL(doubleClicked()), this, SLOT(reportDoubleClick()));
-  connect(view_.get(), SIGNAL(filesDropped(QList<QUrl>)), this, SLOT(reportDrop(QList<QUrl>)));
+  followLayout();
 }
 
 QuickPlayerOverlay::~QuickPlayerOverlay() {
+  chrome_.reset();
   // It can be one of the view's own handlers that ends the overlay.
   view_->setParentItem(nullptr);
   view_.release()->deleteLater();
 }
 
+void QuickPlayerOverlay::connectInput(PlayerOverlayInput& input) {
+  connect(&input, &PlayerOverlayInput::clicked, this, [this] { onClick(); });
+  connect(&input, &PlayerOverlayInput::doubleClicked, this, [this] { onDoubleClick(); });
+  connect(&input, &PlayerOverlayInput::scrolled, this, [this](double steps) { onScroll(steps); });
+  connect(&input, &PlayerOverlayInput::filesDropped, this,
+          [this](const QList<QUrl>& files) { onDropFiles(files); });
+}
+
+void QuickPlayerOverlay::followLayout() {
+  for (const QQuickItem* item : {view_.get(), controls_})
+    for (const auto changed : {&QQuickItem::xChanged, &QQuickItem::yChanged,
+                               &QQuickItem::widthChanged, &QQuickItem::heightChanged})
+      connect(item, changed, this, &QuickPlayerOverlay::scheduleLayout);
+}
+
 void QuickPlayerOverlay::fillScene() { view_->setSize(scene_.size()); }
 
-void QuickPlayerOverlay::reportDoubleClick() { onDoubleClick(); }
+void QuickPlayerOverlay::scheduleLayout() {
+  // What one new size moves is told of once, when all of it is in its place.
+  if (std::exchange(layoutScheduled_, true)) return;
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        layoutScheduled_ = false;
+        onLayout();
+      },
+      Qt::QueuedConnection);
+}
 
-void QuickPlayerOverlay::reportDrop(const QList<QUrl>& urls) {
-  QList<QUrl> files;
-  for (const QUrl& url : urls)
-    if (url.isLocalFile()) files.append(url);
-  if (!files.isEmpty()) onDropFiles(files);
+bool QuickPlayerOverlay::isMouseInsideChrome() const {
+  return chrome_->contains(pointer_.position());
+}
+
+void QuickPlayerOverlay::setChromeVisible(bool visible, bool animated) {
+  chrome_->setVisible(visible, animated);
 }
 
 }  // namespace tromelo

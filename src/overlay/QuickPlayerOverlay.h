@@ -5,33 +5,44 @@
 #include <QQuickItem>
 #include <memory>
 
+#include "overlay/ChromeGroup.h"
+#include "overlay/PointerWatch.h"
 #include "player/PlayerOverlay.h"
 
 namespace tromelo {
+
+class PlaybackModel;
+class PlayerOverlayInput;
+class PlayerWindowController;
 
 /// PlayerOverlayView.qml on a player's scene.
 class QuickPlayerOverlay : public QObject, public PlayerOverlay {
   Q_OBJECT
 
  public:
-  /// Fills `scene`, above everything else there. `scene` outlives it.
-  QuickPlayerOverlay(QQmlEngine& engine, QQuickItem& scene);
+  /// Fills `scene`, above everything else there. `scene`, which has a window, and the others
+  /// outlive it.
+  QuickPlayerOverlay(QQmlEngine& engine, QQuickItem& scene, PlaybackModel& playback,
+                     PlayerWindowController& player);
   ~QuickPlayerOverlay() override;
 
-  bool isMouseInsideChrome() const override { return false; }
-  void setChromeVisible(bool, bool) override {}
+  bool isMouseInsideChrome() const override;
+  void setChromeVisible(bool visible, bool animated) override;
   double height() const override { return view_->height(); }
-  double controlsTop() const override { return 0; }
-
- private Q_SLOTS:
-  void reportDoubleClick();
-  void reportDrop(const QList<QUrl>& urls);
+  double controlsTop() const override { return view_->height() - controls_->y(); }
 
  private:
+  void connectInput(PlayerOverlayInput& input);
+  void followLayout();
   void fillScene();
+  void scheduleLayout();
 
   QQuickItem& scene_;
   std::unique_ptr<QQuickItem> view_;
+  QQuickItem* controls_ = nullptr;
+  std::unique_ptr<ChromeGroup> chrome_;
+  PointerWatch pointer_;
+  bool layoutScheduled_ = false;
 };
 
 }  // namespace tromelo

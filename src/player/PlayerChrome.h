@@ -12,6 +12,7 @@ namespace tromelo {
 class PlayerChrome : public QObject {
   Q_OBJECT
   Q_PROPERTY(bool showsInfo READ showsInfo WRITE setShowsInfo NOTIFY showsInfoChanged)
+  Q_PROPERTY(bool showsShortcuts READ showsShortcuts NOTIFY panelChanged)
   Q_PROPERTY(QString toast READ toastText NOTIFY toastChanged)
 
  public:
@@ -35,6 +36,7 @@ class PlayerChrome : public QObject {
   void toastChanged();
 
  private:
+  bool showsShortcuts() const { return panel_ == PlayerPanel::shortcuts; }
   QString toastText() const { return toast_.value_or(QString()); }
 
   bool showsInfo_ = false;

@@ -85,18 +85,51 @@ void PlayerHostWindow::present() {
 
 void PlayerHostWindow::hidePointer() {
   pointerHidden_ = true;
-  pointerHiddenAt_ = QCursor::pos(screen());
-  setCursor(Qt::BlankCursor);
+  updateCursor();
 }
 
 void PlayerHostWindow::showPointer() {
-  if (std::exchange(pointerHidden_, false)) unsetCursor();
+  if (std::exchange(pointerHidden_, false)) updateCursor();
+}
+
+void PlayerHostWindow::updateCursor() {
+  if (pointerHidden_)
+    setCursor(Qt::BlankCursor);
+  else if (edgesUnderPointer_)
+    setCursor(cursorFor(edgesUnderPointer_));
+  else
+    unsetCursor();
+}
+
+void PlayerHostWindow::followPointer(const QSinglePointEvent& event) {
+  if (std::exchange(pointer_, event.globalPosition()) != event.globalPosition()) showPointer();
+  // A button that went down elsewhere keeps its pointer's look.
+  if (event.buttons() != Qt::NoButton) return;
+  // A host that takes the pointer away may let the button go first.
+  if (event.type() != QEvent::MouseButtonRelease) edgeResize_.finishHostResize();
+  const Qt::Edges edges = edgeResize_.edgesAt(event.position());
+  if (std::exchange(edgesUnderPointer_, edges) != edges) updateCursor();
+}
+
+/// True when the event is no one else's.
+bool PlayerHostWindow::handlePointer(QEvent& event) {
+  switch (event.type()) {
+    case QEvent::Enter:
+      followPointer(static_cast<const QEnterEvent&>(event));
+      return false;
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+      followPointer(static_cast<const QMouseEvent&>(event));
+      return edgeResize_.take(static_cast<const QMouseEvent&>(event));
+    default:
+      return false;
+  }
 }
 
 bool PlayerHostWindow::event(QEvent* event) {
-  if (event->type() == QEvent::MouseMove &&
-      static_cast<QMouseEvent*>(event)->globalPosition() != pointerHiddenAt_)
-    showPointer();
+  if (handlePointer(*event)) return true;
   if (event->type() == QEvent::Close) {
     event->ignore();
     Q_EMIT closeRequested();

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "display/EngineWindowItem.h"
+#include "player/EdgeResize.h"
 #include "player/WindowFade.h"
 
 namespace tromelo {
@@ -27,6 +28,8 @@ class PlayerHostWindow : public QQuickWindow {
   /// Gives the window `pixels`, kept on its screen and round the same centre where the host lets us
   /// place windows.
   void resizeToPixels(QSize pixels);
+  /// What a hand that resizes the window keeps to; in any unit.
+  void setPictureAspect(QSize picture) { edgeResize_.setAspect(picture); }
 
   /// Mapped, so that its graphics get ready, but with nothing to be seen or clicked.
   void showUnseen();
@@ -47,11 +50,16 @@ class PlayerHostWindow : public QQuickWindow {
   QSize roomFor(QSize picture) const;
   void fillWindow();
   void center();
+  bool handlePointer(QEvent& event);
+  void followPointer(const QSinglePointEvent& event);
+  void updateCursor();
 
   std::unique_ptr<QQuickItem> scene_;
   EngineWindowItem* video_ = nullptr;
   std::unique_ptr<WindowFade> fade_;
-  QPointF pointerHiddenAt_;  // on the screen
+  EdgeResize edgeResize_{*this};
+  Qt::Edges edgesUnderPointer_;
+  QPointF pointer_;  // on the screen, where it was last seen
   bool pointerHidden_ = false;
 };
 

@@ -107,6 +107,7 @@ void PlayerWindow::adoptEngineSize() {
   const QSize pixels = engineWindow_ ? engineWindow_->size() : QSize();
   if (pixels.isEmpty() || answersRequest(pixels)) return;
   chosenSize_ = pixels;
+  host_->setPictureAspect(pixels);
   if (!isFullscreen()) host_->resizeToPixels(pixels);
   scheduleHostState();
 }
@@ -167,6 +168,7 @@ std::unique_ptr<PlayerHostWindow> PlayerWindow::takeHost() {
   host_->hide();
   host_->fade().setOpacity(0);
   host_->video().setEngineWindow(nullptr);
+  host_->setPictureAspect({});
   if (host_->windowState() == Qt::WindowFullScreen) host_->setWindowState(Qt::WindowNoState);
   return std::move(host_);
 }

@@ -34,7 +34,7 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   void setVideoReady(bool ready) override;
   bool hasWindow() const override { return window_ != nullptr; }
   void reveal() override;
-  void close() override;
+  Q_INVOKABLE void close() override;
   void showLibrary() override;
   void showToast(const QString& text) override;
 

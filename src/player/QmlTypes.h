@@ -17,6 +17,12 @@ struct EngineWindowItemForQml {
   QML_NAMED_ELEMENT(EngineWindowItem)
 };
 
+struct DynamicRangeForQml {
+  Q_GADGET
+  QML_FOREIGN(tromelo::DynamicRange)
+  QML_VALUE_TYPE(dynamicRange)
+};
+
 struct PlaybackStateForQml {
   Q_GADGET
   QML_FOREIGN(tromelo::PlaybackState)

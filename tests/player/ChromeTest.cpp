@@ -18,7 +18,8 @@ class ChromeTest : public testing::PlayerTest {
   }
 
   void report(MpvProperty property, MpvValue value) {
-    playback_.engine().onEvent(event::Property{property, std::move(value)});
+    playback_.engine().onEvent(
+        MpvEvent(std::in_place_type<event::Property>, property, std::move(value)));
   }
   PlayerChrome& chrome() { return player().chrome(); }
   /// What the overlay was told last, which the rules and it agree on.

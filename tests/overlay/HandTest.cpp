@@ -1,0 +1,142 @@
+#include <gtest/gtest.h>
+
+#include <QMimeData>
+#include <QWheelEvent>
+#include <vector>
+
+#include "overlay/ClickCounter.h"
+#include "overlay/DraggedFiles.h"
+#include "overlay/ScrollSteps.h"
+#include "overlay/WindowPress.h"
+#include "platform/FilePath.h"
+
+namespace tromelo {
+namespace {
+
+TEST(WindowPressTest, TellsAClickFromAHandThatMovesTheWindow) {
+  struct Row {
+    const char* name;
+    int clickCount;
+    std::vector<QPointF> moves;
+    std::optional<QPoint> movedTo;
+    bool isClick;
+  };
+  const QPointF at(100.5, 50);
+  const QPoint origin(7, -9);
+  for (const Row& row : {
+           Row{"still", 1, {}, {}, true},
+           Row{"jitter of 3.0", 1, {at + QPointF(3, 0), at + QPointF(0, -3)}, {}, true},
+           Row{"move of 3.1", 1, {at + QPointF(-3.1, 0)}, origin + QPoint(-3, 0), false},
+           Row{"both ways count", 1, {at + QPointF(2.5, 2.5)}, origin + QPoint(3, 3), false},
+           Row{"back inside",
+               1,
+               {at + QPointF(9, 0), at + QPointF(1, 1)},
+               origin + QPoint(1, 1),
+               false},
+           Row{"second of two", 2, {at + QPointF(40, 0)}, {}, false},
+           Row{"third", 3, {}, {}, false},
+           Row{"third drags", 3, {at + QPointF(4, 0)}, origin + QPoint(4, 0), false},
+       }) {
+    SCOPED_TRACE(row.name);
+    WindowPress press;
+    EXPECT_EQ(press.begin(row.clickCount, at, origin), row.clickCount != 2);
+    std::optional<QPoint> movedTo;
+    for (const QPointF& place : row.moves) movedTo = press.drag(place);
+    EXPECT_EQ(movedTo, row.movedTo);
+    EXPECT_EQ(press.end(), row.isClick);
+    EXPECT_FALSE(press.end());
+    EXPECT_EQ(press.drag(at + QPointF(50, 0)), std::nullopt);
+  }
+}
+
+TEST(ClickCounterTest, CountsQuickPressesInOnePlace) {
+  using std::chrono::milliseconds;
+  ClickCounter clicks;
+  struct Row {
+    int time;
+    QPointF place;
+    int count;
+  };
+  for (const Row& row :
+       {Row{1000, {10, 10}, 1}, Row{1399, {15, 5}, 2}, Row{1600, {15, 5}, 3}, Row{1700, {21, 5}, 1},
+        Row{2100, {21, 5}, 1}, Row{2200, {21, 11}, 1}, Row{50, {21, 11}, 1}, Row{51, {21, 11}, 2}})
+    EXPECT_EQ(clicks.press(milliseconds(row.time), row.place, {milliseconds(400), 5}), row.count)
+        << row.time;
+}
+
+TEST(ScrollTest, GivesWholeStepsAndKeepsTheRest) {
+  struct Row {
+    const char* name;
+    ScrollMovement movement;
+    double steps;
+  };
+  ScrollSteps scroll;
+  // One after the other: the rest goes from row to row.
+  for (const Row& row : {
+           Row{"a notch", {{0, 1}, false}, 2},
+           Row{"half a step of a touchpad", {{0, -2}, true}, 0},
+           Row{"and its other half", {{0, -2}, true}, -1},
+           Row{"as much to the side", {{5, 5}, true}, 0},
+           Row{"nothing", {{0, 0}, true}, 0},
+           Row{"more down than aside", {{3, -5}, true}, -1},
+           Row{"what was left, up", {{0, 5}, true}, 1},
+           Row{"an eighth of a notch", {{0, 0.125}, false}, 0},
+           Row{"seven more", {{0, 0.875}, false}, 2},
+       })
+    EXPECT_EQ(scroll.take(row.movement), row.steps) << row.name;
+}
+
+TEST(ScrollTest, TrustsPointsWhereTheHostCan) {
+  const auto movement = [](QPoint points, QPoint angle, bool hostPoints) {
+    return scrollMovement(
+        QWheelEvent({}, {}, points, angle, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false),
+        hostPoints);
+  };
+  EXPECT_EQ(movement({0, 7}, {0, 30}, true).delta, QPointF(0, 7));
+  EXPECT_TRUE(movement({0, 7}, {0, 30}, true).isPrecise);
+  for (const bool hostPoints : {true, false}) {
+    const ScrollMovement lines = movement({0, hostPoints ? 0 : 15}, {0, 30}, hostPoints);
+    EXPECT_EQ(lines.delta, QPointF(0, 0.25));
+    EXPECT_FALSE(lines.isPrecise);
+  }
+}
+
+/// As it comes from another program; a list that is set would be read and written anew.
+struct ForeignDrag : QMimeData {
+  QByteArray list;
+  QVariant retrieveData(const QString& type, QMetaType) const override {
+    return type == QStringLiteral("text/uri-list") ? list : QByteArray();
+  }
+};
+
+TEST(DraggedFilesTest, TakesFilesInTheirOrderAndNothingElse) {
+  struct Row {
+    const char* name;
+    QByteArray list;
+    std::vector<std::string> paths;
+  };
+  for (const Row& row : {
+           Row{"order", "file:///b.mkv\r\nfile:///a.srt\r\n", {"/b.mkv", "/a.srt"}},
+           Row{"without a last line's end", "file:///a", {"/a"}},
+           Row{"a folder", "file:///films/", {"/films/"}},
+           Row{"a web link", "https://example.org/film.mkv\r\n", {}},
+           Row{"both", "https://example.org/\r\n#comment\r\nfile:///a\r\n", {"/a"}},
+           Row{"text", "a film\r\n/films/a.mkv\r\n", {}},
+           Row{"escaped bytes", "file:///%E9%20%25.mkv\r\n", {"/\xE9 %.mkv"}},
+           Row{"bytes as they are", "file:///\xE9\xC3\xA9.mkv\r\n", {"/\xE9\xC3\xA9.mkv"}},
+           Row{"a host", "file://localhost/a\r\n", {"/a"}},
+           Row{"no path", "file:\r\nfile://\r\n\r\n", {}},
+       }) {
+    ForeignDrag data;
+    data.list = row.list;
+    std::vector<std::string> paths;
+    for (const QUrl& url : draggedFiles(data)) paths.push_back(pathFromFileUrl(url));
+    EXPECT_EQ(paths, row.paths) << row.name;
+  }
+  QMimeData text;
+  text.setText(QStringLiteral("file:///a"));
+  EXPECT_TRUE(draggedFiles(text).isEmpty());
+}
+
+}  // namespace
+}  // namespace tromelo

@@ -1,0 +1,304 @@
+#include "overlay/QuickPlayerOverlay.h"
+
+#include <QMimeData>
+#include <QQuickWindow>
+
+#include "player/PlayerTest.h"
+#include "support/WaitFor.h"
+
+namespace tromelo {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::waitFor;
+
+/// The overlay in a window that is shown, and a hand that sends what the window system would.
+class QuickPlayerOverlayTest : public testing::PlayerTest {
+ protected:
+  QuickPlayerOverlayTest() {
+    host_.setFlag(Qt::FramelessWindowHint);
+    host_.resize(800, 450);
+    scene_.setParentItem(host_.contentItem());
+    scene_.setSize(host_.size());
+    host_.show();
+    overlay_ = std::make_unique<QuickPlayerOverlay>(engine_, scene_, playback_, player());
+    overlay_->onActivity = [this] { said_ << "activity"; };
+    overlay_->onClick = [this] { said_ << "click"; };
+    overlay_->onDoubleClick = [this] { said_ << "double click"; };
+    overlay_->onScroll = [this](double steps) { said_ << "scroll " + QString::number(steps); };
+    overlay_->onLayout = [this] { said_ << "layout"; };
+    overlay_->onDropFiles = [this](const QList<QUrl>& files) {
+      said_ << "drop";
+      for (const QUrl& file : files) said_ << file.toString();
+    };
+    testing::settle();
+    said_.clear();
+  }
+
+  ~QuickPlayerOverlayTest() override {
+    overlay_.reset();
+    testing::settle();
+  }
+
+  QStringList take() { return std::exchange(said_, {}); }
+
+  void mouse(QEvent::Type type, QPointF place, Qt::MouseButtons held = Qt::NoButton,
+             Qt::MouseButton button = Qt::NoButton) {
+    QMouseEvent event(type, place, host_.position() + place, button, held, Qt::NoModifier);
+    event.setTimestamp(static_cast<quint64>(time_.count()));
+    QCoreApplication::sendEvent(&host_, &event);
+  }
+  void move(QPointF place) { mouse(QEvent::MouseMove, place); }
+  void drag(QPointF place) { mouse(QEvent::MouseMove, place, Qt::LeftButton); }
+  void press(QPointF place, Qt::MouseButton button = Qt::LeftButton) {
+    mouse(QEvent::MouseButtonPress, place, button, button);
+  }
+  void release(QPointF place, Qt::MouseButton button = Qt::LeftButton) {
+    mouse(QEvent::MouseButtonRelease, place, Qt::NoButton, button);
+    time_ += 50ms;
+  }
+  void click(QPointF place, Qt::MouseButton button = Qt::LeftButton) {
+    press(place, button);
+    release(place, button);
+  }
+  /// The second click of two, which the window system tells of twice.
+  void secondClick(QPointF place) {
+    press(place);
+    mouse(QEvent::MouseButtonDblClick, place, Qt::LeftButton, Qt::LeftButton);
+    release(place);
+  }
+  void enter(QPointF place) {
+    QEnterEvent event(place, place, host_.position() + place);
+    QCoreApplication::sendEvent(&host_, &event);
+  }
+  void leave() {
+    QEvent event(QEvent::Leave);
+    QCoreApplication::sendEvent(&host_, &event);
+  }
+
+  QQuickItem* item(const char* name) {
+    return scene_.childItems().constFirst()->findChild<QQuickItem*>(QString::fromLatin1(name));
+  }
+  QRectF frame(const char* name) {
+    QQuickItem* const view = item(name);
+    return view->mapRectToScene(view->boundingRect());
+  }
+
+  QQmlEngine engine_;
+  QQuickWindow host_;
+  QQuickItem scene_;
+  std::unique_ptr<QuickPlayerOverlay> overlay_;
+  QStringList said_;
+  std::chrono::milliseconds time_ = 1000ms;
+};
+
+TEST_F(QuickPlayerOverlayTest, PlacesItsViewsAtAnySize) {
+  player().chrome().setShowsInfo(true);
+  player().chrome().setPanel(PlayerPanel::shortcuts);
+  player().chrome().setToast(QStringLiteral("Volume 50%"));
+  for (const QSizeF size : {QSizeF(520, 300), QSizeF(799, 451), QSizeF(1920, 1080)}) {
+    SCOPED_TRACE(size.width());
+    scene_.setSize(size);
+    testing::settle();
+    EXPECT_TRUE(take().contains("layout"));
+    const QRectF whole(QPointF(), size);
+    const QRectF close = frame("playerCloseButton");
+    const QRectF badge = frame("playerSignalBadge");
+    const QRectF bar = frame("playerControlBar");
+    const QRectF panel = frame("playerShortcutsPanel");
+    EXPECT_EQ(close.topLeft(), QPointF(18, 18));
+    EXPECT_EQ(badge.topRight(), QPointF(size.width() - 18, 18));
+    EXPECT_GE(badge.left(), close.right() + 16);
+    EXPECT_EQ(frame("playerInfoPanel").topRight(), badge.bottomRight() + QPointF(0, 10));
+    EXPECT_EQ(bar.width(), std::min(760.0, size.width() - 40));
+    EXPECT_EQ(bar.bottom(), size.height() - 22);
+    EXPECT_EQ(overlay_->height(), size.height());
+    EXPECT_EQ(overlay_->controlsTop(), size.height() - bar.top());
+    EXPECT_EQ(frame("playerToast").top(), 22);
+    EXPECT_LE(panel.height(), size.height() - 40);
+    EXPECT_LE(std::abs(panel.center().y() - size.height() / 2), 0.5);
+    for (const char* name : {"playerControlBar", "playerToast", "playerShortcutsPanel"}) {
+      EXPECT_LE(std::abs(frame(name).center().x() - size.width() / 2), 0.5) << name;
+      EXPECT_TRUE(whole.contains(frame(name))) << name;
+    }
+  }
+}
+
+TEST_F(QuickPlayerOverlayTest, GivesALongTitleTheRoomThatThereIs) {
+  const double shortest = frame("playerSignalBadge").width();
+  playback_.engine().onEvent(MpvEvent(std::in_place_type<event::Property>, MpvProperty::mediaTitle,
+                                      MpvValue(std::string(300, 'm'))));
+  EXPECT_GT(frame("playerSignalBadge").width(), shortest);
+  EXPECT_LE(frame("playerSignalBadge").width(), 360 + 90);
+  scene_.setSize({520, 300});
+  EXPECT_EQ(frame("playerSignalBadge").left(), frame("playerCloseButton").right() + 16);
+}
+
+TEST_F(QuickPlayerOverlayTest, TellsClicksDoubleClicksAndDragsApart) {
+  const QPointF video(400, 200);
+  const QPoint origin = host_.position();
+  click(video);
+  EXPECT_EQ(take(), QStringList{"click"});
+  secondClick(video);
+  EXPECT_EQ(take(), QStringList{"double click"});
+  click(video);  // the third
+  EXPECT_EQ(take(), QStringList());
+  click(video, Qt::RightButton);
+  EXPECT_EQ(take(), QStringList());
+
+  time_ += 1s;
+  press(video);
+  drag(video + QPointF(0, 3));
+  EXPECT_EQ(host_.position(), origin);
+  drag(video + QPointF(20, -30));
+  EXPECT_EQ(host_.position(), origin + QPoint(20, -30));
+  release(video);
+  click(QPointF(300, 100));
+  EXPECT_EQ(take(), QStringList{"click"}) << "the release of a drag is no click";
+
+  time_ += 1s;
+  host_.showFullScreen();
+  press(video);
+  drag(video + QPointF(20, 0));
+  release(video + QPointF(20, 0));
+  EXPECT_EQ(take(), QStringList{"click"}) << "in full screen nothing is moved";
+}
+
+TEST_F(QuickPlayerOverlayTest, ChromeTakesClicksOnlyWhileItIsShown) {
+  for (const char* name : {"playerCloseButton", "playerSignalBadge", "playerControlBar"}) {
+    SCOPED_TRACE(name);
+    const QPointF place = frame(name).center() + QPointF(0, 12);
+    overlay_->setChromeVisible(true, false);
+    move(place);
+    take();
+    EXPECT_TRUE(overlay_->isMouseInsideChrome());
+    click(place);
+    EXPECT_EQ(take(), QStringList());
+    overlay_->setChromeVisible(false, false);
+    EXPECT_FALSE(overlay_->isMouseInsideChrome());
+    time_ += 1s;
+    click(place);
+    EXPECT_EQ(take(), QStringList{"click"});
+  }
+}
+
+TEST_F(QuickPlayerOverlayTest, PanelsAreInTheWayWhileTheyAreShownAndTheToastNever) {
+  overlay_->setChromeVisible(true, false);
+  PlayerChrome& chrome = player().chrome();
+  struct Row {
+    const char* view;
+    bool isChrome;
+    bool takesClicks;
+  };
+  for (const Row& row :
+       {Row{"playerInfoPanel", true, true}, Row{"playerShortcutsPanel", false, true},
+        Row{"playerToast", false, false}}) {
+    SCOPED_TRACE(row.view);
+    chrome.setShowsInfo(row.isChrome);
+    chrome.setToast(QStringLiteral("Volume 50%"));
+    if (row.takesClicks && !row.isChrome) chrome.setPanel(PlayerPanel::shortcuts);
+    const QPointF place = frame(row.view).center();
+    ASSERT_TRUE(item(row.view)->isVisible());
+    move(place);
+    EXPECT_EQ(overlay_->isMouseInsideChrome(), row.isChrome);
+    take();
+    click(place);
+    EXPECT_EQ(take(), row.takesClicks ? QStringList() : QStringList{"click"});
+    chrome.setShowsInfo(false);
+    chrome.setPanel(std::nullopt);
+    chrome.setToast(std::nullopt);
+    EXPECT_FALSE(item(row.view)->isVisible());
+    EXPECT_FALSE(overlay_->isMouseInsideChrome());
+    time_ += 1s;
+    click(place);
+    EXPECT_EQ(take(), QStringList{"click"});
+    time_ += 1s;
+  }
+}
+
+TEST_F(QuickPlayerOverlayTest, TellsOfARealPointerThatMoves) {
+  const QPointF bar = frame("playerControlBar").center();
+  EXPECT_FALSE(overlay_->isMouseInsideChrome());
+  enter(bar);
+  EXPECT_EQ(take(), QStringList{"activity"});
+  EXPECT_TRUE(overlay_->isMouseInsideChrome());
+  overlay_->setChromeVisible(false, false);
+  overlay_->setChromeVisible(true, false);
+  testing::settle();
+  move(bar);
+  leave();
+  enter(bar);  // as a click on a window in the background brings about
+  EXPECT_EQ(take(), QStringList()) << "it rested";
+  move(bar + QPointF(1, 0));
+  EXPECT_EQ(take(), QStringList{"activity"});
+  press({400, 200});
+  drag({401, 201});
+  EXPECT_FALSE(overlay_->isMouseInsideChrome());
+  drag(bar);
+  EXPECT_TRUE(overlay_->isMouseInsideChrome());
+  release(bar);
+  EXPECT_EQ(take(), QStringList()) << "a button was held";
+  leave();
+  EXPECT_FALSE(overlay_->isMouseInsideChrome());
+}
+
+TEST_F(QuickPlayerOverlayTest, FadesItsChromeAsOne) {
+  QQuickItem& chrome = *item("playerChrome");
+  overlay_->setChromeVisible(false, true);
+  EXPECT_TRUE(chrome.isVisible());
+  EXPECT_TRUE(waitFor([&] { return chrome.opacity() < 0.7; }));
+  const double overtaken = chrome.opacity();
+  overlay_->setChromeVisible(true, true);
+  double lowest = 1;
+  QObject::connect(&chrome, &QQuickItem::opacityChanged, &chrome,
+                   [&] { lowest = std::min(lowest, chrome.opacity()); });
+  EXPECT_TRUE(waitFor([&] { return chrome.opacity() == 1; }));
+  EXPECT_GE(lowest, overtaken);
+  EXPECT_TRUE(chrome.isVisible());
+  overlay_->setChromeVisible(false, true);
+  EXPECT_TRUE(waitFor([&] { return !chrome.isVisible(); }));
+  overlay_->setChromeVisible(true, true);
+  EXPECT_TRUE(chrome.isVisible());
+  EXPECT_LT(chrome.opacity(), 0.1) << "it comes up from nothing";
+  EXPECT_TRUE(waitFor([&] { return chrome.opacity() == 1; }));
+}
+
+TEST_F(QuickPlayerOverlayTest, ScrollsOverVideoAndChrome) {
+  for (const QPointF place : {QPointF(400, 200), frame("playerControlBar").center()}) {
+    QWheelEvent event(place, place, QPoint(0, -120), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&host_, &event);
+    EXPECT_EQ(take(), QStringList{"scroll -2"});
+  }
+}
+
+TEST_F(QuickPlayerOverlayTest, TakesCopiesOfFiles) {
+  struct Row {
+    const char* name;
+    QByteArray list;
+    Qt::DropActions offered;
+    QStringList dropped;
+  };
+  for (const Row& row : {
+           Row{"files",
+               "file:///b\r\nfile:///a\r\n",
+               Qt::CopyAction | Qt::MoveAction,
+               {"drop", "file:///b", "file:///a"}},
+           Row{"a link", "https://example.org/\r\n", Qt::CopyAction, {}},
+           Row{"only to be moved", "file:///b\r\n", Qt::MoveAction, {}},
+       }) {
+    SCOPED_TRACE(row.name);
+    QMimeData data;
+    data.setData(QStringLiteral("text/uri-list"), row.list);
+    QDragEnterEvent enter({400, 400}, row.offered, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&host_, &enter);
+    EXPECT_EQ(enter.isAccepted(), !row.dropped.isEmpty());
+    QDropEvent drop({400, 400}, row.offered, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&host_, &drop);
+    EXPECT_EQ(drop.isAccepted() && drop.dropAction() == Qt::CopyAction, !row.dropped.isEmpty());
+    EXPECT_EQ(take(), row.dropped);
+  }
+}
+
+}  // namespace
+}  // namespace tromelo
