@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <cstdlib>
 #include <functional>
 
 #include "support/WaitFor.h"
@@ -80,6 +81,39 @@ QRect geometryOf(const QString& windowId) {
     if (line.startsWith(u"HEIGHT=")) rect.setHeight(value);
   }
   return rect;
+}
+
+namespace {
+
+void xdotool(const QStringList& arguments) { run(QStringLiteral("xdotool"), arguments); }
+
+}  // namespace
+
+void movePointer(QPoint place) {
+  xdotool({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y())});
+}
+
+void pressButton(int button) { xdotool({QStringLiteral("mousedown"), QString::number(button)}); }
+
+void releaseButton(int button) { xdotool({QStringLiteral("mouseup"), QString::number(button)}); }
+
+void click(QPoint place, int times) {
+  movePointer(place);
+  xdotool({QStringLiteral("click"), QStringLiteral("--delay"), QStringLiteral("40"),
+           QStringLiteral("--repeat"), QString::number(times), QStringLiteral("1")});
+}
+
+void dragPointer(const QList<QPoint>& places) {
+  movePointer(places.first());
+  pressButton();
+  for (const QPoint& place : places.sliced(1)) movePointer(place);
+  releaseButton();
+}
+
+void turnWheel(int notches) {
+  xdotool({QStringLiteral("click"), QStringLiteral("--delay"), QStringLiteral("20"),
+           QStringLiteral("--repeat"), QString::number(std::abs(notches)),
+           notches > 0 ? QStringLiteral("4") : QStringLiteral("5")});
 }
 
 }  // namespace tromelo::testing::screen

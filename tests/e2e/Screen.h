@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QImage>
+#include <QList>
+#include <QPoint>
 #include <QRect>
 #include <QString>
 #include <QStringList>
@@ -26,6 +28,16 @@ QString run(const QString& program, const QStringList& arguments);
 /// X11: the visible window of a process with this title, by its id; empty without one.
 QString windowOf(qint64 processId, const QString& title);
 QRect geometryOf(const QString& windowId);
+
+/// X11: the person's hand. Places are on the screen, buttons as X11 numbers them.
+void movePointer(QPoint place);
+void pressButton(int button = 1);
+void releaseButton(int button = 1);
+void click(QPoint place, int times = 1);
+/// Presses at the first place, goes through the others and lets go at the last.
+void dragPointer(const QList<QPoint>& places);
+/// By notches; up is positive.
+void turnWheel(int notches);
 
 }  // namespace screen
 

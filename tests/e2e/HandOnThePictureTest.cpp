@@ -1,0 +1,230 @@
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QUrl>
+
+#include "EndToEnd.h"
+#include "support/WaitFor.h"
+
+namespace tromelo::testing {
+namespace {
+
+constexpr int kClickInterval = 450;  // ms; presses further apart are not two of one
+
+/// A person's pointer over a film on X11.
+class HandOnThePicture : public EndToEnd {
+ protected:
+  void SetUp() override {
+    if (!screen::isX11()) GTEST_SKIP() << "the headless Wayland host has no pointer";
+    screen::movePointer({5, 700});
+    player.start({clip("sample.mp4")});
+    ASSERT_TRUE(player.waitUntilPlaying());
+    ASSERT_TRUE(waitFor([this] {
+      id = window("sample");
+      return !id.isEmpty() && isActive("sample");
+    }));
+  }
+
+  void pause() {
+    EngineProbe engine = probe();
+    engine.set(QStringLiteral("pause"), true);
+    ASSERT_TRUE(player.waitFor(QStringLiteral("status"), QStringLiteral("Paused")));
+  }
+
+  QRect frame() { return screen::geometryOf(id); }
+  /// On the bare video.
+  QPoint video() { return frame().center() - QPoint(0, 40); }
+  QPoint bar() { return {frame().center().x(), frame().bottom() - 60}; }
+
+  /// Nothing but the control bar is dark all along a line through it.
+  bool showsControls(const QImage& image) {
+    const QRect window = frame();
+    for (int x = window.left() + 60; x < window.right() - 60; x += 10)
+      if (image.pixelColor(x, window.bottom() - 90).lightness() > 90) return false;
+    return true;
+  }
+  bool controlsCome(const char* shot) {
+    return screen::waitForShot(QString::fromLatin1(shot),
+                               [this](const QImage& image) { return showsControls(image); });
+  }
+  bool controlsGo(const char* shot) {
+    return screen::waitForShot(QString::fromLatin1(shot), [this](const QImage& image) {
+      return showsTestPicture(image) && !showsControls(image);
+    });
+  }
+
+  /// So that the next press is not the second of two.
+  void pauseBetweenPresses() {
+    QElapsedTimer since;
+    since.start();
+    ASSERT_TRUE(waitFor([&] { return since.elapsed() > kClickInterval; }));
+  }
+  void clickAlone(QPoint place, int times = 1) {
+    pauseBetweenPresses();
+    screen::click(place, times);
+  }
+
+  QString id;
+};
+
+TEST_F(HandOnThePicture, AClickTogglesTheControlsAndTwoTheFullScreen) {
+  pause();
+  ASSERT_TRUE(controlsCome("hand-controls"));
+  const QPoint place = video();
+  screen::movePointer(place);
+  clickAlone(place);
+  EXPECT_TRUE(controlsGo("hand-clicked-away"));
+  clickAlone(place);
+  EXPECT_TRUE(controlsCome("hand-clicked-back"));
+
+  EngineProbe engine = probe();
+  for (const bool fullscreen : {true, false}) {
+    clickAlone(place, 2);
+    EXPECT_TRUE(engine.waitFor(QStringLiteral("fullscreen"), fullscreen));
+    ASSERT_TRUE(player.waitFor(QStringLiteral("fullscreen"), fullscreen ? "yes" : "no"));
+  }
+}
+
+TEST_F(HandOnThePicture, DragsTheWindowExactly) {
+  pause();
+  const QRect before = frame();
+  const QPoint place = video();
+  screen::dragPointer({place, place + QPoint(2, 1), place + QPoint(1, -2)});
+  EXPECT_TRUE(controlsGo("hand-jitter")) << "it was a click";
+  EXPECT_EQ(frame(), before);
+
+  pauseBetweenPresses();
+  screen::dragPointer({place, place + QPoint(60, 10), place + QPoint(-80, 45)});
+  EXPECT_TRUE(waitFor([&] { return frame() == before.translated(-80, 45); }));
+  const QPoint moved = place + QPoint(-80, 45);
+  pauseBetweenPresses();
+  screen::dragPointer({moved, moved + QPoint(90, -80), moved + QPoint(1, 1)});
+  EXPECT_TRUE(waitFor([&] { return frame() == before.translated(-79, 46); }));
+}
+
+TEST_F(HandOnThePicture, DragsTheEdgesWithTheAspectKept) {
+  pause();
+  const QRect before = frame();
+  struct Row {
+    const char* name;
+    QPoint from;
+    QPoint by;
+    QRect after;
+  };
+  const QPoint corner(before.right() - 2, before.bottom() - 3);
+  const QRect larger(before.topLeft(), QSize(800, 450));
+  for (const Row& row : {
+           Row{"corner", corner, {160, 20}, larger},
+           Row{"left edge",
+               {larger.left() + 1, larger.center().y()},
+               {160, 3},
+               {before.left() + 160, before.top(), 640, 360}},
+           Row{"top edge, to the least",
+               {before.left() + 480, before.top() + 2},
+               {0, 200},
+               {before.left() + 160, before.top() + 60, 533, 300}},
+       }) {
+    screen::dragPointer({row.from, row.from + row.by / 2, row.from + row.by});
+    EXPECT_TRUE(waitFor([&] { return frame() == row.after; }))
+        << row.name << ": " << frame().width() << 'x' << frame().height();
+  }
+  EngineProbe engine = probe();
+  EXPECT_TRUE(waitFor(
+      [&] { return std::abs(engine.get(QStringLiteral("osd-width")).toInt() - 533) <= 2; }));
+  EXPECT_FALSE(engine.get(QStringLiteral("fullscreen")).toBool());
+}
+
+TEST_F(HandOnThePicture, ScrollsTheVolume) {
+  EngineProbe engine = probe();
+  engine.set(QStringLiteral("volume"), 50);
+  ASSERT_TRUE(player.waitUntil([&] { return engine.get(QStringLiteral("volume")) == 50; }));
+  screen::movePointer(video());
+  struct Row {
+    int notches;
+    int volume;
+  };
+  for (const Row& row : {Row{1, 52}, Row{-3, 46}}) {
+    screen::turnWheel(row.notches);
+    EXPECT_TRUE(engine.waitFor(QStringLiteral("volume"), row.volume)) << row.notches;
+  }
+}
+
+TEST_F(HandOnThePicture, APointerOnTheBarKeepsTheControls) {
+  EngineProbe engine = probe();
+  engine.set(QStringLiteral("loop-file"), QStringLiteral("inf"));
+  screen::movePointer(bar());
+  QElapsedTimer resting;
+  resting.start();
+  ASSERT_TRUE(waitFor([&] { return resting.elapsed() > 4000; }));  // they hide after 3 s
+  EXPECT_TRUE(controlsCome("hand-on-the-bar"));
+  screen::movePointer(video());
+  EXPECT_TRUE(controlsGo("hand-rests"));
+  screen::movePointer(video() + QPoint(7, 0));
+  EXPECT_TRUE(controlsCome("hand-moves"));
+}
+
+/// A drag from another program to the video.
+class Drag {
+ public:
+  Drag(const QString& type, const QStringList& lines) {
+    source_.start(QStringLiteral(TROMELO_DRAG_SOURCE), QStringList{type} + lines);
+    EXPECT_TRUE(waitFor([this] { return says("ready"); }));
+  }
+  ~Drag() {
+    source_.kill();
+    source_.waitForFinished();
+  }
+
+  /// What came of it. With `isWanted` it is let go when the player says that it would take it.
+  QString drop(QPoint place, bool isWanted) {
+    screen::movePointer({20, 20});
+    screen::pressButton();
+    int moves = 0;
+    // A hand is never quite still.
+    EXPECT_TRUE(waitFor([&] {
+      screen::movePointer(place + QPoint(moves++ % 2, 0));
+      return isWanted ? says("would copy") : moves == 20;
+    }));
+    screen::releaseButton();
+    EXPECT_TRUE(waitFor([this] { return says("did "); }));
+    return said_.section(QStringLiteral("did "), 1).trimmed();
+  }
+
+ private:
+  bool says(const char* text) {
+    said_ += QString::fromUtf8(source_.readAllStandardOutput());
+    return said_.contains(QString::fromLatin1(text));
+  }
+
+  QProcess source_;
+  QString said_;
+};
+
+TEST_F(HandOnThePicture, TakesDroppedFilesInTheirOrderAndNothingElse) {
+  const QString uris = QStringLiteral("text/uri-list");
+  QStringList files;
+  QStringList urls;
+  for (int i = 0; i < 20; ++i) {
+    files << player.homePath() + QStringLiteral("/%1 %2.mp4").arg(QChar(u'a' + i * 7 % 20)).arg(i);
+    ASSERT_TRUE(QFile::link(clip("short-wide.mp4"), files.last()));
+    urls << QString::fromUtf8(QUrl::fromLocalFile(files.last()).toEncoded());
+  }
+  pause();
+  const QPoint place = video();
+  EngineProbe engine = probe();
+  std::array<QProcess, 3> sources;
+  const QString link = QStringLiteral("https://example.org/film.mp4");
+  Drag text(QStringLiteral("text/plain"), {files[0]});
+  EXPECT_EQ(text.drop(place, false), "nothing");
+  Drag web(uris, {link});
+  EXPECT_EQ(web.drop(place, false), "nothing");
+  EXPECT_EQ(engine.get(QStringLiteral("playlist-count")), 1);
+  Drag wanted(uris, urls);
+  EXPECT_EQ(wanted.drop(place, true), "copy");
+  ASSERT_TRUE(engine.waitFor(QStringLiteral("playlist-count"), 21));
+  for (int i = 0; i < 20; ++i)
+    EXPECT_EQ(engine.get(QStringLiteral("playlist/%1/filename").arg(i + 1)), files[i]);
+}
+
+}  // namespace
+}  // namespace tromelo::testing
