@@ -5,7 +5,9 @@
 #include <cstdio>
 
 #include "display/DmabufSupport.h"
+#include "display/EglDevice.h"
 #include "engine/MpvClientApi.h"
+#include "glass/GlassRendering.h"
 #include "library/LibraryWindow.h"
 #include "overlay/QuickPlayerOverlay.h"
 #include "platform/FilePath.h"
@@ -51,6 +53,8 @@ int Program::run() {
 }
 
 bool Program::startDisplay() {
+  setGlassRendering(
+      chooseGlassRendering(qgetenv("TROMELO_GLASS"), drawsInSoftware(platformEglDisplay())));
   const auto dmabuf = DmabufSupport::query();
   QString error;
   display_ = PrivateDisplay::start(PlayerStage::outputOf(*QGuiApplication::primaryScreen()), dmabuf,

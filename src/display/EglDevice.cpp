@@ -5,6 +5,7 @@
 #include <qpa/qplatformnativeinterface.h>
 #include <QGuiApplication>
 #include <QList>
+#include <optional>
 
 namespace tromelo {
 
@@ -13,6 +14,27 @@ namespace {
 bool listHas(const char* list, const char* name) {
   return list && QByteArray::fromRawData(list, qstrlen(list)).split(' ').contains(name);
 }
+
+class Device {
+ public:
+  static std::optional<Device> of(EGLDisplay display) {
+    const auto queryDisplay =
+        eglFunction<PFNEGLQUERYDISPLAYATTRIBEXTPROC>("eglQueryDisplayAttribEXT");
+    Device device;
+    EGLAttrib attribute = 0;
+    if (!queryDisplay || !device.query_ || !queryDisplay(display, EGL_DEVICE_EXT, &attribute))
+      return {};
+    device.device_ = reinterpret_cast<EGLDeviceEXT>(attribute);
+    return device;
+  }
+
+  const char* text(EGLint name) const { return query_(device_, name); }
+
+ private:
+  EGLDeviceEXT device_ = nullptr;
+  PFNEGLQUERYDEVICESTRINGEXTPROC query_ =
+      eglFunction<PFNEGLQUERYDEVICESTRINGEXTPROC>("eglQueryDeviceStringEXT");
+};
 
 }  // namespace
 
@@ -30,19 +52,19 @@ bool hasEglExtension(EGLDisplay display, const char* name) {
   return listHas(eglQueryString(display, EGL_EXTENSIONS), name);
 }
 
+bool drawsInSoftware(EGLDisplay display) {
+  const auto device = Device::of(display);
+  return device && listHas(device->text(EGL_EXTENSIONS), "EGL_MESA_device_software");
+}
+
 QByteArray drmNodePath(EGLDisplay display) {
-  const auto queryDisplay =
-      eglFunction<PFNEGLQUERYDISPLAYATTRIBEXTPROC>("eglQueryDisplayAttribEXT");
-  const auto queryDevice = eglFunction<PFNEGLQUERYDEVICESTRINGEXTPROC>("eglQueryDeviceStringEXT");
-  EGLAttrib attribute = 0;
-  if (!queryDisplay || !queryDevice || !queryDisplay(display, EGL_DEVICE_EXT, &attribute))
-    return {};
-  const auto device = reinterpret_cast<EGLDeviceEXT>(attribute);
-  const char* extensions = queryDevice(device, EGL_EXTENSIONS);
+  const auto device = Device::of(display);
+  if (!device) return {};
+  const char* extensions = device->text(EGL_EXTENSIONS);
   if (listHas(extensions, "EGL_EXT_device_drm_render_node"))
-    if (const char* path = queryDevice(device, EGL_DRM_RENDER_NODE_FILE_EXT)) return path;
+    if (const char* path = device->text(EGL_DRM_RENDER_NODE_FILE_EXT)) return path;
   if (listHas(extensions, "EGL_EXT_device_drm"))
-    if (const char* path = queryDevice(device, EGL_DRM_DEVICE_FILE_EXT)) return path;
+    if (const char* path = device->text(EGL_DRM_DEVICE_FILE_EXT)) return path;
   return {};
 }
 

@@ -12,6 +12,9 @@ EGLDisplay platformEglDisplay();
 
 bool hasEglExtension(EGLDisplay display, const char* name);
 
+/// The processor draws, not a graphics card. False where the display doesn't say.
+bool drawsInSoftware(EGLDisplay display);
+
 /// Path of the device's render node, else of its primary node; empty without a DRM device.
 QByteArray drmNodePath(EGLDisplay display);
 

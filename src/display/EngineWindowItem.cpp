@@ -34,7 +34,11 @@ void EngineWindowItem::setEngineWindow(EngineWindow* window) {
   engineWindow_ = window;
   if (window) {
     sink_ = std::make_shared<SceneItemSink>(
-        this, SceneItemSink::Callbacks{.committed = [this] { update(); },
+        this, SceneItemSink::Callbacks{.committed =
+                                           [this] {
+                                             update();
+                                             Q_EMIT pictureCommitted();
+                                           },
                                        .firstShown = [this] { Q_EMIT firstFrameShown(); }});
     if (FrameSource* frames = source()) frames->setSink(sink_);
     updateExposure();

@@ -30,6 +30,8 @@ class EngineWindowItem : public QQuickItem {
  Q_SIGNALS:
   /// The first picture of the present engine window is on its way to the screen.
   void firstFrameShown();
+  /// Another picture is in the next frame of the scene, or none is any more.
+  void pictureCommitted();
 
  protected:
   QSGNode* updatePaintNode(QSGNode* node, UpdatePaintNodeData* data) override;

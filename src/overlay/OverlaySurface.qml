@@ -1,13 +1,20 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Tromelo.Theme
+import Tromelo.Glass
 
 // What the floating views stand on. A press on it does not reach the video; scrolling does.
-Rectangle {
-    color: Theme.overlaySurface
-    border.width: 1
-    border.color: Theme.overlayEdge
+Item {
+    id: surface
+
+    property Item backdrop: null
+    property real radius: height / 2
+
+    GlassSurface {
+        anchors.fill: parent
+        backdrop: surface.backdrop
+        radius: surface.radius
+    }
 
     MouseArea {
         anchors.fill: parent

@@ -11,6 +11,8 @@ Item {
     required property PlaybackModel playback
     required property PlayerChrome chrome
     required property PlayerWindowController player
+    // What lies under the views: the video, where it can be sampled.
+    property Item backdrop: null
 
     readonly property real insetWidth: width - 2 * Theme.overlayInset
     readonly property real insetHeight: height - 2 * Theme.overlayInset
@@ -36,6 +38,7 @@ Item {
 
         PlayerSignalBadge {
             id: badge
+            backdrop: overlay.backdrop
             anchors.right: parent.right
             anchors.top: parent.top
             anchors.margins: Theme.overlayMargin
@@ -44,6 +47,7 @@ Item {
         }
 
         PlayerInfoPanel {
+            backdrop: overlay.backdrop
             anchors.right: badge.right
             anchors.top: badge.bottom
             anchors.topMargin: Theme.infoGap
@@ -52,6 +56,7 @@ Item {
         }
 
         PlayerControlBar {
+            backdrop: overlay.backdrop
             anchors.horizontalCenter: parent.horizontalCenter
             anchors.bottom: parent.bottom
             anchors.bottomMargin: Theme.controlBarMargin
@@ -68,6 +73,7 @@ Item {
     }
 
     PlayerShortcutsPanel {
+        backdrop: overlay.backdrop
         anchors.centerIn: parent
         width: Math.min(implicitWidth, overlay.insetWidth)
         height: Math.min(implicitHeight, overlay.insetHeight)

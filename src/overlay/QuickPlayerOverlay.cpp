@@ -11,14 +11,15 @@ namespace tromelo {
 
 namespace {
 
-std::unique_ptr<QQuickItem> makeView(QQmlEngine& engine, PlaybackModel& playback,
+std::unique_ptr<QQuickItem> makeView(QQmlEngine& engine, QQuickItem& scene, PlaybackModel& playback,
                                      PlayerWindowController& player) {
   QQmlComponent component(&engine, QStringLiteral("Tromelo.Overlay"),
                           QStringLiteral("PlayerOverlayView"));
   std::unique_ptr<QQuickItem> view(qobject_cast<QQuickItem*>(component.createWithInitialProperties(
       {{QStringLiteral("playback"), QVariant::fromValue(&playback)},
        {QStringLiteral("chrome"), QVariant::fromValue(&player.chrome())},
-       {QStringLiteral("player"), QVariant::fromValue(&player)}})));
+       {QStringLiteral("player"), QVariant::fromValue(&player)},
+       {QStringLiteral("backdrop"), scene.property("video")}})));
   if (!view) qFatal("%s", qPrintable(component.errorString()));
   return view;
 }
@@ -33,7 +34,7 @@ Item& childNamed(QQuickItem& view, const char* name) {
 QuickPlayerOverlay::QuickPlayerOverlay(QQmlEngine& engine, QQuickItem& scene,
                                        PlaybackModel& playback, PlayerWindowController& player)
     : scene_(scene),
-      view_(makeView(engine, playback, player)),
+      view_(makeView(engine, scene, playback, player)),
       controls_(&childNamed<QQuickItem>(*view_, "playerControlBar")),
       chrome_(std::make_unique<ChromeGroup>(childNamed<QQuickItem>(*view_, "playerChrome"))),
       pointer_(*scene.window(), [this] { onActivity(); }) {

@@ -21,6 +21,16 @@ QtObject {
 
     readonly property color primaryText: Qt.rgba(1, 1, 1, 0.92)
     readonly property color secondaryText: Qt.rgba(1, 1, 1, 0.58)
+    // Translucent surfaces, as a plain material and as glass.
+    readonly property color material: Qt.rgba(0.07, 0.075, 0.09, 0.74)
+    readonly property color materialEdge: Qt.rgba(1, 1, 1, 0.1)
+    readonly property real hairline: 1
+    readonly property color glassTint: Qt.rgba(0.028, 0.032, 0.045, 0.62) // how much it covers
+    readonly property real glassHovered: 0.06 // light that is added
+    readonly property real glassPressed: -0.04
+    readonly property real glassReach: 28 // how far around what is behind blurs into a point
+    readonly property real glassDetail: 0.25 // of what is behind, for its blur
+
     readonly property color warning: "#ff9f0a"
     readonly property color accent: "#4aa8ff"
 
@@ -41,6 +51,8 @@ QtObject {
     readonly property real overlayInset: 20 // no view comes nearer to the sides
     readonly property real badgeGap: 16
     readonly property real infoGap: 10
+
+    readonly property real symbolScale: 1.32 // a symbol fills less of its font's square than a letter
 
     readonly property real spacing: 16
     readonly property real margin: 24
