@@ -19,7 +19,8 @@ std::unique_ptr<QQuickItem> makeView(QQmlEngine& engine, QQuickItem& scene, Play
       {{QStringLiteral("playback"), QVariant::fromValue(&playback)},
        {QStringLiteral("chrome"), QVariant::fromValue(&player.chrome())},
        {QStringLiteral("player"), QVariant::fromValue(&player)},
-       {QStringLiteral("backdrop"), scene.property("video")}})));
+       {QStringLiteral("backdrop"),
+        QVariant::fromValue(scene.property("video").value<QQuickItem*>())}})));
   if (!view) qFatal("%s", qPrintable(component.errorString()));
   return view;
 }
