@@ -45,9 +45,11 @@ int Program::run() {
   makeDelegate();
   connectService();
   if (commandLine_.report) startReport();
+  tellOfStorageErrors();
   delegate_->applicationDidFinishLaunching();
   stage_->prepareHostWindow();
   const int status = QCoreApplication::exec();
+  defaults_.flush();
   if (report_) report_->flush();
   return status;
 }
@@ -118,6 +120,13 @@ void Program::connectService() {
                      delegate_->applicationOpen(files, start);
                      delegate_->player().bringToFront();
                    });
+}
+
+void Program::tellOfStorageErrors() {
+  defaults_.onError([this](const QString& sentence) {
+    std::fprintf(stderr, "%s\n", qPrintable(sentence));
+    if (!delegate_->playback().isShuttingDown()) delegate_->playback().reportStorageError(sentence);
+  });
 }
 
 void Program::startReport() {

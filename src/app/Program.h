@@ -36,6 +36,7 @@ class Program {
                                                 PlayerWindowController& player);
   void connectService();
   void startReport();
+  void tellOfStorageErrors();
   void handleLibraryClosed();
   bool hasVisibleWindows();
   QString windowText();

@@ -5,13 +5,13 @@
 #include <utility>
 
 #include "engine/EngineEnvironment.h"
-#include "engine/MainThread.h"
 #include "engine/MpvClientApi.h"
 #include "engine/MpvErrorText.h"
 #include "engine/MpvOptions.h"
 #include "engine/MpvTranslation.h"
 #include "engine/UncheckedHandle.h"
 #include "engine/WakeupTarget.h"
+#include "platform/MainThread.h"
 
 namespace tromelo {
 

@@ -1,7 +1,7 @@
 #include "engine/WakeupTarget.h"
 
-#include "engine/MainThread.h"
 #include "engine/MpvEngine.h"
+#include "platform/MainThread.h"
 
 namespace tromelo {
 

@@ -6,6 +6,12 @@
 
 namespace tromelo {
 
+namespace {
+
+const QString kFileScheme = QStringLiteral("file://");
+
+}  // namespace
+
 QUrl fileUrlFromPath(std::string_view pathBytes) {
   if (pathBytes.empty()) return {};
   std::error_code error;
@@ -18,6 +24,17 @@ QUrl fileUrlFromPath(std::string_view pathBytes) {
 std::string pathFromFileUrl(const QUrl& url) {
   if (!url.isLocalFile()) return {};
   return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toUtf8()).toStdString();
+}
+
+QString storedPath(std::string_view pathBytes) {
+  const QString text = QString::fromUtf8(pathBytes);
+  if (text.toStdString() == pathBytes && !text.startsWith(kFileScheme)) return text;
+  return QString::fromLatin1(fileUrlFromPath(pathBytes).toEncoded());
+}
+
+std::string pathFromStored(const QString& text) {
+  if (!text.startsWith(kFileScheme)) return text.toStdString();
+  return pathFromFileUrl(QUrl(text, QUrl::StrictMode));
 }
 
 QString lastPathComponent(const QUrl& url) {

@@ -17,6 +17,11 @@ QUrl fileUrlFromPath(std::string_view pathBytes);
 /// The path's bytes; empty when `url` is no local file.
 std::string pathFromFileUrl(const QUrl& url);
 
+/// A path as text that keeps its bytes, to be stored: the path itself where it is UTF-8, else its
+/// file URL. A path never begins like one.
+QString storedPath(std::string_view pathBytes);
+std::string pathFromStored(const QString& text);
+
 /// For people: undecodable bytes show as U+FFFD.
 QString lastPathComponent(const QUrl& url);
 QString lastPathComponentWithoutExtension(const QUrl& url);

@@ -1,44 +1,57 @@
 #include "platform/UserDefaults.h"
 
-#include <QDateTime>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QJsonDocument>
-#include <QLockFile>
-#include <QSaveFile>
+#include <mutex>
 
+#include "platform/DefaultsFile.h"
+#include "platform/DefaultsWriter.h"
+#include "platform/MainThread.h"
 #include "platform/UserPaths.h"
 
 namespace tromelo {
 
-namespace {
+/// Takes an error from any thread to the main thread, and to the person at most once.
+class UserDefaults::Trouble : public std::enable_shared_from_this<Trouble> {
+ public:
+  void happened(const QString& error) {
+    const std::scoped_lock lock(mutex_);
+    if (!error_.isEmpty() || error.isEmpty()) return;
+    error_ = error;
+    tellLater();
+  }
 
-constexpr int kLockWaitMilliseconds = 2000;
+  QString error() const {
+    const std::scoped_lock lock(mutex_);
+    return error_;
+  }
 
-QString asideName(const QString& path) {
-  return path + QStringLiteral(".damaged-") +
-         QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmss-zzz"));
-}
+  void listen(std::function<void(const QString&)> listener) {
+    listener_ = std::move(listener);
+    if (!error().isEmpty()) tellLater();
+  }
 
-}  // namespace
+ private:
+  void tellLater() {
+    postToMainThread([trouble = weak_from_this()] {
+      const auto alive = trouble.lock();
+      if (!alive) return;
+      if (const auto listener = std::exchange(alive->listener_, {})) listener(alive->error());
+    });
+  }
+
+  mutable std::mutex mutex_;
+  QString error_;
+  std::function<void(const QString&)> listener_;  // main thread only
+};
 
 UserDefaults UserDefaults::named(const QString& store) {
   return UserDefaults(userConfigDirectory() + u'/' + store + QStringLiteral("/defaults.json"));
 }
 
-UserDefaults::UserDefaults(const QString& path) : path_(path) { values_ = read(); }
-
-QJsonObject UserDefaults::read() {
-  QFile file(path_);
-  if (!file.exists() || QFileInfo(path_).isDir() || !file.open(QIODevice::ReadOnly)) return values_;
-  const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
-  file.close();
-  if (document.isObject()) return document.object();
-  if (!QFile::rename(path_, asideName(path_)))
-    lastError_ = QStringLiteral("The settings file %1 is damaged and could not be set aside.")
-                     .arg(QDir::toNativeSeparators(path_));
-  return values_;
+UserDefaults::UserDefaults(const QString& path)
+    : path_(path), trouble_(std::make_shared<Trouble>()) {
+  const DefaultsResult stored = readDefaults(path);
+  values_ = stored.values;
+  trouble_->happened(stored.error);
 }
 
 bool UserDefaults::contains(const QString& key) const { return values_.contains(key); }
@@ -50,22 +63,21 @@ bool UserDefaults::boolean(const QString& key) const { return values_.value(key)
 void UserDefaults::set(const QString& key, const QJsonValue& value) {
   if (contains(key) && values_.value(key) == value) return;
   values_.insert(key, value);
-  write(key, value);
+  if (!writer_) {
+    writer_ = std::make_shared<DefaultsWriter>(
+        path_, [trouble = trouble_](const QString& error) { trouble->happened(error); });
+  }
+  writer_->write(key, value);
 }
 
-void UserDefaults::write(const QString& key, const QJsonValue& value) {
-  lastError_.clear();
-  QDir().mkpath(QFileInfo(path_).absolutePath());
-  // Two running programs share the file: only this key changes, on top of what is there now.
-  QLockFile lock(path_ + QStringLiteral(".lock"));
-  lock.tryLock(kLockWaitMilliseconds);
-  QJsonObject stored = read();
-  stored.insert(key, value);
-  QSaveFile file(path_);
-  const QByteArray text = QJsonDocument(stored).toJson(QJsonDocument::Indented);
-  if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
-    lastError_ = QStringLiteral("Your settings can't be saved in %1: %2.")
-                     .arg(QDir::toNativeSeparators(path_), file.errorString());
+void UserDefaults::flush() {
+  if (writer_) writer_->flush();
+}
+
+QString UserDefaults::error() const { return trouble_->error(); }
+
+void UserDefaults::onError(std::function<void(const QString&)> tell) {
+  trouble_->listen(std::move(tell));
 }
 
 }  // namespace tromelo

@@ -3,12 +3,17 @@
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QString>
+#include <functional>
+#include <memory>
 
 namespace tromelo {
 
-/// The program's stored values: one JSON file that a person can read and edit. A change is on disk
-/// when the setter returns, atomically, and merges with what another process wrote meanwhile. A
-/// damaged file is set aside under another name. Main thread only.
+class DefaultsWriter;
+
+/// The program's stored values: one JSON file that a person can read and edit. A change is seen at
+/// once; it is on disk a moment later, atomically, merged with what another process wrote
+/// meanwhile, and at the latest when the last copy of this object is gone. A damaged file is set
+/// aside under another name. Main thread only.
 class UserDefaults {
  public:
   /// `store` names a folder of the user's configuration directory: "Tromelo".
@@ -23,22 +28,27 @@ class UserDefaults {
   /// False only for a stored `false`, another type or nothing.
   bool boolean(const QString& key) const;
 
-  /// The value stays in memory even when it can't be written; then lastError() says why.
+  /// The value stays in memory even when it can't be written; then error() says why.
   void set(const QString& key, const QJsonValue& value);
+
+  /// Waits until all changes are on disk, or have failed.
+  void flush();
 
   /// Everything that is stored.
   const QJsonObject& all() const { return values_; }
 
-  /// One sentence for the person, or empty.
-  const QString& lastError() const { return lastError_; }
+  /// The first thing that went wrong, in one sentence for the person, or empty.
+  QString error() const;
+  /// Calls back with error(), once, from the event loop.
+  void onError(std::function<void(const QString&)> tell);
 
  private:
-  QJsonObject read();
-  void write(const QString& key, const QJsonValue& value);
+  class Trouble;
 
   QString path_;
   QJsonObject values_;
-  QString lastError_;
+  std::shared_ptr<Trouble> trouble_;
+  std::shared_ptr<DefaultsWriter> writer_;  // since the first change
 };
 
 }  // namespace tromelo

@@ -18,8 +18,11 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       defaults_(parts.defaults),
       makePlayer_(std::move(parts.makePlayer)),
       engine_(parts.api),
-      settings_(parts.defaults) {
+      settings_(parts.defaults),
+      existence_(std::move(parts.fileExists),
+                 [this](const QList<FileExistence::Answer>& answers) { takeAnswers(answers); }) {
   hardware_.softwarePaths = storedSoftwareDecodePaths(defaults_);
+  loadRecents();
   startEngine(parts.diagnosticsDirectory);
   settings_.apply(engine_);
   // Queued: the change is announced before it is made.
@@ -108,6 +111,11 @@ void PlaybackModel::presentSubtitleFilePanel() {
       [model = QPointer(this)](const QList<QUrl>& urls) {
         if (model) model->engine_.command({"sub-add", pathFromFileUrl(urls.first()), "select"});
       });
+}
+
+void PlaybackModel::reportStorageError(const QString& message) {
+  errorMessage_ = message;
+  if (player().hasWindow()) player().showToast(message);
 }
 
 void PlaybackModel::reportPlaybackError(const QString& message) {

@@ -9,11 +9,14 @@
 #include <string>
 
 #include "engine/MpvEngine.h"
+#include "platform/FileExistence.h"
+#include "platform/FilePath.h"
 #include "platform/ScreenHeadroom.h"
 #include "playback/HardwareDecoding.h"
 #include "playback/PlaybackState.h"
 #include "playback/PlayerPresenting.h"
 #include "playback/QueueOutlook.h"
+#include "playback/RecentFiles.h"
 #include "playback/SignalInputs.h"
 #include "settings/PlayerSettings.h"
 
@@ -40,6 +43,8 @@ class PlaybackModel : public PlaybackState {
     QString diagnosticsDirectory;  // is made if it is missing
     /// Makes the player window, the first time that it is needed.
     std::function<std::unique_ptr<PlayerPresenting>(PlaybackModel&)> makePlayer;
+    /// Says whether a recent file is there; may take its time, on other threads.
+    std::function<bool(const std::string& path)> fileExists = tromelo::fileExists;
   };
 
   /// Starts the engine; a failure shows in status and errorMessage.
@@ -65,6 +70,9 @@ class PlaybackModel : public PlaybackState {
   Q_INVOKABLE void openFiles(const QList<QUrl>& urls) { open(urls); }
   /// Adds files to the end of the queue; plays them where there is nothing else.
   Q_INVOKABLE void enqueue(const QList<QUrl>& urls);
+
+  /// The list of recent files forgets this one.
+  Q_INVOKABLE void removeRecent(const QUrl& file);
 
   Q_INVOKABLE void presentOpenPanel();
   Q_INVOKABLE void presentQueuePanel();
@@ -102,6 +110,8 @@ class PlaybackModel : public PlaybackState {
   void updateDisplay(const std::optional<ScreenHeadroom>& screen);
 
   void reportPlaybackError(const QString& message);
+  /// Something that has to do with no file: told, without a word on playback.
+  void reportStorageError(const QString& message);
 
  private:
   friend struct PropertyMapping;
@@ -125,6 +135,10 @@ class PlaybackModel : public PlaybackState {
   void publishTracks(const MpvValue& list);
   void selectTrack(const char* property, const MediaTrack& track);
   void rememberSoftwareDecode(const std::string& path);
+  void loadRecents();
+  void takeAnswers(const QList<FileExistence::Answer>& answers);
+  void remember(const std::string& path);
+  void publishRecents();
   void publishQueue(const PlayQueue& queue);
 
   void load(const QUrl& url, const char* mode, std::optional<double> startAt);
@@ -140,6 +154,8 @@ class PlaybackModel : public PlaybackState {
   SignalInputs inputs_;
   HardwareDecoding hardware_;
   QueueOutlook outlook_;
+  RecentFiles recentFiles_;
+  FileExistence existence_;
   std::optional<std::string> currentPath_;  // as the engine reports it
   double subtitleLift_ = 0;
   double lastScrubSeek_ = 0;  // of the clock

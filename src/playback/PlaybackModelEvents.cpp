@@ -41,6 +41,7 @@ void PlaybackModel::resetForNewFile() {
 void PlaybackModel::handle(const event::FileLoaded&) {
   isLoaded_ = true;
   buffering_ = QStringLiteral("Ready");
+  if (currentPath_) remember(*currentPath_);
 }
 
 void PlaybackModel::handle(const event::PlaybackRestart&) {

@@ -124,6 +124,7 @@ struct PropertyMapping::Actions {
     m.currentPath_ = path;
     m.lastURL_ = fileUrlFromPath(*path);
     m.hardware_.pathReported(*path);
+    if (m.isLoaded_) m.remember(*path);
   }
 
   static void hwdecCurrent(Model& m, const Value& v) {

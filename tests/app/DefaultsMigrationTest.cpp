@@ -41,6 +41,7 @@ TEST_F(DefaultsMigration, TakesEachMissingValueFromTheFirstStoreThatHasIt) {
 TEST_F(DefaultsMigration, IsTriedOnceEvenWhenItFoundNothing) {
   UserDefaults current = store("current");
   migrateDefaultsFromOrvo(current, {});
+  current.flush();
   UserDefaults late = store("late");
   late.set(QStringLiteral("recentFiles"), QStringLiteral("late"));
 

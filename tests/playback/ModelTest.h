@@ -28,7 +28,8 @@ class ModelTest : public ::testing::Test {
         .files = chooser_,
         .defaults = defaults_,
         .diagnosticsDirectory = directory_.filePath("state/diagnostics"),
-        .makePlayer = [this](PlaybackModel&) { return std::make_unique<FakePlayer>(player_); }});
+        .makePlayer = [this](PlaybackModel&) { return std::make_unique<FakePlayer>(player_); },
+        .fileExists = fileExists_});
     startRequests_ = takeRequests();
   }
 
@@ -60,6 +61,7 @@ class ModelTest : public ::testing::Test {
   ManualClock clock_;
   FakeChooser chooser_;
   FakePlayer::Log player_;
+  std::function<bool(const std::string&)> fileExists_ = fileExists;
   std::unique_ptr<PlaybackModel> model_;
   Requests startRequests_;  // what the last model sent while it was made
 };

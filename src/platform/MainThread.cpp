@@ -1,4 +1,4 @@
-#include "engine/MainThread.h"
+#include "platform/MainThread.h"
 
 #include <QCoreApplication>
 #include <QMetaObject>
