@@ -19,7 +19,11 @@ POINTER_RATE = 200  # moves a second, a quick mouse
 BAR_MIDDLE = 60  # points above the window's bottom edge
 ALONE = ("library", "pointer")  # mpv has nothing of the kind
 # Parts that are programs of their own, each started with the sample.
-PROGRAMS = {"events": "bench_drain_events", "queue": "bench_queue"}
+PROGRAMS = {
+    "events": "bench_drain_events",
+    "queue": "bench_queue",
+    "settings": "bench_drag_settings",
+}
 MPV = (
     "mpv --no-config --osc=no --vo=gpu-next --gpu-api=vulkan --gpu-sw=yes --really-quiet"
 ).split()

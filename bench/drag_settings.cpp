@@ -1,8 +1,9 @@
-// What a person who drags a settings slider waits for: two seconds of writes at 60 a second, on the
-// disk of a directory that is given (the working directory otherwise).
+// What a person who drags a settings slider waits for: two seconds of writes at 60 a second, next
+// to the file that is given, on a real disk.
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QJsonObject>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -54,8 +55,8 @@ Drag drag(PlayerSettings& settings) {
 
 int run(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
-  const QTemporaryDir directory((argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString(u'.')) +
-                                QStringLiteral("/settings-XXXXXX"));
+  const QFileInfo neighbour(QString::fromLocal8Bit(argc > 1 ? argv[1] : "."));
+  const QTemporaryDir directory(neighbour.absolutePath() + QStringLiteral("/settings-XXXXXX"));
   const QString path = directory.filePath(QStringLiteral("defaults.json"));
   Drag result;
   double wanted = 0;
