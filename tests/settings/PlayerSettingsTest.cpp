@@ -139,6 +139,7 @@ TEST_F(PlayerSettingsTest, EveryWriteIsThereAfterARestart) {
     settings.setSubtitleBorderStyle(SubtitleBorderStyle::box);
     settings.setSubtitleBold(true);
     settings.setSubtitleOverridesStyled(true);
+    defaults_.flush();
   }
   UserDefaults later(path_);
   EXPECT_EQ(later.value(kKey).toObject(), allStored());
