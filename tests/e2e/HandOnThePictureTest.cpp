@@ -72,12 +72,20 @@ TEST_F(HandOnThePicture, AClickTogglesTheControlsAndTwoTheFullScreen) {
   ASSERT_TRUE(controlsCome("hand-controls"));
   const QPoint place = video();
   screen::movePointer(place);
+  EngineProbe engine = probe();
+  const auto liftsSubtitles = [&] { return engine.get(QStringLiteral("sub-pos")).toDouble() < 90; };
+  EXPECT_TRUE(waitFor(liftsSubtitles));
+  EXPECT_TRUE(waitFor(screen::showsPointer));
   clickAlone(place);
   EXPECT_TRUE(controlsGo("hand-clicked-away"));
+  EXPECT_TRUE(engine.waitFor(QStringLiteral("sub-pos"), 100));
+  EXPECT_TRUE(waitFor([] { return !screen::showsPointer(); }));
   clickAlone(place);
   EXPECT_TRUE(controlsCome("hand-clicked-back"));
+  EXPECT_TRUE(waitFor(liftsSubtitles));
+  screen::movePointer(place + QPoint(3, 0));
+  EXPECT_TRUE(waitFor(screen::showsPointer));
 
-  EngineProbe engine = probe();
   for (const bool fullscreen : {true, false}) {
     clickAlone(place, 2);
     EXPECT_TRUE(engine.waitFor(QStringLiteral("fullscreen"), fullscreen));

@@ -14,15 +14,16 @@ namespace tromelo::testing::screen {
 
 namespace {
 
-void grab(const QString& directory) {
+void grab(const QString& directory, bool withPointer) {
   QProcess process;
   process.setWorkingDirectory(directory);
   if (isX11())
     process.start(QStringLiteral("ffmpeg"),
                   {QStringLiteral("-loglevel"), QStringLiteral("error"), QStringLiteral("-f"),
-                   QStringLiteral("x11grab"), QStringLiteral("-draw_mouse"), QStringLiteral("0"),
-                   QStringLiteral("-i"), qEnvironmentVariable("DISPLAY"),
-                   QStringLiteral("-frames:v"), QStringLiteral("1"), QStringLiteral("shot.png")});
+                   QStringLiteral("x11grab"), QStringLiteral("-draw_mouse"),
+                   withPointer ? QStringLiteral("1") : QStringLiteral("0"), QStringLiteral("-i"),
+                   qEnvironmentVariable("DISPLAY"), QStringLiteral("-frames:v"),
+                   QStringLiteral("1"), QStringLiteral("shot.png")});
   else
     process.start(QStringLiteral("weston-screenshooter"));
   process.waitForFinished();
@@ -32,13 +33,15 @@ void grab(const QString& directory) {
 
 bool isX11() { return qEnvironmentVariable("QT_QPA_PLATFORM") == QStringLiteral("xcb"); }
 
-QImage shot() {
+QImage shot(bool withPointer) {
   QTemporaryDir directory;
-  grab(directory.path());
+  grab(directory.path(), withPointer);
   const QStringList files = QDir(directory.path()).entryList({QStringLiteral("*.png")});
   if (files.isEmpty()) return {};
   return QImage(directory.filePath(files.first())).convertToFormat(QImage::Format_RGB32);
 }
+
+bool showsPointer() { return shot(true) != shot(); }
 
 bool waitForShot(const QString& name, const std::function<bool(const QImage&)>& holds) {
   QImage last;

@@ -15,8 +15,10 @@ namespace screen {
 
 bool isX11();
 
-/// What it shows now.
-QImage shot();
+/// What it shows now; the pointer only on X11.
+QImage shot(bool withPointer = false);
+/// X11, while nothing else changes.
+bool showsPointer();
 /// Waits until the shot satisfies `holds`; the last one is saved under `name` in the folder of
 /// shots either way.
 [[nodiscard]] bool waitForShot(const QString& name,

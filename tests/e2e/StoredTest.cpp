@@ -40,14 +40,14 @@ class Stored : public EndToEnd {
 
 TEST_F(Stored, SettingsReachTheEngineAndWrongOnesFallBackAlone) {
   const QByteArray text = R"({"playerSettings": {"subtitleSize": 60, "subtitleBold": true,
-    "subtitleColor": [1, 0.5, 0.25, 1], "subtitleBorderStyle": "box", "subtitleFont": 7}})";
+    "subtitleColor": [1, 0, 0, 1], "subtitleBorderStyle": "box", "subtitleFont": 7}})";
   write(text);
   player.start({clip("tracks.mkv")});
   ASSERT_TRUE(player.waitUntilPlaying());
   EngineProbe engine = probe();
   EXPECT_EQ(engine.get(QStringLiteral("sub-font-size")).toDouble(), 60);
   EXPECT_TRUE(engine.get(QStringLiteral("sub-bold")).toBool());
-  EXPECT_EQ(engine.get(QStringLiteral("sub-color")).toString(), QStringLiteral("#FFFF8040"));
+  EXPECT_EQ(engine.get(QStringLiteral("sub-color")).toString(), QStringLiteral("#FFFF0000"));
   EXPECT_EQ(engine.get(QStringLiteral("sub-border-style")).toString(),
             QStringLiteral("background-box"));
   EXPECT_EQ(engine.get(QStringLiteral("sub-font")).toString(), QStringLiteral("Helvetica Neue"));
