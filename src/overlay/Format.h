@@ -15,6 +15,7 @@ class Format : public QObject {
 
  public:
   Q_INVOKABLE QString clock(double seconds) const { return formatClock(seconds); }
+  Q_INVOKABLE static QString delay(double seconds) { return formatDelay(seconds); }
 };
 
 }  // namespace tromelo

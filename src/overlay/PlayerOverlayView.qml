@@ -56,6 +56,7 @@ Item {
         }
 
         PlayerControlBar {
+            id: controlBar
             backdrop: overlay.backdrop
             anchors.horizontalCenter: parent.horizontalCenter
             anchors.bottom: parent.bottom
@@ -63,6 +64,14 @@ Item {
             width: Math.min(implicitWidth, overlay.insetWidth)
             playback: overlay.playback
         }
+    }
+
+    PlayerPanels {
+        anchors.fill: parent
+        playback: overlay.playback
+        chrome: overlay.chrome
+        bar: controlBar
+        backdrop: overlay.backdrop
     }
 
     PlayerToast {

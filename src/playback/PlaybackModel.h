@@ -32,6 +32,7 @@ struct PropertyMapping;
 /// thread only.
 class PlaybackModel : public PlaybackState {
   Q_OBJECT
+  Q_PROPERTY(tromelo::PlayerSettings* settings READ settingsForViews CONSTANT)
 
  public:
   /// What the model works with; the references outlive it.
@@ -98,6 +99,15 @@ class PlaybackModel : public PlaybackState {
   Q_INVOKABLE void setSubtitleDelay(double seconds);
   Q_INVOKABLE void setAudioDelay(double seconds);
 
+  /// By the number of the track or of the item that was last reported.
+  Q_INVOKABLE void selectSubtitle(qint64 track);
+  Q_INVOKABLE void turnSubtitlesOff();
+  Q_INVOKABLE void selectAudio(qint64 track);
+  Q_INVOKABLE void playQueueItem(qint64 item);
+  Q_INVOKABLE void removeQueueItem(qint64 item);
+  /// Takes everything but the current item out of the queue.
+  Q_INVOKABLE void clearQueue();
+
   /// Goes to the next subtitle track, behind the last one to none, and says so for a toast.
   Q_INVOKABLE QString cycleSubtitle();
   /// Goes to the next audio track and says so for a toast.
@@ -133,7 +143,7 @@ class PlaybackModel : public PlaybackState {
   void describeOutput();
   void showVideoReady();
   void publishTracks(const MpvValue& list);
-  void selectTrack(const char* property, const MediaTrack& track);
+  PlayerSettings* settingsForViews() { return &settings_; }
   void rememberSoftwareDecode(const std::string& path);
   void loadRecents();
   void takeAnswers(const QList<FileExistence::Answer>& answers);

@@ -9,17 +9,31 @@ void PlaybackModel::publishTracks(const MpvValue& list) {
   subtitleTracks_ = mediaTracks(list, MediaTrack::Kind::sub);
 }
 
-void PlaybackModel::selectTrack(const char* property, const MediaTrack& track) {
-  engine_.setProperty(property, std::to_string(track.id));
+void PlaybackModel::selectSubtitle(qint64 track) {
+  engine_.setProperty("sid", std::to_string(track));
 }
+
+void PlaybackModel::turnSubtitlesOff() { engine_.setProperty("sid", "no"); }
+
+void PlaybackModel::selectAudio(qint64 track) { engine_.setProperty("aid", std::to_string(track)); }
+
+void PlaybackModel::playQueueItem(qint64 item) {
+  engine_.command({"playlist-play-index", std::to_string(item)});
+}
+
+void PlaybackModel::removeQueueItem(qint64 item) {
+  engine_.command({"playlist-remove", std::to_string(item)});
+}
+
+void PlaybackModel::clearQueue() { engine_.command({"playlist-clear"}); }
 
 QString PlaybackModel::cycleSubtitle() {
   const QList<MediaTrack>& tracks = subtitleTracks_;
   if (const MediaTrack* next = nextSubtitle(tracks)) {
-    selectTrack("sid", *next);
+    selectSubtitle(next->id);
     return QStringLiteral("Subtitles: ") + next->name();
   }
-  engine_.setProperty("sid", "no");
+  turnSubtitlesOff();
   return tracks.isEmpty() ? QStringLiteral("No subtitles") : QStringLiteral("Subtitles off");
 }
 
@@ -27,7 +41,7 @@ QString PlaybackModel::cycleAudio() {
   const QList<MediaTrack>& tracks = audioTracks_;
   const MediaTrack* next = nextAudio(tracks);
   if (!next) return QStringLiteral("No audio");
-  if (tracks.size() > 1) selectTrack("aid", *next);
+  if (tracks.size() > 1) selectAudio(next->id);
   return QStringLiteral("Audio: ") + next->name();
 }
 

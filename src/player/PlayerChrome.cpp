@@ -14,6 +14,11 @@ void PlayerChrome::setPanel(std::optional<PlayerPanel> panel) {
   Q_EMIT panelChanged();
 }
 
+void PlayerChrome::setShows(PlayerPanel panel, bool shows) {
+  if (shows) return setPanel(panel);
+  if (panel_ == panel) setPanel(std::nullopt);
+}
+
 void PlayerChrome::toggle(PlayerPanel panel) {
   setPanel(panel_ == panel ? std::nullopt : std::optional(panel));
 }

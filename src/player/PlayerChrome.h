@@ -12,7 +12,11 @@ namespace tromelo {
 class PlayerChrome : public QObject {
   Q_OBJECT
   Q_PROPERTY(bool showsInfo READ showsInfo WRITE setShowsInfo NOTIFY showsInfoChanged)
-  Q_PROPERTY(bool showsShortcuts READ showsShortcuts NOTIFY panelChanged)
+  // Writing false leaves another panel, which may have been opened since, as it is.
+  Q_PROPERTY(bool showsTracks READ showsTracks WRITE setShowsTracks NOTIFY panelChanged)
+  Q_PROPERTY(bool showsChapters READ showsChapters WRITE setShowsChapters NOTIFY panelChanged)
+  Q_PROPERTY(bool showsQueue READ showsQueue WRITE setShowsQueue NOTIFY panelChanged)
+  Q_PROPERTY(bool showsShortcuts READ showsShortcuts WRITE setShowsShortcuts NOTIFY panelChanged)
   Q_PROPERTY(QString toast READ toastText NOTIFY toastChanged)
 
  public:
@@ -36,7 +40,15 @@ class PlayerChrome : public QObject {
   void toastChanged();
 
  private:
+  bool showsTracks() const { return panel_ == PlayerPanel::tracks; }
+  void setShowsTracks(bool shows) { setShows(PlayerPanel::tracks, shows); }
+  bool showsChapters() const { return panel_ == PlayerPanel::chapters; }
+  void setShowsChapters(bool shows) { setShows(PlayerPanel::chapters, shows); }
+  bool showsQueue() const { return panel_ == PlayerPanel::queue; }
+  void setShowsQueue(bool shows) { setShows(PlayerPanel::queue, shows); }
   bool showsShortcuts() const { return panel_ == PlayerPanel::shortcuts; }
+  void setShowsShortcuts(bool shows) { setShows(PlayerPanel::shortcuts, shows); }
+  void setShows(PlayerPanel panel, bool shows);
   QString toastText() const { return toast_.value_or(QString()); }
 
   bool showsInfo_ = false;

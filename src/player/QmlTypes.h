@@ -23,6 +23,24 @@ struct DynamicRangeForQml {
   QML_VALUE_TYPE(dynamicRange)
 };
 
+struct MediaTrackForQml {
+  Q_GADGET
+  QML_FOREIGN(tromelo::MediaTrack)
+  QML_VALUE_TYPE(mediaTrack)
+};
+
+struct ChapterForQml {
+  Q_GADGET
+  QML_FOREIGN(tromelo::Chapter)
+  QML_VALUE_TYPE(chapter)
+};
+
+struct QueueItemForQml {
+  Q_GADGET
+  QML_FOREIGN(tromelo::QueueItem)
+  QML_VALUE_TYPE(queueItem)
+};
+
 struct PlaybackStateForQml {
   Q_GADGET
   QML_FOREIGN(tromelo::PlaybackState)

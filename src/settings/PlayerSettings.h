@@ -26,6 +26,10 @@ class PlayerSettings : public QObject {
                  setSubtitleOutlineColor NOTIFY changed)
   Q_PROPERTY(tromelo::SubtitleBorderStyle subtitleBorderStyle READ subtitleBorderStyle WRITE
                  setSubtitleBorderStyle NOTIFY changed)
+  /// In borderStyleLabels.
+  Q_PROPERTY(int subtitleBorderStyleIndex READ subtitleBorderStyleIndex WRITE
+                 setSubtitleBorderStyleIndex NOTIFY changed)
+  Q_PROPERTY(bool subtitlesHaveEdge READ subtitlesHaveEdge NOTIFY changed)
   Q_PROPERTY(bool subtitleBold READ subtitleBold WRITE setSubtitleBold NOTIFY changed)
   Q_PROPERTY(bool subtitleOverridesStyled READ subtitleOverridesStyled WRITE
                  setSubtitleOverridesStyled NOTIFY changed)
@@ -78,6 +82,11 @@ class PlayerSettings : public QObject {
   void autoHideDelayChanged();
 
  private:
+  int subtitleBorderStyleIndex() const { return static_cast<int>(subtitleBorderStyle()); }
+  void setSubtitleBorderStyleIndex(int index) {
+    setSubtitleBorderStyle(static_cast<SubtitleBorderStyle>(index));
+  }
+  bool subtitlesHaveEdge() const { return subtitleBorderStyle() != SubtitleBorderStyle::box; }
   template <typename T>
   void write(T& field, T value);
   void save();

@@ -13,6 +13,7 @@ const QHash<QString, char16_t>& glyphs() {
       {QStringLiteral("backward.end.fill"), u'\ue045'},
       {QStringLiteral("captions.bubble"), u'\ue048'},
       {QStringLiteral("checkmark"), u'\ue5ca'},
+      {QStringLiteral("chevron.up.chevron.down"), u'\ue5d7'},
       {QStringLiteral("film"), u'\ue02c'},
       {QStringLiteral("forward.end.fill"), u'\ue044'},
       {QStringLiteral("gearshape"), u'\ue8b8'},

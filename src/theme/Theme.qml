@@ -52,6 +52,91 @@ QtObject {
     readonly property real badgeGap: 16
     readonly property real infoGap: 10
 
+    // The player's panels.
+    readonly property font panelText: ({ family: fontFamily, pixelSize: 13 })
+    readonly property font panelStrong: ({ family: fontFamily, pixelSize: 13, weight: Font.DemiBold })
+    readonly property font panelNumber: ({ family: fontFamily, pixelSize: 13, features: { "tnum": 1 } })
+    readonly property font panelHeader: ({ family: fontFamily, pixelSize: 13, weight: Font.Bold })
+    readonly property font panelCallout: ({ family: fontFamily, pixelSize: 12 })
+    readonly property font panelTime: ({ family: fontFamily, pixelSize: 12, features: { "tnum": 1 } })
+    readonly property font panelCaption: ({ family: fontFamily, pixelSize: 11 })
+    readonly property font panelIndex: ({ family: fontFamily, pixelSize: 11, features: { "tnum": 1 } })
+    readonly property font panelSection: ({ family: fontFamily, pixelSize: 10, weight: Font.Bold, letterSpacing: 1.2, capitalization: Font.AllUppercase })
+    readonly property color rowHovered: Qt.rgba(1, 1, 1, 0.08)
+    readonly property color rowPressed: Qt.rgba(1, 1, 1, 0.14)
+    readonly property color currentChapter: Qt.rgba(accent.r, accent.g, accent.b, 0.25)
+    readonly property color currentItem: Qt.rgba(accent.r, accent.g, accent.b, 0.18)
+    readonly property color panelDivider: Qt.rgba(1, 1, 1, 0.12)
+    readonly property real popoverMargin: 10 // to the window's edges
+    readonly property real popoverGap: 8 // to the bar
+    readonly property real popoverRadius: 14
+    readonly property real panelDisabled: 0.35 // opacity
+    readonly property real tracksWidth: 360
+    readonly property real tracksHeight: 520 // at most, as are the next two
+    readonly property real chaptersWidth: 320
+    readonly property real chaptersHeight: 420
+    readonly property real queueWidth: 340
+    readonly property real queueRowsHeight: 360
+    readonly property real panelPadding: 16
+    readonly property real listPadding: 10
+    readonly property real headerPadding: 12
+    readonly property real sectionSpacing: 16
+    readonly property real groupedSpacing: 6
+    readonly property real listSpacing: 2
+    readonly property real rowRadius: 7
+    readonly property real rowSide: 8
+    readonly property real rowRise: 6
+    readonly property real rowSpacing: 10
+    readonly property real rowGap: 8 // before what stands at its end
+    readonly property real trackSpacing: 8
+    readonly property real trackRise: 3
+    readonly property real trackOutset: 6
+    readonly property real detailsSpacing: 1
+    readonly property real checkmarkWidth: 14
+    readonly property real chapterNumberWidth: 22
+    readonly property real queueSymbolWidth: 18
+    readonly property real delayWidth: 64 // at least
+    readonly property real panelButtonSpacing: 5
+    readonly property real panelButtonSide: 5
+    readonly property real panelButtonRise: 3
+    readonly property real rowSymbolSize: 12
+
+    // Fields and controls of settings.
+    readonly property color fieldSurface: Qt.rgba(1, 1, 1, 0.1)
+    readonly property color fieldHovered: Qt.rgba(1, 1, 1, 0.16)
+    readonly property color fieldPressed: Qt.rgba(1, 1, 1, 0.06)
+    readonly property color fieldEdge: Qt.rgba(1, 1, 1, 0.1)
+    readonly property color fieldChosen: Qt.rgba(1, 1, 1, 0.26)
+    readonly property color fieldOn: Qt.rgba(accent.r, accent.g, accent.b, 0.75)
+    readonly property color fieldTrack: Qt.rgba(1, 1, 1, 0.24)
+    readonly property color fieldKnob: "white"
+    readonly property color fieldKnobHeld: Qt.rgba(0.84, 0.84, 0.86, 1)
+    readonly property color fieldList: Qt.rgba(0.13, 0.135, 0.15, 0.98)
+    readonly property color swatchEdge: Qt.rgba(1, 1, 1, 0.35)
+    readonly property color scrollHandle: Qt.rgba(1, 1, 1, 0.3)
+    readonly property color scrollHandleHeld: Qt.rgba(1, 1, 1, 0.55)
+    readonly property font field: ({ family: fontFamily, pixelSize: 12 })
+    readonly property font fieldNumber: ({ family: fontFamily, pixelSize: 12, features: { "tnum": 1 } })
+    readonly property real fieldHeight: 22
+    readonly property real fieldSide: 8
+    readonly property real fieldRadius: 6
+    readonly property real fieldInset: 2
+    readonly property real fieldListHeight: 240 // at most
+    readonly property real fieldSymbolSize: 13
+    readonly property real fieldTrackHeight: 4
+    readonly property real fieldKnobSize: 14
+    readonly property real swatchSize: 18
+    readonly property real wellWidth: 36
+    readonly property real checkBoxSize: 14
+    readonly property real checkBoxRadius: 4
+    readonly property real scrollWidth: 4
+    readonly property real scrollPadding: 3
+    readonly property real scrollLeast: 0.06 // of the track
+    readonly property real settingLabelWidth: 42
+    readonly property real settingSpacing: 10
+    readonly property real fontPickerWidth: 170 // at most
+    readonly property real sizeTextWidth: 26
+
     readonly property real symbolScale: 1.32 // a symbol fills less of its font's square than a letter
 
     readonly property real spacing: 16

@@ -1,0 +1,42 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Tromelo.Theme
+
+// Shows a colour and opens a window to choose another.
+T.Button {
+    id: well
+
+    required property color color
+
+    signal chosen(color color)
+
+    implicitWidth: Theme.wellWidth
+    implicitHeight: Theme.fieldHeight
+    padding: Theme.fieldInset + Theme.hairline
+    hoverEnabled: true
+    Accessible.name: text
+    onClicked: chooser.open(color, well)
+
+    contentItem: Rectangle {
+        radius: Theme.fieldRadius - Theme.fieldInset
+        color: well.color
+        border.width: Theme.hairline
+        border.color: Theme.swatchEdge
+    }
+
+    background: Rectangle {
+        radius: Theme.fieldRadius
+        color: well.down ? Theme.fieldPressed : well.hovered ? Theme.fieldHovered : Theme.fieldSurface
+        border.width: well.visualFocus ? Theme.focusWidth : Theme.hairline
+        border.color: well.visualFocus ? Theme.accent : Theme.fieldEdge
+    }
+
+    ColorChooser {
+        id: chooser
+
+        title: well.text
+        onChosen: color => well.chosen(color)
+    }
+}

@@ -1,0 +1,71 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Tromelo.Theme
+
+// One of a few choices that are all in sight.
+Rectangle {
+    id: picker
+
+    required property list<string> labels
+    required property int current
+    property int focusPolicy: Qt.StrongFocus
+
+    signal chosen(int index)
+
+    implicitWidth: segments.implicitWidth + 2 * Theme.fieldInset
+    implicitHeight: Theme.fieldHeight
+    radius: Theme.fieldRadius
+    color: Theme.fieldSurface
+    border.width: Theme.hairline
+    border.color: Theme.fieldEdge
+    Accessible.role: Accessible.Grouping
+
+    Row {
+        id: segments
+
+        x: Theme.fieldInset
+        y: Theme.fieldInset
+
+        Repeater {
+            model: picker.labels
+
+            T.Button {
+                id: segment
+
+                required property int index
+                required property string modelData
+                readonly property bool isChosen: index === picker.current
+
+                objectName: "segment" + modelData
+                focusPolicy: picker.focusPolicy
+                text: modelData
+                font: Theme.field
+                implicitWidth: Math.ceil(implicitContentWidth) + 2 * Theme.fieldSide
+                implicitHeight: picker.height - 2 * Theme.fieldInset
+                hoverEnabled: true
+                Accessible.role: Accessible.RadioButton
+                Accessible.name: text
+                Accessible.checkable: true
+                Accessible.checked: isChosen
+                onClicked: picker.chosen(index)
+
+                contentItem: Text {
+                    text: segment.text
+                    font: segment.font
+                    color: segment.isChosen ? Theme.primaryText : Theme.secondaryText
+                    horizontalAlignment: Text.AlignHCenter
+                    verticalAlignment: Text.AlignVCenter
+                }
+
+                background: Rectangle {
+                    radius: Theme.fieldRadius - Theme.fieldInset
+                    color: segment.isChosen ? Theme.fieldChosen : segment.hovered ? Theme.rowHovered : "transparent"
+                    border.width: segment.visualFocus ? Theme.focusWidth : 0
+                    border.color: Theme.accent
+                }
+            }
+        }
+    }
+}

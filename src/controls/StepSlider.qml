@@ -1,0 +1,42 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Tromelo.Theme
+
+// Takes a number from a range, in steps.
+T.Slider {
+    id: slider
+
+    snapMode: T.Slider.SnapAlways
+    implicitHeight: Theme.fieldHeight
+    hoverEnabled: true
+    // The wheel scrolls what it lies on.
+    wheelEnabled: false
+
+    background: Rectangle {
+        y: (slider.height - height) / 2
+        width: slider.width
+        height: Theme.fieldTrackHeight
+        radius: height / 2
+        color: Theme.fieldTrack
+
+        Rectangle {
+            width: slider.handle.x + slider.handle.width / 2
+            height: parent.height
+            radius: height / 2
+            color: Theme.accent
+        }
+    }
+
+    handle: Rectangle {
+        x: slider.visualPosition * (slider.width - width)
+        y: (slider.height - height) / 2
+        width: Theme.fieldKnobSize
+        height: width
+        radius: height / 2
+        color: slider.pressed ? Theme.fieldKnobHeld : Theme.fieldKnob
+        border.width: slider.visualFocus ? Theme.focusWidth : 0
+        border.color: Theme.accent
+    }
+}

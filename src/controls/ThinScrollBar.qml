@@ -1,0 +1,24 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Tromelo.Theme
+
+// Says how much of what scrolls is seen, and can be dragged.
+T.ScrollBar {
+    id: bar
+
+    visible: size < 1
+    padding: Theme.scrollPadding
+    implicitWidth: Theme.scrollWidth + leftPadding + rightPadding
+    minimumSize: Theme.scrollLeast
+    focusPolicy: Qt.NoFocus
+    hoverEnabled: true
+    Accessible.name: qsTr("Scroll")
+
+    contentItem: Rectangle {
+        implicitWidth: Theme.scrollWidth
+        radius: width / 2
+        color: bar.pressed || bar.hovered ? Theme.scrollHandleHeld : Theme.scrollHandle
+    }
+}

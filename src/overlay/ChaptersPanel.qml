@@ -1,0 +1,85 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Tromelo.Controls
+import Tromelo.Player
+import Tromelo.Theme
+
+// The chapters. Choosing one goes there and closes the panel.
+ListView {
+    id: panel
+
+    required property PlaybackModel playback
+    required property PlayerChrome chrome
+
+    objectName: "chaptersPanel"
+    implicitWidth: Theme.chaptersWidth
+    implicitHeight: Math.min(contentHeight + topMargin + bottomMargin, Theme.chaptersHeight)
+    topMargin: Theme.listPadding
+    bottomMargin: Theme.listPadding
+    spacing: Theme.listSpacing
+    model: playback.chapters
+    boundsBehavior: Flickable.StopAtBounds
+    clip: true
+    Accessible.role: Accessible.List
+    Component.onCompleted: Qt.callLater(positionViewAtIndex, playback.currentChapter, ListView.Contain)
+    Accessible.name: qsTr("Chapters")
+
+    T.ScrollBar.vertical: ThinScrollBar {}
+
+    delegate: PanelRow {
+        id: row
+
+        required property chapter modelData
+        readonly property bool isCurrent: panel.playback.currentChapter === modelData.id
+
+        objectName: "chapter"
+        x: Theme.listPadding
+        width: panel.width - 2 * Theme.listPadding
+        leftPadding: Theme.rowSide
+        rightPadding: Theme.rowSide
+        topPadding: Theme.rowRise
+        bottomPadding: Theme.rowRise
+        rest: isCurrent ? Theme.currentChapter : "transparent"
+        Accessible.name: modelData.title
+        Accessible.description: Format.clock(modelData.time)
+        Accessible.selected: isCurrent
+        onClicked: {
+            panel.playback.seekToChapter(modelData.id);
+            panel.chrome.showsChapters = false;
+        }
+
+        contentItem: RowLayout {
+            spacing: Theme.rowSpacing
+
+            Text {
+                Layout.preferredWidth: Theme.chapterNumberWidth
+                horizontalAlignment: Text.AlignRight
+                text: row.modelData.id + 1
+                font: Theme.panelIndex
+                color: Theme.secondaryText
+            }
+
+            Text {
+                objectName: "chapterTitle"
+                Layout.fillWidth: true
+                Layout.rightMargin: Theme.rowGap
+                text: row.modelData.title
+                textFormat: Text.PlainText
+                font: row.isCurrent ? Theme.panelStrong : Theme.panelText
+                color: Theme.overlayText
+                elide: Text.ElideRight
+                maximumLineCount: 1
+            }
+
+            Text {
+                objectName: "chapterTime"
+                text: Format.clock(row.modelData.time)
+                font: Theme.panelTime
+                color: Theme.secondaryText
+            }
+        }
+    }
+}

@@ -1,0 +1,54 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Tromelo.Theme
+
+// How much later something comes than it would, and the way to change that in steps.
+RowLayout {
+    id: row
+
+    required property string label
+    required property real delay // seconds
+
+    signal chosen(real seconds)
+
+    spacing: Theme.trackSpacing
+
+    Text {
+        Layout.fillWidth: true
+        text: row.label
+        font: Theme.panelText
+        color: Theme.secondaryText
+    }
+
+    PanelButton {
+        objectName: "earlier"
+        symbol: "minus"
+        Accessible.name: qsTr("Earlier")
+        onClicked: row.chosen(row.delay - 0.05)
+    }
+
+    Text {
+        objectName: "delay"
+        Layout.minimumWidth: Theme.delayWidth
+        horizontalAlignment: Text.AlignHCenter
+        text: Format.delay(row.delay)
+        font: Theme.panelNumber
+        color: Theme.overlayText
+    }
+
+    PanelButton {
+        objectName: "later"
+        symbol: "plus"
+        Accessible.name: qsTr("Later")
+        onClicked: row.chosen(row.delay + 0.05)
+    }
+
+    PanelButton {
+        objectName: "resetDelay"
+        enabled: row.delay !== 0
+        text: qsTr("Reset")
+        onClicked: row.chosen(0)
+    }
+}

@@ -1,0 +1,32 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Tromelo.Theme
+
+// A line of a panel that can be pressed anywhere.
+T.AbstractButton {
+    id: row
+
+    property color rest: "transparent"
+    property real outset: 0
+
+    implicitHeight: Math.ceil(implicitContentHeight) + topPadding + bottomPadding
+    focusPolicy: Qt.NoFocus
+    hoverEnabled: true
+    Accessible.role: Accessible.ListItem
+
+    leftInset: -outset
+    rightInset: -outset
+
+    background: Rectangle {
+        radius: Theme.rowRadius
+        color: row.rest
+
+        Rectangle {
+            anchors.fill: parent
+            radius: parent.radius
+            color: row.down ? Theme.rowPressed : row.hovered ? Theme.rowHovered : "transparent"
+        }
+    }
+}

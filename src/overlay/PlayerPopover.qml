@@ -1,0 +1,79 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Tromelo.Glass
+import Tromelo.Theme
+
+// Shows a panel above its button in the control bar while the panel is open. It lies over the whole
+// overlay, above the bar: a press outside the panel dismisses it and does nothing else, a press or
+// scrolling on the panel stays there. The panel is made when it opens and is as large as its
+// implicit size or, where that doesn't fit, as the room above the bar. It never takes the keyboard.
+//
+// PlayerPanels.qml has one for each panel; the bar only names its buttons.
+Item {
+    id: popover
+
+    required property Item bar
+    required property Item button
+    required property bool isOpen
+    required property Component panel
+    required property string name
+    property Item backdrop: null
+
+    signal dismissed
+
+    anchors.fill: parent
+    visible: isOpen || opacity > 0
+    opacity: isOpen ? 1 : 0
+
+    Behavior on opacity {
+        NumberAnimation {
+            duration: Theme.quick
+        }
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        enabled: popover.isOpen
+        acceptedButtons: Qt.AllButtons
+        onPressed: popover.dismissed()
+    }
+
+    Loader {
+        anchors.fill: parent
+        active: popover.visible
+
+        sourceComponent: Item {
+            PopoverBody {
+                objectName: "playerPopover"
+                bar: popover.bar
+                button: popover.button
+                margin: Theme.popoverMargin
+                gap: Theme.popoverGap
+                implicitWidth: content.implicitWidth
+                implicitHeight: content.implicitHeight
+                Accessible.role: Accessible.Pane
+                Accessible.name: popover.name
+
+                GlassSurface {
+                    anchors.fill: parent
+                    backdrop: popover.backdrop
+                    radius: Theme.popoverRadius
+                }
+
+                MouseArea {
+                    anchors.fill: parent
+                    acceptedButtons: Qt.AllButtons
+                    onWheel: wheel => wheel.accepted = true
+                }
+
+                Loader {
+                    id: content
+
+                    anchors.fill: parent
+                    sourceComponent: popover.panel
+                }
+            }
+        }
+    }
+}

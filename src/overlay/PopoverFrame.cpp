@@ -1,0 +1,16 @@
+#include "overlay/PopoverFrame.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tromelo {
+
+QRectF popoverFrame(double buttonMiddle, QSizeF wanted, const QRectF& room) {
+  const QSizeF size = wanted.boundedTo(room.size()).expandedTo({0, 0});
+  const double last = std::max(room.left(), room.right() - size.width());
+  const double left = std::clamp(buttonMiddle - size.width() / 2, room.left(), last);
+  return {std::round(left), std::round(room.bottom() - size.height()), std::floor(size.width()),
+          std::floor(size.height())};
+}
+
+}  // namespace tromelo

@@ -1,0 +1,101 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Tromelo.Controls
+import Tromelo.Player
+import Tromelo.Theme
+
+// What plays, has played and will play.
+ColumnLayout {
+    id: panel
+
+    required property PlaybackModel playback
+
+    objectName: "queuePanel"
+    implicitWidth: Theme.queueWidth
+    spacing: 0
+
+    RowLayout {
+        Layout.fillWidth: true
+        Layout.margins: Theme.headerPadding
+        spacing: Theme.trackSpacing
+
+        Text {
+            Layout.fillWidth: true
+            text: qsTr("Queue")
+            font: Theme.panelHeader
+            color: Theme.overlayText
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+        }
+
+        PanelButton {
+            objectName: "addToQueue"
+            symbol: "plus"
+            text: qsTr("Add…")
+            onClicked: panel.playback.presentQueuePanel()
+        }
+
+        PanelButton {
+            objectName: "clearUpNext"
+            enabled: panel.playback.hasNext
+            text: qsTr("Clear Up Next")
+            onClicked: panel.playback.clearQueue()
+        }
+    }
+
+    Rectangle {
+        Layout.fillWidth: true
+        implicitHeight: Theme.hairline
+        color: Theme.panelDivider
+    }
+
+    Text {
+        objectName: "queueHint"
+        Layout.fillWidth: true
+        Layout.margins: Theme.panelPadding
+        visible: panel.playback.queue.length <= 1
+        text: qsTr("Nothing up next. Drop videos on the player or choose Add….")
+        wrapMode: Text.Wrap
+        font: Theme.panelCallout
+        color: Theme.secondaryText
+    }
+
+    ListView {
+        id: list
+
+        objectName: "queueRows"
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        Layout.preferredHeight: Math.min(contentHeight + topMargin + bottomMargin, Theme.queueRowsHeight)
+        topMargin: Theme.listPadding
+        bottomMargin: Theme.listPadding
+        spacing: Theme.listSpacing
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        reuseItems: true
+        Accessible.role: Accessible.List
+        Accessible.name: qsTr("Queue")
+
+        Component.onCompleted: Qt.callLater(positionViewAtIndex, rows.current, ListView.Contain)
+
+        model: QueueModel {
+            id: rows
+            items: panel.playback.queue
+        }
+
+        T.ScrollBar.vertical: ThinScrollBar {}
+
+        delegate: QueueRow {
+            required property int index
+
+            objectName: "queueItem"
+            x: Theme.listPadding
+            width: list.width - 2 * Theme.listPadding
+            onChosen: panel.playback.playQueueItem(index)
+            onRemoved: panel.playback.removeQueueItem(index)
+        }
+    }
+}

@@ -1,0 +1,61 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Tromelo.Theme
+
+// A file of the queue: a press plays it, unless it plays already.
+PanelRow {
+    id: row
+
+    required property string title
+    required property string path
+    required property bool isCurrent
+
+    signal chosen
+    signal removed
+
+    leftPadding: Theme.rowSide
+    rightPadding: Theme.rowSide
+    topPadding: Theme.rowRise
+    bottomPadding: Theme.rowRise
+    rest: isCurrent ? Theme.currentItem : "transparent"
+    Accessible.name: title
+    Accessible.description: path
+    Accessible.selected: isCurrent
+    onClicked: if (!isCurrent)
+        chosen()
+
+    contentItem: RowLayout {
+        spacing: Theme.rowSpacing
+
+        Symbol {
+            objectName: "queueSymbol"
+            Layout.preferredWidth: Theme.queueSymbolWidth
+            name: row.isCurrent ? "speaker.wave.2.fill" : "film"
+            size: Theme.rowSymbolSize
+            color: row.isCurrent ? Theme.accent : Theme.secondaryText
+        }
+
+        Text {
+            objectName: "queueTitle"
+            Layout.fillWidth: true
+            Layout.rightMargin: Theme.rowGap
+            text: row.title
+            textFormat: Text.PlainText
+            font: row.isCurrent ? Theme.panelStrong : Theme.panelText
+            color: Theme.overlayText
+            elide: Text.ElideMiddle
+            maximumLineCount: 1
+        }
+
+        PanelButton {
+            objectName: "removeFromQueue"
+            visible: !row.isCurrent
+            topPadding: 0
+            symbol: "xmark.circle.fill"
+            Accessible.name: qsTr("Remove from queue")
+            onClicked: row.removed()
+        }
+    }
+}

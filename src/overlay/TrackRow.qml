@@ -1,0 +1,64 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Tromelo.Theme
+
+// A track to choose, ticked while it is the chosen one.
+PanelRow {
+    id: row
+
+    required property string name
+    required property string details // may be empty
+    required property bool isSelected
+
+    topPadding: Theme.trackRise
+    bottomPadding: Theme.trackRise
+    // What shows where the pointer is reaches a little further than the text.
+    outset: Theme.trackOutset
+    Accessible.role: Accessible.RadioButton
+    Accessible.name: name
+    Accessible.description: details
+    Accessible.checkable: true
+    Accessible.checked: isSelected
+
+    contentItem: Row {
+        spacing: Theme.trackSpacing
+
+        Symbol {
+            objectName: "checkmark"
+            anchors.verticalCenter: parent.verticalCenter
+            width: Theme.checkmarkWidth
+            opacity: row.isSelected ? 1 : 0
+            name: "checkmark"
+            size: Theme.rowSymbolSize
+            color: Theme.overlayText
+        }
+
+        Column {
+            anchors.verticalCenter: parent.verticalCenter
+            width: row.availableWidth - Theme.checkmarkWidth - Theme.trackSpacing
+            spacing: Theme.detailsSpacing
+
+            Text {
+                width: parent.width
+                text: row.name
+                textFormat: Text.PlainText
+                font: Theme.panelText
+                color: Theme.overlayText
+                elide: Text.ElideRight
+                maximumLineCount: 1
+            }
+
+            Text {
+                objectName: "details"
+                width: parent.width
+                visible: row.details !== ""
+                text: row.details
+                textFormat: Text.PlainText
+                font: Theme.panelCaption
+                color: Theme.secondaryText
+                elide: Text.ElideRight
+            }
+        }
+    }
+}

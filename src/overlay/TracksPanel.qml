@@ -1,0 +1,103 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Tromelo.Controls
+import Tromelo.Player
+import Tromelo.Settings
+import Tromelo.Theme
+
+// What is heard and read, when, and in which style.
+Flickable {
+    id: panel
+
+    required property PlaybackModel playback
+
+    objectName: "tracksPanel"
+    implicitWidth: Theme.tracksWidth
+    implicitHeight: Math.min(contentHeight, Theme.tracksHeight)
+    contentHeight: sections.implicitHeight + 2 * Theme.panelPadding
+    boundsBehavior: Flickable.StopAtBounds
+    clip: true
+
+    T.ScrollBar.vertical: ThinScrollBar {}
+
+    Column {
+        id: sections
+
+        x: Theme.panelPadding
+        y: Theme.panelPadding
+        width: panel.width - 2 * Theme.panelPadding
+        spacing: Theme.sectionSpacing
+
+        PanelSection {
+            objectName: "subtitlesSection"
+            width: sections.width
+            title: qsTr("Subtitles")
+
+            TrackList {
+                width: parent.width
+                tracks: panel.playback.subtitleTracks
+                offersNone: true
+                onNoneChosen: panel.playback.turnSubtitlesOff()
+                onChosen: track => panel.playback.selectSubtitle(track)
+            }
+
+            PanelButton {
+                objectName: "addSubtitleFile"
+                leftPadding: 0
+                symbol: "plus"
+                text: qsTr("Add Subtitle File…")
+                onClicked: panel.playback.presentSubtitleFilePanel()
+            }
+
+            DelayRow {
+                objectName: "subtitleTiming"
+                width: parent.width
+                label: qsTr("Timing")
+                delay: panel.playback.subtitleDelay
+                onChosen: seconds => panel.playback.setSubtitleDelay(seconds)
+            }
+        }
+
+        PanelSection {
+            objectName: "audioSection"
+            width: sections.width
+            visible: panel.playback.audioTracks.length > 0
+            title: qsTr("Audio")
+
+            TrackList {
+                width: parent.width
+                tracks: panel.playback.audioTracks
+                onChosen: track => panel.playback.selectAudio(track)
+            }
+
+            DelayRow {
+                objectName: "audioSync"
+                width: parent.width
+                label: qsTr("Sync")
+                delay: panel.playback.audioDelay
+                onChosen: seconds => panel.playback.setAudioDelay(seconds)
+            }
+        }
+
+        PanelSection {
+            objectName: "subtitleStyleSection"
+            width: sections.width
+            title: qsTr("Subtitle Style")
+
+            SubtitleStyleControls {
+                width: parent.width
+                settings: panel.playback.settings
+                focusPolicy: Qt.NoFocus
+            }
+
+            PanelButton {
+                objectName: "resetStyle"
+                leftPadding: 0
+                text: qsTr("Reset Style")
+                onClicked: panel.playback.settings.resetSubtitleStyle()
+            }
+        }
+    }
+}

@@ -1,0 +1,128 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Tromelo.Controls
+import Tromelo.Theme
+
+// How subtitles are drawn, to be changed in place.
+Column {
+    id: controls
+
+    required property PlayerSettings settings
+    // Of all the controls: the player's never take the keyboard.
+    property int focusPolicy: Qt.StrongFocus
+
+    spacing: Theme.settingSpacing
+
+    SettingRow {
+        label: qsTr("Font")
+
+        Picker {
+            objectName: "subtitleFont"
+            focusPolicy: controls.focusPolicy
+            model: controls.settings.fonts
+            currentIndex: controls.settings.fonts.indexOf(controls.settings.subtitleFont)
+            displayText: controls.settings.subtitleFont
+            Accessible.name: qsTr("Font")
+            onActivated: index => controls.settings.subtitleFont = controls.settings.fonts[index]
+        }
+
+        PushToggle {
+            objectName: "subtitleBold"
+            focusPolicy: controls.focusPolicy
+            text: qsTr("Bold")
+            checked: controls.settings.subtitleBold
+            onToggled: controls.settings.subtitleBold = checked
+        }
+    }
+
+    SettingRow {
+        id: sizeRow
+
+        label: qsTr("Size")
+
+        StepSlider {
+            objectName: "subtitleSize"
+            width: controls.width - Theme.settingLabelWidth - Theme.sizeTextWidth - 2 * sizeRow.spacing
+            focusPolicy: controls.focusPolicy
+            from: 24
+            to: 80
+            stepSize: 2
+            value: controls.settings.subtitleSize
+            Accessible.name: qsTr("Size")
+            onMoved: controls.settings.subtitleSize = value
+        }
+
+        Text {
+            objectName: "subtitleSizeText"
+            width: Theme.sizeTextWidth
+            height: parent.height
+            text: Math.trunc(controls.settings.subtitleSize)
+            font: Theme.fieldNumber
+            color: Theme.secondaryText
+            verticalAlignment: Text.AlignVCenter
+        }
+    }
+
+    SettingRow {
+        id: colorRow
+
+        label: qsTr("Color")
+
+        Repeater {
+            model: controls.settings.colorPresets
+
+            ColorSwatch {
+                required property rgbaColor modelData
+
+                objectName: "subtitleColorPreset"
+                anchors.verticalCenter: parent.verticalCenter
+                focusPolicy: controls.focusPolicy
+                color: modelData.color
+                Accessible.name: qsTr("Use this color")
+                onClicked: controls.settings.subtitleColor = modelData
+            }
+        }
+
+        ColorWell {
+            objectName: "subtitleColor"
+            focusPolicy: controls.focusPolicy
+            text: qsTr("Custom color")
+            color: controls.settings.subtitleColor.color
+            onChosen: color => controls.settings.subtitleColor = color
+        }
+    }
+
+    SettingRow {
+        label: qsTr("Style")
+
+        SegmentedPicker {
+            objectName: "subtitleBorderStyle"
+            focusPolicy: controls.focusPolicy
+            labels: controls.settings.borderStyleLabels
+            current: controls.settings.subtitleBorderStyleIndex
+            Accessible.name: qsTr("Style")
+            onChosen: index => controls.settings.subtitleBorderStyleIndex = index
+        }
+
+        ColorWell {
+            objectName: "subtitleOutlineColor"
+            visible: controls.settings.subtitlesHaveEdge
+            focusPolicy: controls.focusPolicy
+            text: qsTr("Edge color")
+            color: controls.settings.subtitleOutlineColor.color
+            Accessible.description: qsTr("Outline and shadow color")
+            onChosen: color => controls.settings.subtitleOutlineColor = color
+        }
+    }
+
+    CheckToggle {
+        objectName: "subtitleOverridesStyled"
+        width: controls.width
+        focusPolicy: controls.focusPolicy
+        text: qsTr("Also restyle styled (ASS) subtitles")
+        checked: controls.settings.subtitleOverridesStyled
+        Accessible.description: qsTr("Styled subtitles keep their own look unless this is on.")
+        onToggled: controls.settings.subtitleOverridesStyled = checked
+    }
+}

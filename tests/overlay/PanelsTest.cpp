@@ -1,0 +1,296 @@
+#include <QAccessible>
+
+#include "ViewTest.h"
+#include "overlay/QuickPlayerOverlay.h"
+
+namespace tromelo {
+namespace {
+
+using testing::waitFor;
+
+MpvNode track(const char* type, std::int64_t id, const char* title, bool isSelected,
+              const char* codec = "") {
+  return MpvNode{MpvMap{{"type", MpvNode{type}},
+                        {"id", MpvNode{id}},
+                        {"title", MpvNode{title}},
+                        {"codec", MpvNode{codec}},
+                        {"selected", MpvNode{isSelected}}}};
+}
+
+class PanelsTest : public testing::ViewTest {
+ protected:
+  PanelsTest() { host_.resize(800, 700); }
+
+  /// What can be seen of this name, from top to bottom and left to right.
+  QList<QQuickItem*> all(const char* name) { return allIn(*host_.contentItem(), name); }
+  QList<QQuickItem*> allIn(const QQuickItem& whole, const char* name) {
+    QList<QQuickItem*> items;
+    for (QQuickItem* child : whole.childItems()) {
+      if (child->isVisible() && child->objectName() == QLatin1StringView(name)) items << child;
+      items << allIn(*child, name);
+    }
+    std::ranges::sort(items, {}, [this](QQuickItem* one) {
+      return std::pair(frame(one).top(), frame(one).left());
+    });
+    return items;
+  }
+  QQuickItem* only(const char* name, const QQuickItem* whole = nullptr) {
+    const auto found = allIn(whole ? *whole : *host_.contentItem(), name);
+    return found.size() == 1 ? found.first() : nullptr;
+  }
+  bool shows(const char* name) { return !all(name).isEmpty(); }
+  void clickItem(const QQuickItem* one) {
+    ASSERT_TRUE(one);
+    click(frame(one).center());
+  }
+  QString shown(const char* name) { return only(name)->property("text").toString(); }
+  QStringList texts(const QList<QQuickItem*>& items, const char* property) {
+    QStringList found;
+    for (const QQuickItem* one : items) found << one->property(property).toString();
+    return found;
+  }
+  /// The names of the rows that are ticked.
+  QStringList ticked() {
+    QStringList found;
+    for (const char* name : {"trackOff", "track"})
+      for (const QQuickItem* row : all(name)) {
+        const bool isTicked = only("checkmark", row)->opacity() == 1;
+        EXPECT_EQ(
+            isTicked,
+            QAccessible::queryAccessibleInterface(const_cast<QQuickItem*>(row))->state().checked);
+        if (isTicked) found << row->property("name").toString();
+      }
+    return found;
+  }
+};
+
+TEST_F(PanelsTest, TracksAreChosenByTheirRows) {
+  show("TracksPanel", {{"playback", model()}, {"width", 360}, {"height", 700}});
+  EXPECT_EQ(ticked(), QStringList{"Off"});
+  EXPECT_FALSE(shows("audioSection"));
+  EXPECT_TRUE(all("track").isEmpty());
+
+  const MpvList tracks{track("sub", 3, "Signs", false, "ass"), track("sub", 7, "Full", true),
+                       track("audio", 4, "Stereo", false), track("audio", 9, "Comment", true)};
+  report(MpvProperty::trackList, MpvValue(MpvNode{tracks}));
+  testing::settle();
+  EXPECT_TRUE(waitFor([this] { return all("track").size() == 4 && shows("audioSection"); }));
+  EXPECT_TRUE(waitFor([this] {
+    return frame(only("audioSection")).top() > frame(only("subtitleTiming")).bottom();
+  }));
+  EXPECT_EQ(texts(all("track"), "name"), QStringList({"Signs", "Full", "Stereo", "Comment"}));
+  EXPECT_EQ(ticked(), QStringList({"Full", "Comment"}));
+  EXPECT_EQ(texts(all("details"), "text"), QStringList{"ASS"});
+
+  clickItem(all("track")[0]);
+  clickItem(all("track")[2]);
+  clickItem(only("trackOff"));
+  EXPECT_EQ(takeSent(), Sent({"set sid 3", "set aid 4", "set sid no"}));
+}
+
+TEST_F(PanelsTest, DelaysGoInStepsAndBack) {
+  show("TracksPanel", {{"playback", model()}, {"width", 360}, {"height", 700}});
+  report(MpvProperty::trackList, MpvValue(MpvNode{MpvList{track("audio", 1, "", true)}}));
+  ASSERT_TRUE(waitFor([this] { return shows("audioSync"); }));
+  testing::settle();
+  struct Row {
+    const char* row;
+    const char* property;
+  };
+  for (const Row& row : {Row{"subtitleTiming", "sub-delay"}, Row{"audioSync", "audio-delay"}}) {
+    SCOPED_TRACE(row.row);
+    QQuickItem* const line = only(row.row);
+    const auto part = [&](const char* name) { return only(name, line); };
+    const auto reads = [&] { return part("delay")->property("text").toString(); };
+    const std::string set = std::string("set ") + row.property + ' ';
+    EXPECT_EQ(reads(), "0 ms");
+    EXPECT_FALSE(part("resetDelay")->isEnabled());
+    clickItem(part("earlier"));
+    EXPECT_EQ(reads(), "-50 ms");
+    clickItem(part("later"));
+    EXPECT_FALSE(part("resetDelay")->isEnabled());
+    clickItem(part("later"));
+    EXPECT_EQ(reads(), "+50 ms");
+    clickItem(part("resetDelay"));
+    EXPECT_EQ(reads(), "0 ms");
+    EXPECT_EQ(takeSent(), Sent({set + "-0.05", set + "0.0", set + "0.05", set + "0.0"}));
+  }
+}
+
+TEST_F(PanelsTest, SubtitleStyleIsChangedInPlace) {
+  show("TracksPanel", {{"playback", model()}, {"width", 360}, {"height", 700}});
+  PlayerSettings& settings = playback_.settings();
+  EXPECT_EQ(shown("subtitleSizeText"), "44");
+  clickItem(only("subtitleBold"));
+  EXPECT_TRUE(settings.subtitleBold());
+  clickItem(only("subtitleOverridesStyled"));
+  EXPECT_TRUE(settings.subtitleOverridesStyled());
+  clickItem(all("subtitleColorPreset").last());
+  EXPECT_NE(settings.subtitleColor(), RgbaColor(1, 1, 1));
+  EXPECT_EQ(only("subtitleColor")->property("color").value<QColor>(),
+            settings.subtitleColor().toQColor());
+
+  const QRectF slider = frame(only("subtitleSize"));
+  click({slider.right() - 1, slider.center().y()});
+  EXPECT_EQ(settings.subtitleSize(), 80);
+  press({slider.center().x(), slider.center().y()});
+  drag({slider.center().x() + 9, slider.center().y()});
+  release({slider.center().x() + 9, slider.center().y()});
+  EXPECT_EQ(std::fmod(settings.subtitleSize(), 2), 0);
+  settings.setSubtitleSize(45.7);
+  EXPECT_EQ(shown("subtitleSizeText"), "45");
+
+  const RgbaColor edge = settings.subtitleOutlineColor();
+  clickItem(only("segmentBox"));
+  EXPECT_EQ(settings.subtitleBorderStyle(), SubtitleBorderStyle::box);
+  EXPECT_FALSE(shows("subtitleOutlineColor"));
+  clickItem(only("segmentShadow"));
+  EXPECT_TRUE(shows("subtitleOutlineColor"));
+  EXPECT_EQ(settings.subtitleOutlineColor(), edge);
+
+  clickItem(only("subtitleFont"));
+  QQuickItem* choice = nullptr;
+  ASSERT_TRUE(waitFor([&] {
+    choice = only("choiceGeorgia");
+    return choice && choice->width() > 0;
+  }));
+  clickItem(choice);
+  EXPECT_EQ(settings.subtitleFont(), "Georgia");
+
+  clickItem(only("resetStyle"));
+  EXPECT_EQ(settings.subtitleFont(), SubtitleStyle().font);
+  EXPECT_FALSE(only("subtitleBold")->property("checked").toBool());
+  EXPECT_EQ(shown("subtitleSizeText"), "44");
+}
+
+TEST_F(PanelsTest, AChapterIsGoneToAndClosesThePanel) {
+  reportChapters({0, 61, 3700});
+  show("ChaptersPanel",
+       {{"playback", model()}, {"chrome", chrome()}, {"width", 320}, {"height", 400}});
+  ASSERT_TRUE(waitFor([this] { return all("chapter").size() == 3; }));
+  EXPECT_EQ(texts(all("chapterTime"), "text"), QStringList({"0:00", "1:01", "1:01:40"}));
+  const auto current = [this] { return texts(all("chapter"), "isCurrent").indexOf("true"); };
+  EXPECT_EQ(current(), -1);
+  report(MpvProperty::chapter, MpvValue(std::int64_t{1}));
+  EXPECT_EQ(current(), 1);
+  player().chrome().setPanel(PlayerPanel::chapters);
+  takeSent();
+  clickItem(all("chapter")[2]);
+  EXPECT_EQ(takeSent(), Sent{"set chapter 2"});
+  EXPECT_EQ(current(), 2);
+  EXPECT_EQ(player().chrome().panel(), std::nullopt);
+}
+
+TEST_F(PanelsTest, TheQueueIsPlayedAndClearedByItsRows) {
+  show("QueuePanel", {{"playback", model()}, {"width", 340}, {"height", 400}});
+  struct Row {
+    int count;
+    int current;
+    bool hint;
+    bool canClear;
+  };
+  for (const Row& row : {Row{0, -1, true, false}, Row{1, 0, true, false}, Row{2, 1, false, false},
+                         Row{2, 0, false, true}, Row{3, 1, false, true}}) {
+    SCOPED_TRACE(row.count * 10 + row.current);
+    reportPlaylist(row.count, row.current);
+    ASSERT_TRUE(waitFor([&] { return all("queueItem").size() == row.count; }));
+    EXPECT_EQ(shows("queueHint"), row.hint);
+    EXPECT_EQ(only("clearUpNext")->isEnabled(), row.canClear);
+    EXPECT_EQ(all("removeFromQueue").size(), row.count - (row.current >= 0));
+    EXPECT_EQ(texts(all("queueItem"), "isCurrent").indexOf("true"), row.current);
+  }
+  testing::settle();
+  takeSent();
+  clickItem(all("queueItem")[1]);
+  EXPECT_EQ(takeSent(), Sent()) << "it plays";
+  clickItem(all("queueItem")[2]);
+  clickItem(all("removeFromQueue")[0]);
+  clickItem(all("removeFromQueue")[1]);
+  clickItem(only("clearUpNext"));
+  EXPECT_EQ(takeSent(), Sent({"playlist-play-index 2", "playlist-remove 0", "playlist-remove 2",
+                              "playlist-clear"}));
+}
+
+TEST_F(PanelsTest, ALongQueueKeepsItsPlaceWhileItChanges) {
+  reportPlaylist(5000, 0);
+  show("QueuePanel", {{"playback", model()}, {"width", 340}, {"height", 400}});
+  QQuickItem* const rows = only("queueRows");
+  ASSERT_TRUE(waitFor([this] { return !all("queueItem").isEmpty(); }));
+  EXPECT_LT(all("queueItem").size(), 60) << "only what can be seen is made";
+  rows->setProperty("contentY", 3000);
+  ASSERT_TRUE(waitFor([this] { return all("queueItem").size() > 5; }));
+  reportPlaylist(5001, 1);
+  testing::settle();
+  EXPECT_EQ(rows->property("contentY"), 3000);
+}
+
+/// The panels above the control bar, over a video.
+class PopoverTest : public PanelsTest {
+ protected:
+  PopoverTest() {
+    overlay_ = std::make_unique<QuickPlayerOverlay>(engine_, layer_, playback_, player());
+    overlay_->onClick = [this] { said_ << "click"; };
+    overlay_->onDoubleClick = [this] { said_ << "double click"; };
+    overlay_->onScroll = [this](double) { said_ << "scroll"; };
+    testing::settle();
+  }
+  ~PopoverTest() override {
+    overlay_.reset();
+    testing::settle();
+  }
+
+  void open(PlayerPanel panel) {
+    player().chrome().setPanel(panel);
+    ASSERT_TRUE(waitFor([this] { return all("playerPopover").size() == 1; }));
+  }
+  QRectF popover() { return frame(all("playerPopover").first()); }
+
+  std::unique_ptr<QuickPlayerOverlay> overlay_;
+  QStringList said_;
+};
+
+TEST_F(PopoverTest, OpensAboveTheBarWithinTheWindow) {
+  reportPlaylist(100, 0);
+  reportChapters(std::vector<double>(100, 1.0));
+  for (const PlayerPanel panel : {PlayerPanel::tracks, PlayerPanel::chapters, PlayerPanel::queue})
+    for (const QSizeF size : {QSizeF(520, 300), QSizeF(800, 700), QSizeF(1920, 1080)}) {
+      SCOPED_TRACE(static_cast<int>(panel) * 10000 + size.width());
+      layer_.setSize(size);
+      open(panel);
+      ASSERT_TRUE(waitFor([&] { return popover().height() > 100; }));
+      EXPECT_TRUE(
+          waitFor([&] { return popover().bottom() <= frame(only("playerControlBar")).top() - 8; }));
+      EXPECT_GE(popover().top(), 10);
+      EXPECT_GE(popover().left(), 10);
+      EXPECT_LE(popover().right(), size.width() - 10);
+      player().chrome().setPanel(std::nullopt);
+      ASSERT_TRUE(waitFor([this] { return all("playerPopover").isEmpty(); }));
+    }
+}
+
+TEST_F(PopoverTest, APressOutsideOnlyClosesIt) {
+  PlayerChrome& chrome = player().chrome();
+  reportChapters({0, 1});
+  for (const PlayerPanel panel : {PlayerPanel::tracks, PlayerPanel::chapters, PlayerPanel::queue}) {
+    SCOPED_TRACE(static_cast<int>(panel));
+    open(panel);
+    const QPointF inside = popover().topLeft() + QPointF(3, 30);
+    click(inside);
+    QWheelEvent wheel(inside, inside, {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&host_, &wheel);
+    EXPECT_EQ(chrome.panel(), panel);
+    click({20, 40});  // where the way back to the library is
+    EXPECT_EQ(chrome.panel(), std::nullopt);
+    EXPECT_EQ(said_, QStringList());
+    ASSERT_TRUE(waitFor([this] { return all("playerPopover").isEmpty(); }));
+  }
+  click({400, 120});
+  EXPECT_EQ(said_, QStringList{"click"});
+  chrome.setPanel(PlayerPanel::queue);
+  chrome.setProperty("showsTracks", false);
+  EXPECT_EQ(chrome.panel(), PlayerPanel::queue) << "only its own";
+}
+
+}  // namespace
+}  // namespace tromelo
