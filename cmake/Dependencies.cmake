@@ -18,6 +18,7 @@ if(NOT MPV_FOUND)
     "Tromelo needs libmpv 0.38 or newer (client API 2.3); found API '${MPV_ANY_VERSION}'.")
 endif()
 
+pkg_check_modules(GLIB REQUIRED IMPORTED_TARGET glib-2.0)
 pkg_search_module(WLROOTS QUIET IMPORTED_TARGET wlroots-0.19 wlroots-0.18)
 if(NOT WLROOTS_FOUND)
   message(FATAL_ERROR "Tromelo needs wlroots 0.18 or 0.19 with its development files.")
@@ -32,6 +33,7 @@ pkg_check_modules(EGL REQUIRED IMPORTED_TARGET egl)
 pkg_check_modules(GLES REQUIRED IMPORTED_TARGET glesv2)
 pkg_check_modules(VULKAN REQUIRED vulkan)  # its headers; the loader is opened where it is needed
 pkg_get_variable(WAYLAND_SCANNER wayland-scanner wayland_scanner)
+pkg_check_modules(WAYLAND_PROTOCOLS REQUIRED wayland-protocols>=1.41)  # colour management
 pkg_get_variable(WAYLAND_PROTOCOLS_DIR wayland-protocols pkgdatadir)
 
 if(BUILD_TESTING)

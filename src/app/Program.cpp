@@ -10,6 +10,7 @@
 #include "glass/GlassRendering.h"
 #include "library/LibraryWindow.h"
 #include "overlay/QuickPlayerOverlay.h"
+#include "platform/DesktopRecents.h"
 #include "platform/FilePath.h"
 #include "platform/HostEnvironment.h"
 #include "platform/UserPaths.h"
@@ -46,6 +47,7 @@ int Program::run() {
   connectService();
   if (commandLine_.report) startReport();
   tellOfStorageErrors();
+  offerToDesktop();
   delegate_->applicationDidFinishLaunching();
   stage_->prepareHostWindow();
   const int status = QCoreApplication::exec();
@@ -127,6 +129,16 @@ void Program::tellOfStorageErrors() {
     std::fprintf(stderr, "%s\n", qPrintable(sentence));
     if (!delegate_->playback().isShuttingDown()) delegate_->playback().reportStorageError(sentence);
   });
+}
+
+void Program::offerToDesktop() {
+  PlaybackModel& playback = delegate_->playback();
+  const auto offer = [&playback] {
+    if (playback.isLoaded() && !playback.lastURL().isEmpty())
+      addToDesktopRecents(playback.lastURL());
+  };
+  QObject::connect(&playback, &PlaybackModel::isLoadedChanged, delegate_.get(), offer);
+  QObject::connect(&playback, &PlaybackModel::lastURLChanged, delegate_.get(), offer);
 }
 
 void Program::startReport() {

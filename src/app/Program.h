@@ -37,6 +37,7 @@ class Program {
   void connectService();
   void startReport();
   void tellOfStorageErrors();
+  void offerToDesktop();
   void handleLibraryClosed();
   bool hasVisibleWindows();
   QString windowText();

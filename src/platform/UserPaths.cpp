@@ -8,6 +8,10 @@ QString userConfigDirectory() {
   return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
 }
 
+QString userDataDirectory() {
+  return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+}
+
 QString diagnosticsDirectoryPath() {
   return QStandardPaths::writableLocation(QStandardPaths::GenericStateLocation) +
          QStringLiteral("/Tromelo");

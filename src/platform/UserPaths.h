@@ -8,6 +8,7 @@ namespace tromelo {
 /// exist yet.
 
 QString userConfigDirectory();       // $XDG_CONFIG_HOME
+QString userDataDirectory();         // $XDG_DATA_HOME
 QString diagnosticsDirectoryPath();  // $XDG_STATE_HOME/Tromelo
 
 }  // namespace tromelo

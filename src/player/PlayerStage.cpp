@@ -40,8 +40,8 @@ void PlayerStage::prepareHostWindow() {
 
 void PlayerStage::add(EngineWindow& engineWindow) {
   prepareHostWindow();
-  auto window =
-      std::make_unique<PlayerWindow>(engineWindow, std::move(spareHost_), overlayFactory_);
+  auto window = std::make_unique<PlayerWindow>(engineWindow, std::move(spareHost_), overlayFactory_,
+                                               headroom_);
   PlayerWindow* const added = window.get();
   windows_.push_back(std::move(window));
   connect(added, &PlayerWindow::stateChanged, this, &WindowSystem::windowsChanged);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "display/PrivateDisplay.h"
+#include "platform/HostHeadroom.h"
 #include "player/PlayerWindow.h"
 #include "player/WindowSystem.h"
 
@@ -47,6 +48,7 @@ class PlayerStage : public WindowSystem {
   std::unique_ptr<PlayerHostWindow> spareHost_;
   std::vector<std::unique_ptr<PlayerWindow>> windows_;
   QPointer<QScreen> screen_;
+  HostHeadroom headroom_;
 };
 
 }  // namespace tromelo

@@ -20,8 +20,12 @@ bool nearlyEqual(QSize a, QSize b) {
 }  // namespace
 
 PlayerWindow::PlayerWindow(EngineWindow& engineWindow, std::unique_ptr<PlayerHostWindow> host,
-                           const PlayerOverlayFactory& overlayFactory)
-    : engineWindow_(&engineWindow), host_(std::move(host)), overlayFactory_(overlayFactory) {
+                           const PlayerOverlayFactory& overlayFactory, HostHeadroom& headroom)
+    : engineWindow_(&engineWindow),
+      host_(std::move(host)),
+      overlayFactory_(overlayFactory),
+      headroom_(headroom) {
+  connect(&headroom_, &HostHeadroom::changed, this, &VideoWindow::screenChanged);
   host_->fade().setOpacity(0);
   host_->video().setEngineWindow(&engineWindow);
   followHost();
@@ -71,7 +75,7 @@ bool PlayerWindow::isKey() const { return host_->isActive(); }
 
 std::optional<ScreenHeadroom> PlayerWindow::screenHeadroom() const {
   if (!host_->screen()) return {};
-  return ScreenHeadroom();
+  return headroom_.of(host_->screen());
 }
 
 void PlayerWindow::setOpacity(double opacity) { host_->fade().setOpacity(opacity); }

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "display/EngineWindow.h"
+#include "platform/HostHeadroom.h"
 #include "player/PlayerHostWindow.h"
 #include "player/VideoWindow.h"
 
@@ -23,7 +24,7 @@ class PlayerWindow : public VideoWindow {
  public:
   /// All outlive it but `engineWindow`, which may go at any time.
   PlayerWindow(EngineWindow& engineWindow, std::unique_ptr<PlayerHostWindow> host,
-               const PlayerOverlayFactory& overlayFactory);
+               const PlayerOverlayFactory& overlayFactory, HostHeadroom& headroom);
   ~PlayerWindow() override;
 
   bool isVisible() const override;
@@ -66,6 +67,7 @@ class PlayerWindow : public VideoWindow {
   QPointer<EngineWindow> engineWindow_;
   std::unique_ptr<PlayerHostWindow> host_;
   const PlayerOverlayFactory& overlayFactory_;
+  HostHeadroom& headroom_;
   QSize chosenSize_;  // by the engine, device pixels; gives the aspect
   // Sizes that the engine was asked for and has not answered yet, oldest first.
   std::deque<QSize> requestedSizes_;

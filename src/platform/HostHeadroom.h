@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QObject>
+#include <memory>
+
+#include "platform/ScreenHeadroom.h"
+
+class QScreen;
+
+namespace tromelo {
+
+class WaylandHeadroom;
+
+/// How bright the host's screens get, where the host tells: on Wayland with colour management. Main
+/// thread only, after the application object.
+class HostHeadroom : public QObject {
+  Q_OBJECT
+
+ public:
+  HostHeadroom();
+  ~HostHeadroom() override;
+
+  /// Standard range where the host hasn't told, or never does.
+  ScreenHeadroom of(QScreen* screen);
+
+ Q_SIGNALS:
+  /// Some screen's headroom.
+  void changed();
+
+ private:
+  std::unique_ptr<WaylandHeadroom> wayland_;  // on such a host
+};
+
+}  // namespace tromelo

@@ -1,0 +1,44 @@
+#include "platform/DesktopRecents.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "platform/FilePath.h"
+
+namespace tromelo {
+namespace {
+
+class DesktopRecents : public ::testing::Test {
+ protected:
+  QByteArray list() const { return QFile::encodeName(directory_.filePath("recently-used.xbel")); }
+  QByteArray text() const {
+    QFile file(QFile::decodeName(list()));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+
+  QTemporaryDir directory_;
+};
+
+TEST_F(DesktopRecents, AddsAFileToWhatIsThere) {
+  EXPECT_TRUE(addToRecentsList(list(), fileUrlFromPath("/films/One & two.mkv")));
+  EXPECT_TRUE(addToRecentsList(list(), fileUrlFromPath("/films/\xff.mp4")));
+  EXPECT_TRUE(addToRecentsList(list(), fileUrlFromPath("/films/\xff.mp4")));
+  EXPECT_EQ(text().count("<bookmark href"), 2);
+  for (const char* part : {"file:///films/One%20%26%20two.mkv", "file:///films/%FF.mp4",
+                           "type=\"video/mp4\"", "name=\"Tromelo\""})
+    EXPECT_TRUE(text().contains(part)) << part << " in " << text().toStdString();
+}
+
+TEST_F(DesktopRecents, LeavesADamagedListAlone) {
+  QFile file(QFile::decodeName(list()));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write("no list");
+  file.close();
+  EXPECT_FALSE(addToRecentsList(list(), fileUrlFromPath("/a.mkv")));
+  EXPECT_EQ(text(), "no list");
+}
+
+}  // namespace
+}  // namespace tromelo
