@@ -36,10 +36,10 @@ ListView {
         readonly property bool isCurrent: panel.playback.currentChapter === modelData.id
 
         objectName: "chapter"
-        x: Theme.listPadding
-        width: panel.width - 2 * Theme.listPadding
-        leftPadding: Theme.rowSide
-        rightPadding: Theme.rowSide
+        width: panel.width
+        outset: -Theme.listPadding
+        leftPadding: Theme.listPadding + Theme.rowSide
+        rightPadding: Theme.listPadding + Theme.rowSide
         topPadding: Theme.rowRise
         bottomPadding: Theme.rowRise
         rest: isCurrent ? Theme.currentChapter : "transparent"

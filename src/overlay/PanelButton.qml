@@ -9,6 +9,7 @@ T.Button {
     id: button
 
     property string symbol: ""
+    property color tint: Theme.overlayText
 
     font: Theme.panelText
     implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
@@ -30,7 +31,7 @@ T.Button {
             visible: button.symbol !== ""
             name: button.symbol
             size: Theme.rowSymbolSize
-            color: Theme.overlayText
+            color: button.tint
         }
 
         Text {
@@ -38,7 +39,7 @@ T.Button {
             visible: button.text !== ""
             text: button.text
             font: button.font
-            color: Theme.overlayText
+            color: button.tint
         }
     }
 

@@ -9,6 +9,7 @@ T.AbstractButton {
     id: row
 
     property color rest: "transparent"
+    // How much further to the sides its background reaches.
     property real outset: 0
 
     implicitHeight: Math.ceil(implicitContentHeight) + topPadding + bottomPadding

@@ -55,6 +55,13 @@ Item {
                 Accessible.role: Accessible.Pane
                 Accessible.name: popover.name
 
+                // It can lie on other views, whose texts must not mix with its own.
+                Rectangle {
+                    anchors.fill: parent
+                    radius: Theme.popoverRadius
+                    color: Theme.popoverBacking
+                }
+
                 GlassSurface {
                     anchors.fill: parent
                     backdrop: popover.backdrop

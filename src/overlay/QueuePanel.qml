@@ -8,94 +8,100 @@ import Tromelo.Player
 import Tromelo.Theme
 
 // What plays, has played and will play.
-ColumnLayout {
+Item {
     id: panel
 
     required property PlaybackModel playback
 
     objectName: "queuePanel"
     implicitWidth: Theme.queueWidth
-    spacing: 0
+    implicitHeight: content.implicitHeight
 
-    RowLayout {
-        Layout.fillWidth: true
-        Layout.margins: Theme.headerPadding
-        spacing: Theme.trackSpacing
+    ColumnLayout {
+        id: content
+
+        anchors.fill: parent
+        spacing: 0
+
+        RowLayout {
+            Layout.fillWidth: true
+            Layout.margins: Theme.headerPadding
+            spacing: Theme.trackSpacing
+
+            Text {
+                Layout.fillWidth: true
+                text: qsTr("Queue")
+                font: Theme.panelHeader
+                color: Theme.overlayText
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+
+            PanelButton {
+                objectName: "addToQueue"
+                symbol: "plus"
+                text: qsTr("Add…")
+                onClicked: panel.playback.presentQueuePanel()
+            }
+
+            PanelButton {
+                objectName: "clearUpNext"
+                enabled: panel.playback.hasNext
+                text: qsTr("Clear Up Next")
+                onClicked: panel.playback.clearQueue()
+            }
+        }
+
+        Rectangle {
+            Layout.fillWidth: true
+            implicitHeight: Theme.hairline
+            color: Theme.panelDivider
+        }
 
         Text {
+            objectName: "queueHint"
             Layout.fillWidth: true
-            text: qsTr("Queue")
-            font: Theme.panelHeader
-            color: Theme.overlayText
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
+            Layout.margins: Theme.panelPadding
+            visible: panel.playback.queue.length <= 1
+            text: qsTr("Nothing up next. Drop videos on the player or choose Add….")
+            wrapMode: Text.Wrap
+            font: Theme.panelCallout
+            color: Theme.secondaryText
         }
 
-        PanelButton {
-            objectName: "addToQueue"
-            symbol: "plus"
-            text: qsTr("Add…")
-            onClicked: panel.playback.presentQueuePanel()
-        }
+        ListView {
+            id: list
 
-        PanelButton {
-            objectName: "clearUpNext"
-            enabled: panel.playback.hasNext
-            text: qsTr("Clear Up Next")
-            onClicked: panel.playback.clearQueue()
-        }
-    }
+            objectName: "queueRows"
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            Layout.preferredHeight: Math.min(contentHeight + topMargin + bottomMargin, Theme.queueRowsHeight)
+            topMargin: Theme.listPadding
+            bottomMargin: Theme.listPadding
+            spacing: Theme.listSpacing
+            boundsBehavior: Flickable.StopAtBounds
+            clip: true
+            reuseItems: true
+            Accessible.role: Accessible.List
+            Accessible.name: qsTr("Queue")
 
-    Rectangle {
-        Layout.fillWidth: true
-        implicitHeight: Theme.hairline
-        color: Theme.panelDivider
-    }
+            Component.onCompleted: Qt.callLater(positionViewAtIndex, rows.current, ListView.Contain)
 
-    Text {
-        objectName: "queueHint"
-        Layout.fillWidth: true
-        Layout.margins: Theme.panelPadding
-        visible: panel.playback.queue.length <= 1
-        text: qsTr("Nothing up next. Drop videos on the player or choose Add….")
-        wrapMode: Text.Wrap
-        font: Theme.panelCallout
-        color: Theme.secondaryText
-    }
+            model: QueueModel {
+                id: rows
+                items: panel.playback.queue
+            }
 
-    ListView {
-        id: list
+            T.ScrollBar.vertical: ThinScrollBar {}
 
-        objectName: "queueRows"
-        Layout.fillWidth: true
-        Layout.fillHeight: true
-        Layout.preferredHeight: Math.min(contentHeight + topMargin + bottomMargin, Theme.queueRowsHeight)
-        topMargin: Theme.listPadding
-        bottomMargin: Theme.listPadding
-        spacing: Theme.listSpacing
-        boundsBehavior: Flickable.StopAtBounds
-        clip: true
-        reuseItems: true
-        Accessible.role: Accessible.List
-        Accessible.name: qsTr("Queue")
+            delegate: QueueRow {
+                required property int index
 
-        Component.onCompleted: Qt.callLater(positionViewAtIndex, rows.current, ListView.Contain)
-
-        model: QueueModel {
-            id: rows
-            items: panel.playback.queue
-        }
-
-        T.ScrollBar.vertical: ThinScrollBar {}
-
-        delegate: QueueRow {
-            required property int index
-
-            objectName: "queueItem"
-            x: Theme.listPadding
-            width: list.width - 2 * Theme.listPadding
-            onChosen: panel.playback.playQueueItem(index)
-            onRemoved: panel.playback.removeQueueItem(index)
+                objectName: "queueItem"
+                width: list.width
+                onChosen: panel.playback.playQueueItem(index)
+                onRemoved: panel.playback.removeQueueItem(index)
+            }
         }
     }
 }

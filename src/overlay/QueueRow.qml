@@ -15,8 +15,9 @@ PanelRow {
     signal chosen
     signal removed
 
-    leftPadding: Theme.rowSide
-    rightPadding: Theme.rowSide
+    outset: -Theme.listPadding
+    leftPadding: Theme.listPadding + Theme.rowSide
+    rightPadding: Theme.listPadding + Theme.rowSide
     topPadding: Theme.rowRise
     bottomPadding: Theme.rowRise
     rest: isCurrent ? Theme.currentItem : "transparent"
@@ -54,6 +55,7 @@ PanelRow {
             visible: !row.isCurrent
             topPadding: 0
             symbol: "xmark.circle.fill"
+            tint: Theme.secondaryText
             Accessible.name: qsTr("Remove from queue")
             onClicked: row.removed()
         }

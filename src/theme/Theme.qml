@@ -67,6 +67,7 @@ QtObject {
     readonly property color currentChapter: Qt.rgba(accent.r, accent.g, accent.b, 0.25)
     readonly property color currentItem: Qt.rgba(accent.r, accent.g, accent.b, 0.18)
     readonly property color panelDivider: Qt.rgba(1, 1, 1, 0.12)
+    readonly property color popoverBacking: Qt.rgba(0.07, 0.075, 0.09, 0.75)
     readonly property real popoverMargin: 10 // to the window's edges
     readonly property real popoverGap: 8 // to the bar
     readonly property real popoverRadius: 14

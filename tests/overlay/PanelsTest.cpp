@@ -261,6 +261,7 @@ TEST_F(PopoverTest, OpensAboveTheBarWithinTheWindow) {
       EXPECT_TRUE(
           waitFor([&] { return popover().bottom() <= frame(only("playerControlBar")).top() - 8; }));
       EXPECT_GE(popover().top(), 10);
+      EXPECT_GE(popover().width(), 320);
       EXPECT_GE(popover().left(), 10);
       EXPECT_LE(popover().right(), size.width() - 10);
       player().chrome().setPanel(std::nullopt);
