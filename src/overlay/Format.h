@@ -3,19 +3,68 @@
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
 
+#include "overlay/ControlBarRow.h"
+#include "overlay/ControlBarValues.h"
+#include "overlay/Placement.h"
+#include "platform/PlatformWording.h"
+#include "playback/Chapter.h"
+#include "playback/SpeedLadder.h"
 #include "player/PlayerFormats.h"
 
 namespace tromelo {
 
-/// The texts of times for the views.
+struct ControlBarRowForQml {
+  Q_GADGET
+  QML_FOREIGN(tromelo::ControlBarRow)
+  QML_VALUE_TYPE(controlBarRow)
+};
+
+/// How the views show what plays.
 class Format : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_SINGLETON
+  Q_PROPERTY(QList<double> speeds READ speeds CONSTANT)
 
  public:
-  Q_INVOKABLE QString clock(double seconds) const { return formatClock(seconds); }
+  using QObject::QObject;
+
+  Q_INVOKABLE static QString clock(double seconds) { return formatClock(seconds); }
+  Q_INVOKABLE static QString remaining(double duration, double shown) {
+    return remainingText(duration, shown);
+  }
   Q_INVOKABLE static QString delay(double seconds) { return formatDelay(seconds); }
+  Q_INVOKABLE static QString speed(double speed) { return formatSpeed(speed); }
+  Q_INVOKABLE static QString wording(const QString& text) { return platformWording(text); }
+  Q_INVOKABLE static QString withoutKey(const QString& tooltip) {
+    return tromelo::withoutKey(tooltip);
+  }
+  Q_INVOKABLE static QString volumeSymbol(double volume, bool isMuted) {
+    return tromelo::volumeSymbol(volume, isMuted);
+  }
+  Q_INVOKABLE static QString rangeTag(const tromelo::DynamicRange& range) {
+    return tromelo::rangeTag(range.kind);
+  }
+  Q_INVOKABLE static QString chapterTitle(const QList<tromelo::Chapter>& chapters, int position) {
+    return tromelo::chapterTitle(chapters, position);
+  }
+  Q_INVOKABLE static QList<double> chapterMarks(const QList<tromelo::Chapter>& chapters,
+                                                double duration, double width) {
+    return tromelo::chapterMarks(chapters, duration, width);
+  }
+  Q_INVOKABLE static QPointF placeAbove(QRectF anchor, QSizeF size, QSizeF room) {
+    return tromelo::placeAbove(anchor, size, room);
+  }
+  Q_INVOKABLE static bool isSameSpeed(double one, double other) {
+    return tromelo::isSameSpeed(one, other);
+  }
+  Q_INVOKABLE static tromelo::ControlBarRow controlBarRow(double room, bool hasQueue,
+                                                          bool hasChapters, double speedWidth) {
+    return tromelo::controlBarRow(room, {hasQueue, hasChapters, speedWidth});
+  }
+
+ private:
+  static QList<double> speeds() { return {speedLadder().begin(), speedLadder().end()}; }
 };
 
 }  // namespace tromelo

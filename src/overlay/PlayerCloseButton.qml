@@ -2,44 +2,65 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import Tromelo.Glass
 import Tromelo.Theme
 
 // Ends the player and goes back to the library.
 T.Button {
     id: button
 
+    property Item backdrop: null
+
     objectName: "playerCloseButton"
     text: qsTr("Close")
     font: Theme.overlayTitle
     implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
     implicitHeight: Math.ceil(implicitContentHeight) + topPadding + bottomPadding
-    leftPadding: 12
-    rightPadding: 12
-    topPadding: 8
-    bottomPadding: 8
+    leftPadding: Theme.closePadding
+    rightPadding: Theme.closePadding
+    topPadding: Theme.closeRise
+    bottomPadding: Theme.closeRise
     focusPolicy: Qt.NoFocus
     hoverEnabled: true
-    Accessible.name: qsTr("Close player")
+    Accessible.name: Format.withoutKey(tip.tip)
 
     contentItem: Row {
-        spacing: 7
+        spacing: Theme.closeSpacing
 
-        CrossGlyph {
-            anchors.verticalCenter: parent.verticalCenter
+        Symbol {
+            height: label.height
+            name: "xmark"
+            size: Theme.closeSymbolSize
             color: Theme.overlayText
         }
 
         Text {
+            id: label
+
             text: button.text
             font: button.font
             color: Theme.overlayText
         }
     }
 
-    background: Rectangle {
-        radius: height / 2
-        color: button.down ? Theme.overlayPressed : button.hovered ? Theme.overlayHovered : Theme.overlaySurface
-        border.width: 1
-        border.color: Theme.overlayEdge
+    background: GlassSurface {
+        backdrop: button.backdrop
+        interactive: true
+        hovered: button.hovered
+        pressed: button.down
+
+        Rectangle {
+            anchors.fill: parent
+            radius: height / 2
+            color: button.down ? Theme.controlPressed : button.hovered ? Theme.controlHovered : "transparent"
+        }
+    }
+
+    PlayerToolTip {
+        id: tip
+
+        control: button
+        tip: qsTr("Close player (Esc)")
+        below: true
     }
 }

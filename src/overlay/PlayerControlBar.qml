@@ -4,48 +4,69 @@ import QtQuick
 import Tromelo.Player
 import Tromelo.Theme
 
-// Where playback is and the way to stop and go on.
+// The transport: buttons above, the position below. Nothing in it takes the keyboard.
 OverlaySurface {
     id: bar
 
     required property PlaybackModel playback
+    required property PlayerChrome chrome
+
+    readonly property Item chaptersButton: options.chaptersButton
+    readonly property Item tracksButton: options.tracksButton
+    readonly property Item queueButton: options.queueButton
+
+    signal fullscreenToggled
 
     objectName: "playerControlBar"
     implicitWidth: Theme.controlBarWidth
-    implicitHeight: 86
-    radius: 24
+    implicitHeight: content.y + content.implicitHeight + Theme.barBottom
+    radius: Theme.barRadius
+    Accessible.role: Accessible.ToolBar
+    Accessible.name: qsTr("Playback controls")
 
-    PlayPauseButton {
-        id: play
+    Column {
+        id: content
 
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: 12
-        isPaused: bar.playback.isPaused
-        onClicked: bar.playback.togglePlayback()
-    }
+        x: Theme.barSide
+        y: Theme.barTop
+        width: bar.width - 2 * Theme.barSide
+        spacing: Theme.barSpacing
 
-    Text {
-        anchors.left: parent.left
-        anchors.right: elapsed.left
-        anchors.leftMargin: 18
-        anchors.rightMargin: 12
-        anchors.verticalCenter: elapsed.verticalCenter
-        text: bar.playback.title
-        textFormat: Text.PlainText
-        font: Theme.overlayTitle
-        color: Theme.overlayText
-        elide: Text.ElideMiddle
-    }
+        Item {
+            width: content.width
+            height: Theme.playButtonHeight
 
-    Text {
-        id: elapsed
+            VolumeControls {
+                anchors.verticalCenter: parent.verticalCenter
+                playback: bar.playback
+                sliderWidth: options.row.volumeWidth
+            }
 
-        anchors.right: parent.right
-        anchors.rightMargin: 18
-        anchors.top: play.bottom
-        anchors.topMargin: 10
-        text: Format.clock(bar.playback.elapsed)
-        font: Theme.overlayClock
-        color: Theme.overlayFaintText
+            TransportButtons {
+                x: options.row.transportX
+                spacing: options.row.transportSpacing
+                anchors.verticalCenter: parent.verticalCenter
+                playback: bar.playback
+            }
+
+            OptionButtons {
+                id: options
+
+                readonly property controlBarRow row: Format.controlBarRow(content.width, bar.playback.queue.length > 1, bar.playback.chapters.length > 0, speedWidth)
+
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: row.optionsSpacing
+                playback: bar.playback
+                chrome: bar.chrome
+                room: bar.parent
+                onFullscreenToggled: bar.fullscreenToggled()
+            }
+        }
+
+        TimeRow {
+            width: content.width
+            playback: bar.playback
+        }
     }
 }

@@ -1,11 +1,10 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Layouts
 import Tromelo.Player
 import Tromelo.Theme
 
-// What is played and how, while the person wants to know.
+// What is played and how, while the person wants to know. Lower than its content, it scrolls.
 OverlaySurface {
     id: panel
 
@@ -14,65 +13,69 @@ OverlaySurface {
 
     objectName: "playerInfoPanel"
     visible: chrome.showsInfo
-    implicitWidth: 330
-    implicitHeight: rows.implicitHeight + 28
-    radius: 18
+    implicitWidth: Theme.infoWidth
+    implicitHeight: rows.implicitHeight + 2 * Theme.infoPadding
+    radius: Theme.infoRadius
 
-    component Row: RowLayout {
-        id: row
-
-        required property string label
-        required property string value
-
-        spacing: 10
-
-        Text {
-            Layout.preferredWidth: 66
-            text: row.label
-            font: Theme.overlayClock
-            color: Theme.overlayFaintText
-        }
-
-        Text {
-            Layout.fillWidth: true
-            text: row.value
-            textFormat: Text.PlainText
-            font: Theme.overlayClock
-            color: Theme.overlayText
-            elide: Text.ElideRight
-        }
-    }
-
-    ColumnLayout {
-        id: rows
-
+    Flickable {
         anchors.fill: parent
-        anchors.margins: 14
-        spacing: 8
+        anchors.margins: Theme.infoPadding
+        contentHeight: rows.implicitHeight
+        interactive: contentHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+        clip: interactive
 
-        Row {
-            label: qsTr("Signal")
-            value: panel.playback.dynamicRange.label
-        }
-        Row {
-            label: qsTr("Output")
-            value: panel.playback.output
-        }
-        Row {
-            label: qsTr("Display")
-            value: panel.playback.display
-        }
-        Row {
-            label: qsTr("Video")
-            value: panel.playback.videoSize
-        }
-        Row {
-            label: qsTr("Codec")
-            value: panel.playback.codec
-        }
-        Row {
-            label: qsTr("Decoder")
-            value: panel.playback.decoder
+        Column {
+            id: rows
+
+            width: parent.width
+            spacing: Theme.infoSpacing
+
+            InfoRow {
+                objectName: "infoSignal"
+                label: qsTr("Signal")
+                value: panel.playback.dynamicRange.label
+            }
+            InfoRow {
+                objectName: "infoOutput"
+                label: qsTr("Output")
+                value: panel.playback.output
+            }
+            InfoRow {
+                objectName: "infoDisplay"
+                label: qsTr("Display")
+                value: panel.playback.display
+            }
+            Rectangle {
+                width: parent.width
+                height: Theme.hairline
+                color: Theme.infoDivider
+            }
+            InfoRow {
+                objectName: "infoVideo"
+                label: qsTr("Video")
+                value: panel.playback.videoSize + " · " + panel.playback.frameRate
+            }
+            InfoRow {
+                objectName: "infoCodec"
+                label: qsTr("Codec")
+                value: panel.playback.codec
+            }
+            InfoRow {
+                objectName: "infoDecoder"
+                label: qsTr("Decoder")
+                value: Format.wording(panel.playback.decoder)
+            }
+            InfoRow {
+                objectName: "infoContainer"
+                label: qsTr("Container")
+                value: panel.playback.container
+            }
+            InfoRow {
+                objectName: "infoDropped"
+                label: qsTr("Dropped")
+                value: panel.playback.decoderFrameDrops + " decode · " + panel.playback.outputFrameDrops + " output"
+            }
         }
     }
 }

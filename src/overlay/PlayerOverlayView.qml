@@ -31,6 +31,7 @@ Item {
 
         PlayerCloseButton {
             id: closeButton
+            backdrop: overlay.backdrop
             x: Theme.overlayMargin
             y: Theme.overlayMargin
             onClicked: overlay.player.close()
@@ -51,6 +52,7 @@ Item {
             anchors.right: badge.right
             anchors.top: badge.bottom
             anchors.topMargin: Theme.infoGap
+            height: Math.min(implicitHeight, controlBar.y - Theme.infoGap - y)
             playback: overlay.playback
             chrome: overlay.chrome
         }
@@ -63,6 +65,8 @@ Item {
             anchors.bottomMargin: Theme.controlBarMargin
             width: Math.min(implicitWidth, overlay.insetWidth)
             playback: overlay.playback
+            chrome: overlay.chrome
+            onFullscreenToggled: overlay.player.toggleFullscreen()
         }
     }
 
@@ -71,10 +75,14 @@ Item {
         playback: overlay.playback
         chrome: overlay.chrome
         bar: controlBar
+        tracksButton: controlBar.tracksButton
+        chaptersButton: controlBar.chaptersButton
+        queueButton: controlBar.queueButton
         backdrop: overlay.backdrop
     }
 
     PlayerToast {
+        backdrop: overlay.backdrop
         anchors.horizontalCenter: parent.horizontalCenter
         y: Theme.controlBarMargin
         width: Math.min(implicitWidth, overlay.insetWidth)

@@ -4,38 +4,59 @@ import QtQuick
 import Tromelo.Player
 import Tromelo.Theme
 
-// What kind of signal plays, and what it is called.
+// What is played: its kind of signal where that is special, its title and chapter.
 OverlaySurface {
     id: badge
 
     required property PlaybackModel playback
+    // The lines' own widths follow from the badge's.
+    readonly property real titleWidth: Math.ceil(Math.max(title.implicitWidth, chapter.visible ? chapter.implicitWidth : 0))
+    readonly property real tagRoom: tag.visible ? tag.width + Theme.badgeSpacing : 0
 
     objectName: "playerSignalBadge"
-    implicitWidth: Math.ceil(24 + range.implicitWidth + content.spacing + Math.min(title.implicitWidth, 360))
-    implicitHeight: Math.ceil(content.implicitHeight) + 14
-    radius: height / 2
+    implicitWidth: Theme.badgeLeading + tagRoom + Math.min(titleWidth, Theme.badgeTitleWidth) + Theme.badgeTrailing
+    implicitHeight: Math.ceil(titles.implicitHeight) + 2 * Theme.badgeRise
 
-    Row {
-        id: content
+    RangeTag {
+        id: tag
 
-        anchors.centerIn: parent
-        spacing: 9
+        x: Theme.badgeLeading
+        anchors.verticalCenter: parent.verticalCenter
+        range: badge.playback.dynamicRange
+    }
 
-        Text {
-            id: range
-            text: badge.playback.dynamicRange.label
+    component Line: Text {
+        width: titles.width
+        horizontalAlignment: Text.AlignRight
+        textFormat: Text.PlainText
+        elide: Text.ElideMiddle
+    }
+
+    Column {
+        id: titles
+
+        anchors.verticalCenter: parent.verticalCenter
+        x: Theme.badgeLeading + badge.tagRoom
+        width: badge.width - x - Theme.badgeTrailing
+        spacing: 1
+
+        Line {
+            id: title
+
+            objectName: "badgeTitle"
+            text: badge.playback.title
             font: Theme.overlayTitle
-            color: Theme.overlayFaintText
+            color: Theme.badgeTitle
         }
 
-        Text {
-            id: title
-            width: badge.width - 24 - range.implicitWidth - content.spacing
-            text: badge.playback.title
-            textFormat: Text.PlainText
-            font: Theme.overlayTitle
-            color: Theme.overlayText
-            elide: Text.ElideMiddle
+        Line {
+            id: chapter
+
+            objectName: "badgeChapter"
+            visible: text !== ""
+            text: Format.chapterTitle(badge.playback.chapters, badge.playback.currentChapter)
+            font: Theme.overlayChapter
+            color: Theme.badgeChapter
         }
     }
 }

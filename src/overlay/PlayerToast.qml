@@ -1,29 +1,26 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Tromelo.Glass
 import Tromelo.Player
 import Tromelo.Theme
 
 // A short message that stands in nobody's way: the pointer goes through it.
-Rectangle {
+GlassSurface {
     id: toast
 
     required property PlayerChrome chrome
 
     objectName: "playerToast"
     visible: chrome.toast !== ""
-    implicitWidth: Math.ceil(text.implicitWidth) + 32
-    implicitHeight: Math.ceil(text.implicitHeight) + 18
-    radius: height / 2
-    color: Theme.overlaySurface
-    border.width: 1
-    border.color: Theme.overlayEdge
+    implicitWidth: Math.ceil(text.implicitWidth) + 2 * Theme.toastPadding
+    implicitHeight: Math.ceil(text.implicitHeight) + 2 * Theme.toastRise
 
     Text {
         id: text
 
         anchors.centerIn: parent
-        width: Math.min(implicitWidth, toast.width - 32)
+        width: Math.min(Math.ceil(implicitWidth), toast.width - 2 * Theme.toastPadding)
         text: toast.chrome.toast
         textFormat: Text.PlainText
         font: Theme.overlayToast

@@ -90,8 +90,14 @@ class PlaybackModel : public PlaybackState {
   Q_INVOKABLE void scrubTo(double seconds);
   Q_INVOKABLE void endScrubbing();
 
+  /// In the queue.
+  Q_INVOKABLE void playPrevious();
+  Q_INVOKABLE void playNext();
+
+  Q_INVOKABLE void toggleMute();
   /// 0 to 100, clamped; anything above 0 is heard.
   Q_INVOKABLE void setVolume(double volume);
+  Q_INVOKABLE void setSpeed(double speed);
   /// Moves along the speed ladder and returns the new speed.
   Q_INVOKABLE double stepSpeed(int steps);
   Q_INVOKABLE void toggleLoop();

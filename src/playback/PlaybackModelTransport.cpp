@@ -53,6 +53,15 @@ void PlaybackModel::endScrubbing() {
   isScrubbing_ = false;
 }
 
+void PlaybackModel::playPrevious() { engine_.command({"playlist-prev"}); }
+
+void PlaybackModel::playNext() { engine_.command({"playlist-next"}); }
+
+void PlaybackModel::toggleMute() {
+  isMuted_ = !isMuted_;
+  engine_.setProperty("mute", flagText(isMuted_));
+}
+
 void PlaybackModel::setVolume(double volume) {
   volume_ = std::clamp(volume, 0.0, 100.0);
   engine_.setProperty("volume", numberText(volume_));
@@ -61,9 +70,13 @@ void PlaybackModel::setVolume(double volume) {
   engine_.setProperty("mute", flagText(false));
 }
 
+void PlaybackModel::setSpeed(double speed) {
+  speed_ = speed;
+  engine_.setProperty("speed", numberText(speed));
+}
+
 double PlaybackModel::stepSpeed(int steps) {
-  speed_ = steppedSpeed(speed_, steps);
-  engine_.setProperty("speed", numberText(speed_));
+  setSpeed(steppedSpeed(speed_, steps));
   return speed_;
 }
 

@@ -41,7 +41,7 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   /// The player's window in front of others, if it is shown.
   void bringToFront();
   /// Asks the engine, whose window it is.
-  void toggleFullscreen();
+  Q_INVOKABLE void toggleFullscreen();
   void handleDroppedFiles(const QList<QUrl>& urls);
   /// By percent points, up or down, with a toast.
   void adjustVolume(double percent);

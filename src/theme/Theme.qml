@@ -11,13 +11,34 @@ QtObject {
     readonly property color surfacePressed: Qt.rgba(1, 1, 1, 0.05)
     readonly property color surfaceEdge: Qt.rgba(1, 1, 1, 0.12)
 
-    // Over the video: to be told from white pictures and from black ones.
-    readonly property color overlaySurface: Qt.rgba(0.07, 0.08, 0.1, 0.76)
-    readonly property color overlayHovered: Qt.rgba(0.2, 0.21, 0.24, 0.82)
-    readonly property color overlayPressed: Qt.rgba(0.04, 0.045, 0.06, 0.82)
+    // Over the video.
     readonly property color overlayEdge: Qt.rgba(1, 1, 1, 0.16)
     readonly property color overlayText: Qt.rgba(1, 1, 1, 0.92)
-    readonly property color overlayFaintText: Qt.rgba(1, 1, 1, 0.62)
+    readonly property color symbol: Qt.rgba(1, 1, 1, 0.85)
+    readonly property color symbolActive: "white"
+    readonly property color timeText: Qt.rgba(1, 1, 1, 0.75)
+    readonly property real overlayDisabled: 0.35 // opacity
+    readonly property color controlActive: Qt.rgba(1, 1, 1, 0.16)
+    readonly property color controlHovered: Qt.rgba(1, 1, 1, 0.09)
+    readonly property color controlPressed: Qt.rgba(1, 1, 1, 0.24)
+    readonly property color sliderRest: Qt.rgba(1, 1, 1, 0.24)
+    readonly property color sliderFilled: Qt.rgba(1, 1, 1, 0.92)
+    readonly property color knob: "white"
+    readonly property color knobHeld: Qt.rgba(0.84, 0.84, 0.86, 1)
+    readonly property color knobEdge: Qt.rgba(0, 0, 0, 0.25)
+    readonly property color mark: Qt.rgba(1, 1, 1, 0.75)
+    readonly property color menuSurface: Qt.rgba(0.13, 0.135, 0.15, 0.97)
+    readonly property color toolTipSurface: Qt.rgba(0.1, 0.105, 0.12, 0.95)
+    readonly property color badgeTitle: Qt.rgba(1, 1, 1, 0.9)
+    readonly property color badgeChapter: Qt.rgba(1, 1, 1, 0.6)
+    readonly property color tagText: Qt.rgba(0, 0, 0, 0.85)
+    readonly property color goldLight: Qt.rgba(1, 0.86, 0.55, 1)
+    readonly property color goldDark: Qt.rgba(0.93, 0.7, 0.36, 1)
+    readonly property color silverLight: "white"
+    readonly property color silverDark: Qt.rgba(0.82, 0.82, 0.82, 1)
+    readonly property color infoLabel: Qt.rgba(1, 1, 1, 0.45)
+    readonly property color infoValue: Qt.rgba(1, 1, 1, 0.88)
+    readonly property color infoDivider: Qt.rgba(1, 1, 1, 0.08)
 
     readonly property color primaryText: Qt.rgba(1, 1, 1, 0.92)
     readonly property color secondaryText: Qt.rgba(1, 1, 1, 0.58)
@@ -39,10 +60,17 @@ QtObject {
     readonly property font body: ({ family: fontFamily, pixelSize: 14 })
     readonly property font callout: ({ family: fontFamily, pixelSize: 13, weight: Font.Medium })
 
+    // Over the video. Digits are equally wide, so that nothing jitters while they change.
     readonly property font overlayTitle: ({ family: fontFamily, pixelSize: 12, weight: Font.DemiBold })
+    readonly property font overlayChapter: ({ family: fontFamily, pixelSize: 10, weight: Font.Medium })
+    readonly property font overlayTag: ({ family: fontFamily, pixelSize: 9, weight: Font.ExtraBold, letterSpacing: 1.2 })
     readonly property font overlayClock: ({ family: fontFamily, pixelSize: 11, weight: Font.Medium, features: { "tnum": 1 } })
-    readonly property font overlayToast: ({ family: fontFamily, pixelSize: 13, weight: Font.DemiBold })
+    readonly property font overlaySpeed: ({ family: fontFamily, pixelSize: 11, weight: Font.Bold, features: { "tnum": 1 } })
+    readonly property font overlayLabel: ({ family: fontFamily, pixelSize: 8, weight: Font.Bold, letterSpacing: 1.1 })
+    readonly property font overlayValue: ({ family: fontFamily, pixelSize: 11, weight: Font.DemiBold, features: { "tnum": 1 } })
+    readonly property font overlayToast: ({ family: fontFamily, pixelSize: 13, weight: Font.DemiBold, features: { "tnum": 1 } })
     readonly property font overlayHeader: ({ family: fontFamily, pixelSize: 15, weight: Font.DemiBold })
+    readonly property font toolTip: ({ family: fontFamily, pixelSize: 11 })
 
     // Where the player's floating views are.
     readonly property real overlayMargin: 18 // of those at the top corners
@@ -137,6 +165,67 @@ QtObject {
     readonly property real settingSpacing: 10
     readonly property real fontPickerWidth: 170 // at most
     readonly property real sizeTextWidth: 26
+    // The control bar.
+    readonly property real barSide: 18
+    readonly property real barTop: 12
+    readonly property real barBottom: 10
+    readonly property real barSpacing: 10
+    readonly property real barRadius: 24
+    readonly property real groupSpacing: 8
+    readonly property real controlRadius: 7
+    readonly property real iconButton: 28
+    readonly property real symbolSize: 15
+    readonly property real skipSymbolSize: 13
+    readonly property real playButtonWidth: 44
+    readonly property real playButtonHeight: 36
+    readonly property real playSymbolSize: 20
+    readonly property real muteWidth: 18
+    readonly property real muteHeight: 24
+    readonly property real muteSymbolSize: 12
+    readonly property real speedWidth: 30 // at least
+    readonly property real speedHeight: 22
+    readonly property real speedPadding: 4
+    readonly property real timeWidth: 54 // at least
+    readonly property real timeSpacing: 12
+    readonly property real sliderHeight: 18
+    readonly property real sliderTrack: 4
+    readonly property real sliderKnob: 12
+    readonly property real markWidth: 2
+    readonly property real markHeight: 9
+
+    readonly property real menuWidth: 92
+    readonly property real menuRow: 22
+    readonly property real menuPadding: 5
+    readonly property real menuIndent: 26
+    readonly property real menuRadius: 9
+    readonly property real checkmarkSize: 11
+
+    readonly property int toolTipDelay: 700 // milliseconds
+    readonly property real toolTipMargin: 6 // to the window's edges
+    readonly property real toolTipPadding: 5
+    readonly property real toolTipGap: 8
+    readonly property real toolTipRadius: 6
+
+    readonly property real closePadding: 12
+    readonly property real closeRise: 8
+    readonly property real closeSpacing: 5
+    readonly property real closeSymbolSize: 12
+    readonly property real badgeLeading: 8
+    readonly property real badgeTrailing: 12
+    readonly property real badgeRise: 7
+    readonly property real badgeSpacing: 9
+    readonly property real badgeTitleWidth: 360 // at most
+    readonly property real tagPadding: 7
+    readonly property real tagRise: 4
+    readonly property real tagRadius: 5
+    readonly property real infoWidth: 330
+    readonly property real infoRadius: 18
+    readonly property real infoPadding: 14
+    readonly property real infoSpacing: 8
+    readonly property real infoLabelWidth: 66
+    readonly property real infoLabelGap: 10
+    readonly property real toastPadding: 16
+    readonly property real toastRise: 9
 
     readonly property real symbolScale: 1.32 // a symbol fills less of its font's square than a letter
 

@@ -130,6 +130,8 @@ TEST_F(QuickPlayerOverlayTest, GivesALongTitleTheRoomThatThereIs) {
                                       MpvValue(std::string(300, 'm'))));
   EXPECT_GT(frame("playerSignalBadge").width(), shortest);
   EXPECT_LE(frame("playerSignalBadge").width(), 360 + 90);
+  playback_.engine().onEvent(MpvEvent(std::in_place_type<event::Property>, MpvProperty::gamma,
+                                      MpvValue(std::string("hlg"))));
   scene_.setSize({520, 300});
   EXPECT_EQ(frame("playerSignalBadge").left(), frame("playerCloseButton").right() + 16);
 }

@@ -59,14 +59,23 @@ class ViewTest : public PlayerTest {
     report(MpvProperty::chapterList, MpvNode{list});
   }
 
-  QQuickItem* item(const char* name) {
-    return view_->findChild<QQuickItem*>(QString::fromLatin1(name));
+  /// Those of this name that are in the window, in their order.
+  QList<QQuickItem*> items(const QString& name, const QQuickItem* within = nullptr) {
+    QList<QQuickItem*> found;
+    for (QQuickItem* child : (within ? within : host_.contentItem())->childItems()) {
+      if (child->objectName() == name) found << child;
+      found << items(name, child);
+    }
+    return found;
   }
+  QQuickItem* item(const char* name) { return items(QString::fromUtf8(name)).value(0); }
   bool isShown(const char* name) { return item(name) && item(name)->isVisible(); }
   QString text(const char* name, const char* property = "text") {
     return item(name)->property(property).toString();
   }
-  QRectF frame(const QQuickItem* view) { return view->mapRectToScene(view->boundingRect()); }
+  /// Rows place what is in them when a picture is drawn.
+  void layOut() { host_.grabWindow(); }
+  QRectF frame(const QQuickItem* view) { return view->mapRectToScene({QPointF(), view->size()}); }
 
   void mouse(QEvent::Type type, QPointF place, Qt::MouseButtons held) {
     const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
@@ -81,7 +90,10 @@ class ViewTest : public PlayerTest {
     release(place);
     EXPECT_EQ(host_.activeFocusItem(), host_.contentItem()) << "nothing took the keyboard";
   }
-  void click(const char* name) { click(frame(item(name)).center()); }
+  void click(const char* name) {
+    layOut();
+    click(frame(item(name)).center());
+  }
 
   QQmlEngine engine_;
   QQuickWindow host_;

@@ -1,0 +1,76 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Tromelo.Player
+import Tromelo.Theme
+
+// Speed, panels and full screen.
+Row {
+    id: options
+
+    required property PlaybackModel playback
+    required property PlayerChrome chrome
+    // Holds what opens from here.
+    required property Item room
+    readonly property real speedWidth: speed.width
+    // What the panels belong to.
+    readonly property Item chaptersButton: chapters
+    readonly property Item tracksButton: tracks
+    readonly property Item queueButton: queue
+
+    signal fullscreenToggled
+
+    SpeedMenu {
+        id: speed
+
+        anchors.verticalCenter: parent.verticalCenter
+        playback: options.playback
+        room: options.room
+    }
+
+    IconButton {
+        id: chapters
+
+        objectName: "chaptersButton"
+        visible: options.playback.chapters.length > 0
+        symbol: "list.bullet.rectangle"
+        tip: qsTr("Chapters (C)")
+        active: options.chrome.showsChapters
+        onClicked: options.chrome.showsChapters = !options.chrome.showsChapters
+    }
+
+    IconButton {
+        id: tracks
+
+        objectName: "tracksButton"
+        symbol: "captions.bubble"
+        tip: qsTr("Subtitles & audio (U)")
+        active: options.chrome.showsTracks
+        onClicked: options.chrome.showsTracks = !options.chrome.showsTracks
+    }
+
+    IconButton {
+        id: queue
+
+        objectName: "queueButton"
+        symbol: "list.and.film"
+        tip: qsTr("Queue (Q)")
+        active: options.chrome.showsQueue
+        onClicked: options.chrome.showsQueue = !options.chrome.showsQueue
+    }
+
+    IconButton {
+        objectName: "infoButton"
+        symbol: "info.circle"
+        tip: qsTr("Playback info (I)")
+        active: options.chrome.showsInfo
+        onClicked: options.chrome.showsInfo = !options.chrome.showsInfo
+    }
+
+    IconButton {
+        objectName: "fullscreenButton"
+        symbol: options.playback.isFullscreen ? "arrow.down.right.and.arrow.up.left" : "arrow.up.left.and.arrow.down.right"
+        tip: options.playback.isFullscreen ? qsTr("Exit full screen (F)") : qsTr("Full screen (F)")
+        onClicked: options.fullscreenToggled()
+    }
+}

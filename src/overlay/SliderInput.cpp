@@ -1,0 +1,93 @@
+#include "overlay/SliderInput.h"
+
+#include <QQuickWindow>
+#include <algorithm>
+#include <cmath>
+
+#include "overlay/SliderTravel.h"
+
+namespace tromelo {
+
+namespace {
+
+constexpr double kKnobReach = 7;  // from its middle, in points: a press there doesn't move it
+
+}  // namespace
+
+SliderInput::SliderInput(QQuickItem* parent) : QQuickItem(parent) {
+  setAcceptedMouseButtons(Qt::LeftButton);
+  placeKnob();
+}
+
+void SliderInput::setValue(double value) {
+  if (value_ == value) return;
+  value_ = value;
+  placeKnob();
+  Q_EMIT valueChanged();
+}
+
+void SliderInput::setMaximumValue(double value) {
+  if (maximumValue_ == value) return;
+  maximumValue_ = value;
+  placeKnob();
+  Q_EMIT maximumValueChanged();
+}
+
+void SliderInput::setStepSize(double size) {
+  if (stepSize_ == size) return;
+  stepSize_ = size;
+  Q_EMIT stepSizeChanged();
+}
+
+void SliderInput::placeKnob() {
+  const double pixels = window() ? window()->effectiveDevicePixelRatio() : 1;
+  const double place = std::round(sliderPlace(value_ / maximumValue_, width()) * pixels) / pixels;
+  if (knobX_ == place) return;
+  knobX_ = place;
+  Q_EMIT knobXChanged();
+}
+
+void SliderInput::mousePressEvent(QMouseEvent* event) {
+  const double fromKnob = event->position().x() - knobX_;
+  const bool isOnKnob = std::abs(fromKnob) <= kKnobReach;
+  grip_ = isOnKnob ? fromKnob : 0;
+  setDragged(true);
+  if (!isOnKnob) moveTo(event->position().x());
+}
+
+void SliderInput::mouseMoveEvent(QMouseEvent* event) {
+  if (isDragged_) moveTo(event->position().x());
+}
+
+void SliderInput::mouseReleaseEvent(QMouseEvent*) { setDragged(false); }
+
+void SliderInput::mouseUngrabEvent() { setDragged(false); }
+
+void SliderInput::setDragged(bool isDragged) {
+  if (isDragged_ == isDragged) return;
+  isDragged_ = isDragged;
+  Q_EMIT isDraggedChanged();
+  isDragged ? Q_EMIT begun() : Q_EMIT ended();
+}
+
+void SliderInput::moveTo(double place) {
+  Q_EMIT moved(sliderValueAt(place - grip_, width()) * maximumValue_);
+}
+
+void SliderInput::step(double by) {
+  Q_EMIT begun();
+  Q_EMIT moved(std::clamp(value_ + by, minimumValue(), maximumValue_));
+  Q_EMIT ended();
+}
+
+void SliderInput::geometryChange(const QRectF& geometry, const QRectF& oldGeometry) {
+  QQuickItem::geometryChange(geometry, oldGeometry);
+  placeKnob();
+}
+
+void SliderInput::itemChange(ItemChange change, const ItemChangeData& data) {
+  QQuickItem::itemChange(change, data);
+  if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange) placeKnob();
+}
+
+}  // namespace tromelo

@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QQuickItem>
+
+namespace tromelo {
+
+/// A slider without a look: a press on it takes the knob there and drags it. It shows the value
+/// that it is given and asks for others; who uses it gives it those. Takes no keyboard focus.
+class SliderInput : public QQuickItem {
+  Q_OBJECT
+  QML_ELEMENT
+  // By these names assistive technology finds them.
+  Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged)
+  Q_PROPERTY(double minimumValue READ minimumValue CONSTANT)
+  Q_PROPERTY(double maximumValue READ maximumValue WRITE setMaximumValue NOTIFY maximumValueChanged)
+  Q_PROPERTY(double stepSize READ stepSize WRITE setStepSize NOTIFY stepSizeChanged)
+  /// The middle of the knob, in whole pixels of the screen: it stays while it wouldn't be seen to
+  /// move.
+  Q_PROPERTY(double knobX READ knobX NOTIFY knobXChanged)
+  Q_PROPERTY(bool isDragged READ isDragged NOTIFY isDraggedChanged)
+
+ public:
+  explicit SliderInput(QQuickItem* parent = nullptr);
+
+  double value() const { return value_; }
+  void setValue(double value);
+  double minimumValue() const { return 0; }
+  double maximumValue() const { return maximumValue_; }
+  void setMaximumValue(double value);
+  /// Of one step by assistive technology.
+  double stepSize() const { return stepSize_; }
+  void setStepSize(double size);
+  double knobX() const { return knobX_; }
+  bool isDragged() const { return isDragged_; }
+
+  Q_INVOKABLE void increase() { step(stepSize_); }
+  Q_INVOKABLE void decrease() { step(-stepSize_); }
+
+ Q_SIGNALS:
+  void valueChanged();
+  void maximumValueChanged();
+  void stepSizeChanged();
+  void knobXChanged();
+  void isDraggedChanged();
+  /// One begun, any number of moved, one ended.
+  void begun();
+  void moved(double value);
+  void ended();
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseUngrabEvent() override;
+  void geometryChange(const QRectF& geometry, const QRectF& oldGeometry) override;
+  void itemChange(ItemChange change, const ItemChangeData& data) override;
+
+ private:
+  void placeKnob();
+  void setDragged(bool isDragged);
+  void moveTo(double place);
+  void step(double by);
+
+  double value_ = 0;
+  double maximumValue_ = 1;
+  double stepSize_ = 1;
+  double knobX_ = 0;
+  double grip_ = 0;  // where the pointer holds the knob, from its middle
+  bool isDragged_ = false;
+};
+
+}  // namespace tromelo

@@ -1,0 +1,61 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Tromelo.Player
+import Tromelo.Theme
+
+// Where playback is, and how far it goes.
+Item {
+    id: row
+
+    required property PlaybackModel playback
+    readonly property real shownTime: playback.isScrubbing ? playback.scrubPosition : playback.elapsed
+
+    implicitHeight: Theme.sliderHeight
+
+    component Time: Text {
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.max(Math.ceil(implicitWidth), Theme.timeWidth)
+        font: Theme.overlayClock
+        color: Theme.timeText
+    }
+
+    Time {
+        id: elapsed
+
+        objectName: "elapsedTime"
+        text: Format.clock(row.shownTime)
+    }
+
+    ChapterMarks {
+        anchors.fill: slider
+        playback: row.playback
+    }
+
+    PlayerSlider {
+        id: slider
+
+        objectName: "seekSlider"
+        anchors.left: elapsed.right
+        anchors.right: remaining.left
+        anchors.leftMargin: Theme.timeSpacing
+        anchors.rightMargin: Theme.timeSpacing
+        enabled: row.playback.duration > 0
+        name: qsTr("Position")
+        value: row.shownTime
+        maximumValue: Math.max(row.playback.duration, 1)
+        stepSize: 10
+        onBegun: row.playback.beginScrubbing()
+        onMoved: value => row.playback.scrubTo(value)
+        onEnded: row.playback.endScrubbing()
+    }
+
+    Time {
+        id: remaining
+
+        objectName: "remainingTime"
+        anchors.right: parent.right
+        horizontalAlignment: Text.AlignRight
+        text: Format.remaining(row.playback.duration, row.shownTime)
+    }
+}

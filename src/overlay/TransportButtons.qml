@@ -1,0 +1,54 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Tromelo.Player
+import Tromelo.Theme
+
+// To and fro in the file and in the queue.
+Row {
+    id: transport
+
+    required property PlaybackModel playback
+
+    component Step: IconButton {
+        anchors.verticalCenter: parent.verticalCenter
+    }
+
+    Step {
+        objectName: "previousButton"
+        visible: transport.playback.queue.length > 1
+        enabled: transport.playback.hasPrevious
+        symbol: "backward.end.fill"
+        size: Theme.skipSymbolSize
+        tip: qsTr("Previous (P)")
+        onClicked: transport.playback.playPrevious()
+    }
+
+    Step {
+        objectName: "backButton"
+        symbol: "gobackward.10"
+        tip: qsTr("Back 10 seconds (←)")
+        onClicked: transport.playback.seekBy(-10)
+    }
+
+    PlayPauseButton {
+        playback: transport.playback
+    }
+
+    Step {
+        objectName: "forwardButton"
+        symbol: "goforward.10"
+        tip: qsTr("Forward 10 seconds (→)")
+        onClicked: transport.playback.seekBy(10)
+    }
+
+    Step {
+        objectName: "nextButton"
+        visible: transport.playback.queue.length > 1
+        enabled: transport.playback.hasNext
+        symbol: "forward.end.fill"
+        size: Theme.skipSymbolSize
+        tip: qsTr("Next (N)")
+        onClicked: transport.playback.playNext()
+    }
+}

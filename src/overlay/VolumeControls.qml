@@ -1,0 +1,45 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Tromelo.Player
+import Tromelo.Theme
+
+// How loud it is.
+Row {
+    id: controls
+
+    required property PlaybackModel playback
+    // 0 where there is no room for the slider.
+    required property real sliderWidth
+
+    spacing: Theme.groupSpacing
+
+    PlainButton {
+        id: mute
+
+        objectName: "muteButton"
+        implicitWidth: Theme.muteWidth
+        implicitHeight: Theme.muteHeight
+        tip: controls.playback.isMuted ? qsTr("Unmute (M)") : qsTr("Mute (M)")
+        onClicked: controls.playback.toggleMute()
+
+        contentItem: Symbol {
+            objectName: "muteSymbol"
+            name: Format.volumeSymbol(controls.playback.volume, controls.playback.isMuted)
+            size: Theme.muteSymbolSize
+            color: Theme.overlayText
+        }
+    }
+
+    PlayerSlider {
+        objectName: "volumeSlider"
+        anchors.verticalCenter: parent.verticalCenter
+        visible: width > 0
+        width: controls.sliderWidth
+        name: qsTr("Volume")
+        value: controls.playback.volume
+        maximumValue: 100
+        stepSize: 5
+        onMoved: value => controls.playback.setVolume(value)
+    }
+}

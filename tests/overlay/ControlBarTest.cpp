@@ -1,0 +1,235 @@
+#include <QAccessible>
+
+#include "ViewTest.h"
+
+namespace tromelo {
+namespace {
+
+using testing::waitFor;
+
+class ControlBarTest : public testing::ViewTest {
+ protected:
+  ControlBarTest() {
+    show("PlayerControlBar",
+         {{"playback", model()}, {"chrome", chrome()}, {"width", 760}, {"height", 86}, {"y", 342}});
+  }
+};
+
+TEST_F(ControlBarTest, ButtonsTellTheEngine) {
+  struct Row {
+    const char* button;
+    Sent sent;
+  };
+  for (const char* name : {"backButton", "playerPlayPause", "forwardButton"}) {
+    click(name);
+    EXPECT_EQ(takeSent(), Sent()) << name << ": nothing is loaded";
+  }
+  load(100);
+  reportPlaylist(3, 1);
+  report(MpvProperty::pause, MpvValue(false));
+  for (const Row& row :
+       {Row{"muteButton", {"set mute yes"}}, Row{"muteButton", {"set mute no"}},
+        Row{"previousButton", {"playlist-prev"}}, Row{"backButton", {"seek -10.0 relative"}},
+        Row{"playerPlayPause", {"set pause yes"}}, Row{"forwardButton", {"seek 10.0 relative"}},
+        Row{"nextButton", {"playlist-next"}}}) {
+    click(row.button);
+    EXPECT_EQ(takeSent(), row.sent) << row.button;
+  }
+}
+
+TEST_F(ControlBarTest, ShowsWhatThereIs) {
+  EXPECT_FALSE(isShown("previousButton") || isShown("nextButton") || isShown("chaptersButton"));
+  EXPECT_FALSE(item("seekSlider")->isEnabled());
+  reportPlaylist(1, 0);
+  EXPECT_FALSE(isShown("previousButton") || isShown("nextButton"));
+  load(100);
+  reportPlaylist(2, 0);
+  EXPECT_TRUE(isShown("previousButton") && isShown("nextButton"));
+  EXPECT_FALSE(item("previousButton")->isEnabled());
+  EXPECT_TRUE(item("nextButton")->isEnabled());
+  EXPECT_TRUE(item("seekSlider")->isEnabled());
+
+  reportChapters({0, 50});
+  report(MpvProperty::timePos, MpvValue(50.0));
+  EXPECT_TRUE(isShown("chaptersButton"));
+  layOut();
+  const QList<QQuickItem*> marks = items(QStringLiteral("chapterMark"));
+  ASSERT_EQ(marks.size(), 1);
+  const double middle = frame(item("seekSlider")).center().x();
+  EXPECT_EQ(frame(marks.first()).center().x(), middle);
+  EXPECT_LE(std::abs(item("seekSlider")->property("knobX").toDouble() +
+                     frame(item("seekSlider")).x() - middle),
+            0.5);
+  EXPECT_EQ(text("elapsedTime"), "0:50");
+  EXPECT_EQ(text("remainingTime"), "-0:50");
+
+  EXPECT_EQ(text("playPauseSymbol", "name"), "play.fill");
+  EXPECT_EQ(text("playerPlayPause", "tip"), "Play (Space)");
+  report(MpvProperty::pause, MpvValue(false));
+  EXPECT_EQ(text("playPauseSymbol", "name"), "pause.fill");
+  EXPECT_EQ(text("playerPlayPause", "tip"), "Pause (Space)");
+  report(MpvProperty::volume, MpvValue(50.0));
+  EXPECT_EQ(text("muteSymbol", "name"), "speaker.wave.2.fill");
+  report(MpvProperty::mute, MpvValue(true));
+  EXPECT_EQ(text("muteSymbol", "name"), "speaker.slash.fill");
+  EXPECT_EQ(text("muteButton", "tip"), "Unmute (M)");
+  report(MpvProperty::fullscreen, MpvValue(true));
+  EXPECT_EQ(text("fullscreenButton", "tip"), "Exit full screen (F)");
+}
+
+TEST_F(ControlBarTest, PanelButtonsTurnTheirPanelsOnAndOff) {
+  load(100);
+  reportChapters({0, 50});
+  PlayerChrome& chrome = player().chrome();
+  struct Row {
+    const char* button;
+    PlayerPanel panel;
+  };
+  for (const Row& row :
+       {Row{"chaptersButton", PlayerPanel::chapters}, Row{"tracksButton", PlayerPanel::tracks},
+        Row{"queueButton", PlayerPanel::queue}}) {
+    click(row.button);
+    EXPECT_EQ(chrome.panel(), row.panel) << row.button;
+    EXPECT_TRUE(item(row.button)->property("active").toBool()) << row.button;
+  }
+  EXPECT_FALSE(item("tracksButton")->property("active").toBool());
+  click("queueButton");
+  EXPECT_EQ(chrome.panel(), std::nullopt);
+  for (const bool shows : {true, false}) {
+    click("infoButton");
+    EXPECT_EQ(chrome.showsInfo(), shows);
+    EXPECT_EQ(item("infoButton")->property("active").toBool(), shows);
+  }
+}
+
+TEST_F(ControlBarTest, DragsTheVolume) {
+  const QRectF slider = frame(item("volumeSlider"));
+  const QPointF start(slider.x() + 8, slider.center().y());
+  click(start + QPointF(38, 0));
+  EXPECT_EQ(takeSent(), Sent{"set volume 50.0"});
+  press(start + QPointF(41, 0));  // on the knob
+  EXPECT_EQ(takeSent(), Sent());
+  drag(start + QPointF(41 + 19, 30));
+  EXPECT_EQ(takeSent(), Sent{"set volume 75.0"});
+  drag(start + QPointF(500, 0));
+  EXPECT_EQ(takeSent(), Sent{"set volume 100.0"});
+  release(start);
+}
+
+TEST_F(ControlBarTest, DragsThePosition) {
+  load(100);
+  clock_.advance(std::chrono::seconds(1));
+  QQuickItem* const slider = item("seekSlider");
+  const QRectF place = frame(slider);
+  const auto at = [&](double part) {
+    return QPointF(place.x() + 8 + (place.width() - 16) * part, place.center().y());
+  };
+  press(at(0.25));
+  EXPECT_TRUE(playback_.isScrubbing());
+  EXPECT_EQ(takeSent(), Sent{"seek 25.0 absolute+keyframes"});
+  EXPECT_EQ(text("elapsedTime"), "0:25");
+  drag(at(0.5));
+  EXPECT_EQ(text("elapsedTime"), "0:50");
+  EXPECT_EQ(text("remainingTime"), "-0:50");
+  EXPECT_EQ(takeSent(), Sent()) << "too soon";
+  release(at(0.5));
+  EXPECT_FALSE(playback_.isScrubbing());
+  EXPECT_EQ(takeSent(), Sent{"seek 50.0 absolute+exact"});
+
+  press(at(0.75));
+  view_->setVisible(false);
+  EXPECT_FALSE(playback_.isScrubbing()) << "hidden under the hand";
+}
+
+TEST_F(ControlBarTest, ChoosesASpeed) {
+  report(MpvProperty::speed, MpvValue(1.0004));
+  EXPECT_EQ(text("speedMenu"), QStringLiteral("1×"));
+  EXPECT_FALSE(item("speedMenu")->property("active").toBool());
+  EXPECT_FALSE(item("speedList"));
+  click("speedMenu");
+  ASSERT_TRUE(isShown("speedList"));
+  QStringList checked;
+  for (const QQuickItem* mark : items(QStringLiteral("speedCheckmark")))
+    if (mark->isVisible()) checked << mark->parentItem()->parentItem()->objectName();
+  EXPECT_EQ(checked, QStringList{QStringLiteral("speed1×")});
+  for (const char* name : {"speed0.25×", "speed0.5×", "speed0.75×", "speed1.25×", "speed1.5×",
+                           "speed1.75×", "speed2×", "speed3×"})
+    EXPECT_TRUE(item(name)) << name;
+  click("speed1.25×");
+  EXPECT_EQ(takeSent(), Sent{"set speed 1.25"});
+  EXPECT_TRUE(item("speedMenu")->property("active").toBool());
+  EXPECT_TRUE(waitFor([this] { return !item("speedList"); }));
+
+  click("speedMenu");
+  click("muteButton");
+  EXPECT_EQ(takeSent(), Sent()) << "the press only dismissed the list";
+  EXPECT_TRUE(waitFor([this] { return !item("speedList"); }));
+  click("speedMenu");
+  layer_.setVisible(false);
+  EXPECT_TRUE(waitFor([this] { return !item("speedList"); }));
+}
+
+TEST_F(ControlBarTest, EverythingFitsAtTheLeastWidth) {
+  load(100 * 3600);
+  reportPlaylist(3, 1);
+  reportChapters({0, 50});
+  report(MpvProperty::speed, MpvValue(1.25));
+  for (const double width : {480.0, 560.0, 620.0, 700.0, 760.0}) {
+    view_->setWidth(width);
+    layOut();
+    double end = 0;
+    for (const char* name :
+         {"muteButton", "volumeSlider", "previousButton", "backButton", "playerPlayPause",
+          "forwardButton", "nextButton", "speedMenu", "chaptersButton", "tracksButton",
+          "queueButton", "infoButton", "fullscreenButton"}) {
+      const QRectF place = frame(item(name));
+      EXPECT_TRUE(isShown(name) && place.width() > 0) << name << " at " << width;
+      EXPECT_GE(place.left(), end) << name << " at " << width;
+      end = place.right();
+    }
+    EXPECT_LE(end, frame(view_.get()).right() - 18) << width;
+    EXPECT_EQ(frame(item("remainingTime")).left(), frame(item("seekSlider")).right() + 12);
+    EXPECT_GE(item("remainingTime")->width(), item("remainingTime")->implicitWidth());
+  }
+}
+
+TEST_F(ControlBarTest, IsKnownToAssistiveTechnology) {
+  load(100);
+  struct Row {
+    const char* item;
+    QAccessible::Role role;
+    const char* name;
+  };
+  for (const Row& row : {Row{"muteButton", QAccessible::Button, "Mute"},
+                         Row{"backButton", QAccessible::Button, "Back 10 seconds"},
+                         Row{"playerPlayPause", QAccessible::Button, "Play"},
+                         Row{"tracksButton", QAccessible::Button, "Subtitles & audio"},
+                         Row{"speedMenu", QAccessible::ButtonMenu, "Playback speed"},
+                         Row{"volumeSlider", QAccessible::Slider, "Volume"},
+                         Row{"seekSlider", QAccessible::Slider, "Position"}}) {
+    QAccessibleInterface* const view = QAccessible::queryAccessibleInterface(item(row.item));
+    ASSERT_TRUE(view) << row.item;
+    EXPECT_EQ(view->role(), row.role) << row.item;
+    EXPECT_EQ(view->text(QAccessible::Name), row.name) << row.item;
+  }
+  QAccessibleInterface* const seek = QAccessible::queryAccessibleInterface(item("seekSlider"));
+  ASSERT_TRUE(seek->valueInterface());
+  EXPECT_EQ(seek->valueInterface()->maximumValue(), 100);
+  takeSent();
+  seek->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
+  EXPECT_EQ(seek->valueInterface()->currentValue(), 10);
+  EXPECT_EQ(takeSent().back(), "seek 10.0 absolute+exact");
+}
+
+TEST_F(ControlBarTest, TellsWhatAButtonIsForOnceThePointerRestsOnIt) {
+  mouse(QEvent::MouseMove, frame(item("queueButton")).center(), Qt::NoButton);
+  const auto tip = [this] { return item("queueButton")->findChild<QObject*>("toolTip"); };
+  EXPECT_FALSE(tip());
+  ASSERT_TRUE(waitFor([&] { return tip() != nullptr; }));
+  EXPECT_EQ(tip()->property("text"), "Queue (Q)");
+  click("queueButton");
+  EXPECT_TRUE(waitFor([&] { return !tip(); }));
+}
+
+}  // namespace
+}  // namespace tromelo
