@@ -54,6 +54,9 @@ QtObject {
 
     readonly property color warning: "#ff9f0a"
     readonly property color accent: "#4aa8ff"
+    readonly property color accentHovered: "#62b4ff"
+    readonly property color accentPressed: "#3a93e6"
+    readonly property color onAccent: Qt.rgba(0.02, 0.05, 0.1, 0.95) // text that lies on it
 
     readonly property string fontFamily: "Inter"
     readonly property font title: ({ family: fontFamily, pixelSize: 34, weight: Font.DemiBold })
@@ -228,6 +231,10 @@ QtObject {
     readonly property real toastRise: 9
 
     readonly property real symbolScale: 1.32 // a symbol fills less of its font's square than a letter
+
+    readonly property real buttonPadding: 20 // of a button with a text, beside it
+    readonly property real buttonRise: 9 // above and below
+    readonly property real disabledOpacity: 0.4
 
     readonly property real spacing: 16
     readonly property real margin: 24
