@@ -142,6 +142,7 @@ TEST_F(ChromeTest, AClosingWindowKeepsItsControlsAndTheNextOneBeginsWithThem) {
   showVideo(third);
   EXPECT_TRUE(player().chromeVisible());
   EXPECT_TRUE(third.overlay->chromeVisible);
+  takeDown(third);
 }
 
 TEST_F(ChromeTest, LooksAtTheScreenEverySecondWhileTheInfoIsShown) {
