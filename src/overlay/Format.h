@@ -5,7 +5,7 @@
 
 #include "overlay/ControlBarRow.h"
 #include "overlay/ControlBarValues.h"
-#include "overlay/Placement.h"
+#include "overlay/PopoverFrame.h"
 #include "platform/PlatformWording.h"
 #include "playback/Chapter.h"
 #include "playback/SpeedLadder.h"

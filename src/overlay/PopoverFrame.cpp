@@ -5,12 +5,23 @@
 
 namespace tromelo {
 
+namespace {
+
+constexpr double kGap = 8;
+
+}  // namespace
+
 QRectF popoverFrame(double buttonMiddle, QSizeF wanted, const QRectF& room) {
   const QSizeF size = wanted.boundedTo(room.size()).expandedTo({0, 0});
   const double last = std::max(room.left(), room.right() - size.width());
   const double left = std::clamp(buttonMiddle - size.width() / 2, room.left(), last);
   return {std::round(left), std::round(room.bottom() - size.height()), std::floor(size.width()),
           std::floor(size.height())};
+}
+
+QPointF placeAbove(const QRectF& anchor, QSizeF size, QSizeF room) {
+  const QRectF above(kGap, kGap, room.width() - 2 * kGap, anchor.top() - 2 * kGap);
+  return popoverFrame(anchor.center().x(), size, above).topLeft();
 }
 
 }  // namespace tromelo

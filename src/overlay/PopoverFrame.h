@@ -9,4 +9,8 @@ namespace tromelo {
 /// one space.
 QRectF popoverFrame(double buttonMiddle, QSizeF wanted, const QRectF& room);
 
+/// The top left corner of something that opens above `anchor` in its own size, a little away from
+/// it and from the edges of `room`.
+QPointF placeAbove(const QRectF& anchor, QSizeF size, QSizeF room);
+
 }  // namespace tromelo

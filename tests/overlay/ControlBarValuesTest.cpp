@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "overlay/ControlBarRow.h"
-#include "overlay/Placement.h"
+#include "overlay/PopoverFrame.h"
 #include "overlay/SliderTravel.h"
 #include "playback/Chapter.h"
 #include "playback/SpeedLadder.h"
