@@ -38,6 +38,7 @@ pkg_get_variable(WAYLAND_PROTOCOLS_DIR wayland-protocols pkgdatadir)
 
 if(BUILD_TESTING)
   find_package(GTest REQUIRED)
+  find_package(Qt6 REQUIRED COMPONENTS Test)
 endif()
 
 find_program(CCACHE ccache)

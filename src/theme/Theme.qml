@@ -203,6 +203,14 @@ QtObject {
     readonly property real menuRadius: 9
     readonly property real checkmarkSize: 11
 
+    // Menus of commands.
+    readonly property real commandBarHeight: 28
+    readonly property real commandMenuWidth: 160 // at least
+    readonly property real commandRow: 24
+    readonly property real commandPadding: 4
+    readonly property real commandSide: 9
+    readonly property real commandGap: 28 // before the keys
+
     readonly property int toolTipDelay: 700 // milliseconds
     readonly property real toolTipMargin: 6 // to the window's edges
     readonly property real toolTipPadding: 5

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QPointer>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+namespace tromelo {
+
+/// Watches the keys by which people reach a menu bar, and gives the keyboard back to the item that
+/// had it before. Main thread only.
+class MenuKeys : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  Q_PROPERTY(QQuickItem* bar MEMBER bar_ WRITE setBar REQUIRED)
+  Q_PROPERTY(bool showsLetters READ showsLetters NOTIFY showsLettersChanged)
+
+ public:
+  using QObject::QObject;
+
+  /// In its window, whichever that is.
+  void setBar(QQuickItem* bar);
+
+  /// A person is about to use them: since Alt or F10 went down, until the hand does something.
+  bool showsLetters() const { return showsLetters_; }
+
+ Q_SIGNALS:
+  /// F10, or Alt pressed and let go with nothing in between.
+  void called();
+  void showsLettersChanged();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void setWindow(QQuickWindow* window);
+  void followFocus();
+  bool takeKey(int key, Qt::KeyboardModifiers modifiers);
+  void showLetters(bool shows);
+
+  QPointer<QQuickItem> bar_;
+  QPointer<QQuickWindow> window_;
+  QPointer<QQuickItem> before_;  // had the keyboard, outside of menus
+  bool altIsAlone_ = false;
+  bool showsLetters_ = false;
+};
+
+}  // namespace tromelo

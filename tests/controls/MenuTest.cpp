@@ -1,0 +1,143 @@
+#include <gtest/gtest.h>
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+
+#include "controls/Mnemonic.h"
+#include "support/WaitFor.h"
+
+namespace tromelo {
+namespace {
+
+using testing::waitFor;
+
+// What was run is the window's title.
+constexpr const char* kWindow = R"(
+import QtQuick
+import Tromelo.Controls
+
+Window {
+    id: window
+    width: 400; height: 300; visible: true; title: "-"
+    CommandMenuBar {
+        width: parent.width
+        CommandMenu {
+            objectName: "file"; text: "&File"
+            CommandItem { objectName: "open"; text: "&Open"; keys: "Ctrl+O"; onTriggered: window.title += "open " }
+            CommandDivider {}
+            CommandItem { enabled: false; text: "&Never"; onTriggered: window.title += "never " }
+            CommandItem { text: "&Quit"; onTriggered: window.title += "quit " }
+        }
+        CommandMenu {
+            objectName: "help"; text: "&Help"
+            CommandItem { text: "<b>&About"; onTriggered: window.title += "about " }
+        }
+    }
+    Item { focus: true; anchors.fill: parent; objectName: "content" }
+})";
+
+class MenuTest : public ::testing::Test {
+ protected:
+  MenuTest() {
+    QQmlComponent component(&engine_);
+    component.setData(kWindow, QUrl());
+    window_.reset(qobject_cast<QQuickWindow*>(component.create()));
+    if (!window_) qFatal("%s", qPrintable(component.errorString()));
+    window_->requestActivate();
+    EXPECT_TRUE(waitFor([this] { return window_->isActive(); }));
+  }
+
+  void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(window_.get(), key, modifiers);
+    testing::settle();
+  }
+  bool isOpen(const char* menu) {
+    return window_->findChild<QObject*>(QString::fromLatin1(menu))->property("opened").toBool();
+  }
+  QString ran() const { return window_->title().sliced(1).trimmed(); }
+
+  QQmlEngine engine_;
+  std::unique_ptr<QQuickWindow> window_;
+};
+
+TEST_F(MenuTest, TheKeyboardReachesEveryEntry) {
+  struct Row {
+    const char* name;
+    std::function<void()> hand;
+    const char* runs;
+  };
+  const Row rows[] = {
+      {"Alt and its letters",
+       [this] {
+         press(Qt::Key_F, Qt::AltModifier);
+         press(Qt::Key_Q);
+       },
+       "quit"},
+      {"Alt alone, then down over what is disabled",
+       [this] {
+         press(Qt::Key_Alt);
+         press(Qt::Key_Down);
+         press(Qt::Key_Return);
+       },
+       "quit"},
+      {"F10, right, Enter",
+       [this] {
+         press(Qt::Key_F10);
+         press(Qt::Key_Right);
+         press(Qt::Key_Return);
+       },
+       "about"},
+      {"a disabled letter",
+       [this] {
+         press(Qt::Key_F10);
+         press(Qt::Key_N);
+         press(Qt::Key_Escape);
+       },
+       ""},
+      {"a letter while nothing is open", [this] { press(Qt::Key_O); }, ""},
+      {"Alt with something in between",
+       [this] {
+         QTest::keyPress(window_.get(), Qt::Key_Alt);
+         QTest::keyClick(window_.get(), Qt::Key_X, Qt::AltModifier);
+         QTest::keyRelease(window_.get(), Qt::Key_Alt);
+         press(Qt::Key_Q);
+       },
+       ""},
+  };
+  for (const Row& row : rows) {
+    window_->setTitle(QStringLiteral("-"));
+    row.hand();
+    EXPECT_EQ(ran(), QString::fromLatin1(row.runs)) << row.name;
+    EXPECT_TRUE(waitFor([this] { return !isOpen("file") && !isOpen("help"); })) << row.name;
+    EXPECT_EQ(window_->activeFocusItem()->objectName(), QStringLiteral("content")) << row.name;
+  }
+}
+
+TEST(MnemonicTest, TakesTheLetterFromTheText) {
+  struct Row {
+    const char* text;
+    const char* letter;
+    const char* plain;
+    const char* marked;
+  };
+  const Row rows[] = {
+      {"&Open…", "O", "Open…", "<u>O</u>pen…"},
+      {"Save &as", "A", "Save as", "Save <u>a</u>s"},
+      {"Tom && J&erry", "E", "Tom & Jerry", "Tom &amp; J<u>e</u>rry"},
+      {"<b>Film</b>", "", "<b>Film</b>", "&lt;b&gt;Film&lt;/b&gt;"},
+      {"At the end&", "", "At the end&", "At the end&amp;"},
+      {"", "", "", ""},
+  };
+  for (const Row& row : rows) {
+    const QString text = QString::fromUtf8(row.text);
+    EXPECT_EQ(Mnemonic::letter(text), QString::fromUtf8(row.letter)) << row.text;
+    EXPECT_EQ(Mnemonic::plainText(text), QString::fromUtf8(row.plain)) << row.text;
+    EXPECT_EQ(Mnemonic::markedText(text, true), QString::fromUtf8(row.marked)) << row.text;
+  }
+}
+
+}  // namespace
+}  // namespace tromelo
