@@ -15,9 +15,11 @@ CLIP_SIZE = (640, 360)
 SETTLED = 8  # seconds after the start: the controls are hidden, caches are full
 SPAN = 10  # seconds that processor time and repaints are counted in
 POLL = 0.002
+SCRUB = 5  # seconds of dragging the position
 POINTER_RATE = 200  # moves a second, a quick mouse
 BAR_MIDDLE = 60  # points above the window's bottom edge
-ALONE = ("library", "pointer")  # mpv has nothing of the kind
+SLIDER_MIDDLE = 41
+ALONE = ("library", "pointer", "scrub")  # mpv has nothing of the kind
 # Parts that are programs of their own, each started with the sample.
 PROGRAMS = {
     "events": "bench_drain_events",
@@ -155,6 +157,42 @@ class Bench:
             self.screen.move_pointer(left - 100 + across, top + 100 + down)
             time.sleep(max(0, start + (step + 1) / POINTER_RATE - time.monotonic()))
 
+    def measure_scrub(self, name):
+        """A drag of the position's knob, until the engine stands where it was let go."""
+        with self.start(name, self.clip) as player:
+            self.milliseconds_until(player, has_colour)
+            engine = Engine(self.ipc)
+            player.wait_until_age(SETTLED)
+            duration = engine.get("duration")
+            engine.command("set_property", "pause", True)
+            self.scrub_to(0.2)
+            time.sleep(1)
+            engine.get("time-pos")
+            seeks = engine.seeks
+            self.screen.hold_button(True)
+            start = time.monotonic()
+            for step in range(SCRUB * POINTER_RATE):
+                self.scrub_to(0.2 + 0.6 * step / (SCRUB * POINTER_RATE))
+                time.sleep(max(0, start + (step + 1) / POINTER_RATE - time.monotonic()))
+            engine.get("time-pos")
+            sought = engine.seeks - seeks
+            self.screen.hold_button(False)
+            released = time.monotonic()
+            while abs(engine.get("time-pos") - 0.8 * duration) > 0.02 * duration or engine.get("seeking"):
+                player.check()
+                if time.monotonic() - released > LIMIT:
+                    raise SystemExit("bench: the position doesn't follow the drag")
+            settled = time.monotonic() - released
+        self.screen.move_pointer(self.screen.width - 1, self.screen.height - 1)
+        self.table.add(name, f"{SCRUB} s of dragging the position: seeks a second", sought / SCRUB, 1)
+        self.table.add(name, "  from letting go to the last picture, ms", settled * 1000)
+
+    def scrub_to(self, part):
+        """Along the slider of the control bar, which is as wide as the window lets it."""
+        reach = (CLIP_SIZE[0] - 40) // 2 - 18 - 66 - 8
+        x = self.screen.width // 2 + round((2 * part - 1) * reach)
+        self.screen.move_pointer(x, (self.screen.height + CLIP_SIZE[1]) // 2 - SLIDER_MIDDLE)
+
     def measure_library(self, name):
         with self.start(name) as player:
             shown = self.milliseconds_until(player, is_backdrop)
@@ -205,7 +243,7 @@ class Bench:
 
 
 def main():
-    parts = ("start", "play", "pointer", "library", *PROGRAMS)
+    parts = ("start", "play", "pointer", "scrub", "library", *PROGRAMS)
     parser = argparse.ArgumentParser(prog="bench/run")
     parser.add_argument("--build", required=True, help=argparse.SUPPRESS)
     parser.add_argument("--sample", required=True, help=argparse.SUPPRESS)

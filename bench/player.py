@@ -28,6 +28,7 @@ class Engine:
         self.socket.settimeout(LIMIT)
         self.lines = self.socket.makefile("r", encoding="utf-8", errors="replace")
         self.request = 0
+        self.seeks = 0  # events seen while it waited for answers
 
     def command(self, *words):
         self.request += 1
@@ -35,6 +36,7 @@ class Engine:
         self.socket.sendall(json.dumps(request).encode() + b"\n")
         for line in self.lines:
             reply = json.loads(line)
+            self.seeks += reply.get("event") == "seek"
             if reply.get("request_id") == self.request and "error" in reply:
                 return reply.get("data")
         raise SystemExit("bench: the engine is gone")

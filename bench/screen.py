@@ -35,6 +35,7 @@ x11 = library(
         "XGetImage": ctypes.POINTER(Image),
     },
 )
+xtest = library("Xtst", {})
 xdamage = library("Xdamage", {"XDamageCreate": ctypes.c_ulong})
 
 
@@ -68,6 +69,11 @@ class Screen:
 
     def move_pointer(self, x, y):
         x11.XWarpPointer(self.display, ctypes.c_ulong(0), self.root, 0, 0, 0, 0, x, y)
+        x11.XFlush(self.display)
+
+    def hold_button(self, is_held):
+        """The first button of the pointer, where it is."""
+        xtest.XTestFakeButtonEvent(self.display, 1, is_held, ctypes.c_ulong(0))
         x11.XFlush(self.display)
 
     def updates(self):

@@ -8,12 +8,15 @@ import Tromelo.Theme
 T.CheckBox {
     id: toggle
 
+    property string tip: ""
+
     font: Theme.field
     spacing: Theme.fieldSide
     implicitWidth: indicator.width + spacing + Math.ceil(implicitContentWidth)
     implicitHeight: Math.max(Theme.fieldHeight, implicitContentHeight)
     hoverEnabled: true
     Accessible.name: text
+    Accessible.description: tip
 
     indicator: Rectangle {
         anchors.verticalCenter: toggle.verticalCenter
@@ -40,5 +43,10 @@ T.CheckBox {
         color: Theme.primaryText
         elide: Text.ElideRight
         verticalAlignment: Text.AlignVCenter
+    }
+
+    HoverTip {
+        control: toggle
+        tip: toggle.tip
     }
 }

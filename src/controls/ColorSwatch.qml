@@ -9,10 +9,12 @@ T.Button {
     id: swatch
 
     required property color color
+    property string tip: ""
 
     implicitWidth: Theme.swatchSize
     implicitHeight: Theme.swatchSize
     hoverEnabled: true
+    Accessible.name: tip
 
     background: Rectangle {
         radius: height / 2
@@ -20,5 +22,10 @@ T.Button {
         opacity: swatch.down ? 0.7 : 1
         border.width: swatch.visualFocus ? Theme.focusWidth : Theme.hairline
         border.color: swatch.visualFocus ? Theme.accent : swatch.hovered ? Theme.primaryText : Theme.swatchEdge
+    }
+
+    HoverTip {
+        control: swatch
+        tip: swatch.tip
     }
 }

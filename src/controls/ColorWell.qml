@@ -9,6 +9,7 @@ T.Button {
     id: well
 
     required property color color
+    property string tip: ""
 
     signal chosen(color color)
 
@@ -17,6 +18,7 @@ T.Button {
     padding: Theme.fieldInset + Theme.hairline
     hoverEnabled: true
     Accessible.name: text
+    Accessible.description: tip
     onClicked: chooser.open(color, well)
 
     contentItem: Rectangle {
@@ -38,5 +40,10 @@ T.Button {
 
         title: well.text
         onChosen: color => well.chosen(color)
+    }
+
+    HoverTip {
+        control: well
+        tip: well.tip
     }
 }

@@ -8,6 +8,14 @@ import Tromelo.Theme
 T.Slider {
     id: slider
 
+    required property real shown
+
+    // By hand, by key or by assistive technology.
+    signal chosen(real value)
+
+    value: shown
+    onValueChanged: if (value !== Math.min(Math.max(shown, from), to))
+        chosen(value)
     snapMode: T.Slider.SnapAlways
     implicitHeight: Theme.fieldHeight
     hoverEnabled: true

@@ -64,6 +64,7 @@ Item {
         readonly property real light: pane.light
         readonly property real blurs: pane.backdrop ? 1 : 0
         readonly property color tint: Theme.glassTint
+        readonly property real lightCover: Theme.glassLightCover
         readonly property ShaderEffectSource behind: capture
 
         anchors.fill: parent

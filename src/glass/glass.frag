@@ -10,8 +10,9 @@ layout(std140, binding = 0) uniform buf {
     float reach;   // points of `behind` on each side of the pane
     float light;   // 0 at rest
     float blurs;   // 0: nothing is behind
+    float lightCover; // and where it is white
     vec2 paneSize; // points
-    vec4 tint;     // its alpha is how much of what is behind it covers
+    vec4 tint;     // its alpha is how much of what is behind it covers, where that is dark
 };
 
 layout(binding = 1) uniform sampler2D behind;
@@ -58,7 +59,10 @@ void main() {
     vec3 picture = blurs > 0.5 ? blurred(p - outward * bend * bend * lensPull) : vec3(0.0);
     float opacity = blurs > 0.5 ? 1.0 : tint.a;
 
-    vec3 colour = blurs > 0.5 ? mix(picture, tint.rgb / max(tint.a, 0.001), tint.a) : tint.rgb / max(tint.a, 0.001);
+    // Text on it is white: the lighter the picture, the less of it comes through.
+    float cover = mix(tint.a, lightCover, smoothstep(0.3, 0.9, dot(picture, vec3(0.2126, 0.7152, 0.0722))));
+    vec3 tinted = tint.rgb / max(tint.a, 0.001);
+    vec3 colour = blurs > 0.5 ? mix(picture, tinted, cover) : tinted;
     colour += light;
 
     // Light falls on the rim from above, and a little comes through below.

@@ -45,9 +45,4 @@ QString chapterTitle(const QList<Chapter>& chapters, int position) {
   return position >= 0 && position < chapters.size() ? chapters[position].title : QString();
 }
 
-QString withoutKey(const QString& tooltip) {
-  const qsizetype key = tooltip.lastIndexOf(QStringLiteral(" ("));
-  return key < 0 ? tooltip : tooltip.first(key);
-}
-
 }  // namespace tromelo

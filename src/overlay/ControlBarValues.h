@@ -27,7 +27,4 @@ QString rangeTag(DynamicRange::Kind range);
 /// Empty for a position that isn't in the list.
 QString chapterTitle(const QList<Chapter>& chapters, int position);
 
-/// A tooltip without the key at its end: "Mute (M)" is "Mute".
-QString withoutKey(const QString& tooltip);
-
 }  // namespace tromelo

@@ -6,7 +6,6 @@
 #include "overlay/ControlBarRow.h"
 #include "overlay/ControlBarValues.h"
 #include "overlay/PopoverFrame.h"
-#include "platform/PlatformWording.h"
 #include "playback/Chapter.h"
 #include "playback/SpeedLadder.h"
 #include "player/PlayerFormats.h"
@@ -35,10 +34,6 @@ class Format : public QObject {
   }
   Q_INVOKABLE static QString delay(double seconds) { return formatDelay(seconds); }
   Q_INVOKABLE static QString speed(double speed) { return formatSpeed(speed); }
-  Q_INVOKABLE static QString wording(const QString& text) { return platformWording(text); }
-  Q_INVOKABLE static QString withoutKey(const QString& tooltip) {
-    return tromelo::withoutKey(tooltip);
-  }
   Q_INVOKABLE static QString volumeSymbol(double volume, bool isMuted) {
     return tromelo::volumeSymbol(volume, isMuted);
   }

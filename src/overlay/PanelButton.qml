@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import Tromelo.Controls
 import Tromelo.Theme
 
 // A button of a panel without a surface: a symbol, a text or both.
@@ -10,6 +11,8 @@ T.Button {
 
     property string symbol: ""
     property color tint: Theme.overlayText
+    // Shown where the pointer rests, if there is one.
+    property string tip: ""
 
     font: Theme.panelText
     implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
@@ -21,7 +24,7 @@ T.Button {
     focusPolicy: Qt.NoFocus
     hoverEnabled: true
     opacity: enabled ? 1 : Theme.panelDisabled
-    Accessible.name: text
+    Accessible.name: text || tip
 
     contentItem: Row {
         spacing: Theme.panelButtonSpacing
@@ -46,5 +49,10 @@ T.Button {
     background: Rectangle {
         radius: Theme.fieldRadius
         color: button.down ? Theme.rowPressed : button.hovered ? Theme.rowHovered : "transparent"
+    }
+
+    HoverTip {
+        control: button
+        tip: button.tip
     }
 }

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import Tromelo.Controls
 import Tromelo.Theme
 
 // A line of a panel that can be pressed anywhere.
@@ -11,6 +12,8 @@ T.AbstractButton {
     property color rest: "transparent"
     // How much further to the sides its background reaches.
     property real outset: 0
+    // Shown where the pointer rests, if there is one.
+    property string tip: ""
 
     implicitHeight: Math.ceil(implicitContentHeight) + topPadding + bottomPadding
     focusPolicy: Qt.NoFocus
@@ -29,5 +32,10 @@ T.AbstractButton {
             radius: parent.radius
             color: row.down ? Theme.rowPressed : row.hovered ? Theme.rowHovered : "transparent"
         }
+    }
+
+    HoverTip {
+        control: row
+        tip: row.tip
     }
 }

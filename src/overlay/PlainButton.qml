@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import Tromelo.Controls
 import Tromelo.Theme
 
 // A button of the player with no surface of its own. It never takes the keyboard.
@@ -14,14 +15,14 @@ T.Button {
     focusPolicy: Qt.NoFocus
     hoverEnabled: true
     opacity: enabled ? 1 : Theme.overlayDisabled
-    Accessible.name: Format.withoutKey(tip)
+    Accessible.name: Wording.withoutKey(tip)
 
     background: Rectangle {
         radius: Theme.controlRadius
         color: button.down ? Theme.controlPressed : button.active ? Theme.controlActive : button.hovered ? Theme.controlHovered : "transparent"
     }
 
-    PlayerToolTip {
+    HoverTip {
         control: button
         tip: button.tip
     }

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
+import Tromelo.Controls
 import Tromelo.Glass
 import Tromelo.Theme
 
@@ -22,7 +23,7 @@ T.Button {
     bottomPadding: Theme.closeRise
     focusPolicy: Qt.NoFocus
     hoverEnabled: true
-    Accessible.name: Format.withoutKey(tip.tip)
+    Accessible.name: Wording.withoutKey(tip.tip)
 
     contentItem: Row {
         spacing: Theme.closeSpacing
@@ -56,7 +57,7 @@ T.Button {
         }
     }
 
-    PlayerToolTip {
+    HoverTip {
         id: tip
 
         control: button

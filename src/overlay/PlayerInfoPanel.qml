@@ -64,7 +64,7 @@ OverlaySurface {
             InfoRow {
                 objectName: "infoDecoder"
                 label: qsTr("Decoder")
-                value: Format.wording(panel.playback.decoder)
+                value: Wording.shown(panel.playback.decoder)
             }
             InfoRow {
                 objectName: "infoContainer"

@@ -21,6 +21,7 @@ PanelRow {
     topPadding: Theme.rowRise
     bottomPadding: Theme.rowRise
     rest: isCurrent ? Theme.currentItem : "transparent"
+    tip: path
     Accessible.name: title
     Accessible.description: path
     Accessible.selected: isCurrent
@@ -56,7 +57,7 @@ PanelRow {
             topPadding: 0
             symbol: "xmark.circle.fill"
             tint: Theme.secondaryText
-            Accessible.name: qsTr("Remove from queue")
+            tip: qsTr("Remove from queue")
             onClicked: row.removed()
         }
     }

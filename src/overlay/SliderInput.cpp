@@ -19,11 +19,11 @@ SliderInput::SliderInput(QQuickItem* parent) : QQuickItem(parent) {
   placeKnob();
 }
 
-void SliderInput::setValue(double value) {
-  if (value_ == value) return;
-  value_ = value;
+void SliderInput::setShown(double value) {
+  if (shown_ == value) return;
+  shown_ = value;
   placeKnob();
-  Q_EMIT valueChanged();
+  Q_EMIT shownChanged();
 }
 
 void SliderInput::setMaximumValue(double value) {
@@ -41,7 +41,7 @@ void SliderInput::setStepSize(double size) {
 
 void SliderInput::placeKnob() {
   const double pixels = window() ? window()->effectiveDevicePixelRatio() : 1;
-  const double place = std::round(sliderPlace(value_ / maximumValue_, width()) * pixels) / pixels;
+  const double place = std::round(sliderPlace(shown_ / maximumValue_, width()) * pixels) / pixels;
   if (knobX_ == place) return;
   knobX_ = place;
   Q_EMIT knobXChanged();
@@ -74,9 +74,9 @@ void SliderInput::moveTo(double place) {
   Q_EMIT moved(sliderValueAt(place - grip_, width()) * maximumValue_);
 }
 
-void SliderInput::step(double by) {
+void SliderInput::ask(double value) {
   Q_EMIT begun();
-  Q_EMIT moved(std::clamp(value_ + by, minimumValue(), maximumValue_));
+  Q_EMIT moved(std::clamp(value, minimumValue(), maximumValue_));
   Q_EMIT ended();
 }
 

@@ -10,8 +10,9 @@ namespace tromelo {
 class SliderInput : public QQuickItem {
   Q_OBJECT
   QML_ELEMENT
-  // By these names assistive technology finds them.
-  Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged)
+  Q_PROPERTY(double shown READ shown WRITE setShown NOTIFY shownChanged)
+  // By these names assistive technology finds them; what it writes is asked for like a drag.
+  Q_PROPERTY(double value READ shown WRITE ask NOTIFY shownChanged)
   Q_PROPERTY(double minimumValue READ minimumValue CONSTANT)
   Q_PROPERTY(double maximumValue READ maximumValue WRITE setMaximumValue NOTIFY maximumValueChanged)
   Q_PROPERTY(double stepSize READ stepSize WRITE setStepSize NOTIFY stepSizeChanged)
@@ -23,8 +24,9 @@ class SliderInput : public QQuickItem {
  public:
   explicit SliderInput(QQuickItem* parent = nullptr);
 
-  double value() const { return value_; }
-  void setValue(double value);
+  double shown() const { return shown_; }
+  void setShown(double value);
+  void ask(double value);
   double minimumValue() const { return 0; }
   double maximumValue() const { return maximumValue_; }
   void setMaximumValue(double value);
@@ -34,11 +36,11 @@ class SliderInput : public QQuickItem {
   double knobX() const { return knobX_; }
   bool isDragged() const { return isDragged_; }
 
-  Q_INVOKABLE void increase() { step(stepSize_); }
-  Q_INVOKABLE void decrease() { step(-stepSize_); }
+  Q_INVOKABLE void increase() { ask(shown_ + stepSize_); }
+  Q_INVOKABLE void decrease() { ask(shown_ - stepSize_); }
 
  Q_SIGNALS:
-  void valueChanged();
+  void shownChanged();
   void maximumValueChanged();
   void stepSizeChanged();
   void knobXChanged();
@@ -60,9 +62,8 @@ class SliderInput : public QQuickItem {
   void placeKnob();
   void setDragged(bool isDragged);
   void moveTo(double place);
-  void step(double by);
 
-  double value_ = 0;
+  double shown_ = 0;
   double maximumValue_ = 1;
   double stepSize_ = 1;
   double knobX_ = 0;

@@ -42,7 +42,7 @@ Item {
         anchors.rightMargin: Theme.timeSpacing
         enabled: row.playback.duration > 0
         name: qsTr("Position")
-        value: row.shownTime
+        shown: row.shownTime
         maximumValue: Math.max(row.playback.duration, 1)
         stepSize: 10
         onBegun: row.playback.beginScrubbing()

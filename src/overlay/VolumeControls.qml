@@ -37,7 +37,7 @@ Row {
         visible: width > 0
         width: controls.sliderWidth
         name: qsTr("Volume")
-        value: controls.playback.volume
+        shown: controls.playback.volume
         maximumValue: 100
         stepSize: 5
         onMoved: value => controls.playback.setVolume(value)

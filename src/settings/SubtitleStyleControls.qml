@@ -48,9 +48,9 @@ Column {
             from: 24
             to: 80
             stepSize: 2
-            value: controls.settings.subtitleSize
+            shown: controls.settings.subtitleSize
             Accessible.name: qsTr("Size")
-            onMoved: controls.settings.subtitleSize = value
+            onChosen: value => controls.settings.subtitleSize = value
         }
 
         Text {
@@ -79,7 +79,7 @@ Column {
                 anchors.verticalCenter: parent.verticalCenter
                 focusPolicy: controls.focusPolicy
                 color: modelData.color
-                Accessible.name: qsTr("Use this color")
+                tip: qsTr("Use this color")
                 onClicked: controls.settings.subtitleColor = modelData
             }
         }
@@ -111,7 +111,7 @@ Column {
             focusPolicy: controls.focusPolicy
             text: qsTr("Edge color")
             color: controls.settings.subtitleOutlineColor.color
-            Accessible.description: qsTr("Outline and shadow color")
+            tip: qsTr("Outline and shadow color")
             onChosen: color => controls.settings.subtitleOutlineColor = color
         }
     }
@@ -122,7 +122,7 @@ Column {
         focusPolicy: controls.focusPolicy
         text: qsTr("Also restyle styled (ASS) subtitles")
         checked: controls.settings.subtitleOverridesStyled
-        Accessible.description: qsTr("Styled subtitles keep their own look unless this is on.")
+        tip: qsTr("Styled subtitles keep their own look unless this is on.")
         onToggled: controls.settings.subtitleOverridesStyled = checked
     }
 }

@@ -43,10 +43,11 @@ QtObject {
     readonly property color primaryText: Qt.rgba(1, 1, 1, 0.92)
     readonly property color secondaryText: Qt.rgba(1, 1, 1, 0.58)
     // Translucent surfaces, as a plain material and as glass.
-    readonly property color material: Qt.rgba(0.07, 0.075, 0.09, 0.74)
+    readonly property color material: Qt.rgba(0.07, 0.075, 0.09, 0.8)
     readonly property color materialEdge: Qt.rgba(1, 1, 1, 0.1)
     readonly property real hairline: 1
-    readonly property color glassTint: Qt.rgba(0.028, 0.032, 0.045, 0.62) // how much it covers
+    readonly property color glassTint: Qt.rgba(0.028, 0.032, 0.045, 0.58) // how much it covers
+    readonly property real glassLightCover: 0.78 // over white
     readonly property real glassHovered: 0.06 // light that is added
     readonly property real glassPressed: -0.04
     readonly property real glassReach: 28 // how far around what is behind blurs into a point
@@ -213,6 +214,7 @@ QtObject {
 
     readonly property int toolTipDelay: 700 // milliseconds
     readonly property real toolTipMargin: 6 // to the window's edges
+    readonly property real toolTipWidth: 420 // at most
     readonly property real toolTipPadding: 5
     readonly property real toolTipGap: 8
     readonly property real toolTipRadius: 6

@@ -219,6 +219,8 @@ TEST_F(ControlBarTest, IsKnownToAssistiveTechnology) {
   seek->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
   EXPECT_EQ(seek->valueInterface()->currentValue(), 10);
   EXPECT_EQ(takeSent().back(), "seek 10.0 absolute+exact");
+  seek->valueInterface()->setCurrentValue(55.5);
+  EXPECT_EQ(takeSent().back(), "seek 55.5 absolute+exact");
 }
 
 TEST_F(ControlBarTest, TellsWhatAButtonIsForOnceThePointerRestsOnIt) {

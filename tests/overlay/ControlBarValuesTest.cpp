@@ -28,9 +28,6 @@ TEST(ControlBarValuesTest, VolumeSymbols) {
 TEST(ControlBarValuesTest, Texts) {
   EXPECT_EQ(remainingText(100, 38), "-1:02");
   EXPECT_EQ(remainingText(10, 12), "-0:00");
-  EXPECT_EQ(withoutKey("Mute (M)"), "Mute");
-  EXPECT_EQ(withoutKey("Playback speed ([ and ])"), "Playback speed");
-  EXPECT_EQ(withoutKey("Volume"), "Volume");
   EXPECT_EQ(rangeTag(DynamicRange::Kind::sdr), "");
   EXPECT_EQ(rangeTag(DynamicRange::Kind::hdr10), "HDR10");
   EXPECT_EQ(rangeTag(DynamicRange::Kind::hlg), "HLG");

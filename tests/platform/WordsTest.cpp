@@ -55,4 +55,10 @@ TEST(PlatformWording, NamesThingsAsTheyAreCalledHere) {
   for (const auto& row : rows) EXPECT_EQ(platformWording(row.text), row.expected) << row.text;
 }
 
+TEST(WithoutKey, IsTheNameOfAControl) {
+  EXPECT_EQ(withoutKey("Mute (M)"), "Mute");
+  EXPECT_EQ(withoutKey("Playback speed ([ and ])"), "Playback speed");
+  EXPECT_EQ(withoutKey("Volume"), "Volume");
+}
+
 }  // namespace tromelo

@@ -4,25 +4,39 @@ import QtQuick
 import QtQuick.Templates as T
 import Tromelo.Theme
 
-// What a control is for, once the pointer has rested on it. It is in nobody's way.
+// What a control is for, once the pointer has rested on it. It is in nobody's way, and once the
+// control was pressed it stays away until the pointer comes back.
 Loader {
     id: loader
 
     required property T.AbstractButton control
-    required property string tip
+    required property string tip // nothing shows where it is empty
     // Beneath the control in place of above it.
     property bool below: false
 
-    readonly property bool isPointedAt: control.hovered && !control.down
-    property bool isShown: false
+    active: false
 
-    active: isShown
-    onIsPointedAtChanged: isShown = false
+    function stop() {
+        rest.stop();
+        active = false;
+    }
 
     Timer {
+        id: rest
+
         interval: Theme.toolTipDelay
-        running: loader.isPointedAt
-        onTriggered: loader.isShown = true
+        onTriggered: loader.active = loader.tip !== ""
+    }
+
+    Connections {
+        target: loader.control
+
+        function onHoveredChanged() {
+            loader.control.hovered ? rest.restart() : loader.stop();
+        }
+        function onPressed() {
+            loader.stop();
+        }
     }
 
     sourceComponent: T.ToolTip {
@@ -38,11 +52,11 @@ Loader {
         padding: Theme.toolTipPadding
         leftPadding: padding + 2
         rightPadding: padding + 2
-        implicitWidth: implicitContentWidth + leftPadding + rightPadding
+        implicitWidth: Math.min(Math.ceil(implicitContentWidth) + leftPadding + rightPadding, Theme.toolTipWidth)
         implicitHeight: implicitContentHeight + topPadding + bottomPadding
         x: Math.round((parent.width - width) / 2)
         y: loader.below ? parent.height + Theme.toolTipGap : -height - Theme.toolTipGap
-        text: Format.wording(loader.tip)
+        text: Wording.shown(loader.tip)
         font: Theme.toolTip
 
         contentItem: Text {
@@ -50,6 +64,7 @@ Loader {
             textFormat: Text.PlainText
             font: tooltip.font
             color: Theme.overlayText
+            wrapMode: Text.WrapAtWordBoundaryOrAnywhere
         }
 
         background: Rectangle {

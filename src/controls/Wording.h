@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QObject>
+
+#include "platform/PlatformWording.h"
+
+namespace tromelo {
+
+/// The words of views, as a person reads or hears them.
+class Wording : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_SINGLETON
+
+ public:
+  using QObject::QObject;
+
+  Q_INVOKABLE static QString shown(const QString& text) { return platformWording(text); }
+  Q_INVOKABLE static QString withoutKey(const QString& tooltip) {
+    return platformWording(tromelo::withoutKey(tooltip));
+  }
+};
+
+}  // namespace tromelo
