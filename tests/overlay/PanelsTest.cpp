@@ -137,7 +137,9 @@ TEST_F(PanelsTest, SubtitleStyleIsChangedInPlace) {
   drag({slider.center().x() + 9, slider.center().y()});
   release({slider.center().x() + 9, slider.center().y()});
   EXPECT_EQ(std::fmod(settings.subtitleSize(), 2), 0);
-  QAccessible::queryAccessibleInterface(only("subtitleSize"))->valueInterface()->setCurrentValue(30);
+  QAccessible::queryAccessibleInterface(only("subtitleSize"))
+      ->valueInterface()
+      ->setCurrentValue(30);
   EXPECT_EQ(settings.subtitleSize(), 30);
   settings.setSubtitleSize(45.7);
   EXPECT_EQ(shown("subtitleSizeText"), "45");
