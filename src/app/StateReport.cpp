@@ -14,17 +14,27 @@ constexpr std::chrono::milliseconds kTogether(20);
 
 QString yesNo(bool value) { return value ? QStringLiteral("yes") : QStringLiteral("no"); }
 
+QString panelText(std::optional<PlayerPanel> panel) {
+  if (!panel) return QStringLiteral("none");
+  return QString::fromLatin1(QMetaEnum::fromType<PlayerPanel>().valueToKey(int(*panel)));
+}
+
 }  // namespace
 
 StateReport::StateReport(const PlaybackModel& playback, const PlayerWindowController& player,
                          Clock& clock, std::function<QString()> windowText, std::FILE* out)
-    : playback_(playback), clock_(clock), windowText_(std::move(windowText)), out_(out) {
+    : playback_(playback),
+      player_(player),
+      clock_(clock),
+      windowText_(std::move(windowText)),
+      out_(out) {
   const QMetaObject* type = &PlaybackState::staticMetaObject;
   const QMetaMethod slot = metaObject()->method(metaObject()->indexOfMethod("schedule()"));
   for (int i = type->propertyOffset(); i < type->propertyCount(); ++i)
     if (type->property(i).hasNotifySignal())
       connect(&playback, type->property(i).notifySignal(), this, slot);
   connect(&player, &PlayerWindowController::windowStateChanged, this, &StateReport::schedule);
+  connect(&player.chrome(), &PlayerChrome::panelChanged, this, &StateReport::schedule);
   schedule();
 }
 
@@ -54,6 +64,7 @@ void StateReport::flush() {
   line(QStringLiteral("position"), QString::number(playback_.elapsed(), 'f', 3));
   line(QStringLiteral("fullscreen"), yesNo(playback_.isFullscreen()));
   line(QStringLiteral("window"), windowText_());
+  line(QStringLiteral("panel"), panelText(player_.chrome().panel()));
   line(QStringLiteral("error"), playback_.errorMessage());
   line(QStringLiteral("status"), playback_.status());
   out_.flush();

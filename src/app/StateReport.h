@@ -33,6 +33,7 @@ class StateReport : public QObject {
   void line(const QString& key, const QString& value);
 
   const PlaybackModel& playback_;
+  const PlayerWindowController& player_;
   Clock& clock_;
   std::function<QString()> windowText_;
   QTextStream out_;

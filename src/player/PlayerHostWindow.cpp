@@ -128,8 +128,14 @@ bool PlayerHostWindow::handlePointer(QEvent& event) {
   }
 }
 
+bool PlayerHostWindow::handleKey(QEvent& event) const {
+  if (event.type() != QEvent::KeyPress) return false;
+  const KeyMonitor monitor = keyMonitor_;  // a key can be what takes it away
+  return monitor && monitor(KeyPress::from(static_cast<const QKeyEvent&>(event)));
+}
+
 bool PlayerHostWindow::event(QEvent* event) {
-  if (handlePointer(*event)) return true;
+  if (handlePointer(*event) || handleKey(*event)) return true;
   if (event->type() == QEvent::Close) {
     event->ignore();
     Q_EMIT closeRequested();

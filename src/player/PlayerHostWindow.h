@@ -6,6 +6,7 @@
 
 #include "display/EngineWindowItem.h"
 #include "player/EdgeResize.h"
+#include "player/KeyPress.h"
 #include "player/WindowFade.h"
 
 namespace tromelo {
@@ -31,6 +32,9 @@ class PlayerHostWindow : public QQuickWindow {
   /// What a hand that resizes the window keeps to; in any unit.
   void setPictureAspect(QSize picture) { edgeResize_.setAspect(picture); }
 
+  /// Keys that it doesn't handle go on to what has the focus in the window.
+  void setKeyMonitor(KeyMonitor monitor) { keyMonitor_ = std::move(monitor); }
+
   /// Mapped, so that its graphics get ready, but with nothing to be seen or clicked.
   void showUnseen();
   void present();
@@ -51,6 +55,7 @@ class PlayerHostWindow : public QQuickWindow {
   void fillWindow();
   void center();
   bool handlePointer(QEvent& event);
+  bool handleKey(QEvent& event) const;
   void followPointer(const QSinglePointEvent& event);
   void updateCursor();
 
@@ -58,6 +63,7 @@ class PlayerHostWindow : public QQuickWindow {
   EngineWindowItem* video_ = nullptr;
   std::unique_ptr<WindowFade> fade_;
   EdgeResize edgeResize_{*this};
+  KeyMonitor keyMonitor_;
   Qt::Edges edgesUnderPointer_;
   QPointF pointer_;  // on the screen, where it was last seen
   bool pointerHidden_ = false;

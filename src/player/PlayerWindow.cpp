@@ -103,6 +103,8 @@ std::unique_ptr<PlayerOverlay> PlayerWindow::installOverlay(PlaybackModel& playb
   return overlayFactory_(host_->scene(), playback, controller);
 }
 
+void PlayerWindow::setKeyMonitor(KeyMonitor monitor) { host_->setKeyMonitor(std::move(monitor)); }
+
 void PlayerWindow::hidePointer() { host_->hidePointer(); }
 
 void PlayerWindow::showPointer() { host_->showPointer(); }
@@ -173,6 +175,7 @@ std::unique_ptr<PlayerHostWindow> PlayerWindow::takeHost() {
   host_->fade().setOpacity(0);
   host_->video().setEngineWindow(nullptr);
   host_->setPictureAspect({});
+  host_->setKeyMonitor({});
   if (host_->windowState() == Qt::WindowFullScreen) host_->setWindowState(Qt::WindowNoState);
   return std::move(host_);
 }

@@ -41,6 +41,7 @@ class PlayerWindow : public VideoWindow {
   void dress(QSize minimumSize) override;
   std::unique_ptr<PlayerOverlay> installOverlay(PlaybackModel& playback,
                                                 PlayerWindowController& controller) override;
+  void setKeyMonitor(KeyMonitor monitor) override;
   void hidePointer() override;
   void showPointer() override;
 

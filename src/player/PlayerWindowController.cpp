@@ -70,6 +70,7 @@ void PlayerWindowController::adopt(VideoWindow& window) {
   isClosing_ = false;
   isFadingOut_ = false;
   installOverlay(window);
+  installKeyMonitor();
   observe(window);
   updateDisplay();
   Q_EMIT windowStateChanged();
@@ -208,6 +209,7 @@ void PlayerWindowController::tearDownWindowState() {
 void PlayerWindowController::giveUp(VideoWindow& window) {
   window.disconnect(this);
   forgetWhenDestroyed(window);
+  window.setKeyMonitor({});
   window.showPointer();
   window.orderOut();
 }

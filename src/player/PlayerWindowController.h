@@ -9,6 +9,7 @@
 
 #include "platform/Clock.h"
 #include "playback/PlayerPresenting.h"
+#include "player/KeyPress.h"
 #include "player/PlayerChrome.h"
 #include "player/PlayerOverlay.h"
 #include "player/WindowSystem.h"
@@ -29,6 +30,7 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
 
   void setLibraryWindow(HostWindow* library) { libraryWindow_ = library; }
   PlayerChrome& chrome() { return chrome_; }
+  const PlayerChrome& chrome() const { return chrome_; }
 
   void setAwaitingVideo(bool awaiting) override;
   void setVideoReady(bool ready) override;
@@ -45,6 +47,11 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   void handleDroppedFiles(const QList<QUrl>& urls);
   /// By percent points, up or down, with a toast.
   void adjustVolume(double percent);
+  QString volumeText() const;
+  /// Does what the key is for, and shows the controls; false when it is not the player's.
+  bool handleKey(const KeyPress& press);
+  /// The part of it for keys that are known by what they type.
+  bool handleCharacter(const QString& characters, bool isRepeat = false);
   /// Before the engine is destroyed: drops all window state and watches for no more windows.
   void prepareForTermination();
 
@@ -72,6 +79,12 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   void stopAndTearDown();
   void tearDownWindowState();
   void giveUp(VideoWindow& window);
+
+  void installKeyMonitor();
+  bool handleCommandKey(const KeyPress& press);
+  bool handlePlainKey(const KeyPress& press);
+  /// One step back: out of a panel, of full screen, of the player.
+  void escape();
 
   // The controls: when they are shown, and what follows from that.
   void followState();

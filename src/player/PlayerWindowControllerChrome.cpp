@@ -90,11 +90,6 @@ void PlayerWindowController::showToast(const QString& text) {
   toastTimer_ = clock_.after(kToast, [this] { chrome_.setToast(std::nullopt); });
 }
 
-void PlayerWindowController::adjustVolume(double percent) {
-  playback_.setVolume(playback_.volume() + percent);
-  showToast(QStringLiteral("Volume %1%").arg(std::lround(playback_.volume())));
-}
-
 void PlayerWindowController::updateSubtitleLift() {
   const bool covered = overlay_ && chromeVisible_ && overlay_->height() > 0;
   const double lift = covered ? subtitleLift(overlay_->controlsTop(), overlay_->height()) : 0;

@@ -6,6 +6,7 @@
 
 #include "platform/ScreenHeadroom.h"
 #include "player/HostWindow.h"
+#include "player/KeyPress.h"
 #include "player/PlayerOverlay.h"
 
 namespace tromelo {
@@ -36,6 +37,8 @@ class VideoWindow : public HostWindow {
   virtual void dress(QSize minimumSize) = 0;
   virtual std::unique_ptr<PlayerOverlay> installOverlay(PlaybackModel& playback,
                                                         PlayerWindowController& controller) = 0;
+  /// Is asked first about every key that goes down in the window, in place of the one before it.
+  virtual void setKeyMonitor(KeyMonitor monitor) = 0;
   /// Until the pointer next moves.
   virtual void hidePointer() = 0;
   virtual void showPointer() = 0;

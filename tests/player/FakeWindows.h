@@ -89,6 +89,7 @@ class FakeVideoWindow final : public FakeWindow<VideoWindow> {
     overlay = made.get();
     return made;
   }
+  void setKeyMonitor(KeyMonitor monitor) override { keyMonitor = std::move(monitor); }
   void hidePointer() override { pointerShown = false; }
   void showPointer() override { pointerShown = true; }
 
@@ -101,6 +102,7 @@ class FakeVideoWindow final : public FakeWindow<VideoWindow> {
   bool pointerShown = true;
   std::optional<ScreenHeadroom> headroom = ScreenHeadroom();
   FakeOverlay* overlay = nullptr;
+  KeyMonitor keyMonitor;
 };
 
 class FakeWindowSystem final : public WindowSystem {

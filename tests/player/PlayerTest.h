@@ -6,11 +6,11 @@
 
 #include "FakeWindows.h"
 #include "platform/UserDefaults.h"
+#include "playback/FakeChooser.h"
 #include "playback/PlaybackModel.h"
 #include "player/PlayerWindowController.h"
 #include "support/FakeMpv.h"
 #include "support/ManualClock.h"
-#include "support/NoFileChooser.h"
 
 namespace tromelo::testing {
 
@@ -69,7 +69,7 @@ class PlayerTest : public ::testing::Test {
   FakeWindowSystem windows_;
   FakeMpv mpv_;
   MpvClientApi api_ = mpv_.api();
-  NoFileChooser files_;
+  FakeChooser files_;
   QTemporaryDir directory_;
   UserDefaults defaults_{directory_.filePath(QStringLiteral("defaults.json"))};
   FakeLibraryWindow library_{clock_};
