@@ -237,6 +237,20 @@ QtObject {
     readonly property real infoSpacing: 8
     readonly property real infoLabelWidth: 66
     readonly property real infoLabelGap: 10
+    readonly property font shortcutKeys: ({ family: fontFamily, pixelSize: 12, weight: Font.DemiBold })
+    readonly property font shortcutAction: ({ family: fontFamily, pixelSize: 12 })
+    readonly property color shortcutsBacking: Qt.rgba(0.07, 0.075, 0.09, 0.9)
+    readonly property color shortcutsText: "white"
+    readonly property color shortcutsTitle: Qt.rgba(1, 1, 1, 0.55)
+    readonly property color shortcutsAction: Qt.rgba(1, 1, 1, 0.8)
+    readonly property real shortcutsWidth: 640
+    readonly property real shortcutsRadius: 26
+    readonly property real shortcutsPadding: 22
+    readonly property real shortcutsSpacing: 14
+    readonly property real shortcutsGap: 28 // between the columns
+    readonly property real shortcutsRowSpacing: 5
+    readonly property real shortcutsKeysGap: 10
+    readonly property real shortcutsScrollMargin: 8
     readonly property real toastPadding: 16
     readonly property real toastRise: 9
 

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QFont>
+
+#include "player/PlayerShortcuts.h"
+
+namespace tromelo {
+
+/// How much of a column the keys take, the same for all groups: 100 points, or more where their
+/// names are longer, but at most half of the column. Lengths in points.
+double shortcutKeysWidth(const QList<ShortcutGroup>& groups, const QFont& font, double column);
+
+}  // namespace tromelo

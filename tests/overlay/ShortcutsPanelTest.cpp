@@ -1,0 +1,88 @@
+#include "ViewTest.h"
+#include "player/PlayerShortcuts.h"
+
+namespace tromelo {
+namespace {
+
+class ShortcutsPanelTest : public testing::ViewTest {
+ protected:
+  QQuickItem& showPanel(QVariantMap properties = {}) {
+    properties.insert(QStringLiteral("chrome"), chrome());
+    player().chrome().setPanel(PlayerPanel::shortcuts);
+    QQuickItem& panel = show("PlayerShortcutsPanel", properties);
+    layOut();
+    return panel;
+  }
+  QStringList textsOf(const char* name, const char* column) {
+    QStringList found;
+    for (const QQuickItem* one : items(QString::fromUtf8(name), item(column)))
+      found << one->property("text").toString();
+    return found;
+  }
+};
+
+TEST_F(ShortcutsPanelTest, IsThereWhileItIsTheOpenPanel) {
+  QQuickItem& panel = showPanel();
+  EXPECT_TRUE(panel.isVisible());
+  EXPECT_EQ(panel.width(), 640);
+  for (const std::optional<PlayerPanel> other : {std::optional<PlayerPanel>(),
+                                                 {PlayerPanel::tracks},
+                                                 {PlayerPanel::chapters},
+                                                 {PlayerPanel::queue}}) {
+    player().chrome().setPanel(other);
+    EXPECT_FALSE(panel.isVisible());
+  }
+  player().chrome().setPanel(PlayerPanel::shortcuts);
+  click("closeShortcuts");
+  EXPECT_EQ(player().chrome().panel(), std::nullopt);
+}
+
+TEST_F(ShortcutsPanelTest, ListsTheKeysInTwoColumns) {
+  showPanel();
+  EXPECT_EQ(textsOf("shortcutsTitle", "shortcutsLeft"),
+            (QStringList{"Playback", "Queue & chapters"}));
+  EXPECT_EQ(textsOf("shortcutsTitle", "shortcutsRight"),
+            (QStringList{"Audio & subtitles", "Window"}));
+  EXPECT_EQ(textsOf("shortcutKeys", "shortcutsLeft").first(3),
+            (QStringList{"Space", "← / →", "Shift+← / Shift+→"}));
+  EXPECT_EQ(textsOf("shortcutAction", "shortcutsRight").last(), "This list");
+  EXPECT_EQ(item("shortcutsTitle")->property("font").value<QFont>().capitalization(),
+            QFont::AllUppercase);
+  for (const int count : {3, 2, 1}) {
+    SCOPED_TRACE(count);
+    showPanel({{"groups", QVariant::fromValue(PlayerShortcuts::groups.first(count))}});
+    EXPECT_EQ(textsOf("shortcutsTitle", "shortcutsLeft").size(), std::min(count, 2));
+    EXPECT_EQ(textsOf("shortcutsTitle", "shortcutsRight").size(), std::max(count - 2, 0));
+    EXPECT_EQ(item("shortcutsLeft")->width(), 284);
+    EXPECT_EQ(item("shortcutsRight")->width(), 284);
+  }
+}
+
+TEST_F(ShortcutsPanelTest, NothingIsCutOffInAnyWindow) {
+  for (const QSizeF size : {QSizeF(640, 420), QSizeF(480, 260)}) {
+    SCOPED_TRACE(size.width());
+    showPanel({{"width", size.width()}, {"height", size.height()}});
+    QQuickItem& list = *item("shortcutsList");
+    const double title = frame(item("closeShortcuts")).bottom();
+    for (const char* column : {"shortcutsLeft", "shortcutsRight"})
+      for (const char* name : {"shortcutKeys", "shortcutAction"}) {
+        double above = 0;
+        for (const QQuickItem* one : items(QString::fromUtf8(name), item(column))) {
+          EXPECT_LE(one->property("contentWidth").toDouble(), one->width());
+          EXPECT_TRUE(frame(item(column)).contains(frame(one)));
+          EXPECT_GT(frame(one).top(), above);
+          above = frame(one).bottom();
+        }
+      }
+    list.setProperty("contentY", list.property("contentHeight").toDouble() - list.height());
+    for (const char* column : {"shortcutsLeft", "shortcutsRight"}) {
+      const QQuickItem* last = items(QStringLiteral("shortcut"), item(column)).last();
+      EXPECT_LE(frame(last).bottom(), frame(&list).bottom() + 1);
+    }
+    EXPECT_EQ(frame(item("closeShortcuts")).bottom(), title);
+    EXPECT_LT(frame(&list).bottom(), size.height() - 20);
+  }
+}
+
+}  // namespace
+}  // namespace tromelo
