@@ -128,14 +128,17 @@ bool PlayerHostWindow::handlePointer(QEvent& event) {
   }
 }
 
-bool PlayerHostWindow::handleKey(QEvent& event) const {
-  if (event.type() != QEvent::KeyPress) return false;
+bool PlayerHostWindow::handleKey(const QKeyEvent& event) {
+  KeyPress press = KeyPress::from(event);
+  press.isRepeat = heldKey_.isRepeatedBy(event);
   const KeyMonitor monitor = keyMonitor_;  // a key can be what takes it away
-  return monitor && monitor(KeyPress::from(static_cast<const QKeyEvent&>(event)));
+  return monitor && monitor(press);
 }
 
 bool PlayerHostWindow::event(QEvent* event) {
-  if (handlePointer(*event) || handleKey(*event)) return true;
+  if (handlePointer(*event)) return true;
+  if (event->type() == QEvent::KeyPress && handleKey(static_cast<QKeyEvent&>(*event))) return true;
+  if (event->type() == QEvent::KeyRelease) heldKey_.release(static_cast<QKeyEvent&>(*event));
   if (event->type() == QEvent::Close) {
     event->ignore();
     Q_EMIT closeRequested();

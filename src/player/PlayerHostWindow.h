@@ -6,6 +6,7 @@
 
 #include "display/EngineWindowItem.h"
 #include "player/EdgeResize.h"
+#include "player/HeldKey.h"
 #include "player/KeyPress.h"
 #include "player/WindowFade.h"
 
@@ -55,7 +56,7 @@ class PlayerHostWindow : public QQuickWindow {
   void fillWindow();
   void center();
   bool handlePointer(QEvent& event);
-  bool handleKey(QEvent& event) const;
+  bool handleKey(const QKeyEvent& event);
   void followPointer(const QSinglePointEvent& event);
   void updateCursor();
 
@@ -64,6 +65,7 @@ class PlayerHostWindow : public QQuickWindow {
   std::unique_ptr<WindowFade> fade_;
   EdgeResize edgeResize_{*this};
   KeyMonitor keyMonitor_;
+  HeldKey heldKey_;
   Qt::Edges edgesUnderPointer_;
   QPointF pointer_;  // on the screen, where it was last seen
   bool pointerHidden_ = false;
