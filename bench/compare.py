@@ -1,4 +1,4 @@
-"""Tromelo next to mpv with the same output, on the display that this runs on. See bench/run."""
+"""Tromelo next to other players, on the display that this runs on. See bench/run."""
 
 import argparse
 import os
@@ -7,6 +7,7 @@ import sys
 import tempfile
 import time
 
+import recents
 from player import LIMIT, Engine, Player, clean_environment
 from screen import Screen
 from table import Table
@@ -19,7 +20,9 @@ SCRUB = 5  # seconds of dragging the position
 POINTER_RATE = 200  # moves a second, a quick mouse
 BAR_MIDDLE = 60  # points above the window's bottom edge
 SLIDER_MIDDLE = 41
-ALONE = ("library", "pointer", "scrub")  # mpv has nothing of the kind
+QUIET = 1  # seconds in which a window that is complete draws nothing
+# Who is compared where mpv has nothing of the kind.
+OTHERS = {"library": ("celluloid", "smplayer"), "pointer": (), "scrub": ()}
 # Parts that are programs of their own, each started with the sample.
 PROGRAMS = {
     "events": "bench_drain_events",
@@ -34,11 +37,6 @@ MPV = (
 def has_colour(pixel):
     """The clip is all strong colours; the desktop and the library are greys and near-blacks."""
     return max(pixel) - min(pixel) > 12
-
-
-def is_backdrop(pixel):
-    """The library's: nearly black, a little blue."""
-    return 0 < pixel[0] < pixel[2] < 40
 
 
 class Bench:
@@ -62,21 +60,22 @@ class Bench:
         )
         return clip
 
-    def start(self, name, *files):
-        environment = clean_environment(self.home)
+    def start(self, name, *files, home=None, extra=None):
+        environment = clean_environment(home or self.home) | (extra or {})
         self.ipc = os.path.join(self.home, "ipc")
         if os.path.exists(self.ipc):
             os.unlink(self.ipc)
         if name == "mpv":
             command = MPV + [f"--input-ipc-server={self.ipc}"]
-        else:
+        elif name == "Tromelo":
             command = [self.program]
             environment["TROMELO_IPC"] = self.ipc
+        else:
+            command = [name]
         return Player([*command, *files], environment, self.log)
 
     def milliseconds_until(self, player, matches):
-        """Looks at a part of the screen that the clip fills with strong colours in either player,
-        and the library with its backdrop."""
+        """Looks at a part of the screen that the clip fills with strong colours in either player."""
         x = (self.screen.width - CLIP_SIZE[0]) // 2 + 140
         y = (self.screen.height - CLIP_SIZE[1]) // 2 + 40
         while not any(map(matches, self.screen.row(x, y, 160))):
@@ -195,11 +194,41 @@ class Bench:
 
     def measure_library(self, name):
         with self.start(name) as player:
-            shown = self.milliseconds_until(player, is_backdrop)
-            self.table.add(name, "start to library window, ms", shown)
-            player.wait_until_age(SETTLED)
-            self.table.add(name, "library: resident memory, MB", player.memory()[0])
-            self.measure_idle(name, player, "library")
+            complete = self.milliseconds_until_complete(player)
+            self.table.add(name, "start to complete window, ms", complete)
+            if name == "Tromelo":
+                player.wait_until_age(SETTLED)
+                self.table.add(name, "library: resident memory, MB", player.memory()[0])
+                self.measure_idle(name, player, "library")
+        self.measure_slow_library(name)
+
+    def measure_slow_library(self, name):
+        """With recent files on a share that takes its time."""
+        home, slow = (os.path.join(self.home, part) for part in ("recents", "slow/"))
+        recents.fill(home, slow)
+        library = os.path.join(self.options.build, "bench/libslow_directory.so")
+        extra = {"LD_PRELOAD": library, "SLOW_DIRECTORY": slow}
+        with self.start(name, home=home, extra=extra) as player:
+            complete = self.milliseconds_until_complete(player)
+            self.table.add(name, "  with 12 slow recent files, ms", complete)
+
+    def milliseconds_until_complete(self, player):
+        """Until the last thing that a window draws before it is quiet."""
+        last = 0
+        self.screen.updates()
+        while not last or player.age - last < QUIET:
+            player.check()
+            if self.screen.updates() and self.shows_a_window():
+                last = player.age
+            if player.age > LIMIT:
+                raise SystemExit(f"bench: {player.process.args[0]} is never complete")
+            time.sleep(POLL)
+        return last * 1000
+
+    def shows_a_window(self):
+        grey = (Screen.GREY & 0xFF,) * 3
+        row = self.screen.row(0, self.screen.height // 3, self.screen.width)
+        return any(pixel != grey for pixel in row)
 
     def measure_idle(self, name, player, what):
         self.wait_until_quiet()
@@ -216,7 +245,7 @@ class Bench:
 
     def compare(self, part):
         measure = getattr(self, f"measure_{part}")
-        names = ("Tromelo",) if part in ALONE else ("mpv", "Tromelo")
+        names = (*OTHERS.get(part, ("mpv",)), "Tromelo")
         for run in range(self.options.runs):
             for name in names:
                 print(f"bench: {part} {run + 1}/{self.options.runs} {name}", file=sys.stderr)

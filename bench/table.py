@@ -17,8 +17,10 @@ class Row:
         return "–" if best is None else f"{best:.{self.digits}f}"
 
     def ratio(self):
-        mine, theirs = self.best("Tromelo"), self.best("mpv")
-        return f"{mine / theirs:.2f}" if mine is not None and theirs else "–"
+        """To the best of the others."""
+        mine = self.best("Tromelo")
+        theirs = [min(values) for name, values in self.values.items() if name != "Tromelo"]
+        return f"{mine / min(theirs):.2f}" if mine is not None and any(theirs) else "–"
 
 
 class Table:
@@ -32,9 +34,8 @@ class Table:
 
     def print(self):
         width = max((len(what) for what in self.rows), default=0)
-        print(f"{'':{width}} {'mpv':>9} {'Tromelo':>9} {'ratio':>7}")
+        names = sorted({name for row in self.rows.values() for name in row.values}, key=str.swapcase)
+        print(f"{'':{width}}" + "".join(f" {name:>9}" for name in (*names, "ratio")))
         for row in self.rows.values():
-            print(
-                f"{row.what:{width}} {row.text('mpv'):>9} {row.text('Tromelo'):>9}"
-                f" {row.ratio():>7}"
-            )
+            texts = [*map(row.text, names), row.ratio()]
+            print(f"{row.what:{width}}" + "".join(f" {text:>9}" for text in texts))

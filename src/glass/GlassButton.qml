@@ -4,11 +4,13 @@ import QtQuick
 import QtQuick.Templates as T
 import Tromelo.Theme
 
-// A pill-shaped button with a text: filled with the accent colour where it is the thing to do.
+// A pill-shaped button with a text, or a symbol and a text: filled with the accent colour where it
+// is the thing to do.
 T.Button {
     id: button
 
     property bool prominent: false
+    property string symbol: ""
     property Item backdrop: null
 
     font: Theme.callout
@@ -18,16 +20,41 @@ T.Button {
     rightPadding: leftPadding
     topPadding: Theme.buttonRise
     bottomPadding: topPadding
+    focusPolicy: Qt.TabFocus
     hoverEnabled: true
     opacity: enabled ? 1 : Theme.disabledOpacity
     Accessible.name: text
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
 
-    contentItem: Text {
-        text: button.text
-        font: button.font
-        color: button.prominent ? Theme.onAccent : Theme.primaryText
-        horizontalAlignment: Text.AlignHCenter
-        verticalAlignment: Text.AlignVCenter
+    contentItem: Item {
+        implicitWidth: label.implicitWidth
+        implicitHeight: words.implicitHeight
+
+        Row {
+            id: label
+
+            anchors.centerIn: parent
+            spacing: Theme.buttonGap
+
+            Symbol {
+                objectName: "buttonSymbol"
+                visible: button.symbol !== ""
+                anchors.verticalCenter: parent.verticalCenter
+                name: button.symbol
+                size: Theme.buttonSymbolSize
+                color: words.color
+            }
+
+            Text {
+                id: words
+
+                text: button.text
+                textFormat: Text.PlainText
+                font: button.font
+                color: button.prominent ? Theme.onAccent : Theme.primaryText
+            }
+        }
     }
 
     background: Item {

@@ -28,21 +28,26 @@ LibraryWindow::LibraryWindow(QQmlEngine& engine, PlaybackModel& playback,
     : engine_(engine),
       playback_(playback),
       player_(player),
-      frame_(defaults, QStringLiteral("TromeloLibrary")) {}
+      frame_(defaults, QStringLiteral("TromeloLibrary")),
+      sidebarWidth_(defaults) {
+  connect(&fileManager_, &FileManager::failed, &playback, &PlaybackModel::reportStorageError);
+}
 
-LibraryWindow::~LibraryWindow() = default;
+LibraryWindow::~LibraryWindow() { saveFrame(); }
 
 void LibraryWindow::make() {
   QQmlComponent component(&engine_, QStringLiteral("Tromelo.Library"),
                           QStringLiteral("LibraryWindow"));
   window_.reset(qobject_cast<QQuickWindow*>(component.createWithInitialProperties(
       {{QStringLiteral("playback"), QVariant::fromValue(&playback_)},
-       {QStringLiteral("player"), QVariant::fromValue(&player_)}})));
+       {QStringLiteral("player"), QVariant::fromValue(&player_)},
+       {QStringLiteral("sidebarWidth"), QVariant::fromValue(&sidebarWidth_)},
+       {QStringLiteral("fileManager"), QVariant::fromValue(&fileManager_)}})));
   if (!window_) qFatal("%s", qPrintable(component.errorString()));
   fade_ = std::make_unique<WindowFade>(
       *window_->findChild<QQuickItem*>(QStringLiteral("libraryScene")));
   fade_->setOpacity(opacity_);
-  window_->setGeometry(frame_.restored(kContentSize));
+  window_->setGeometry(frame_.restored(kContentSize, window_->minimumSize()));
   // Hidden, which it is while a film plays, it keeps no graphics memory.
   window_->setPersistentSceneGraph(false);
   window_->setPersistentGraphics(false);
@@ -80,9 +85,13 @@ void LibraryWindow::present() {
 void LibraryWindow::orderOut() {
   isComing_ = false;
   if (!window_) return;
-  if (window_->visibility() == QWindow::Windowed) frame_.save(window_->geometry());
+  saveFrame();
   window_->hide();
   QMetaObject::invokeMethod(this, &giveFreedMemoryBack, Qt::QueuedConnection);
+}
+
+void LibraryWindow::saveFrame() {
+  if (window_ && window_->visibility() == QWindow::Windowed) frame_.save(window_->geometry());
 }
 
 bool LibraryWindow::eventFilter(QObject* watched, QEvent* event) {

@@ -4,7 +4,9 @@
 #include <QQuickWindow>
 #include <memory>
 
+#include "library/SidebarWidth.h"
 #include "library/WindowFrame.h"
+#include "platform/FileManager.h"
 #include "player/HostWindow.h"
 #include "player/WindowFade.h"
 
@@ -41,11 +43,14 @@ class LibraryWindow : public HostWindow {
  private:
   void make();
   void present();
+  void saveFrame();
 
   QQmlEngine& engine_;
   PlaybackModel& playback_;
   PlayerWindowController& player_;
   WindowFrame frame_;
+  SidebarWidth sidebarWidth_;
+  FileManager fileManager_;
   bool isComing_ = false;
   double opacity_ = 1;
   std::unique_ptr<QQuickWindow> window_;

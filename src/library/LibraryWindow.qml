@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Layouts
 import Tromelo.Player
 
 // The library's window: its scene fades, the window itself stays.
@@ -9,6 +10,8 @@ Window {
 
     required property PlaybackModel playback
     required property PlayerWindowController player
+    required property SidebarWidth sidebarWidth
+    required property FileManager fileManager
 
     title: qsTr("Tromelo")
     color: "transparent"
@@ -16,10 +19,18 @@ Window {
     minimumHeight: 480
     visible: false
 
-    LibraryView {
+    ColumnLayout {
         objectName: "libraryScene"
         anchors.fill: parent
-        playback: window.playback
-        player: window.player
+        spacing: 0
+
+        LibraryView {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            playback: window.playback
+            player: window.player
+            sidebarWidth: window.sidebarWidth
+            fileManager: window.fileManager
+        }
     }
 }

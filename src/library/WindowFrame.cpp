@@ -29,12 +29,12 @@ std::optional<QRect> screenOf(const QRect& frame) {
 WindowFrame::WindowFrame(UserDefaults& defaults, const QString& name)
     : defaults_(defaults), key_(QStringLiteral("windowFrame ") + name) {}
 
-QRect WindowFrame::restored(QSize size) const {
+QRect WindowFrame::restored(QSize size, QSize least) const {
   const QJsonArray numbers = defaults_.value(key_).toArray();
   if (numbers.size() == 4) {
-    const QRect frame(numbers[0].toInt(), numbers[1].toInt(), numbers[2].toInt(),
-                      numbers[3].toInt());
+    QRect frame(numbers[0].toInt(), numbers[1].toInt(), numbers[2].toInt(), numbers[3].toInt());
     const auto screen = screenOf(frame);
+    frame.setSize(frame.size().expandedTo(least));
     if (screen) return keptInside(frame, *screen);
   }
   QRect frame(QPoint(), size);

@@ -14,8 +14,8 @@ class WindowFrame {
   WindowFrame(UserDefaults& defaults, const QString& name);
 
   /// The remembered frame, if it still lies on a screen that can show it; else `size` in the middle
-  /// of the primary screen, no larger than that.
-  QRect restored(QSize size) const;
+  /// of the primary screen. No smaller than `least`, and no larger than the screen.
+  QRect restored(QSize size, QSize least = {}) const;
   void save(const QRect& frame);
 
  private:

@@ -4,7 +4,7 @@
 #include <QQuickWindow>
 #include <QStyleHints>
 
-#include "overlay/DraggedFiles.h"
+#include "player/DraggedFiles.h"
 #include "player/WindowPlacement.h"
 
 namespace tromelo {
@@ -15,15 +15,6 @@ ClickCounter::Limits clickLimits() {
   const QStyleHints& hints = *QGuiApplication::styleHints();
   return {std::chrono::milliseconds(hints.mouseDoubleClickInterval()),
           static_cast<double>(hints.mouseDoubleClickDistance())};
-}
-
-/// Copying is all that is done with files: one that can only be moved must not be taken.
-bool answer(QDropEvent& event) {
-  const bool isWanted = event.possibleActions().testFlag(Qt::CopyAction) &&
-                        !draggedFiles(*event.mimeData()).isEmpty();
-  event.setDropAction(isWanted ? Qt::CopyAction : Qt::IgnoreAction);
-  event.setAccepted(isWanted);
-  return isWanted;
 }
 
 }  // namespace
@@ -64,12 +55,13 @@ void PlayerOverlayInput::wheelEvent(QWheelEvent* event) {
   if (steps != 0) Q_EMIT scrolled(steps);
 }
 
-void PlayerOverlayInput::dragEnterEvent(QDragEnterEvent* event) { answer(*event); }
+void PlayerOverlayInput::dragEnterEvent(QDragEnterEvent* event) { acceptDraggedFiles(*event); }
 
-void PlayerOverlayInput::dragMoveEvent(QDragMoveEvent* event) { answer(*event); }
+void PlayerOverlayInput::dragMoveEvent(QDragMoveEvent* event) { acceptDraggedFiles(*event); }
 
 void PlayerOverlayInput::dropEvent(QDropEvent* event) {
-  if (answer(*event)) Q_EMIT filesDropped(draggedFiles(*event->mimeData()));
+  if (const QList<QUrl> files = acceptDraggedFiles(*event); !files.isEmpty())
+    Q_EMIT filesDropped(files);
 }
 
 }  // namespace tromelo

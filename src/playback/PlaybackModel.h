@@ -68,6 +68,7 @@ class PlaybackModel : public PlaybackState {
   void open(const QUrl& url, std::optional<double> startAt = {});
   /// Plays the first and queues the others.
   void open(const QList<QUrl>& urls);
+  Q_INVOKABLE void openFile(const QUrl& url) { open(url); }
   Q_INVOKABLE void openFiles(const QList<QUrl>& urls) { open(urls); }
   /// Adds files to the end of the queue; plays them where there is nothing else.
   Q_INVOKABLE void enqueue(const QList<QUrl>& urls);

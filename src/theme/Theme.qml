@@ -258,7 +258,61 @@ QtObject {
 
     readonly property real buttonPadding: 20 // of a button with a text, beside it
     readonly property real buttonRise: 9 // above and below
+    readonly property real buttonGap: 7 // between a symbol and the text
+    readonly property real buttonSymbolSize: 14
     readonly property real disabledOpacity: 0.4
+
+    // The library.
+    readonly property color sidebar: Qt.rgba(0.078, 0.086, 0.106, 1)
+    readonly property color sidebarEdge: Qt.rgba(1, 1, 1, 0.07)
+    readonly property color glowTop: Qt.rgba(0.39, 0.82, 1, 0.16)
+    readonly property color glowBottom: Qt.rgba(0.75, 0.35, 0.95, 0.14)
+    readonly property point glowTopCenter: Qt.point(0.2, 0.15) // of the pane
+    readonly property point glowBottomCenter: Qt.point(0.85, 0.9)
+    readonly property real glowTopRadius: 520
+    readonly property real glowBottomRadius: 560
+    readonly property color gold: Qt.rgba(1, 0.84, 0.5, 1)
+    readonly property color rowChosen: Qt.rgba(accent.r, accent.g, accent.b, 0.22)
+    readonly property font windowTitle: ({ family: fontFamily, pixelSize: 15, weight: Font.DemiBold })
+    readonly property font sidebarHeader: ({ family: fontFamily, pixelSize: 11, weight: Font.DemiBold })
+    readonly property font sidebarRow: ({ family: fontFamily, pixelSize: 13 })
+    readonly property font libraryText: ({ family: fontFamily, pixelSize: 12 })
+    readonly property font libraryMessage: ({ family: fontFamily, pixelSize: 12, weight: Font.Medium })
+    readonly property font cardLabel: ({ family: fontFamily, pixelSize: 10, weight: Font.Bold, letterSpacing: 1.4 })
+    readonly property font cardTitle: ({ family: fontFamily, pixelSize: 17, weight: Font.DemiBold })
+    readonly property font chip: ({ family: fontFamily, pixelSize: 11, weight: Font.DemiBold, features: { "tnum": 1 } })
+    readonly property font emptyTitle: ({ family: fontFamily, pixelSize: 22, weight: Font.Bold })
+    readonly property real headerHeight: 52
+    readonly property real toolWidth: 38
+    readonly property real toolHeight: 32
+    readonly property real sidebarPadding: 10
+    readonly property real sidebarRowHeight: 28
+    readonly property real sidebarRowSpacing: 7
+    readonly property real sidebarSymbolSize: 14
+    readonly property real dividerReach: 4 // on either side of the line
+    readonly property real dividerStep: 10 // of a key
+    readonly property real cardWidth: 560 // at most
+    readonly property real cardMargin: 32
+    readonly property real cardPadding: 24
+    readonly property real cardSpacing: 16
+    readonly property real cardRadius: 26
+    readonly property real headingSpacing: 4
+    readonly property real chipSpacing: 6
+    readonly property real chipPadding: 10
+    readonly property real chipRise: 5
+    readonly property real detailSpacing: 5
+    readonly property real detailGap: 10
+    readonly property real detailLabelWidth: 58
+    readonly property real cardButtonSpacing: 10
+    readonly property real emptySymbolSize: 44
+    readonly property real emptyWidth: 380 // at most
+    readonly property real messagePadding: 16
+    readonly property real messageRise: 10
+    readonly property real messageSpacing: 6
+    readonly property real highlightInset: 16
+    readonly property real highlightRadius: 24
+    readonly property real highlightWidth: 2
+    readonly property list<real> highlightDashes: [8, 6]
 
     readonly property real spacing: 16
     readonly property real margin: 24

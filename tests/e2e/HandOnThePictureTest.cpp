@@ -3,6 +3,7 @@
 #include <QProcess>
 #include <QUrl>
 
+#include "Drag.h"
 #include "EndToEnd.h"
 #include "support/WaitFor.h"
 
@@ -170,43 +171,6 @@ TEST_F(HandOnThePicture, APointerOnTheBarKeepsTheControls) {
   screen::movePointer(video() + QPoint(7, 0));
   EXPECT_TRUE(controlsCome("hand-moves"));
 }
-
-/// A drag from another program to the video.
-class Drag {
- public:
-  Drag(const QString& type, const QStringList& lines) {
-    source_.start(QStringLiteral(TROMELO_DRAG_SOURCE), QStringList{type} + lines);
-    EXPECT_TRUE(waitFor([this] { return says("ready"); }));
-  }
-  ~Drag() {
-    source_.kill();
-    source_.waitForFinished();
-  }
-
-  /// What came of it. With `isWanted` it is let go when the player says that it would take it.
-  QString drop(QPoint place, bool isWanted) {
-    screen::movePointer({20, 20});
-    screen::pressButton();
-    int moves = 0;
-    // A hand is never quite still.
-    EXPECT_TRUE(waitFor([&] {
-      screen::movePointer(place + QPoint(moves++ % 2, 0));
-      return isWanted ? says("would copy") : moves == 20;
-    }));
-    screen::releaseButton();
-    EXPECT_TRUE(waitFor([this] { return says("did "); }));
-    return said_.section(QStringLiteral("did "), 1).trimmed();
-  }
-
- private:
-  bool says(const char* text) {
-    said_ += QString::fromUtf8(source_.readAllStandardOutput());
-    return said_.contains(QString::fromLatin1(text));
-  }
-
-  QProcess source_;
-  QString said_;
-};
 
 TEST_F(HandOnThePicture, TakesDroppedFilesInTheirOrderAndNothingElse) {
   const QString uris = QStringLiteral("text/uri-list");

@@ -36,6 +36,13 @@ TEST_F(WindowFrameTest, IsMovedWhereAPersonCanReachIt) {
   EXPECT_EQ(frame_.restored({640, 360}), screen_);
 }
 
+TEST_F(WindowFrameTest, IsNeverTooSmallForItsContent) {
+  frame_.save(QRect(screen_.bottomRight() - QPoint(120, 120), QSize(100, 100)));
+  const QRect frame = frame_.restored({640, 360}, {300, 200});
+  EXPECT_EQ(frame.size(), QSize(300, 200));
+  EXPECT_TRUE(screen_.contains(frame));
+}
+
 TEST_F(WindowFrameTest, ForgetsAScreenThatIsGoneAndNonsense) {
   for (const QJsonValue& stored :
        {QJsonValue(QJsonArray{100000, 100000, 300, 200}), QJsonValue(QJsonArray{0, 0, -5, 10}),

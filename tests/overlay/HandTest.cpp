@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "overlay/ClickCounter.h"
-#include "overlay/DraggedFiles.h"
+#include "player/DraggedFiles.h"
 #include "overlay/ScrollSteps.h"
 #include "overlay/WindowPress.h"
 #include "platform/FilePath.h"

@@ -13,7 +13,7 @@ namespace tromelo::testing {
 /// One view by itself in a window, and an engine that reports what a test says.
 class ViewTest : public PlayerTest {
  protected:
-  ViewTest() {
+  explicit ViewTest(const char* module = "Tromelo.Overlay") : module_(QString::fromLatin1(module)) {
     host_.resize(800, 450);
     layer_.setParentItem(host_.contentItem());
     layer_.setSize(host_.size());
@@ -22,7 +22,7 @@ class ViewTest : public PlayerTest {
 
   /// With the model, and the chrome where it takes that too.
   QQuickItem& show(const char* type, QVariantMap properties = {}) {
-    QQmlComponent component(&engine_, QStringLiteral("Tromelo.Overlay"), QString::fromLatin1(type));
+    QQmlComponent component(&engine_, module_, QString::fromLatin1(type));
     properties.insert(QStringLiteral("parent"), QVariant::fromValue(&layer_));
     view_.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties)));
     if (!view_) qFatal("%s", qPrintable(component.errorString()));
@@ -95,6 +95,7 @@ class ViewTest : public PlayerTest {
     click(frame(item(name)).center());
   }
 
+  const QString module_;
   QQmlEngine engine_;
   QQuickWindow host_;
   QQuickItem layer_;

@@ -3,6 +3,7 @@
 #include <QList>
 #include <QUrl>
 
+class QDropEvent;
 class QMimeData;
 
 namespace tromelo {
@@ -10,5 +11,9 @@ namespace tromelo {
 /// The local files and folders of a drag, in its order; web links and text are passed over. Names
 /// keep their bytes.
 QList<QUrl> draggedFiles(const QMimeData& data);
+
+/// Answers a drag that moves or is let go: its files would be copied, anything else is refused.
+/// Gives the files, none where it was refused.
+QList<QUrl> acceptDraggedFiles(QDropEvent& event);
 
 }  // namespace tromelo

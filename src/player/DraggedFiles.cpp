@@ -1,5 +1,6 @@
-#include "overlay/DraggedFiles.h"
+#include "player/DraggedFiles.h"
 
+#include <QDropEvent>
 #include <QMimeData>
 
 #include "platform/FilePath.h"
@@ -29,6 +30,15 @@ QList<QUrl> draggedFiles(const QMimeData& data) {
     if (text.isEmpty() || text.startsWith('#')) continue;
     if (const QUrl url = urlOf(text); !pathFromFileUrl(url).empty()) files.append(url);
   }
+  return files;
+}
+
+QList<QUrl> acceptDraggedFiles(QDropEvent& event) {
+  QList<QUrl> files;
+  // Copying is all that is done with files: one that can only be moved must not be taken.
+  if (event.possibleActions().testFlag(Qt::CopyAction)) files = draggedFiles(*event.mimeData());
+  event.setDropAction(files.isEmpty() ? Qt::IgnoreAction : Qt::CopyAction);
+  event.setAccepted(!files.isEmpty());
   return files;
 }
 

@@ -1,0 +1,63 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Tromelo.Controls
+import Tromelo.Glass
+import Tromelo.Player
+import Tromelo.Theme
+
+// What to do where there is nothing to play again.
+Column {
+    id: empty
+
+    required property PlaybackModel playback
+    required property Item backdrop
+
+    spacing: Theme.spacing
+
+    Symbol {
+        anchors.horizontalCenter: parent.horizontalCenter
+        name: "film.stack"
+        size: Theme.emptySymbolSize
+        color: Theme.secondaryText
+    }
+
+    Text {
+        objectName: "emptyTitle"
+        width: parent.width
+        text: qsTr("Drop a Video")
+        font: Theme.emptyTitle
+        color: Theme.primaryText
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.Wrap
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
+    }
+
+    Text {
+        objectName: "emptyDescription"
+        width: parent.width
+        text: qsTr("Or choose some to play. Several videos play as a queue.")
+        font: Theme.body
+        color: Theme.secondaryText
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.Wrap
+    }
+
+    GlassButton {
+        id: openVideos
+
+        objectName: "openVideos"
+        anchors.horizontalCenter: parent.horizontalCenter
+        backdrop: empty.backdrop
+        prominent: true
+        symbol: "folder"
+        text: qsTr("Open Videos…")
+        onClicked: empty.playback.presentOpenPanel()
+
+        HoverTip {
+            control: openVideos
+            tip: qsTr("Open videos (⌘O)")
+        }
+    }
+}

@@ -1,0 +1,127 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Tromelo.Controls
+import Tromelo.Glass
+import Tromelo.Player
+import Tromelo.Theme
+
+// The video that was played last, and how to play it again.
+GlassSurface {
+    id: card
+
+    required property PlaybackModel playback
+
+    implicitHeight: rows.implicitHeight + 2 * Theme.cardPadding
+    radius: Theme.cardRadius
+    Accessible.role: Accessible.Grouping
+    Accessible.name: qsTr("Last played")
+
+    Column {
+        id: rows
+
+        anchors.fill: parent
+        anchors.margins: Theme.cardPadding
+        spacing: Theme.cardSpacing
+
+        Column {
+            width: parent.width
+            spacing: Theme.headingSpacing
+
+            Text {
+                objectName: "cardLabel"
+                text: qsTr("LAST PLAYED")
+                font: Theme.cardLabel
+                color: Theme.secondaryText
+                Accessible.ignored: true
+            }
+
+            Text {
+                objectName: "cardTitle"
+                width: parent.width
+                text: card.playback.title
+                textFormat: Text.PlainText
+                font: Theme.cardTitle
+                color: Theme.primaryText
+                wrapMode: Text.Wrap
+                maximumLineCount: 2
+                elide: Text.ElideRight
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+        }
+
+        GlassGroup {
+            objectName: "cardChips"
+            width: parent.width
+            spacing: Theme.chipSpacing
+
+            Chip {
+                backdrop: card.backdrop
+                text: card.playback.dynamicRange.label
+                highlighted: LibraryTexts.isHighDynamicRange(card.playback.dynamicRange)
+            }
+            Chip {
+                backdrop: card.backdrop
+                text: card.playback.videoSize
+            }
+            Chip {
+                backdrop: card.backdrop
+                text: card.playback.frameRate
+            }
+            Chip {
+                backdrop: card.backdrop
+                text: card.playback.codec
+            }
+        }
+
+        Column {
+            width: parent.width
+            spacing: Theme.detailSpacing
+
+            DetailLine {
+                width: parent.width
+                label: qsTr("Output")
+                value: card.playback.output
+            }
+            DetailLine {
+                width: parent.width
+                label: qsTr("Display")
+                value: card.playback.display
+            }
+            DetailLine {
+                width: parent.width
+                label: qsTr("Decoder")
+                value: Wording.shown(card.playback.decoder)
+            }
+        }
+
+        Flow {
+            width: parent.width
+            spacing: Theme.cardButtonSpacing
+
+            GlassButton {
+                objectName: "playAgain"
+                backdrop: card.backdrop
+                prominent: true
+                symbol: "play.fill"
+                text: qsTr("Play Again")
+                onClicked: card.playback.openFile(card.playback.lastURL)
+            }
+            GlassButton {
+                id: openOther
+
+                objectName: "openOther"
+                backdrop: card.backdrop
+                symbol: "folder"
+                text: qsTr("Open Other…")
+                onClicked: card.playback.presentOpenPanel()
+
+                HoverTip {
+                    control: openOther
+                    tip: qsTr("Open videos (⌘O)")
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QProcess>
+
+#include "Screen.h"
+#include "support/WaitFor.h"
+
+namespace tromelo::testing {
+
+/// A drag from another program to the player.
+class Drag {
+ public:
+  Drag(const QString& type, const QStringList& lines) {
+    source_.start(QStringLiteral(TROMELO_DRAG_SOURCE), QStringList{type} + lines);
+    EXPECT_TRUE(waitFor([this] { return says("ready"); }));
+  }
+  ~Drag() {
+    source_.kill();
+    source_.waitForFinished();
+  }
+
+  /// What came of it. With `isWanted` it is let go when the player says that it would take it.
+  QString drop(QPoint place, bool isWanted) {
+    screen::movePointer({20, 20});
+    screen::pressButton();
+    int moves = 0;
+    // A hand is never quite still.
+    EXPECT_TRUE(waitFor([&] {
+      screen::movePointer(place + QPoint(moves++ % 2, 0));
+      return isWanted ? says("would copy") : moves == 20;
+    }));
+    screen::releaseButton();
+    EXPECT_TRUE(waitFor([this] { return says("did "); }));
+    return said_.section(QStringLiteral("did "), 1).trimmed();
+  }
+
+ private:
+  bool says(const char* text) {
+    said_ += QString::fromUtf8(source_.readAllStandardOutput());
+    return said_.contains(QString::fromLatin1(text));
+  }
+
+  QProcess source_;
+  QString said_;
+};
+
+}  // namespace tromelo::testing

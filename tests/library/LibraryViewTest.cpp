@@ -1,0 +1,313 @@
+#include <QAccessible>
+#include <QDropEvent>
+#include <QMimeData>
+
+#include "library/SidebarWidth.h"
+#include "overlay/ViewTest.h"
+#include "platform/FileManager.h"
+
+namespace tromelo {
+namespace {
+
+class LibraryViewTest : public testing::ViewTest {
+ protected:
+  LibraryViewTest() : ViewTest("Tromelo.Library") {
+    host_.resize(1100, 720);
+    layer_.setSize(host_.size());
+    host_.requestActivate();
+    EXPECT_TRUE(testing::waitFor([this] { return host_.isActive(); }));
+    QQuickItem& view = show("LibraryView",
+                            {{"playback", model()},
+                             {"player", QVariant::fromValue(&player())},
+                             {"sidebarWidth", QVariant::fromValue(&sidebarWidth_)},
+                             {"fileManager", QVariant::fromValue(&fileManager_)}});
+    view.setSize(host_.size());
+    view.forceActiveFocus();
+    layOut();
+  }
+
+  /// To its end.
+  void play(const char* path) {
+    report(MpvProperty::path, path);
+    load(60);
+    report(event::EndFile{});
+  }
+  /// From top to bottom.
+  QList<QQuickItem*> rows() {
+    layOut();
+    QList<QQuickItem*> all = items(QStringLiteral("recentRow"));
+    all.removeIf([](const QQuickItem* row) { return !row->isVisible(); });
+    std::ranges::sort(all, {}, [this](QQuickItem* row) { return frame(row).y(); });
+    return all;
+  }
+  QStringList texts(const QList<QQuickItem*>& all, const char* property = "text") {
+    QStringList found;
+    for (const QQuickItem* one : all) found << one->property(property).toString();
+    return found;
+  }
+  /// The name of the row that has the keyboard.
+  QString chosen() {
+    QStringList names;
+    for (const QQuickItem* row : rows())
+      if (row->property("chosen").toBool()) names << row->property("name").toString();
+    return names.join(u'|');
+  }
+  void key(int key, Qt::KeyboardModifiers modifiers = {}) {
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QKeyEvent event(type, key, modifiers);
+      QCoreApplication::sendEvent(&host_, &event);
+    }
+    layOut();
+  }
+  void clickAt(const QQuickItem* one, Qt::MouseButton button = Qt::LeftButton) {
+    layOut();
+    const QPointF place = frame(one).center();
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+      const auto held = type == QEvent::MouseButtonPress ? button : Qt::NoButton;
+      QMouseEvent event(type, place, host_.position() + place, button, held, Qt::NoModifier);
+      QCoreApplication::sendEvent(&host_, &event);
+    }
+    layOut();
+  }
+  /// The file that the engine was told to play since the last call.
+  std::string opened() {
+    for (const std::string& line : takeSent())
+      if (line.starts_with("loadfile ")) return line;
+    return {};
+  }
+  bool asksForFiles() { return std::exchange(files_.asked, {}).has_value(); }
+
+  SidebarWidth sidebarWidth_{defaults_};
+  FileManager fileManager_;
+};
+
+TEST_F(LibraryViewTest, ListsWhatWasPlayedNewestFirst) {
+  EXPECT_TRUE(isShown("noRecents"));
+  EXPECT_EQ(text("noRecents"), QStringLiteral("Videos you play appear here."));
+  EXPECT_EQ(text("recentsHeading"), QStringLiteral("Recently Played"));
+
+  play("/Movies/.hidden");
+  play("/Movies/My.Film.2020.mkv");
+  EXPECT_FALSE(isShown("noRecents"));
+  EXPECT_EQ(texts(rows(), "name"), (QStringList{"My.Film.2020", ".hidden"}));
+  EXPECT_EQ(texts(rows(), "path"), (QStringList{"/Movies/My.Film.2020.mkv", "/Movies/.hidden"}));
+  EXPECT_EQ(texts(items(QStringLiteral("recentName"))).size(), 2);
+
+  clickAt(rows()[1]);
+  EXPECT_EQ(opened(), "loadfile /Movies/.hidden replace");
+  EXPECT_EQ(chosen(), QString()) << "a click leaves the keyboard where it is";
+}
+
+TEST_F(LibraryViewTest, TheKeyboardStaysAtItsFileWhileTheListChanges) {
+  for (const char* path : {"/c", "/b", "/a"}) play(path);
+  EXPECT_EQ(chosen(), QString());
+  key(Qt::Key_Down);
+  EXPECT_EQ(chosen(), QStringLiteral("a"));
+  key(Qt::Key_Down);
+  EXPECT_EQ(chosen(), QStringLiteral("b"));
+  for (const auto enter : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+    takeSent();
+    key(enter);
+    EXPECT_EQ(opened(), "loadfile /b replace") << enter;
+  }
+  play("/d");
+  EXPECT_EQ(chosen(), QStringLiteral("b")) << "another comes before it";
+  play("/b");
+  EXPECT_EQ(texts(rows(), "name"), (QStringList{"b", "d", "a", "c"}));
+  EXPECT_EQ(chosen(), QStringLiteral("b")) << "it moves";
+  playback_.removeRecent(QUrl(QStringLiteral("file:///b")));
+  EXPECT_EQ(chosen(), QStringLiteral("d")) << "the next one takes its place";
+  for (const char* left : {"file:///a", "file:///d", "file:///c"})
+    playback_.removeRecent(QUrl(QString::fromLatin1(left)));
+  EXPECT_TRUE(isShown("noRecents"));
+  EXPECT_NE(host_.activeFocusItem(), item("recentsList"));
+  EXPECT_TRUE(host_.activeFocusItem()->activeFocusOnTab());
+}
+
+TEST_F(LibraryViewTest, ARowsMenuDoesWhatItSaysFromTheHandAndFromTheKeyboard) {
+  play("/b");
+  play("/a");
+  const auto open = [this](int how) {
+    if (how == 0) return clickAt(rows()[1], Qt::RightButton);
+    while (chosen() != QStringLiteral("b")) key(Qt::Key_Down);
+    how == 1 ? key(Qt::Key_Menu) : key(Qt::Key_F10, Qt::ShiftModifier);
+  };
+  for (const int how : {0, 1, 2}) {
+    open(how);
+    ASSERT_TRUE(isShown("addToQueue")) << how;
+    EXPECT_EQ(text("addToQueue"), QStringLiteral("Add to Queue"));
+    EXPECT_EQ(text("showInFileManager"), QStringLiteral("Show in File Manager"));
+    EXPECT_EQ(text("removeFromRecents"), QStringLiteral("Remove from Recents"));
+    key(Qt::Key_Escape);
+    ASSERT_TRUE(testing::waitFor([this] { return !isShown("addToQueue"); }));
+  }
+  EXPECT_EQ(chosen(), QStringLiteral("b")) << "the keyboard comes back";
+
+  open(1);
+  takeSent();
+  key(Qt::Key_Return);
+  EXPECT_EQ(takeSent().at(0), "loadfile /b append-play");
+  open(0);
+  play("/c");  // while the menu is open
+  clickAt(item("removeFromRecents"));
+  EXPECT_EQ(texts(rows(), "name"), (QStringList{"c", "a"}));
+}
+
+TEST_F(LibraryViewTest, DescribesTheLastFileOnceItIsKnown) {
+  struct Row {
+    const char* name;
+    const char* path;
+    const char* codec;
+    bool isCard;
+  };
+  for (const Row& row : {Row{"at the start", nullptr, nullptr, false},
+                         Row{"no codec yet", "/films/Film.mkv", nullptr, false},
+                         Row{"described", "/films/Film.mkv", "hevc", true}}) {
+    if (row.path) play(row.path);
+    if (row.codec) report(MpvProperty::videoFormat, row.codec);
+    EXPECT_EQ(isShown("lastPlayedCard"), row.isCard) << row.name;
+    EXPECT_EQ(isShown("emptyLibrary"), !row.isCard) << row.name;
+  }
+  EXPECT_EQ(text("cardLabel"), QStringLiteral("LAST PLAYED"));
+  EXPECT_EQ(text("cardTitle"), playback_.title());
+  EXPECT_EQ(texts(items(QStringLiteral("detailValue"))),
+            (QStringList{playback_.output(), playback_.display(), playback_.decoder()}));
+  takeSent();
+  clickAt(item("playAgain"));
+  EXPECT_EQ(opened(), "loadfile /films/Film.mkv replace");
+}
+
+TEST_F(LibraryViewTest, OnlyAHighDynamicRangeIsGold) {
+  play("/films/Film.mkv");
+  report(MpvProperty::videoFormat, "hevc");
+  struct Row {
+    const char* gamma;
+    const char* label;
+    bool isGold;
+  };
+  for (const Row& row : {Row{"bt.1886", "SDR", false}, {"pq", "HDR10", true}, {"hlg", "HLG", true}}) {
+    report(MpvProperty::gamma, row.gamma);
+    const auto chips = items(QStringLiteral("chipText"));
+    EXPECT_EQ(texts(chips), (QStringList{QString::fromLatin1(row.label), playback_.videoSize(),
+                                         playback_.frameRate(), playback_.codec()}));
+    for (const QQuickItem* chip : chips) {
+      const QColor colour = chip->property("color").value<QColor>();
+      EXPECT_EQ(colour.blueF() < 0.6, row.isGold && chip == chips[0]) << row.label;
+    }
+  }
+}
+
+TEST_F(LibraryViewTest, EveryButtonThatOpensAsksForFiles) {
+  const auto check = [this](const char* name) {
+    clickAt(item(name));
+    EXPECT_TRUE(asksForFiles()) << name << ", by hand";
+    for (const auto enter : {Qt::Key_Return, Qt::Key_Space}) {
+      item(name)->forceActiveFocus(Qt::TabFocusReason);
+      key(enter);
+      EXPECT_TRUE(asksForFiles()) << name << ", by key " << enter;
+    }
+  };
+  check("libraryOpen");
+  check("openVideos");
+  play("/films/Film.mkv");
+  report(MpvProperty::videoFormat, "hevc");
+  check("openOther");
+}
+
+TEST_F(LibraryViewTest, TellsTheErrorWordForWord) {
+  EXPECT_FALSE(isShown("libraryError"));
+  const QString sentence = QStringLiteral("Could not play <b>Film</b>: ") + QString(300, u'x');
+  playback_.reportStorageError(sentence);
+  ASSERT_TRUE(isShown("libraryError"));
+  QQuickItem* capsule = item("libraryError");
+  const QQuickItem* words = items(QStringLiteral("messageText"), capsule).value(0);
+  EXPECT_EQ(words->property("text").toString(), sentence);
+  EXPECT_EQ(words->property("lineCount").toInt(), 2);
+  layOut();
+  const QRectF pane(231, 0, host_.width() - 231, host_.height());
+  EXPECT_TRUE(pane.contains(frame(capsule)));
+  EXPECT_NEAR(frame(capsule).center().x(), pane.center().x(), 1);
+  EXPECT_EQ(frame(capsule).bottom(), pane.bottom() - 24);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(capsule)->text(QAccessible::Name), sentence);
+}
+
+TEST_F(LibraryViewTest, KeysReachAFileWithoutAPicture) {
+  play("/a");
+  key(Qt::Key_Down);
+  ASSERT_EQ(chosen(), QStringLiteral("a"));
+  load(60);
+  EXPECT_TRUE(isShown("libraryStatus"));
+  EXPECT_EQ(chosen(), QString());
+  for (const auto& [pressed, sent] : {std::pair{Qt::Key_Space, "set pause yes"},
+                                      {Qt::Key_Right, "seek 10 relative"},
+                                      {Qt::Key_Down, "set volume 95"},
+                                      {Qt::Key_Escape, "stop"}}) {
+    takeSent();
+    key(pressed);
+    const Sent lines = takeSent();
+    EXPECT_TRUE(lines.size() == 1 && lines[0].starts_with(sent)) << sent;
+  }
+  report(event::EndFile{});
+  EXPECT_FALSE(isShown("libraryStatus"));
+  key(Qt::Key_Down);
+  EXPECT_EQ(chosen(), QStringLiteral("a"));
+}
+
+TEST_F(LibraryViewTest, TakesDroppedFilesAnywhereAndNothingElse) {
+  const auto data = [](const QByteArray& type, const QByteArray& lines) {
+    auto mime = std::make_unique<QMimeData>();
+    mime->setData(QString::fromLatin1(type), lines);
+    return mime;
+  };
+  const auto enter = [this](const QMimeData& mime, QPoint place) {
+    QDragEnterEvent event(place, Qt::CopyAction, &mime, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&host_, &event);
+    QDragMoveEvent move(place, Qt::CopyAction, &mime, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&host_, &move);
+    return move.isAccepted();
+  };
+  const auto isHighlighted = [this] { return item("dropHighlight")->opacity() == 1; };
+  const auto drop = [this](const QMimeData& mime, QPoint place) {
+    QDropEvent event(place, Qt::CopyAction, &mime, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&host_, &event);
+    return event.isAccepted();
+  };
+  for (const QPoint place : {QPoint(50, 300), QPoint(700, 360), QPoint(231, 10)}) {
+    const auto text = data("text/plain", "a film");
+    EXPECT_FALSE(enter(*text, place));
+    EXPECT_EQ(item("dropHighlight")->opacity(), 0);
+    QDragLeaveEvent leave;
+    QCoreApplication::sendEvent(&host_, &leave);
+
+    const auto files = data("text/uri-list", "file:///c.mkv\r\nhttp://no/\r\nfile:///a%20.mkv\r\n");
+    EXPECT_TRUE(enter(*files, place));
+    EXPECT_TRUE(testing::waitFor(isHighlighted));
+    takeSent();
+    EXPECT_TRUE(drop(*files, place));
+    EXPECT_TRUE(testing::waitFor([this] { return item("dropHighlight")->opacity() == 0; }));
+    Sent loads = takeSent();
+    std::erase_if(loads, [](const std::string& line) { return !line.starts_with("loadfile"); });
+    EXPECT_EQ(loads, (Sent{"loadfile /c.mkv replace", "loadfile /a .mkv append"}));
+  }
+}
+
+TEST_F(LibraryViewTest, TheDividerIsDraggedAndMovedByKeys) {
+  const auto widths = [this] { return QPointF(item("librarySidebar")->width(), sidebarWidth_.width()); };
+  EXPECT_EQ(widths(), QPointF(230, 230));
+  const QPointF place(230, 400);
+  press(place);
+  drag(place + QPointF(3, 0));
+  drag(place + QPointF(30, 5));
+  EXPECT_EQ(widths(), QPointF(260, 260));
+  drag(place + QPointF(500, 5));
+  release(place + QPointF(500, 5));
+  EXPECT_EQ(widths(), QPointF(300, 300));
+  item("sidebarDivider")->forceActiveFocus(Qt::TabFocusReason);
+  key(Qt::Key_Left);
+  EXPECT_EQ(widths(), QPointF(290, 290));
+  key(Qt::Key_Right);
+  EXPECT_EQ(widths(), QPointF(300, 300));
+}
+
+}  // namespace
+}  // namespace tromelo

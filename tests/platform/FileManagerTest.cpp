@@ -1,0 +1,89 @@
+#include "platform/FileManager.h"
+
+#include <gtest/gtest.h>
+
+#include <QDBusConnection>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "platform/FilePath.h"
+#include "support/BusDaemon.h"
+#include "support/WaitFor.h"
+
+namespace tromelo {
+namespace {
+
+/// The desktop's side.
+class DesktopFileManager : public QObject {
+  Q_OBJECT
+  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.FileManager1")
+
+ public:
+  QStringList shown;
+
+ public Q_SLOTS:
+  void ShowItems(const QStringList& uris, const QString&) { shown << uris; }
+};
+
+class FileManagerTest : public ::testing::Test {
+ protected:
+  FileManagerTest() {
+    qputenv("PATH", directory_.path().toUtf8());
+    QObject::connect(&manager_, &FileManager::failed,
+                     [this](const QString& sentence) { said_ = sentence; });
+  }
+  ~FileManagerTest() override { qputenv("PATH", path_); }
+
+  /// Says which folder it was told to open.
+  void installOpener() {
+    QFile opener(directory_.filePath(QStringLiteral("xdg-open")));
+    ASSERT_TRUE(opener.open(QIODevice::WriteOnly));
+    opener.write("#!/bin/sh\nprintf %s \"$1\" > '" + openedPath().toUtf8() + "'\n");
+    opener.close();
+    opener.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+  }
+  QString openedPath() const { return directory_.filePath(QStringLiteral("opened")); }
+  QByteArray opened() const {
+    QFile file(openedPath());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+
+  QTemporaryDir directory_;
+  const QByteArray path_ = qgetenv("PATH");
+  const QUrl film_ = fileUrlFromPath("/films \xE9/a film.mkv");
+  FileManager manager_;
+  QString said_;
+};
+
+TEST_F(FileManagerTest, ShowsTheFileOrItsFolderOrSaysWhyNot) {
+  const testing::BusDaemon daemon;
+  ASSERT_FALSE(daemon.address().isEmpty());
+  qputenv("DBUS_SESSION_BUS_ADDRESS", daemon.address().toUtf8());
+  const QString name = QStringLiteral("file manager");
+  DesktopFileManager files;
+  {
+    QDBusConnection desktop = QDBusConnection::connectToBus(daemon.address(), name);
+    ASSERT_TRUE(desktop.registerObject(QStringLiteral("/org/freedesktop/FileManager1"), &files,
+                                       QDBusConnection::ExportAllSlots));
+    ASSERT_TRUE(desktop.registerService(QStringLiteral("org.freedesktop.FileManager1")));
+    manager_.show(film_);
+    EXPECT_TRUE(testing::waitFor([&] { return !files.shown.isEmpty(); }));
+    EXPECT_EQ(files.shown, QStringList{QStringLiteral("file:///films%20%E9/a%20film.mkv")});
+  }
+  QDBusConnection::disconnectFromBus(name);
+
+  installOpener();
+  manager_.show(film_);
+  EXPECT_TRUE(testing::waitFor([&] { return !opened().isEmpty(); }));
+  EXPECT_EQ(opened(), "file:///films%20%E9/");
+  EXPECT_EQ(said_, QString());
+
+  ASSERT_TRUE(QFile::remove(directory_.filePath(QStringLiteral("xdg-open"))));
+  manager_.show(film_);
+  EXPECT_TRUE(testing::waitFor([&] { return !said_.isEmpty(); }));
+}
+
+}  // namespace
+}  // namespace tromelo
+
+#include "FileManagerTest.moc"
