@@ -12,6 +12,7 @@ Item {
     required property PlayerWindowController player
     required property bool isTargeted
 
+    readonly property bool hasError: playback.errorMessage !== ""
     readonly property bool isDescribed: LibraryTexts.isDescribed(playback.lastURL, playback.codec)
 
     Backdrop {
@@ -54,15 +55,13 @@ Item {
     Column {
         id: messages
 
-        visible: error.visible || note.visible
+        visible: detail.hasError || detail.player.playsWithoutWindow
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
         anchors.bottomMargin: Theme.margin
         spacing: Theme.messageSpacing
 
         MessageCapsule {
-            id: note
-
             objectName: "libraryStatus"
             visible: detail.player.playsWithoutWindow
             anchors.horizontalCenter: parent.horizontalCenter
@@ -73,10 +72,8 @@ Item {
         }
 
         MessageCapsule {
-            id: error
-
             objectName: "libraryError"
-            visible: message !== ""
+            visible: detail.hasError
             anchors.horizontalCenter: parent.horizontalCenter
             room: detail.width - 2 * Theme.margin
             backdrop: backdrop

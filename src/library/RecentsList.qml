@@ -64,6 +64,10 @@ Rectangle {
         interactive: contentHeight > height
         keyNavigationEnabled: true
         highlightMoveDuration: 0
+        // The keyboard begins at the top, whatever came into the list before.
+        currentIndex: -1
+        onActiveFocusChanged: if (activeFocus && currentIndex < 0)
+            currentIndex = 0
         Accessible.role: Accessible.List
         Accessible.name: heading.text
         // Nothing is left to stand on.
@@ -113,8 +117,12 @@ Rectangle {
 
         // Whose menu it is, whatever becomes of its row.
         property url file
+        // Had the keyboard, and gets it back.
+        property Item before: null
 
         objectName: "recentMenu"
+        onAboutToShow: before = sidebar.Window.activeFocusItem
+        onClosed: before?.forceActiveFocus(Qt.PopupFocusReason)
 
         CommandItem {
             objectName: "addToQueue"

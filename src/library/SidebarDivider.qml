@@ -22,35 +22,25 @@ Item {
         anchors.fill: parent
         anchors.leftMargin: divider.activeFocus ? -Theme.focusWidth / 2 : 0
         anchors.rightMargin: anchors.leftMargin
-        color: divider.activeFocus || drag.active ? Theme.accent : area.hovered ? Theme.surfaceHovered : Theme.sidebarEdge
+        color: divider.activeFocus || area.pressed ? Theme.accent : area.containsMouse ? Theme.surfaceHovered : Theme.sidebarEdge
     }
 
-    Item {
+    MouseArea {
+        id: area
+
+        // Where in it the hand took hold.
+        property real grip: 0
+
         anchors.fill: parent
         anchors.leftMargin: -Theme.dividerReach
         anchors.rightMargin: -Theme.dividerReach
-
-        HoverHandler {
-            id: area
-            cursorShape: Qt.SplitHCursor
+        cursorShape: Qt.SplitHCursor
+        hoverEnabled: true
+        onPressed: mouse => grip = mouse.x
+        onPositionChanged: mouse => {
+            if (pressed)
+                divider.sidebar.width = divider.x + mouse.x - grip;
         }
-
-        TapHandler {
-            onDoubleTapped: divider.sidebar.reset()
-        }
-
-        DragHandler {
-            id: drag
-
-            property real before: 0
-
-            target: null
-            yAxis.enabled: false
-            dragThreshold: 0
-            grabPermissions: PointerHandler.CanTakeOverFromAnything
-            onActiveChanged: before = divider.sidebar.width
-            onActiveTranslationChanged: if (active)
-                divider.sidebar.width = before + activeTranslation.x
-        }
+        onDoubleClicked: divider.sidebar.reset()
     }
 }

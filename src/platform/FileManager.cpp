@@ -13,11 +13,10 @@ namespace tromelo {
 namespace {
 
 QDBusMessage showItemsCall(const QUrl& file) {
-  QDBusMessage call =
-      QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.FileManager1"),
-                                     QStringLiteral("/org/freedesktop/FileManager1"),
-                                     QStringLiteral("org.freedesktop.FileManager1"),
-                                     QStringLiteral("ShowItems"));
+  QDBusMessage call = QDBusMessage::createMethodCall(
+      QStringLiteral("org.freedesktop.FileManager1"),
+      QStringLiteral("/org/freedesktop/FileManager1"),
+      QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));
   call << QStringList{QString::fromLatin1(file.toEncoded())} << QString();
   return call;
 }

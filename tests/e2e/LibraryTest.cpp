@@ -120,10 +120,10 @@ TEST_F(Library, TakesHundredsOfDroppedFilesInTheirOrder) {
 TEST_F(Library, ComesBackWhereAPersonLeftIt) {
   startWith({});
   ASSERT_TRUE(waitFor([this] { return frame().size() == QSize(1100, 720); }));
-  screen::run(QStringLiteral("xdotool"), {QStringLiteral("windowsize"), id, QStringLiteral("900"),
-                                          QStringLiteral("520")});
-  screen::run(QStringLiteral("xdotool"), {QStringLiteral("windowmove"), id, QStringLiteral("100"),
-                                          QStringLiteral("80")});
+  screen::run(QStringLiteral("xdotool"),
+              {QStringLiteral("windowsize"), id, QStringLiteral("900"), QStringLiteral("520")});
+  screen::run(QStringLiteral("xdotool"),
+              {QStringLiteral("windowmove"), id, QStringLiteral("100"), QStringLiteral("80")});
   ASSERT_TRUE(waitFor([this] { return frame().size() == QSize(900, 520) && frame().x() < 120; }));
   const QPoint divider = frame().topLeft() + QPoint(230, 300);
   const QRect before = frame();

@@ -28,7 +28,6 @@ class DesktopFileManager : public QObject {
 class FileManagerTest : public ::testing::Test {
  protected:
   FileManagerTest() {
-    qputenv("PATH", directory_.path().toUtf8());
     QObject::connect(&manager_, &FileManager::failed,
                      [this](const QString& sentence) { said_ = sentence; });
   }
@@ -59,6 +58,7 @@ TEST_F(FileManagerTest, ShowsTheFileOrItsFolderOrSaysWhyNot) {
   const testing::BusDaemon daemon;
   ASSERT_FALSE(daemon.address().isEmpty());
   qputenv("DBUS_SESSION_BUS_ADDRESS", daemon.address().toUtf8());
+  qputenv("PATH", directory_.path().toUtf8());
   const QString name = QStringLiteral("file manager");
   DesktopFileManager files;
   {
