@@ -104,10 +104,13 @@ TEST_F(Library, TakesHundredsOfDroppedFilesInTheirOrder) {
   for (const QString& file : files)
     urls << QString::fromUtf8(QUrl::fromLocalFile(file).toEncoded());
 
-  Drag text(QStringLiteral("text/plain"), {QStringLiteral("a film")});
-  EXPECT_EQ(text.drop(frame().center(), false), QStringLiteral("nothing"));
-  EXPECT_EQ(Drag(QStringLiteral("text/uri-list"), urls).drop(frame().center(), true),
-            QStringLiteral("copy"));
+  const QPoint place = frame().center();
+  {
+    Drag text(QStringLiteral("text/plain"), {QStringLiteral("a film")});
+    EXPECT_EQ(text.drop(place, false), QStringLiteral("nothing"));
+  }
+  Drag drag(QStringLiteral("text/uri-list"), urls);
+  EXPECT_EQ(drag.drop(place, true), QStringLiteral("copy"));
   ASSERT_TRUE(player.waitUntilPlaying());
   EngineProbe engine = probe();
   ASSERT_TRUE(engine.waitFor(QStringLiteral("playlist-count"), 300));

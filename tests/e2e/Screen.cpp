@@ -73,17 +73,13 @@ QString windowOf(qint64 processId, const QString& title) {
 }
 
 QRect geometryOf(const QString& windowId) {
-  QRect rect;
-  const QString text = run(QStringLiteral("xdotool"), {QStringLiteral("getwindowgeometry"),
-                                                       QStringLiteral("--shell"), windowId});
-  for (const QString& line : text.split(u'\n')) {
-    const int value = line.section(u'=', 1).toInt();
-    if (line.startsWith(u"X=")) rect.moveLeft(value);
-    if (line.startsWith(u"Y=")) rect.moveTop(value);
-    if (line.startsWith(u"WIDTH=")) rect.setWidth(value);
-    if (line.startsWith(u"HEIGHT=")) rect.setHeight(value);
-  }
-  return rect;
+  // xdotool adds a title bar's height twice.
+  const QString text = run(QStringLiteral("xwininfo"), {QStringLiteral("-id"), windowId});
+  const auto number = [&text](const char* name) {
+    return text.section(QLatin1StringView(name), 1).trimmed().section(u'\n', 0, 0).toInt();
+  };
+  return {number("Absolute upper-left X:"), number("Absolute upper-left Y:"), number("Width:"),
+          number("Height:")};
 }
 
 namespace {
