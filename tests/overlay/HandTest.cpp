@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "overlay/ClickCounter.h"
-#include "player/DraggedFiles.h"
 #include "overlay/ScrollSteps.h"
 #include "overlay/WindowPress.h"
 #include "platform/FilePath.h"
+#include "player/DraggedFiles.h"
 
 namespace tromelo {
 namespace {
