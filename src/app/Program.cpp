@@ -13,6 +13,7 @@
 #include "platform/DesktopRecents.h"
 #include "platform/FilePath.h"
 #include "platform/HostEnvironment.h"
+#include "platform/SessionBus.h"
 #include "platform/UserPaths.h"
 
 namespace tromelo {
@@ -48,6 +49,7 @@ int Program::run() {
   if (commandLine_.report) startReport();
   tellOfStorageErrors();
   offerToDesktop();
+  offerMediaControls();
   delegate_->applicationDidFinishLaunching();
   stage_->prepareHostWindow();
   const int status = QCoreApplication::exec();
@@ -113,10 +115,8 @@ std::unique_ptr<HostWindow> Program::makeLibraryWindow(PlaybackModel& playback,
 }
 
 void Program::connectService() {
-  QObject::connect(&service_, &ApplicationService::activated, delegate_.get(), [this] {
-    delegate_->applicationShouldHandleReopen(hasVisibleWindows());
-    delegate_->player().bringToFront();
-  });
+  QObject::connect(&service_, &ApplicationService::activated, delegate_.get(),
+                   [this] { bringToFront(); });
   QObject::connect(&service_, &ApplicationService::filesOpened, delegate_.get(),
                    [this](const QList<QUrl>& files, std::optional<double> start) {
                      delegate_->applicationOpen(files, start);
@@ -139,6 +139,26 @@ void Program::offerToDesktop() {
   };
   QObject::connect(&playback, &PlaybackModel::isLoadedChanged, delegate_.get(), offer);
   QObject::connect(&playback, &PlaybackModel::lastURLChanged, delegate_.get(), offer);
+}
+
+void Program::offerMediaControls() {
+  const auto bus = sessionBus();
+  if (!bus) return;
+  const auto stop = [this] {
+    PlayerWindowController& player = delegate_->player();
+    player.hasWindow() ? player.close() : player.stopPlayback();
+  };
+  mediaControls_ = std::make_unique<MprisService>(
+      *bus, delegate_->playback(),
+      MprisShell{.raise = [this] { bringToFront(); },
+                 .quit = [this] { delegate_->quit(); },
+                 .stop = stop,
+                 .toggleFullscreen = [this] { delegate_->player().toggleFullscreen(); }});
+}
+
+void Program::bringToFront() {
+  delegate_->applicationShouldHandleReopen(hasVisibleWindows());
+  delegate_->player().bringToFront();
 }
 
 void Program::startReport() {

@@ -12,6 +12,7 @@
 #include "app/StateReport.h"
 #include "app/TerminationSignals.h"
 #include "display/PrivateDisplay.h"
+#include "mpris/MprisService.h"
 #include "platform/Clock.h"
 #include "platform/IdleInhibitor.h"
 #include "platform/UserDefaults.h"
@@ -38,6 +39,8 @@ class Program {
   void startReport();
   void tellOfStorageErrors();
   void offerToDesktop();
+  void offerMediaControls();
+  void bringToFront();
   void handleLibraryClosed();
   bool hasVisibleWindows();
   QString windowText();
@@ -55,6 +58,7 @@ class Program {
   std::unique_ptr<AppDelegate> delegate_;
   std::unique_ptr<Commands> commands_;
   std::unique_ptr<StateReport> report_;
+  std::unique_ptr<MprisService> mediaControls_;
   TerminationSignals signals_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QPointer>
+#include <utility>
 
 #include "engine/MpvClientApi.h"
 #include "platform/FilePath.h"
@@ -47,6 +48,10 @@ void PlaybackModel::startEngine(const QString& diagnosticsDirectory) {
 PlayerPresenting& PlaybackModel::player() {
   if (!player_) player_ = makePlayer_(*this);
   return *player_;
+}
+
+void PlaybackModel::setShuttingDown(bool shuttingDown) {
+  if (std::exchange(isShuttingDown_, shuttingDown) != shuttingDown) Q_EMIT isShuttingDownChanged();
 }
 
 void PlaybackModel::open(const QUrl& url, std::optional<double> startAt) {

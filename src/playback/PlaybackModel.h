@@ -62,7 +62,7 @@ class PlaybackModel : public PlaybackState {
 
   /// The program is quitting and the engine is being destroyed.
   bool isShuttingDown() const { return isShuttingDown_; }
-  void setShuttingDown(bool shuttingDown) { isShuttingDown_ = shuttingDown; }
+  void setShuttingDown(bool shuttingDown);
 
   /// Plays a file in place of the current one, from `startAt` seconds on.
   void open(const QUrl& url, std::optional<double> startAt = {});
@@ -81,6 +81,7 @@ class PlaybackModel : public PlaybackState {
   Q_INVOKABLE void presentSubtitleFilePanel();
 
   Q_INVOKABLE void togglePlayback();
+  void setPaused(bool paused);
   /// By seconds, back or forth.
   Q_INVOKABLE void seekBy(double seconds);
   /// To exactly this second.
@@ -130,8 +131,20 @@ class PlaybackModel : public PlaybackState {
   /// Something that has to do with no file: told, without a word on playback.
   void reportStorageError(const QString& message);
 
+ Q_SIGNALS:
+  /// Playback goes on from another position, in seconds, than the one it would have come to by
+  /// itself. Twice for one jump where the engine ends elsewhere than it was first said.
+  void seeked(double position);
+  void isShuttingDownChanged();
+
  private:
   friend struct PropertyMapping;
+
+  /// Where playback is thought to go on, and how far from there it may be found, in seconds.
+  struct Restart {
+    double position;
+    double tolerance;
+  };
 
   void startEngine(const QString& diagnosticsDirectory);
   void handleEvent(const MpvEvent& received);
@@ -149,6 +162,8 @@ class PlaybackModel : public PlaybackState {
   void describeSignal();
   void describeOutput();
   void showVideoReady();
+  void noteRestart();
+  void checkRestart();
   void publishTracks(const MpvValue& list);
   PlayerSettings* settingsForViews() { return &settings_; }
   void rememberSoftwareDecode(const std::string& path);
@@ -175,7 +190,9 @@ class PlaybackModel : public PlaybackState {
   FileExistence existence_;
   std::optional<std::string> currentPath_;  // as the engine reports it
   double subtitleLift_ = 0;
-  double lastScrubSeek_ = 0;  // of the clock
+  double lastScrubSeek_ = 0;        // of the clock
+  bool hasStarted_ = false;         // the current file has
+  std::optional<Restart> restart_;  // the engine has yet to tell where
   bool isShuttingDown_ = false;
   QMetaObject::Connection settingsObserver_;
   std::unique_ptr<PlayerPresenting> player_;

@@ -1,9 +1,20 @@
+#include <cmath>
+#include <utility>
+
 #include "engine/MpvValue.h"
 #include "platform/Clock.h"
 #include "playback/PlaybackModel.h"
 #include "playback/PropertyMapping.h"
 
 namespace tromelo {
+
+namespace {
+
+// How far the position may be from where it was expected to be before it counts as a jump, seconds.
+constexpr double kSeekTolerance = 0.2;
+constexpr double kStartTolerance = 1;
+
+}  // namespace
 
 void PlaybackModel::handleEvent(const MpvEvent& received) {
   std::visit([this](const auto& kind) { handle(kind); }, received);
@@ -21,6 +32,8 @@ void PlaybackModel::handle(const event::StartFile&) {
 
 void PlaybackModel::resetForNewFile() {
   isLoaded_ = false;
+  hasStarted_ = false;
+  restart_.reset();
   elapsed_ = 0;
   duration_ = 0;
   scrubPosition_ = 0;
@@ -47,7 +60,20 @@ void PlaybackModel::handle(const event::FileLoaded&) {
 void PlaybackModel::handle(const event::PlaybackRestart&) {
   buffering_ = QStringLiteral("Ready");
   hardware_.lastPlaybackRestart = clock_.now();
+  noteRestart();
   showVideoReady();
+}
+
+void PlaybackModel::noteRestart() {
+  // A file begins at its beginning unless it is told otherwise.
+  restart_ = hasStarted_ ? Restart{elapsed_, kSeekTolerance} : Restart{0, kStartTolerance};
+  if (std::exchange(hasStarted_, true)) Q_EMIT seeked(elapsed_);
+}
+
+void PlaybackModel::checkRestart() {
+  const auto restart = std::exchange(restart_, std::nullopt);
+  if (restart && std::abs(elapsed_ - restart->position) > restart->tolerance)
+    Q_EMIT seeked(elapsed_);
 }
 
 void PlaybackModel::showVideoReady() {

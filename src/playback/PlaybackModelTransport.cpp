@@ -17,9 +17,10 @@ double toMilliseconds(double seconds) { return std::round(seconds * 1000) / 1000
 
 }  // namespace
 
-void PlaybackModel::togglePlayback() {
-  if (!isLoaded_) return;
-  engine_.setProperty("pause", flagText(!isPaused_));
+void PlaybackModel::togglePlayback() { setPaused(!isPaused_); }
+
+void PlaybackModel::setPaused(bool paused) {
+  if (isLoaded_) engine_.setProperty("pause", flagText(paused));
 }
 
 void PlaybackModel::seek(double seconds, const char* how) {

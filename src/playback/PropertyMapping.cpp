@@ -89,6 +89,7 @@ struct PropertyMapping::Actions {
     const double shown = m.elapsed_;
     if (position < shown || position - shown >= kPositionStep) m.elapsed_ = position;
     if (!m.isScrubbing_) m.scrubPosition_ = m.elapsed_.get();
+    m.checkRestart();
   }
 
   static void duration(Model& m, const Value& v) {

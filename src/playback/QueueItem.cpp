@@ -35,7 +35,9 @@ PlayQueue playQueue(const MpvValue& playlist) {
   queue.reserve(static_cast<qsizetype>(entries.size()));
   for (const MpvMap* entry : entries) {
     const QString path = nodeText(*entry, "filename").value_or(QString());
-    queue.append({queue.size(), queueTitle(*entry, path), path, isCurrent(*entry)});
+    const auto* number = mpvEntry<std::int64_t>(*entry, "id");
+    queue.append(
+        {queue.size(), queueTitle(*entry, path), path, isCurrent(*entry), number ? *number : -1});
   }
   return queue;
 }

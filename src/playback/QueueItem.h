@@ -23,6 +23,7 @@ class QueueItem {
   QString title;
   QString path;  // for people; undecodable bytes show as U+FFFD
   bool isCurrent = false;
+  qint64 entry = -1;  // the engine's own number, the same for as long as the file is queued
 
   friend bool operator==(const QueueItem&, const QueueItem&) = default;
 };

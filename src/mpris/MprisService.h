@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QVariantMap>
+
+#include "mpris/MprisShell.h"
+
+class QDBusAbstractAdaptor;
+
+namespace tromelo {
+
+class MprisPlayer;
+class MprisRoot;
+class PlaybackModel;
+
+/// The desktop's media controls: shows what plays on the bus as org.mpris.MediaPlayer2.tromelo and
+/// does what its clients ask. Waits for nothing; without a name on the bus nobody asks. `playback`
+/// outlives it. Main thread only.
+class MprisService : public QObject {
+ public:
+  MprisService(const QDBusConnection& bus, PlaybackModel& playback, MprisShell shell);
+  ~MprisService() override;
+
+ private:
+  void requestName(const QString& name);
+  void follow();
+  void schedule();
+  void announce(const QDBusAbstractAdaptor& adaptor, QVariantMap& told);
+
+  QDBusConnection bus_;
+  PlaybackModel& playback_;
+  const MprisShell shell_;
+  MprisRoot* root_;      // ours as children
+  MprisPlayer* player_;  //
+  QVariantMap rootTold_;
+  QVariantMap playerTold_;
+  bool scheduled_ = false;
+};
+
+}  // namespace tromelo

@@ -1,0 +1,108 @@
+#include "Desktop.h"
+
+#include <QDBusPendingCall>
+#include <QDBusReply>
+#include <QDBusVariant>
+#include <QXmlStreamReader>
+
+#include "support/WaitFor.h"
+
+namespace tromelo::testing {
+
+namespace {
+
+const QString kService = QStringLiteral("org.mpris.MediaPlayer2.tromelo");
+const QString kPath = QStringLiteral("/org/mpris/MediaPlayer2");
+const QString kPlayer = QStringLiteral("org.mpris.MediaPlayer2.Player");
+const QString kProperties = QStringLiteral("org.freedesktop.DBus.Properties");
+
+QString described(QXmlStreamReader& xml) {
+  const QString kind = xml.name().toString();
+  const auto attribute = [&xml](const char* name) {
+    return xml.attributes().value(QLatin1String(name)).toString();
+  };
+  QString text = kind + u' ' + attribute("name");
+  if (kind == u"property") {
+    text += u' ' + attribute("type") + u' ' + attribute("access");
+    xml.skipCurrentElement();
+    return text;
+  }
+  QStringList arguments;
+  while (xml.readNextStartElement()) {
+    if (xml.name() == u"arg") arguments << attribute("type") + u' ' + attribute("name");
+    xml.skipCurrentElement();
+  }
+  return text + u'(' + arguments.join(u", ") + u')';
+}
+
+}  // namespace
+
+Desktop::Desktop() : bus_(connection(QStringLiteral("desktop"))) {
+  bus_.connect({}, kPath, kProperties, QStringLiteral("PropertiesChanged"), this,
+               SLOT(propertiesChanged(QString, QVariantMap, QStringList)));
+  bus_.connect({}, kPath, kPlayer, QStringLiteral("Seeked"), this, SLOT(seeked(qlonglong)));
+}
+
+Desktop::~Desktop() {
+  for (const QString& name : names_) QDBusConnection::disconnectFromBus(name);
+}
+
+QDBusConnection Desktop::connection(const QString& name) {
+  names_ << name;
+  return QDBusConnection::connectToBus(daemon_.address(), name);
+}
+
+QDBusMessage Desktop::send(const QDBusMessage& message) {
+  // Not a blocking call: the other end lives on this thread too.
+  const QDBusPendingCall pending = bus_.asyncCall(message);
+  return waitFor([&pending] { return pending.isFinished(); }) ? pending.reply() : QDBusMessage();
+}
+
+QDBusMessage Desktop::call(const QString& interface, const QString& method,
+                           const QVariantList& arguments) {
+  QDBusMessage message = QDBusMessage::createMethodCall(kService, kPath, interface, method);
+  message.setArguments(arguments);
+  return send(message);
+}
+
+QVariant Desktop::property(const QString& name) {
+  const QDBusReply<QDBusVariant> reply = call(kProperties, QStringLiteral("Get"), {kPlayer, name});
+  return reply.value().variant();
+}
+
+void Desktop::set(const QString& name, const QVariant& value) {
+  call(kProperties, QStringLiteral("Set"),
+       {kPlayer, name, QVariant::fromValue(QDBusVariant(value))});
+}
+
+QStringList Desktop::members(const QString& interface) {
+  const QDBusReply<QString> description =
+      call(QStringLiteral("org.freedesktop.DBus.Introspectable"), QStringLiteral("Introspect"), {});
+  QXmlStreamReader xml(description.value());
+  QStringList found;
+  xml.readNextStartElement();
+  while (xml.readNextStartElement()) {
+    const bool wanted = xml.attributes().value(QLatin1String("name")) == interface;
+    while (wanted && xml.readNextStartElement()) found << described(xml);
+    if (!wanted) xml.skipCurrentElement();
+  }
+  found.sort();
+  return found;
+}
+
+bool Desktop::owns(const QString& name) {
+  const QDBusReply<bool> reply = send([&name] {
+    QDBusMessage asked = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/"),
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameHasOwner"));
+    return asked << name;
+  }());
+  return reply.value();
+}
+
+void Desktop::propertiesChanged(const QString& interface, const QVariantMap& changed,
+                                const QStringList&) {
+  if (interface == kPlayer) changes.append(changed);
+}
+
+}  // namespace tromelo::testing

@@ -1,0 +1,235 @@
+#include <QCoreApplication>
+
+#include "Desktop.h"
+#include "mpris/MprisService.h"
+#include "mpris/MprisValues.h"
+#include "platform/FilePath.h"
+#include "playback/ModelTest.h"
+#include "support/WaitFor.h"
+
+namespace tromelo {
+namespace {
+
+using P = MpvProperty;
+using testing::Desktop;
+using testing::waitFor;
+
+const QString kRootInterface = QStringLiteral("org.mpris.MediaPlayer2");
+const QString kPlayerInterface = QStringLiteral("org.mpris.MediaPlayer2.Player");
+const QString kName = QStringLiteral("org.mpris.MediaPlayer2.tromelo");
+
+class Mpris : public testing::ModelTest {
+ protected:
+  /// Two files of which the first plays, paused, at 10 of 60 seconds.
+  void loadQueue() {
+    report(event::StartFile{});
+    report(P::mediaTitle, std::string("A film"));
+    report(P::path, std::string("/films/a film.mkv"));
+    report(event::FileLoaded{});
+    reportQueue({7, 9}, 7);
+    report(P::duration, 60.0);
+    report(P::timePos, 10.0);
+    takeRequests();
+  }
+  void reportQueue(const std::vector<std::int64_t>& entries, std::int64_t current) {
+    MpvList list;
+    for (const std::int64_t entry : entries)
+      list.push_back(MpvNode{MpvMap{{"filename", MpvNode{"/films/" + std::to_string(entry)}},
+                                    {"id", MpvNode{entry}},
+                                    {"current", MpvNode{entry == current}}}});
+    report(P::playlist, MpvNode{list});
+  }
+};
+
+TEST_F(Mpris, TellsOfTheStateInTheDesktopsWords) {
+  EXPECT_EQ(playbackStatus(model()), "Stopped");
+  EXPECT_EQ(trackMetadata(model()), QVariantMap());
+  loadQueue();
+  const auto track = [](const char* number) {
+    return QDBusObjectPath(QStringLiteral("/org/tromelo/Tromelo/track/") + number);
+  };
+  EXPECT_EQ(trackMetadata(model()), (QVariantMap{{"mpris:trackid", QVariant::fromValue(track("7"))},
+                                                 {"mpris:length", qlonglong(60'000'000)},
+                                                 {"xesam:title", "A film"},
+                                                 {"xesam:url", "file:///films/a%20film.mkv"}}));
+  EXPECT_EQ(playbackStatus(model()), "Paused");
+  report(P::pause, false);
+  EXPECT_EQ(playbackStatus(model()), "Playing");
+  EXPECT_EQ(loopStatus(model()), "None");
+  model().toggleLoop();
+  EXPECT_EQ(loopStatus(model()), "Track");
+
+  struct Row {
+    const char* name;
+    QDBusObjectPath track;
+    qint64 microseconds;
+    std::optional<double> seconds;
+  };
+  for (const Row& row :
+       {Row{"start", track("7"), 0, 0}, Row{"end", track("7"), 60'000'000, 60},
+        Row{"within", track("7"), 1'500'000, 1.5}, Row{"before", track("7"), -1, {}},
+        Row{"behind", track("7"), 60'000'001, {}}, Row{"another file", track("9"), 1'500'000, {}}})
+    EXPECT_EQ(wantedPosition(model(), row.track, row.microseconds), row.seconds) << row.name;
+
+  reportQueue({9, 7}, 7);
+  EXPECT_EQ(trackId(model()), track("7")) << "moved in the queue";
+  report(P::duration, MpvValue());
+  EXPECT_FALSE(canSeek(model()));
+  EXPECT_FALSE(trackMetadata(model()).contains("mpris:length"));
+}
+
+class MprisOnABus : public Mpris {
+ protected:
+  MprisOnABus() {
+    EXPECT_TRUE(waitFor([this] { return desktop_.owns(kName); }));
+  }
+
+  Requests asked(const QString& method, const QVariantList& arguments = {}) {
+    takeRequests();
+    answer_ = desktop_.call(kPlayerInterface, method, arguments);
+    return takeRequests();
+  }
+  Requests askedBySetting(const QString& property, const QVariant& value) {
+    takeRequests();
+    desktop_.set(property, value);
+    return takeRequests();
+  }
+  QStringList takeShell() { return std::exchange(shell_, {}); }
+  std::unique_ptr<MprisService> serve(const QString& connection) {
+    return std::make_unique<MprisService>(
+        desktop_.connection(connection), model(),
+        MprisShell{.raise = [this] { shell_ << "raise"; },
+                   .quit = [this] { shell_ << "quit"; },
+                   .stop = [this] { shell_ << "stop"; },
+                   .toggleFullscreen = [this] { shell_ << "fullscreen"; }});
+  }
+
+  Desktop desktop_;
+  QStringList shell_;
+  QDBusMessage answer_;
+  std::unique_ptr<MprisService> service_ = serve(QStringLiteral("player"));
+};
+
+TEST_F(MprisOnABus, OffersThePublishedInterfaces) {
+  EXPECT_EQ(
+      desktop_.members(kRootInterface),
+      QStringList({"method Quit()", "method Raise()", "property CanQuit b read",
+                   "property CanRaise b read", "property CanSetFullscreen b read",
+                   "property DesktopEntry s read", "property Fullscreen b readwrite",
+                   "property HasTrackList b read", "property Identity s read",
+                   "property SupportedMimeTypes as read", "property SupportedUriSchemes as read"}));
+  EXPECT_EQ(desktop_.members(kPlayerInterface),
+            QStringList({"method Next()",
+                         "method OpenUri(s Uri)",
+                         "method Pause()",
+                         "method Play()",
+                         "method PlayPause()",
+                         "method Previous()",
+                         "method Seek(x Offset)",
+                         "method SetPosition(o TrackId, x Position)",
+                         "method Stop()",
+                         "property CanControl b read",
+                         "property CanGoNext b read",
+                         "property CanGoPrevious b read",
+                         "property CanPause b read",
+                         "property CanPlay b read",
+                         "property CanSeek b read",
+                         "property LoopStatus s readwrite",
+                         "property MaximumRate d read",
+                         "property Metadata a{sv} read",
+                         "property MinimumRate d read",
+                         "property PlaybackStatus s read",
+                         "property Position x read",
+                         "property Rate d readwrite",
+                         "property Shuffle b readwrite",
+                         "property Volume d readwrite",
+                         "signal Seeked(x Position)"}));
+}
+
+TEST_F(MprisOnABus, DoesWhatTheViewsDo) {
+  using Asked = Requests;
+  for (const char* method : {"Next", "Previous", "Pause", "PlayPause", "Play", "Stop"})
+    EXPECT_EQ(asked(method), Asked()) << method << " with nothing loaded";
+  EXPECT_EQ(takeShell(), QStringList());
+  loadQueue();
+  const QVariant here = QVariant::fromValue(trackId(model()));
+  const auto seconds = [](int number) { return QVariant(qlonglong(number) * 1'000'000); };
+  struct Row {
+    const char* method;
+    QVariantList arguments;
+    Asked asked;
+  };
+  const Row rows[]{
+      {"Play", {}, {{"set", "pause", "no"}}},
+      {"Pause", {}, {{"set", "pause", "yes"}}},
+      {"PlayPause", {}, {{"set", "pause", "no"}}},
+      {"Next", {}, {{"playlist-next"}}},
+      {"Previous", {}, {}},
+      {"Seek", {seconds(-4)}, {{"seek", "-4.0", "relative"}}},
+      {"Seek", {seconds(51)}, {{"playlist-next"}}},
+      {"SetPosition", {here, seconds(30)}, {{"seek", "30.0", "absolute+exact"}}},
+      {"SetPosition", {here, seconds(61)}, {}},
+      {"OpenUri", {"https://example.org/a.mkv"}, {}},
+  };
+  for (const Row& row : rows) EXPECT_EQ(asked(row.method, row.arguments), row.asked) << row.method;
+  EXPECT_EQ(answer_.errorName(), "org.freedesktop.DBus.Error.NotSupported");
+  asked("Stop");
+  desktop_.call(kRootInterface, "Raise", {});
+  desktop_.call(kRootInterface, "Quit", {});
+  EXPECT_EQ(takeShell(), QStringList({"stop", "raise", "quit"}));
+  EXPECT_EQ(asked("OpenUri", {"file:///films/b%20b.mkv"}).front(),
+            (std::vector<std::string>{"loadfile", "/films/b b.mkv", "replace", "-1", ""}));
+
+  struct Set {
+    const char* property;
+    QVariant value;
+    Asked asked;
+  };
+  const Set sets[]{
+      {"Volume", 0.25, {{"set", "volume", "25.0"}}},
+      {"Volume", 3.0, {{"set", "volume", "100.0"}}},
+      {"Rate", 1.5, {{"set", "speed", "1.5"}}},
+      {"Rate", 50.0, {{"set", "speed", "3.0"}}},
+      {"Rate", 0.0, {{"set", "pause", "yes"}}},
+      {"LoopStatus", "Track", {{"set", "loop-file", "inf"}}},
+      {"LoopStatus", "Track", {}},
+      {"LoopStatus", "Playlist", {}},
+      {"LoopStatus", "None", {{"set", "loop-file", "no"}}},
+  };
+  for (const Set& set : sets)
+    EXPECT_EQ(askedBySetting(set.property, set.value), set.asked) << set.property;
+}
+
+TEST_F(MprisOnABus, SignalsWhatHasChangedOnceAndJumpsOnly) {
+  loadQueue();
+  ASSERT_TRUE(waitFor([this] { return !desktop_.changes.isEmpty(); }));
+  ASSERT_EQ(desktop_.changes.size(), 1);
+  QStringList names = desktop_.changes.takeFirst().keys();
+  EXPECT_EQ(names, QStringList({"CanGoNext", "CanPause", "CanPlay", "CanSeek", "Metadata",
+                                "PlaybackStatus"}));
+
+  report(event::PlaybackRestart{});  // the file starts where it was asked to
+  report(P::timePos, 0.0);
+  report(event::PlaybackRestart{});  // a seek to 30 that ended at 28
+  report(P::timePos, 28.0);
+  for (const double position : {28.3, 29.0, 32.0}) report(P::timePos, position);
+  report(P::pause, false);
+  ASSERT_TRUE(waitFor([this] { return !desktop_.changes.isEmpty(); }));
+  EXPECT_EQ(desktop_.changes, QList<QVariantMap>({{{"PlaybackStatus", "Playing"}}}));
+  EXPECT_EQ(desktop_.seeks, QList<qlonglong>({0, 28'000'000}));
+  EXPECT_EQ(desktop_.property("Position"), QVariant(qlonglong(32'000'000)));
+}
+
+TEST_F(MprisOnABus, ASecondPlayerHasANameOfItsOwn) {
+  const QString instance =
+      kName + QStringLiteral(".instance%1").arg(QCoreApplication::applicationPid());
+  auto second = serve(QStringLiteral("second"));
+  EXPECT_TRUE(waitFor([&] { return desktop_.owns(instance); }));
+  EXPECT_TRUE(desktop_.owns(kName));
+  second.reset();
+  service_.reset();
+  EXPECT_TRUE(waitFor([&] { return !desktop_.owns(instance) && !desktop_.owns(kName); }));
+}
+
+}  // namespace
+}  // namespace tromelo
