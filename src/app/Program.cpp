@@ -10,11 +10,14 @@
 #include "glass/GlassRendering.h"
 #include "library/LibraryWindow.h"
 #include "overlay/QuickPlayerOverlay.h"
+#include "platform/DesktopInhibition.h"
 #include "platform/DesktopRecents.h"
 #include "platform/FilePath.h"
 #include "platform/HostEnvironment.h"
+#include "platform/HostInhibition.h"
 #include "platform/SessionBus.h"
 #include "platform/UserPaths.h"
+#include "playback/ScreenAwake.h"
 
 namespace tromelo {
 
@@ -50,6 +53,7 @@ int Program::run() {
   tellOfStorageErrors();
   offerToDesktop();
   offerMediaControls();
+  keepAwake();
   delegate_->applicationDidFinishLaunching();
   stage_->prepareHostWindow();
   const int status = QCoreApplication::exec();
@@ -71,8 +75,6 @@ bool Program::startDisplay() {
   }
   if (!dmabuf) DmabufSupport::presentThroughSharedMemory();
   HostEnvironment::enterPrivateDisplay(display_->socketPath());
-  QObject::connect(display_.get(), &PrivateDisplay::idleInhibitedChanged, &idleInhibitor_,
-                   &IdleInhibitor::setInhibited);
   return true;
 }
 
@@ -154,6 +156,21 @@ void Program::offerMediaControls() {
                  .quit = [this] { delegate_->quit(); },
                  .stop = stop,
                  .toggleFullscreen = [this] { delegate_->player().toggleFullscreen(); }});
+}
+
+void Program::keepAwake() {
+  std::vector<AskForInhibition> ways;
+  if (const auto bus = sessionBus()) ways = {portalInhibition(*bus), screenSaverInhibition(*bus)};
+  ways.push_back(hostInhibition());
+  idleInhibitor_ = std::make_unique<IdleInhibitor>(std::move(ways), clock_);
+  PlaybackModel& playback = delegate_->playback();
+  const auto decide = [this, &playback] {
+    idleInhibitor_->setInhibited(keepsScreenAwake(playback));
+  };
+  for (const auto changed : {&PlaybackState::isLoadedChanged, &PlaybackState::isPausedChanged,
+                             &PlaybackState::videoSizeChanged})
+    QObject::connect(&playback, changed, idleInhibitor_.get(), decide);
+  QObject::connect(&playback, &PlaybackModel::isShuttingDownChanged, idleInhibitor_.get(), decide);
 }
 
 void Program::bringToFront() {

@@ -40,6 +40,7 @@ class Program {
   void tellOfStorageErrors();
   void offerToDesktop();
   void offerMediaControls();
+  void keepAwake();
   void bringToFront();
   void handleLibraryClosed();
   bool hasVisibleWindows();
@@ -49,7 +50,7 @@ class Program {
   SystemClock clock_;
   UserDefaults defaults_;
   DialogFileChooser chooser_;
-  IdleInhibitor idleInhibitor_;
+  std::unique_ptr<IdleInhibitor> idleInhibitor_;
   ApplicationService service_;
   ApplicationService::Role role_ = ApplicationService::Role::alone;
   std::unique_ptr<PrivateDisplay> display_;

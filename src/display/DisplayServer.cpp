@@ -72,7 +72,6 @@ DisplayServer::~DisplayServer() {
   tasks_.reset();
   wl_display_destroy_clients(display_.get());
   dmabuf_.reset();
-  inhibitors_.reset();
   newSurface_.disconnect();
   newToplevel_.disconnect();
   if (seat_) wlr_seat_destroy(seat_);
@@ -85,9 +84,8 @@ bool DisplayServer::createGlobals() {
   wl_display* display = display_.get();
   wlr_compositor* compositor = wlr_compositor_create(display, compositorVersion, nullptr);
   wlr_xdg_shell* shell = wlr_xdg_shell_create(display, shellVersion);
-  wlr_idle_inhibit_manager_v1* inhibit = wlr_idle_inhibit_v1_create(display);
   seat_ = wlr_seat_create(display, "seat0");
-  if (!compositor || !shell || !inhibit || !seat_ || !wlr_subcompositor_create(display) ||
+  if (!compositor || !shell || !seat_ || !wlr_subcompositor_create(display) ||
       !createShm(display) || !wlr_viewporter_create(display) ||
       !createPresentation(display, output_->backend()))
     return false;
@@ -95,8 +93,6 @@ bool DisplayServer::createGlobals() {
                       [this](void* data) { addSurface(static_cast<wlr_surface*>(data)); });
   newToplevel_.connect(shell->events.new_toplevel,
                        [this](void* data) { addWindow(static_cast<wlr_xdg_toplevel*>(data)); });
-  inhibitors_ = std::make_unique<IdleInhibitors>(
-      inhibit, [this](bool inhibited) { observer_.idleInhibitedChanged(inhibited); });
   return true;
 }
 

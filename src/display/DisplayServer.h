@@ -8,7 +8,6 @@
 
 #include "display/DmabufGlobal.h"
 #include "display/EngineToplevel.h"
-#include "display/IdleInhibitors.h"
 #include "display/OutputHead.h"
 #include "display/PrivateDisplay.h"
 
@@ -23,7 +22,6 @@ class ServerObserver {
   virtual void windowChanged(WindowId window, const WindowState& state) = 0;
   virtual void fullscreenRequested(WindowId window, bool fullscreen) = 0;
   virtual void windowDestroyed(WindowId window) = 0;
-  virtual void idleInhibitedChanged(bool inhibited) = 0;
 };
 
 /// The Wayland display's globals and objects. Made on any thread, then used by one only.
@@ -65,7 +63,6 @@ class DisplayServer {
   std::optional<EventSource> tasks_;
   std::optional<EventSource> door_;
   std::unique_ptr<DmabufGlobal> dmabuf_;
-  std::unique_ptr<IdleInhibitors> inhibitors_;
   wlr_seat* seat_ = nullptr;
   Listener newSurface_;
   Listener newToplevel_;

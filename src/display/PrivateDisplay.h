@@ -44,8 +44,6 @@ class PrivateDisplay : public QObject {
  Q_SIGNALS:
   /// Before the window's first buffer.
   void windowAdded(EngineWindow* window);
-  /// The engine wants the host's screen kept awake, or no longer.
-  void idleInhibitedChanged(bool inhibited);
 };
 
 }  // namespace tromelo

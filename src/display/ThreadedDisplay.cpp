@@ -114,13 +114,6 @@ void ThreadedDisplay::windowDestroyed(WindowId id) {
   QMetaObject::invokeMethod(this, [this, id] { removeWindow(id); }, Qt::QueuedConnection);
 }
 
-void ThreadedDisplay::idleInhibitedChanged(bool inhibited) {
-  const auto forward = [this, inhibited] {
-    Q_EMIT PrivateDisplay::idleInhibitedChanged(inhibited);
-  };
-  QMetaObject::invokeMethod(this, forward, Qt::QueuedConnection);
-}
-
 void ThreadedDisplay::updateWindow(WindowId id, const WindowState& state) {
   const auto [entry, isNew] = windows_.try_emplace(id, nullptr);
   if (isNew) entry->second = new DisplayWindow(postTo(id), this);

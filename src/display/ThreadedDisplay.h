@@ -32,7 +32,6 @@ class ThreadedDisplay final : public PrivateDisplay, private ServerObserver {
   void windowChanged(WindowId id, const WindowState& state) override;
   void fullscreenRequested(WindowId id, bool fullscreen) override;
   void windowDestroyed(WindowId id) override;
-  void idleInhibitedChanged(bool inhibited) override;
   void serve();
 
   void updateWindow(WindowId id, const WindowState& state);

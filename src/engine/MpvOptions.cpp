@@ -42,6 +42,8 @@ std::vector<MpvOption> platformOptions() {
   return {
       // A machine without a GPU has software Vulkan only, which libmpv refuses unless told.
       {"gpu-sw", "yes", true},
+      // The program itself keeps the screen awake.
+      {"stop-screensaver", "no"},
       // The clipboard would be a second client of the private display, which has none to offer.
       {"clipboard-backends", "", true},
   };

@@ -1,64 +1,59 @@
 #include "platform/IdleInhibitor.h"
 
-#include <QCoreApplication>
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QPointer>
 #include <utility>
-
-#include "platform/SessionBus.h"
 
 namespace tromelo {
 
 namespace {
 
-QDBusMessage screenSaverCall(const QString& method) {
-  return QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.ScreenSaver"),
-                                        QStringLiteral("/org/freedesktop/ScreenSaver"),
-                                        QStringLiteral("org.freedesktop.ScreenSaver"), method);
-}
-
-void release(uint cookie) {
-  QDBusMessage call = screenSaverCall(QStringLiteral("UnInhibit"));
-  call << cookie;
-  if (auto bus = sessionBus()) bus->send(call);
-}
+/// How long a way may keep silent before the next one is tried.
+constexpr std::chrono::milliseconds kPatience(5000);
 
 }  // namespace
+
+IdleInhibitor::IdleInhibitor(std::vector<AskForInhibition> ways, Clock& clock)
+    : ways_(std::move(ways)), clock_(clock) {}
 
 IdleInhibitor::~IdleInhibitor() { setInhibited(false); }
 
 void IdleInhibitor::setInhibited(bool inhibited) {
-  wanted_ = inhibited;
-  if (wanted_ && cookie_ == 0 && !requested_) inhibit();
-  if (!wanted_ && cookie_ != 0) release(std::exchange(cookie_, 0));
+  if (std::exchange(wanted_, inhibited) == inhibited) return;
+  if (wanted_ && !asked_ && !release_) ask(0);
+  if (!wanted_ && release_) std::exchange(release_, {})();
 }
 
-void IdleInhibitor::inhibit() {
-  auto bus = sessionBus();
-  if (!bus) return;
-  requested_ = true;
-  QDBusMessage call = screenSaverCall(QStringLiteral("Inhibit"));
-  call << QCoreApplication::applicationName() << QStringLiteral("Playing a video");
-  // Not a child of ours: an answer that comes after our end has to be given back too.
-  auto* watcher = new QDBusPendingCallWatcher(bus->asyncCall(call), qApp);
-  connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
-          [watcher, self = QPointer<IdleInhibitor>(this)] {
-            const QDBusPendingReply<uint> reply = *watcher;
-            watcher->deleteLater();
-            const uint cookie = reply.isError() ? 0 : reply.value();
-            if (self)
-              self->hold(cookie);
-            else if (cookie != 0)
-              release(cookie);
-          });
+void IdleInhibitor::ask(std::size_t way) {
+  if (way >= ways_.size()) return;
+  asked_ = way;
+  patience_ = clock_.after(kPatience, [this] { goOn(); });
+  const auto answer = [self = QPointer(this), question = ++question_](ReleaseInhibition release) {
+    if (self)
+      self->takeAnswer(question, std::move(release));
+    else if (release)
+      release();
+  };
+  ways_[way](answer);
 }
 
-void IdleInhibitor::hold(uint cookie) {
-  requested_ = false;
-  cookie_ = cookie;
-  if (!wanted_ && cookie_ != 0) release(std::exchange(cookie_, 0));
+void IdleInhibitor::takeAnswer(unsigned question, ReleaseInhibition release) {
+  const bool isLate = question != question_ || !asked_;
+  if (!release) return isLate ? void() : goOn();
+  // A late one is as good as any while there is no other.
+  const bool keeps = wanted_ && !release_;
+  if (keeps || !isLate) {
+    asked_.reset();
+    patience_.reset();
+  }
+  if (!keeps) return release();
+  release_ = std::move(release);
+}
+
+void IdleInhibitor::goOn() {
+  const std::size_t next = asked_.value_or(0) + 1;
+  asked_.reset();
+  patience_.reset();
+  if (wanted_) ask(next);
 }
 
 }  // namespace tromelo

@@ -1,28 +1,44 @@
 #pragma once
 
 #include <QObject>
-#include <QString>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "platform/Clock.h"
 
 namespace tromelo {
 
-/// Keeps the host's screen awake through the desktop's screen saver service. Without a session bus
-/// or such a service it does nothing. Main thread only; never waits for the service.
-class IdleInhibitor : public QObject {
-  Q_OBJECT
+/// Ends an inhibition; is called once at most.
+using ReleaseInhibition = std::function<void()>;
+/// One way to keep the screen and the system awake: asks for it and waits for nothing. The answer
+/// comes once, now or later, with what ends the inhibition, or empty where it was refused.
+using AskForInhibition = std::function<void(std::function<void(ReleaseInhibition)> answer)>;
 
+/// Keeps the screen and the system awake while that is wanted, the first way that works. An answer
+/// that comes when it isn't wanted any more is given back, be it after our own end. Main thread
+/// only.
+class IdleInhibitor : public QObject {
  public:
-  using QObject::QObject;
+  /// `clock` outlives it.
+  IdleInhibitor(std::vector<AskForInhibition> ways, Clock& clock);
   ~IdleInhibitor() override;
 
   void setInhibited(bool inhibited);
 
  private:
-  void inhibit();
-  void hold(uint cookie);
+  void ask(std::size_t way);
+  void takeAnswer(unsigned question, ReleaseInhibition release);
+  void goOn();
 
+  const std::vector<AskForInhibition> ways_;
+  Clock& clock_;
   bool wanted_ = false;
-  bool requested_ = false;  // an answer is on its way
-  uint cookie_ = 0;         // 0: not inhibited
+  std::optional<std::size_t> asked_;  // the way whose answer we wait for
+  unsigned question_ = 0;             // the last one; answers to others are late
+  std::unique_ptr<Clock::Timer> patience_;
+  ReleaseInhibition release_;  // empty: not inhibited
 };
 
 }  // namespace tromelo

@@ -13,7 +13,7 @@ TEST_F(GlobalsTest, AnnouncesWhatIsImplementedAndNothingElse) {
   // a device.
   EXPECT_EQ(names, (std::set<std::string>{"wl_compositor", "wl_output", "wl_seat", "wl_shm",
                                           "wl_subcompositor", "wp_presentation", "wp_viewporter",
-                                          "xdg_wm_base", "zwp_idle_inhibit_manager_v1"}));
+                                          "xdg_wm_base"}));
   EXPECT_EQ(client_->globals().at("xdg_wm_base"), 6u);  // with "suspended"
   const std::multiset<std::uint32_t> formats(client_->shmFormats().begin(),
                                              client_->shmFormats().end());

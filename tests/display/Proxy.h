@@ -4,7 +4,6 @@
 
 #include <memory>
 
-#include "idle-inhibit-unstable-v1-client-protocol.h"
 #include "linux-dmabuf-v1-client-protocol.h"
 #include "presentation-time-client-protocol.h"
 #include "viewporter-client-protocol.h"
@@ -34,8 +33,6 @@ struct ProxyDeleter {
   void operator()(wp_viewport* p) const { wp_viewport_destroy(p); }
   void operator()(wp_presentation* p) const { wp_presentation_destroy(p); }
   void operator()(struct wp_presentation_feedback* p) const { wp_presentation_feedback_destroy(p); }
-  void operator()(zwp_idle_inhibit_manager_v1* p) const { zwp_idle_inhibit_manager_v1_destroy(p); }
-  void operator()(zwp_idle_inhibitor_v1* p) const { zwp_idle_inhibitor_v1_destroy(p); }
   void operator()(zwp_linux_dmabuf_v1* p) const { zwp_linux_dmabuf_v1_destroy(p); }
   void operator()(zwp_linux_buffer_params_v1* p) const { zwp_linux_buffer_params_v1_destroy(p); }
 };

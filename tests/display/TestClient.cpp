@@ -40,7 +40,6 @@ void TestClient::bind(wl_registry* registry, std::uint32_t name, const std::stri
   take(shell_, xdg_wm_base_interface, 6);
   take(viewporter_, wp_viewporter_interface, 1);
   take(presentation_, wp_presentation_interface, 1);
-  take(idleInhibit_, zwp_idle_inhibit_manager_v1_interface, 1);
   take(dmabuf_, zwp_linux_dmabuf_v1_interface, 3);
 }
 

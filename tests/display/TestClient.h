@@ -44,7 +44,6 @@ class TestClient {
   xdg_wm_base* shell() const { return shell_.get(); }
   wp_viewporter* viewporter() const { return viewporter_.get(); }
   wp_presentation* presentation() const { return presentation_.get(); }
-  zwp_idle_inhibit_manager_v1* idleInhibit() const { return idleInhibit_.get(); }
   zwp_linux_dmabuf_v1* dmabuf() const { return dmabuf_.get(); }
 
  private:
@@ -61,7 +60,6 @@ class TestClient {
   Proxy<xdg_wm_base> shell_;
   Proxy<wp_viewporter> viewporter_;
   Proxy<wp_presentation> presentation_;
-  Proxy<zwp_idle_inhibit_manager_v1> idleInhibit_;
   Proxy<zwp_linux_dmabuf_v1> dmabuf_;
   std::map<std::string, std::uint32_t> versions_;
   std::vector<std::uint32_t> shmFormats_;

@@ -142,25 +142,5 @@ TEST_F(WindowStateTest, TakingThePictureAwayHidesTheWindowUntilItStartsAgain) {
   EXPECT_EQ(added_.size(), 1);
 }
 
-TEST_F(WindowStateTest, IdleInhibitionIsPassedOnWhileAnyoneWantsIt) {
-  QList<bool> changes;
-  QObject::connect(display_.get(), &PrivateDisplay::idleInhibitedChanged,
-                   [&](bool inhibited) { changes.append(inhibited); });
-  TestToplevel toplevel(*client_);
-  using Inhibitor = Proxy<zwp_idle_inhibitor_v1>;
-  const auto inhibit = [&] {
-    return Inhibitor(
-        zwp_idle_inhibit_manager_v1_create_inhibitor(client_->idleInhibit(), toplevel.surface()));
-  };
-  Inhibitor first = inhibit();
-  Inhibitor second = inhibit();
-  client_->roundtrip();
-  first.reset();
-  client_->roundtrip();
-  EXPECT_TRUE(wait([&] { return changes == QList{true}; }));
-  second.reset();
-  EXPECT_TRUE(wait([&] { return changes == (QList{true, false}); }));
-}
-
 }  // namespace
 }  // namespace tromelo::testing

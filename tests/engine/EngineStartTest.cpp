@@ -47,6 +47,7 @@ const Options kExpectedOptions{
     {"log-file", "/diagnostics/mpv.log"},
     {"msg-level", "all=info"},
     {"gpu-sw", "yes"},
+    {"stop-screensaver", "no"},
     {"clipboard-backends", ""},
 };
 

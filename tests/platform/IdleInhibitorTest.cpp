@@ -2,60 +2,149 @@
 
 #include <gtest/gtest.h>
 
-#include <QDBusConnection>
-#include <set>
+#include <QCoreApplication>
+#include <QDBusObjectPath>
+#include <QVariantMap>
+#include <optional>
 
+#include "platform/DesktopInhibition.h"
 #include "support/BusDaemon.h"
+#include "support/FakeScreenSaver.h"
+#include "support/ManualClock.h"
 #include "support/WaitFor.h"
 
 namespace tromelo {
 namespace {
 
-/// The desktop's side.
-class ScreenSaver : public QObject {
-  Q_OBJECT
-  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.ScreenSaver")
-
+/// Two ways of which a test says what they answer, and when.
+class TwoWays {
  public:
-  std::set<uint> held;
-  int inhibited = 0;
-
- public Q_SLOTS:
-  uint Inhibit(const QString&, const QString&) {
-    held.insert(++inhibited);
-    return inhibited;
+  /// One letter for each step: "+" and "-" want it and don't, "A" and "B" are granted by the first
+  /// and the second way, "a" and "b" refused, "t" lets a long time pass, "x" ends the inhibitor.
+  /// Gives what is asked for ("A?") and held at the end.
+  std::string after(const char* steps) {
+    for (const char* step = steps; *step; ++step) take(*step);
+    std::string state;
+    for (std::size_t way = 0; way < 2; ++way) {
+      if (!answers_[way].empty()) state += {char('A' + way), '?'};
+      if (held_[way]) state += std::string(std::size_t(held_[way]), char('A' + way));
+    }
+    return state;
   }
-  void UnInhibit(uint cookie) { held.erase(cookie); }
+
+ private:
+  AskForInhibition way(std::size_t way) {
+    return [this, way](auto answer) { answers_[way].push_back(answer); };
+  }
+  void take(char step) {
+    if (step == '+' || step == '-') return inhibitor_->setInhibited(step == '+');
+    if (step == 't') return clock_.advance(std::chrono::seconds(6));
+    if (step == 'x') return inhibitor_.reset();
+    const std::size_t way = (step | 0x20) - 'a';
+    const auto answer = answers_[way].front();
+    answers_[way].erase(answers_[way].begin());
+    if (step >= 'a') return answer({});
+    ++held_[way];
+    answer([this, way] { --held_[way]; });
+  }
+
+  testing::ManualClock clock_;
+  std::vector<std::function<void(ReleaseInhibition)>> answers_[2];
+  int held_[2]{};
+  std::unique_ptr<IdleInhibitor> inhibitor_ =
+      std::make_unique<IdleInhibitor>(std::vector{way(0), way(1)}, clock_);
 };
 
-TEST(IdleInhibitor, HoldsTheScreenAwakeWhileItIsWanted) {
-  const testing::BusDaemon daemon;
-  ASSERT_FALSE(daemon.address().isEmpty());
-  qputenv("DBUS_SESSION_BUS_ADDRESS", daemon.address().toUtf8());
-  const QString name = QStringLiteral("desktop");
-  ScreenSaver saver;
-  {
-    QDBusConnection desktop = QDBusConnection::connectToBus(daemon.address(), name);
-    ASSERT_TRUE(desktop.registerObject(QStringLiteral("/org/freedesktop/ScreenSaver"), &saver,
-                                       QDBusConnection::ExportAllSlots));
-    ASSERT_TRUE(desktop.registerService(QStringLiteral("org.freedesktop.ScreenSaver")));
+TEST(IdleInhibitor, HoldsOneInhibitionWhileItIsWantedAndLeavesNoneBehind) {
+  struct Row {
+    const char* steps;
+    const char* state;
+  };
+  for (const Row& row : {
+           Row{"", ""},       Row{"+", "A?"},    Row{"++", "A?"},    Row{"+A", "A"},
+           Row{"+A+", "A"},   Row{"+A-", ""},    Row{"+A--", ""},    Row{"+A-+", "A?"},
+           Row{"+A-+A", "A"}, Row{"+-", "A?"},   Row{"+-A", ""},     Row{"+-+", "A?"},
+           Row{"+-+A", "A"},  // a late answer
+           Row{"+a", "B?"},   Row{"+aB", "B"},   Row{"+aB-", ""},    Row{"+-a", ""},
+           Row{"+a-B", ""},   Row{"+ab", ""},    Row{"+ab-+", "A?"},  // asked again only when it is
+                                                                      // wanted again
+           Row{"+t", "A?B?"}, Row{"+tB", "A?B"}, Row{"+tBA", "B"},   Row{"+tAB", "A"},
+           Row{"+tA", "AB?"}, Row{"+tAb", "A"},  Row{"+ttA", "AB?"}, Row{"+t-A", "B?"},
+           Row{"+-tA", ""},   Row{"+At", "A"},  // no answer for too long
+           Row{"+Ax", ""},    Row{"+x", "A?"},   Row{"+xA", ""},     Row{"+txBA", ""},
+       })
+    EXPECT_EQ(TwoWays().after(row.steps), row.state) << row.steps;
+}
 
-    IdleInhibitor inhibitor;
-    inhibitor.setInhibited(true);
-    inhibitor.setInhibited(true);
-    EXPECT_TRUE(testing::waitFor([&] { return saver.held.size() == 1; }));
-    inhibitor.setInhibited(false);
-    EXPECT_TRUE(testing::waitFor([&] { return saver.held.empty(); }));
+class PortalRequest : public QObject {
+  Q_OBJECT
+  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Request")
 
-    inhibitor.setInhibited(true);  // taken back before the desktop has answered
-    inhibitor.setInhibited(false);
-    EXPECT_TRUE(testing::waitFor([&] { return saver.inhibited == 2 && saver.held.empty(); }));
+ public:
+  bool closed = false;
 
-    inhibitor.setInhibited(true);
-    EXPECT_TRUE(testing::waitFor([&] { return saver.held.size() == 1; }));
+ public Q_SLOTS:
+  void Close() { closed = true; }
+};
+
+class Portal : public QObject {
+  Q_OBJECT
+  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Inhibit")
+
+ public:
+  uint flags = 0;
+
+ public Q_SLOTS:
+  QDBusObjectPath Inhibit(const QString&, uint asked, const QVariantMap&) {
+    flags = asked;
+    return QDBusObjectPath("/request/1");
   }
-  EXPECT_TRUE(testing::waitFor([&] { return saver.held.empty(); })) << "still held after its end";
-  QDBusConnection::disconnectFromBus(name);
+};
+
+class DesktopInhibition : public ::testing::Test {
+ protected:
+  ~DesktopInhibition() override {
+    for (const char* name : {"desktop", "player"}) QDBusConnection::disconnectFromBus(name);
+  }
+  void offerPortal() {
+    constexpr auto kSlots = QDBusConnection::ExportAllSlots;
+    ASSERT_TRUE(desktop_.registerObject("/org/freedesktop/portal/desktop", &portal_, kSlots));
+    ASSERT_TRUE(desktop_.registerObject("/request/1", &request_, kSlots));
+    ASSERT_TRUE(desktop_.registerService("org.freedesktop.portal.Desktop"));
+  }
+
+  const testing::BusDaemon daemon_;
+  QDBusConnection desktop_ = QDBusConnection::connectToBus(daemon_.address(), "desktop");
+  QDBusConnection player_ = QDBusConnection::connectToBus(daemon_.address(), "player");
+  testing::FakeScreenSaver saver_{desktop_};
+  Portal portal_;
+  PortalRequest request_;
+  SystemClock clock_;
+  std::optional<IdleInhibitor> inhibitor_{
+      std::in_place, std::vector{portalInhibition(player_), screenSaverInhibition(player_)},
+      clock_};
+};
+
+TEST_F(DesktopInhibition, GoesToTheScreenSaverWhereThereIsNoPortal) {
+  inhibitor_->setInhibited(true);
+  EXPECT_TRUE(testing::waitFor([&] { return saver_.held() == 1; }));
+  inhibitor_->setInhibited(false);
+  EXPECT_TRUE(testing::waitFor([&] { return saver_.held() == 0; }));
+
+  inhibitor_->setInhibited(true);
+  inhibitor_.reset();  // before the portal's refusal, so that nobody else is asked
+  testing::settle();
+  EXPECT_EQ(saver_.asked(), 1u);
+}
+
+TEST_F(DesktopInhibition, GoesToThePortalAlone) {
+  offerPortal();
+  inhibitor_->setInhibited(true);
+  EXPECT_TRUE(testing::waitFor([&] { return portal_.flags != 0; }));
+  EXPECT_EQ(portal_.flags, 12u);  // idle and suspend
+  inhibitor_.reset();             // wherever the answer is by now
+  EXPECT_TRUE(testing::waitFor([&] { return request_.closed; }));
+  EXPECT_EQ(saver_.asked(), 0u);
 }
 
 }  // namespace
