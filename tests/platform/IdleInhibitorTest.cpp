@@ -61,17 +61,41 @@ TEST(IdleInhibitor, HoldsOneInhibitionWhileItIsWantedAndLeavesNoneBehind) {
     const char* state;
   };
   for (const Row& row : {
-           Row{"", ""},       Row{"+", "A?"},    Row{"++", "A?"},    Row{"+A", "A"},
-           Row{"+A+", "A"},   Row{"+A-", ""},    Row{"+A--", ""},    Row{"+A-+", "A?"},
-           Row{"+A-+A", "A"}, Row{"+-", "A?"},   Row{"+-A", ""},     Row{"+-+", "A?"},
+           Row{"", ""},
+           Row{"+", "A?"},
+           Row{"++", "A?"},
+           Row{"+A", "A"},
+           Row{"+A+", "A"},
+           Row{"+A-", ""},
+           Row{"+A--", ""},
+           Row{"+A-+", "A?"},
+           Row{"+A-+A", "A"},
+           Row{"+-", "A?"},
+           Row{"+-A", ""},
+           Row{"+-+", "A?"},
            Row{"+-+A", "A"},  // a late answer
-           Row{"+a", "B?"},   Row{"+aB", "B"},   Row{"+aB-", ""},    Row{"+-a", ""},
-           Row{"+a-B", ""},   Row{"+ab", ""},    Row{"+ab-+", "A?"},  // asked again only when it is
-                                                                      // wanted again
-           Row{"+t", "A?B?"}, Row{"+tB", "A?B"}, Row{"+tBA", "B"},   Row{"+tAB", "A"},
-           Row{"+tA", "AB?"}, Row{"+tAb", "A"},  Row{"+ttA", "AB?"}, Row{"+t-A", "B?"},
-           Row{"+-tA", ""},   Row{"+At", "A"},  // no answer for too long
-           Row{"+Ax", ""},    Row{"+x", "A?"},   Row{"+xA", ""},     Row{"+txBA", ""},
+           Row{"+a", "B?"},
+           Row{"+aB", "B"},
+           Row{"+aB-", ""},
+           Row{"+-a", ""},
+           Row{"+a-B", ""},
+           Row{"+ab", ""},
+           Row{"+ab-+", "A?"},  // asked again only when it is
+                                // wanted again
+           Row{"+t", "A?B?"},
+           Row{"+tB", "A?B"},
+           Row{"+tBA", "B"},
+           Row{"+tAB", "A"},
+           Row{"+tA", "AB?"},
+           Row{"+tAb", "A"},
+           Row{"+ttA", "AB?"},
+           Row{"+t-A", "B?"},
+           Row{"+-tA", ""},
+           Row{"+At", "A"},  // no answer for too long
+           Row{"+Ax", ""},
+           Row{"+x", "A?"},
+           Row{"+xA", ""},
+           Row{"+txBA", ""},
        })
     EXPECT_EQ(TwoWays().after(row.steps), row.state) << row.steps;
 }
