@@ -52,6 +52,16 @@ std::optional<DefaultsResult> tryRead(const QString& path, QString& error) {
       .error = QStringLiteral("Your settings file was damaged; it is kept as %1.").arg(aside)};
 }
 
+void put(QJsonObject& values, const DefaultsPath& path, const DefaultsChange& change) {
+  if (path.field.isEmpty()) {
+    if (!change.fills || !values.contains(path.key)) values.insert(path.key, change.value);
+    return;
+  }
+  QJsonObject dictionary = values.value(path.key).toObject();
+  put(dictionary, {path.field}, change);
+  values.insert(path.key, dictionary);
+}
+
 }  // namespace
 
 DefaultsResult readDefaults(const QString& path) {
@@ -60,15 +70,14 @@ DefaultsResult readDefaults(const QString& path) {
   return {.values = {}, .error = cannotRead(path, error), .failed = true};
 }
 
-DefaultsResult mergeDefaults(const QString& path, const QJsonObject& changes) {
+DefaultsResult mergeDefaults(const QString& path, const DefaultsChanges& changes) {
   QDir().mkpath(QFileInfo(path).absolutePath());
   QLockFile lock(path + QStringLiteral(".lock"));
   lock.tryLock(kLockWaitMilliseconds);
   QString error;
   auto merged = tryRead(path, error);
   if (!merged) return {.values = {}, .error = cannotSave(path, error), .failed = true};
-  for (auto change = changes.begin(); change != changes.end(); ++change)
-    merged->values.insert(change.key(), change.value());
+  for (const auto& [place, change] : changes) put(merged->values, place, change);
   QSaveFile file(path);
   const QByteArray text = QJsonDocument(merged->values).toJson(QJsonDocument::Indented);
   if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())

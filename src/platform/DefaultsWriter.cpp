@@ -3,14 +3,20 @@
 #include <chrono>
 #include <utility>
 
-#include "platform/DefaultsFile.h"
-
 namespace tromelo {
 
 namespace {
 
 /// Changes that follow each other more quickly are written together.
 constexpr std::chrono::milliseconds kTogether(200);
+
+/// What only fills a gap does so after what was there before.
+void put(DefaultsChanges& changes, const DefaultsPath& path, const DefaultsChange& change) {
+  if (change.fills)
+    changes.try_emplace(path, change);
+  else
+    changes.insert_or_assign(path, change);
+}
 
 }  // namespace
 
@@ -21,16 +27,16 @@ DefaultsWriter::~DefaultsWriter() {
   {
     const std::scoped_lock lock(mutex_);
     ends_ = true;
-    dirty_ = !changes_.isEmpty();
+    dirty_ = !changes_.empty();
   }
   wake_.notify_one();
   thread_.join();
 }
 
-void DefaultsWriter::write(const QString& key, const QJsonValue& value) {
+void DefaultsWriter::write(const DefaultsPath& path, const DefaultsChange& change) {
   {
     const std::scoped_lock lock(mutex_);
-    changes_.insert(key, value);
+    put(changes_, path, change);
     dirty_ = true;
   }
   wake_.notify_one();
@@ -54,20 +60,20 @@ void DefaultsWriter::run() {
   }
 }
 
-void DefaultsWriter::keep(const QJsonObject& failed) {
-  for (auto change = failed.begin(); change != failed.end(); ++change)
-    if (!changes_.contains(change.key())) changes_.insert(change.key(), change.value());
+void DefaultsWriter::keep(DefaultsChanges failed) {
+  for (const auto& [path, change] : changes_) put(failed, path, change);
+  changes_ = std::move(failed);
 }
 
 void DefaultsWriter::writeChanges(std::unique_lock<std::mutex>& lock) {
-  QJsonObject changes = std::exchange(changes_, {});
+  DefaultsChanges changes = std::exchange(changes_, {});
   dirty_ = false;
   busy_ = true;
   lock.unlock();
   const DefaultsResult result = mergeDefaults(path_, changes);
   if (!result.error.isEmpty()) failed_(result.error);
   lock.lock();
-  if (result.failed) keep(changes);
+  if (result.failed) keep(std::move(changes));
   busy_ = false;
   written_.notify_all();
 }

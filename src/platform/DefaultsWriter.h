@@ -1,11 +1,12 @@
 #pragma once
 
-#include <QJsonObject>
 #include <QString>
 #include <condition_variable>
 #include <functional>
 #include <mutex>
 #include <thread>
+
+#include "platform/DefaultsFile.h"
 
 namespace tromelo {
 
@@ -21,14 +22,14 @@ class DefaultsWriter {
   DefaultsWriter& operator=(const DefaultsWriter&) = delete;
 
   /// Returns at once. What can't be written is tried again with the next change, and at the end.
-  void write(const QString& key, const QJsonValue& value);
+  void write(const DefaultsPath& path, const DefaultsChange& change);
 
   /// Waits until all that was changed before is written, or has failed.
   void flush();
 
  private:
   void run();
-  void keep(const QJsonObject& failed);
+  void keep(DefaultsChanges failed);
   void writeChanges(std::unique_lock<std::mutex>& lock);
 
   const QString path_;
@@ -36,7 +37,7 @@ class DefaultsWriter {
   std::mutex mutex_;
   std::condition_variable wake_;
   std::condition_variable written_;
-  QJsonObject changes_;
+  DefaultsChanges changes_;
   bool dirty_ = false;  // there are changes that nobody has tried to write
   bool busy_ = false;
   bool hurry_ = false;  // somebody waits

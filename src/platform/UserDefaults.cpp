@@ -63,11 +63,27 @@ bool UserDefaults::boolean(const QString& key) const { return values_.value(key)
 void UserDefaults::set(const QString& key, const QJsonValue& value) {
   if (contains(key) && values_.value(key) == value) return;
   values_.insert(key, value);
+  write({key}, {value});
+}
+
+void UserDefaults::setFields(const QString& key, const QJsonObject& fields,
+                             const QJsonObject& before) {
+  QJsonObject stored = value(key).toObject();
+  for (auto field = fields.begin(); field != fields.end(); ++field) {
+    const bool fills = before.value(field.key()) == field.value();
+    if (fills && stored.contains(field.key())) continue;
+    stored.insert(field.key(), field.value());
+    write({key, field.key()}, {field.value(), fills});
+  }
+  values_.insert(key, stored);
+}
+
+void UserDefaults::write(const DefaultsPath& path, const DefaultsChange& change) {
   if (!writer_) {
     writer_ = std::make_shared<DefaultsWriter>(
         path_, [trouble = trouble_](const QString& error) { trouble->happened(error); });
   }
-  writer_->write(key, value);
+  writer_->write(path, change);
 }
 
 void UserDefaults::flush() {

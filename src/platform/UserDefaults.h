@@ -9,6 +9,8 @@
 namespace tromelo {
 
 class DefaultsWriter;
+struct DefaultsChange;
+struct DefaultsPath;
 
 /// The program's stored values: one JSON file that a person can read and edit. A change is seen at
 /// once; it is on disk a moment later, atomically, merged with what another process wrote
@@ -31,6 +33,10 @@ class UserDefaults {
   /// The value stays in memory even when it can't be written; then error() says why.
   void set(const QString& key, const QJsonValue& value);
 
+  /// Of a dictionary, stores the fields that aren't as `before`, and the others where the file has
+  /// none: what a person edits in the file meanwhile stays.
+  void setFields(const QString& key, const QJsonObject& fields, const QJsonObject& before);
+
   /// Waits until all changes are on disk, or have failed.
   void flush();
 
@@ -44,6 +50,8 @@ class UserDefaults {
 
  private:
   class Trouble;
+
+  void write(const DefaultsPath& path, const DefaultsChange& change);
 
   QString path_;
   QJsonObject values_;

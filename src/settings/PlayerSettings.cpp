@@ -1,5 +1,8 @@
 #include "settings/PlayerSettings.h"
 
+#include <QLocale>
+#include <algorithm>
+
 #include "engine/MpvEngine.h"
 #include "platform/UserDefaults.h"
 
@@ -26,10 +29,29 @@ const QStringList& PlayerSettings::fonts() {
 
 const QList<AutoHideChoice>& PlayerSettings::autoHideChoices() {
   static const QList<AutoHideChoice> choices{
-      {QStringLiteral("1 second"), 1},    {QStringLiteral("2 seconds"), 2},
-      {QStringLiteral("3 seconds"), 3},   {QStringLiteral("5 seconds"), 5},
-      {QStringLiteral("10 seconds"), 10}, {QStringLiteral("Never"), 0}};
+      {QStringLiteral(QT_TR_NOOP("1 second")), 1},    {QStringLiteral(QT_TR_NOOP("2 seconds")), 2},
+      {QStringLiteral(QT_TR_NOOP("3 seconds")), 3},   {QStringLiteral(QT_TR_NOOP("5 seconds")), 5},
+      {QStringLiteral(QT_TR_NOOP("10 seconds")), 10}, {QStringLiteral(QT_TR_NOOP("Never")), 0}};
   return choices;
+}
+
+QStringList PlayerSettings::autoHideLabels() {
+  QStringList labels;
+  for (const AutoHideChoice& choice : autoHideChoices())
+    labels << tr(choice.label.toUtf8().constData());
+  return labels;
+}
+
+int PlayerSettings::autoHideIndex() const {
+  const auto& choices = autoHideChoices();
+  const auto chosen = std::ranges::find(choices, autoHideDelay(), &AutoHideChoice::seconds);
+  return chosen == choices.end() ? -1 : int(chosen - choices.begin());
+}
+
+QString PlayerSettings::autoHideText() const {
+  const int index = autoHideIndex();
+  return index < 0 ? tr("%1 seconds").arg(QLocale().toString(autoHideDelay(), 'g', 3))
+                   : autoHideLabels().at(index);
 }
 
 const QList<RgbaColor>& PlayerSettings::colorPresets() {
@@ -90,11 +112,14 @@ template <typename T>
 void PlayerSettings::write(T& field, T value) {
   Q_EMIT willChange();
   const bool isOther = field != value;
+  const PlayerPreferences before = values_;
   field = std::move(value);
-  save();
+  save(before);
   if (isOther) Q_EMIT changed();
 }
 
-void PlayerSettings::save() { defaults_.set(kKey, storedPreferences(values_)); }
+void PlayerSettings::save(const PlayerPreferences& before) {
+  defaults_.setFields(kKey, storedPreferences(values_), storedPreferences(before));
+}
 
 }  // namespace tromelo

@@ -12,12 +12,18 @@ namespace tromelo {
 class MpvEngine;
 class UserDefaults;
 
-/// What the person prefers, loaded from the stored values and stored again, whole, at every write.
+/// What the person prefers, loaded from the stored values and stored again at every
+/// write.
 /// Main thread only.
 class PlayerSettings : public QObject {
   Q_OBJECT
   Q_PROPERTY(
       double autoHideDelay READ autoHideDelay WRITE setAutoHideDelay NOTIFY autoHideDelayChanged)
+  /// In autoHideLabels; -1 for a delay that isn't offered.
+  Q_PROPERTY(
+      int autoHideIndex READ autoHideIndex WRITE setAutoHideIndex NOTIFY autoHideDelayChanged)
+  Q_PROPERTY(QString autoHideText READ autoHideText NOTIFY autoHideDelayChanged)
+  Q_PROPERTY(QStringList autoHideLabels READ autoHideLabels CONSTANT)
   Q_PROPERTY(QString subtitleFont READ subtitleFont WRITE setSubtitleFont NOTIFY changed)
   Q_PROPERTY(double subtitleSize READ subtitleSize WRITE setSubtitleSize NOTIFY changed)
   Q_PROPERTY(
@@ -46,10 +52,13 @@ class PlayerSettings : public QObject {
   static const QStringList& fonts();
   static const QList<AutoHideChoice>& autoHideChoices();
   static const QList<RgbaColor>& colorPresets();
+  /// In the person's language.
+  static QStringList autoHideLabels();
   static QStringList borderStyleLabels() { return tromelo::borderStyleLabels(); }
 
   /// Idle seconds after which the player's controls hide; 0 means never.
   double autoHideDelay() const { return values_.autoHideDelay; }
+  const SubtitleStyle& subtitleStyle() const { return values_.subtitles; }
   const QString& subtitleFont() const { return values_.subtitles.font; }
   double subtitleSize() const { return values_.subtitles.size; }
   RgbaColor subtitleColor() const { return values_.subtitles.color; }
@@ -82,6 +91,9 @@ class PlayerSettings : public QObject {
   void autoHideDelayChanged();
 
  private:
+  int autoHideIndex() const;
+  void setAutoHideIndex(int index) { setAutoHideDelay(autoHideChoices().at(index).seconds); }
+  QString autoHideText() const;
   int subtitleBorderStyleIndex() const { return static_cast<int>(subtitleBorderStyle()); }
   void setSubtitleBorderStyleIndex(int index) {
     setSubtitleBorderStyle(static_cast<SubtitleBorderStyle>(index));
@@ -89,7 +101,7 @@ class PlayerSettings : public QObject {
   bool subtitlesHaveEdge() const { return subtitleBorderStyle() != SubtitleBorderStyle::box; }
   template <typename T>
   void write(T& field, T value);
-  void save();
+  void save(const PlayerPreferences& before);
 
   UserDefaults& defaults_;
   PlayerPreferences values_;

@@ -1,5 +1,6 @@
 #include "settings/SubtitleBorderStyle.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <array>
 
@@ -10,13 +11,16 @@ namespace {
 struct Row {
   SubtitleBorderStyle style;
   QLatin1StringView raw;
-  QLatin1StringView label;
+  const char* label;
 };
 
 constexpr std::array kRows{
-    Row{SubtitleBorderStyle::outline, QLatin1StringView("outline"), QLatin1StringView("Outline")},
-    Row{SubtitleBorderStyle::shadow, QLatin1StringView("shadow"), QLatin1StringView("Shadow")},
-    Row{SubtitleBorderStyle::box, QLatin1StringView("box"), QLatin1StringView("Box")},
+    Row{SubtitleBorderStyle::outline, QLatin1StringView("outline"),
+        QT_TRANSLATE_NOOP("SubtitleBorderStyle", "Outline")},
+    Row{SubtitleBorderStyle::shadow, QLatin1StringView("shadow"),
+        QT_TRANSLATE_NOOP("SubtitleBorderStyle", "Shadow")},
+    Row{SubtitleBorderStyle::box, QLatin1StringView("box"),
+        QT_TRANSLATE_NOOP("SubtitleBorderStyle", "Box")},
 };
 
 const Row& row(SubtitleBorderStyle style) {
@@ -34,11 +38,13 @@ std::optional<SubtitleBorderStyle> borderStyleOf(const QString& rawValue) {
   return found->style;
 }
 
-QString label(SubtitleBorderStyle style) { return row(style).label; }
+QString label(SubtitleBorderStyle style) {
+  return QCoreApplication::translate("SubtitleBorderStyle", row(style).label);
+}
 
 QStringList borderStyleLabels() {
   QStringList labels;
-  for (const Row& row : kRows) labels << row.label;
+  for (const Row& row : kRows) labels << label(row.style);
   return labels;
 }
 

@@ -24,7 +24,7 @@ QString rawValue(SubtitleBorderStyle style);
 /// None for any other text.
 std::optional<SubtitleBorderStyle> borderStyleOf(const QString& rawValue);
 
-/// The name for people.
+/// The name for people, in their language.
 QString label(SubtitleBorderStyle style);
 
 /// The names of all, in order.

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QTemporaryDir>
 #include <limits>
 
@@ -154,6 +156,44 @@ TEST_F(PlayerSettingsTest, LoadingLeavesAHandEditedEntryAsItIs) {
   defaults_.set(kKey, edited);
   const PlayerSettings settings(defaults_);
   EXPECT_EQ(stored(), edited);
+}
+
+TEST_F(PlayerSettingsTest, WhatAPersonEditsInTheFileMeanwhileStays) {
+  struct Row {
+    const char* name;
+    QJsonObject before;
+    QJsonObject edited;
+  };
+  const QJsonObject font{{"subtitleFont", "Comic Neue"}};
+  const Row rows[] = {
+      {"with nothing stored", {}, font},
+      {"with all stored", storedPreferences({}), font},
+      {"with a note", font, {{"subtitleFont", "Comic Neue"}, {"note", "mine"}}},
+  };
+  for (const Row& row : rows) {
+    const auto write = [&](const QJsonObject& entry) {
+      QFile file(path_);
+      ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+      file.write(QJsonDocument(QJsonObject{{kKey, entry}}).toJson());
+    };
+    write(row.before);
+    UserDefaults defaults(path_);
+    PlayerSettings settings(defaults);
+    write(row.edited);
+    settings.setSubtitleSize(52);
+    defaults.flush();
+    write(row.edited);
+    settings.setSubtitleBold(true);
+    settings.setSubtitleSize(44);
+    settings.setSubtitleSize(52);
+    defaults.flush();
+    QJsonObject expected = row.edited;
+    expected["subtitleSize"] = 52;
+    expected["subtitleBold"] = true;
+    const QJsonObject found = UserDefaults(path_).value(kKey).toObject();
+    for (const QString& field : expected.keys())
+      EXPECT_EQ(found[field], expected[field]) << row.name << " " << field.toStdString();
+  }
 }
 
 TEST_F(PlayerSettingsTest, AnnouncesEachWriteBeforeAndEachChangeAfterIt) {

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QFont>
+#include <QImage>
+
+#include "settings/SubtitleStyle.h"
+
+namespace tromelo {
+
+/// What subtitles are shown by before there are any.
+QString subtitleSampleText();
+
+/// Of the sample, as large as subtitles are in a small picture; in points of 1/72 of an inch.
+QFont subtitleSampleFont(const SubtitleStyle& style);
+
+/// The sample in this style at the bottom of a picture: `size` in points, `scale` pixels for each.
+QImage subtitlePicture(QSizeF size, double scale, const SubtitleStyle& style);
+
+}  // namespace tromelo

@@ -1,0 +1,36 @@
+#include "settings/SubtitlePreview.h"
+
+#include <QPainter>
+
+namespace tromelo {
+
+namespace {
+
+constexpr double kRadius = 10;
+
+}  // namespace
+
+SubtitlePreview::SubtitlePreview(QQuickItem* parent) : QQuickPaintedItem(parent) {
+  setAntialiasing(true);
+}
+
+void SubtitlePreview::setSettings(PlayerSettings* settings) {
+  settings_ = settings;
+  connect(settings, &PlayerSettings::changed, this, [this] { update(); });
+  update();
+}
+
+void SubtitlePreview::paint(QPainter* painter) {
+  if (!settings_) return;
+  // Drawn by itself first: a clip with a round edge has no smooth one.
+  const double scale = painter->transform().m11() * painter->device()->devicePixelRatio();
+  const QImage picture = subtitlePicture(size(), scale, settings_->subtitleStyle());
+  QBrush brush(picture);
+  brush.setTransform(QTransform::fromScale(1 / scale, 1 / scale));
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setPen(Qt::NoPen);
+  painter->setBrush(brush);
+  painter->drawRoundedRect(boundingRect(), kRadius, kRadius);
+}
+
+}  // namespace tromelo
