@@ -13,6 +13,8 @@ const MpvClientApi& MpvClientApi::libmpv() {
       .waitEvent = mpv_wait_event,
       .commandAsync = mpv_command_async,
       .setPropertyAsync = mpv_set_property_async,
+      .getPropertyAsync = mpv_get_property_async,
+      .clientApiVersion = mpv_client_api_version,
       .errorString = mpv_error_string,
       .terminateDestroy = mpv_terminate_destroy,
   };

@@ -21,6 +21,9 @@ struct MpvClientApi {
   std::function<int(mpv_handle*, std::uint64_t reply, const char** arguments)> commandAsync;
   std::function<int(mpv_handle*, std::uint64_t reply, const char* name, mpv_format, void* data)>
       setPropertyAsync;
+  std::function<int(mpv_handle*, std::uint64_t reply, const char* name, mpv_format)>
+      getPropertyAsync;
+  std::function<unsigned long()> clientApiVersion;
   std::function<const char*(int code)> errorString;
   std::function<void(mpv_handle*)> terminateDestroy;
 

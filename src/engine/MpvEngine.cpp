@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QThreadPool>
+#include <format>
 #include <utility>
 
 #include "engine/EngineEnvironment.h"
@@ -94,6 +95,7 @@ void MpvEngine::terminate(std::function<void()> completion) {
   const UncheckedHandle handle{std::exchange(handle_, nullptr)};
   waiting_.clear();
   refusals_.clear();
+  reads_.clear();
   wakeupTarget_->engine = nullptr;
   api_->setWakeupCallback(handle.pointer, nullptr, nullptr);
   // The application object waits for the pool before it is gone, so that the process never ends
@@ -111,6 +113,26 @@ void MpvEngine::command(std::vector<std::string> arguments) {
 
 void MpvEngine::setProperty(std::string name, std::string value) {
   send(MpvPropertyWrite{std::move(name), std::move(value)});
+}
+
+void MpvEngine::readProperty(std::string name, Answer answer) {
+  if (!handle_) return;
+  reads_.emplace(++lastRead_, std::move(answer));
+  send(MpvPropertyRead{std::move(name), lastRead_});
+}
+
+void MpvEngine::answerRead(const mpv_event& reply) {
+  const auto read = reads_.extract(reply.reply_userdata);
+  if (!read) return;
+  const auto* property = static_cast<const mpv_event_property*>(reply.data);
+  const bool hasText = reply.error >= 0 && property && property->format == MPV_FORMAT_OSD_STRING;
+  read.mapped()(hasText ? std::optional<std::string>(*static_cast<char**>(property->data))
+                        : std::nullopt);
+}
+
+std::string MpvEngine::clientApiVersion() const {
+  const unsigned long version = api_->clientApiVersion();
+  return std::format("{}.{}", version >> 16, version & 0xffff);
 }
 
 void MpvEngine::send(MpvRequest request) {
@@ -141,6 +163,9 @@ int MpvEngine::trySend(const MpvRequest& request) {
   if (const auto* command = std::get_if<MpvCommand>(&request)) {
     return sendCommand(*api_, handle_, *command);
   }
+  if (const auto* read = std::get_if<MpvPropertyRead>(&request)) {
+    return api_->getPropertyAsync(handle_, read->reply, read->name.c_str(), MPV_FORMAT_OSD_STRING);
+  }
   return sendWrite(*api_, handle_, std::get<MpvPropertyWrite>(request));
 }
 
@@ -151,6 +176,7 @@ void MpvEngine::drainEvents() {
   while (handle_) {
     const mpv_event* received = api_->waitEvent(handle_, 0);
     if (!received || received->event_id == MPV_EVENT_NONE) break;
+    if (received->event_id == MPV_EVENT_GET_PROPERTY_REPLY) answerRead(*received);
     if (const auto translated = translateMpvEvent(*api_, *received)) onEvent(*translated);
   }
   sendWaiting();

@@ -3,6 +3,7 @@
 #include <QString>
 #include <deque>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -11,6 +12,7 @@
 #include "engine/MpvEvent.h"
 #include "engine/MpvRequest.h"
 
+struct mpv_event;
 struct mpv_handle;
 
 namespace tromelo {
@@ -50,6 +52,13 @@ class MpvEngine {
   /// A refused value is not reported.
   void setProperty(std::string name, std::string value);
 
+  /// Called on the main thread with the value as people read it, or none; never after terminate().
+  using Answer = std::function<void(std::optional<std::string>)>;
+  void readProperty(std::string name, Answer answer);
+
+  /// Of the library: "2.5".
+  std::string clientApiVersion() const;
+
   /// Hands every waiting event to onEvent.
   void drainEvents();
 
@@ -61,6 +70,7 @@ class MpvEngine {
   void sendWaiting();
   int trySend(const MpvRequest& request);
   void noteRefusal(int code);
+  void answerRead(const mpv_event& reply);
 
   std::unique_ptr<const MpvClientApi> api_;
   mpv_handle* handle_ = nullptr;
@@ -70,6 +80,8 @@ class MpvEngine {
   std::deque<MpvRequest> waiting_;
   // The errors of commands that libmpv refused on the spot, reported as its later replies are.
   std::vector<std::string> refusals_;
+  std::map<std::uint64_t, Answer> reads_;  // without an answer yet, by their reply
+  std::uint64_t lastRead_ = 0;
 };
 
 }  // namespace tromelo

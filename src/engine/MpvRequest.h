@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <variant>
 #include <vector>
@@ -14,6 +15,10 @@ struct MpvPropertyWrite {
   std::string name;
   std::string value;
 };
-using MpvRequest = std::variant<MpvCommand, MpvPropertyWrite>;
+struct MpvPropertyRead {
+  std::string name;
+  std::uint64_t reply;  // that the answer comes back with
+};
+using MpvRequest = std::variant<MpvCommand, MpvPropertyWrite, MpvPropertyRead>;
 
 }  // namespace tromelo

@@ -51,6 +51,10 @@ MpvClientApi FakeMpv::api() {
           [this](mpv_handle*, std::uint64_t, const char* name, mpv_format, void* data) {
             return request({"set", name, *static_cast<const char**>(data)});
           },
+      .getPropertyAsync = [this](
+                              mpv_handle*, std::uint64_t reply, const char* name,
+                              mpv_format) { return request({"get", name, std::to_string(reply)}); },
+      .clientApiVersion = [] { return 0x20005UL; },
       .errorString = [](int code) -> const char* {
         return code < -100 ? nullptr : mpv_error_string(code);
       },

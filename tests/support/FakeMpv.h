@@ -34,7 +34,8 @@ class FakeMpv {
     friend bool operator==(const Observed&, const Observed&) = default;
   };
   std::vector<Observed> observed;
-  /// Commands as they came; property writes as {"set", name, value}.
+  /// Commands as they came; property writes as {"set", name, value}, reads
+  /// as {"get", name, reply}.
   std::vector<std::vector<std::string>> requests;
   std::string logLevel;
   int created = 0;
