@@ -97,6 +97,8 @@ MpvClientApi preparedEngine(Events& events) {
           .commandAsync = [](mpv_handle*, std::uint64_t, const char**) { return 0; },
           .setPropertyAsync = [](mpv_handle*, std::uint64_t, const char*, mpv_format,
                                  void*) { return 0; },
+          .getPropertyAsync = [](mpv_handle*, std::uint64_t, const char*, mpv_format) { return 0; },
+          .clientApiVersion = [] { return 0UL; },
           .errorString = [](int) { return "error"; },
           .terminateDestroy = [](mpv_handle*) {}};
 }

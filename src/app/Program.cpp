@@ -6,6 +6,7 @@
 
 #include "display/DmabufSupport.h"
 #include "display/EglDevice.h"
+#include "display/SelftestLines.h"
 #include "engine/MpvClientApi.h"
 #include "glass/GlassRendering.h"
 #include "library/LibraryWindow.h"
@@ -99,18 +100,39 @@ void Program::makeDelegate() {
   QObject::connect(delegate_.get(), &AppDelegate::readyToTerminate, qApp,
                    [] { QCoreApplication::exit(0); });
   QObject::connect(&signals_, &TerminationSignals::received, delegate_.get(), &AppDelegate::quit);
-  commands_ = std::make_unique<Commands>(std::vector<Command>{
-      {QStringLiteral("Open…"), QKeySequence(Qt::CTRL | Qt::Key_O),
-       [this] { delegate_->playback().presentOpenPanel(); }},
-      {QStringLiteral("Library"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_L),
-       [this] { delegate_->showLibraryWindow(); }},
-      {QStringLiteral("Quit"), QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { delegate_->quit(); }},
+  settingsWindow_ = std::make_unique<ProgramWindow>(
+      qmlEngine_, "SettingsWindow",
+      QVariantMap{
+          {QStringLiteral("settings"), QVariant::fromValue(&delegate_->playback().settings())}});
+  makeCommands();
+}
+
+void Program::makeCommands() {
+  constexpr int kShortcutsPage = 2;
+  commands_ = std::make_unique<Commands>(Commands::Actions{
+      .open = [this] { delegate_->playback().presentOpenPanel(); },
+      .quit = [this] { delegate_->quit(); },
+      .showSettings = [this] { settingsWindow_->show(); },
+      .showLibrary = [this] { delegate_->showLibraryWindow(); },
+      .showShortcuts = [this] { settingsWindow_->show().setProperty("page", kShortcutsPage); },
+      .showAbout = [this] { showAbout(); },
   });
+}
+
+void Program::showAbout() {
+  if (!facts_) {
+    facts_ = std::make_unique<AboutFacts>(delegate_->playback().engine(), &vulkanLines);
+    aboutWindow_ = std::make_unique<ProgramWindow>(
+        qmlEngine_, "AboutWindow",
+        QVariantMap{{QStringLiteral("facts"), QVariant::fromValue(facts_.get())}});
+  }
+  aboutWindow_->show();
 }
 
 std::unique_ptr<HostWindow> Program::makeLibraryWindow(PlaybackModel& playback,
                                                        PlayerWindowController& player) {
-  auto library = std::make_unique<LibraryWindow>(qmlEngine_, playback, player, defaults_);
+  auto library =
+      std::make_unique<LibraryWindow>(qmlEngine_, playback, player, *commands_, defaults_);
   QObject::connect(library.get(), &LibraryWindow::closed, delegate_.get(),
                    [this] { handleLibraryClosed(); });
   return library;

@@ -7,16 +7,18 @@
 #include "app/AppDelegate.h"
 #include "app/ApplicationService.h"
 #include "app/CommandLine.h"
-#include "app/Commands.h"
 #include "app/DialogFileChooser.h"
 #include "app/StateReport.h"
 #include "app/TerminationSignals.h"
+#include "controls/Commands.h"
 #include "display/PrivateDisplay.h"
 #include "mpris/MprisService.h"
 #include "platform/Clock.h"
 #include "platform/IdleInhibitor.h"
 #include "platform/UserDefaults.h"
 #include "player/PlayerStage.h"
+#include "windows/AboutFacts.h"
+#include "windows/ProgramWindow.h"
 
 namespace tromelo {
 
@@ -35,6 +37,8 @@ class Program {
   void makeDelegate();
   std::unique_ptr<HostWindow> makeLibraryWindow(PlaybackModel& playback,
                                                 PlayerWindowController& player);
+  void makeCommands();
+  void showAbout();
   void connectService();
   void startReport();
   void tellOfStorageErrors();
@@ -56,8 +60,11 @@ class Program {
   std::unique_ptr<PrivateDisplay> display_;
   QQmlEngine qmlEngine_;
   std::unique_ptr<PlayerStage> stage_;
-  std::unique_ptr<AppDelegate> delegate_;
   std::unique_ptr<Commands> commands_;
+  std::unique_ptr<AppDelegate> delegate_;
+  std::unique_ptr<ProgramWindow> settingsWindow_;
+  std::unique_ptr<AboutFacts> facts_;  // since the first look
+  std::unique_ptr<ProgramWindow> aboutWindow_;
   std::unique_ptr<StateReport> report_;
   std::unique_ptr<MprisService> mediaControls_;
   TerminationSignals signals_;

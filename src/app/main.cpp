@@ -31,6 +31,8 @@ void describe(QApplication& application) {
   application.setApplicationVersion(QStringLiteral(TROMELO_VERSION));
   application.setDesktopFileName(QStringLiteral("org.tromelo.Tromelo"));
   application.setQuitOnLastWindowClosed(false);
+  // Menus look like the rest of the window that they belong to.
+  application.setAttribute(Qt::AA_DontUseNativeMenuBar);
   application.styleHints()->setColorScheme(Qt::ColorScheme::Dark);
 }
 

@@ -10,11 +10,18 @@ T.CheckBox {
 
     property string tip: ""
 
+    function press() {
+        toggle();
+        toggled();
+    }
+
     font: Theme.field
     spacing: Theme.fieldSide
     implicitWidth: indicator.width + spacing + Math.ceil(implicitContentWidth)
     implicitHeight: Math.max(Theme.fieldHeight, implicitContentHeight)
     hoverEnabled: true
+    Keys.onReturnPressed: press()
+    Keys.onEnterPressed: press()
     Accessible.name: text
     Accessible.description: tip
 

@@ -14,6 +14,8 @@ T.Button {
     implicitWidth: Theme.swatchSize
     implicitHeight: Theme.swatchSize
     hoverEnabled: true
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
     Accessible.name: tip
 
     background: Rectangle {

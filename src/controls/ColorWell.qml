@@ -17,6 +17,8 @@ T.Button {
     implicitHeight: Theme.fieldHeight
     padding: Theme.fieldInset + Theme.hairline
     hoverEnabled: true
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
     Accessible.name: text
     Accessible.description: tip
     onClicked: chooser.open(color, well)

@@ -1,5 +1,6 @@
 #include "controls/MenuKeys.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <utility>
 
@@ -16,6 +17,8 @@ bool isInPopup(const QQuickItem* item) {
 
 }  // namespace
 
+MenuKeys::MenuKeys(QObject* parent) : QObject(parent) { qApp->installEventFilter(this); }
+
 void MenuKeys::setBar(QQuickItem* bar) {
   bar_ = bar;
   connect(bar, &QQuickItem::windowChanged, this, &MenuKeys::setWindow);
@@ -23,13 +26,9 @@ void MenuKeys::setBar(QQuickItem* bar) {
 }
 
 void MenuKeys::setWindow(QQuickWindow* window) {
-  if (window_) {
-    window_->removeEventFilter(this);
-    disconnect(window_, nullptr, this, nullptr);
-  }
+  if (window_) disconnect(window_, nullptr, this, nullptr);
   window_ = window;
   if (!window_) return;
-  window_->installEventFilter(this);
   connect(window_, &QQuickWindow::activeFocusItemChanged, this, &MenuKeys::followFocus,
           Qt::QueuedConnection);
   followFocus();
@@ -56,7 +55,11 @@ bool MenuKeys::takeKey(int key, Qt::KeyboardModifiers modifiers) {
   return calls;
 }
 
-bool MenuKeys::eventFilter(QObject*, QEvent* event) {
+bool MenuKeys::eventFilter(QObject* watched, QEvent* event) {
+  // Of a key that is somebody's shortcut the window learns nothing else.
+  if (event->type() == QEvent::ShortcutOverride)
+    altIsAlone_ &= static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt;
+  if (!window_ || watched != window_) return false;
   switch (event->type()) {
     case QEvent::KeyPress: {
       const auto* key = static_cast<QKeyEvent*>(event);

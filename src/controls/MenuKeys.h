@@ -16,7 +16,8 @@ class MenuKeys : public QObject {
   Q_PROPERTY(bool showsLetters READ showsLetters NOTIFY showsLettersChanged)
 
  public:
-  using QObject::QObject;
+  /// Listens to the application object from now on.
+  explicit MenuKeys(QObject* parent = nullptr);
 
   /// In its window, whichever that is.
   void setBar(QQuickItem* bar);

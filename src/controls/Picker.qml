@@ -17,6 +17,8 @@ T.ComboBox {
     hoverEnabled: true
     // The wheel scrolls what it lies on.
     wheelEnabled: false
+    Keys.onReturnPressed: popup.open()
+    Keys.onEnterPressed: popup.open()
 
     contentItem: Text {
         text: picker.displayText
@@ -84,6 +86,8 @@ T.ComboBox {
         margins: Theme.popoverMargin
         modal: true
         dim: false
+        onClosed: if (focus)
+            picker.forceActiveFocus(Qt.PopupFocusReason)
         focus: picker.focusPolicy !== Qt.NoFocus
 
         contentItem: ListView {

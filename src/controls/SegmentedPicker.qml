@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Tromelo.Theme
 
-// One of a few choices that are all in sight.
+// One of a few choices that are all in sight. Tab comes to the chosen one, arrows choose another.
 Rectangle {
     id: picker
 
@@ -21,6 +21,10 @@ Rectangle {
     border.width: Theme.hairline
     border.color: Theme.fieldEdge
     Accessible.role: Accessible.Grouping
+    Keys.onLeftPressed: if (current > 0)
+        chosen(current - 1)
+    Keys.onRightPressed: if (current < labels.length - 1)
+        chosen(current + 1)
 
     Row {
         id: segments
@@ -39,7 +43,7 @@ Rectangle {
                 readonly property bool isChosen: index === picker.current
 
                 objectName: "segment" + modelData
-                focusPolicy: picker.focusPolicy
+                focusPolicy: isChosen || activeFocus ? picker.focusPolicy : picker.focusPolicy & Qt.ClickFocus
                 text: modelData
                 font: Theme.field
                 implicitWidth: Math.ceil(implicitContentWidth) + 2 * Theme.fieldSide
@@ -50,6 +54,8 @@ Rectangle {
                 Accessible.checkable: true
                 Accessible.checked: isChosen
                 onClicked: picker.chosen(index)
+                onIsChosenChanged: if (isChosen && Window.activeFocusItem?.parent === segments && !activeFocus)
+                    forceActiveFocus(Qt.TabFocusReason)
 
                 contentItem: Text {
                     text: segment.text

@@ -15,7 +15,7 @@ T.Slider {
 
     value: shown
     onValueChanged: if (value !== Math.min(Math.max(shown, from), to))
-        chosen(value)
+        chosen(from + Math.round((value - from) / stepSize) * stepSize)
     snapMode: T.Slider.SnapAlways
     implicitHeight: Theme.fieldHeight
     hoverEnabled: true

@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QQmlComponent>
 
+#include "controls/Commands.h"
 #include "playback/PlaybackModel.h"
 #include "player/PlayerWindowController.h"
 
@@ -24,10 +25,12 @@ void giveFreedMemoryBack() {
 }  // namespace
 
 LibraryWindow::LibraryWindow(QQmlEngine& engine, PlaybackModel& playback,
-                             PlayerWindowController& player, UserDefaults& defaults)
+                             PlayerWindowController& player, Commands& commands,
+                             UserDefaults& defaults)
     : engine_(engine),
       playback_(playback),
       player_(player),
+      commands_(commands),
       frame_(defaults, QStringLiteral("TromeloLibrary")),
       sidebarWidth_(defaults) {
   connect(&fileManager_, &FileManager::failed, &playback, &PlaybackModel::reportStorageError);
@@ -41,6 +44,7 @@ void LibraryWindow::make() {
   window_.reset(qobject_cast<QQuickWindow*>(component.createWithInitialProperties(
       {{QStringLiteral("playback"), QVariant::fromValue(&playback_)},
        {QStringLiteral("player"), QVariant::fromValue(&player_)},
+       {QStringLiteral("commands"), QVariant::fromValue(&commands_)},
        {QStringLiteral("sidebarWidth"), QVariant::fromValue(&sidebarWidth_)},
        {QStringLiteral("fileManager"), QVariant::fromValue(&fileManager_)}})));
   if (!window_) qFatal("%s", qPrintable(component.errorString()));

@@ -12,6 +12,7 @@
 
 namespace tromelo {
 
+class Commands;
 class PlaybackModel;
 class PlayerWindowController;
 
@@ -23,7 +24,7 @@ class LibraryWindow : public HostWindow {
  public:
   /// All outlive it.
   LibraryWindow(QQmlEngine& engine, PlaybackModel& playback, PlayerWindowController& player,
-                UserDefaults& defaults);
+                Commands& commands, UserDefaults& defaults);
   ~LibraryWindow() override;
 
   bool isVisible() const override;
@@ -48,6 +49,7 @@ class LibraryWindow : public HostWindow {
   QQmlEngine& engine_;
   PlaybackModel& playback_;
   PlayerWindowController& player_;
+  Commands& commands_;
   WindowFrame frame_;
   SidebarWidth sidebarWidth_;
   FileManager fileManager_;

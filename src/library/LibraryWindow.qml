@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
+import Tromelo.Controls
 import Tromelo.Player
 
 // The library's window: its scene fades, the window itself stays.
@@ -12,6 +13,7 @@ Window {
     required property PlayerWindowController player
     required property SidebarWidth sidebarWidth
     required property FileManager fileManager
+    required property Commands commands
 
     title: qsTr("Tromelo")
     color: "transparent"
@@ -23,6 +25,11 @@ Window {
         objectName: "libraryScene"
         anchors.fill: parent
         spacing: 0
+
+        LibraryMenuBar {
+            Layout.fillWidth: true
+            commands: window.commands
+        }
 
         LibraryView {
             Layout.fillWidth: true

@@ -169,6 +169,18 @@ QtObject {
     readonly property real settingSpacing: 10
     readonly property real fontPickerWidth: 170 // at most
     readonly property real sizeTextWidth: 26
+    readonly property real settingsWidth: 520
+    readonly property real settingsPadding: 20
+    readonly property real settingsGroupSpacing: 5
+    readonly property real settingsKeysWidth: 130
+    readonly property real generalHeight: 170
+    readonly property real shortcutsHeight: 440
+    readonly property real formRow: 40
+    readonly property real formRadius: 9
+    readonly property real tabWidth: 84
+    readonly property real tabHeight: 50
+    readonly property real tabSymbolSize: 18
+
     // The control bar.
     readonly property real barSide: 18
     readonly property real barTop: 12

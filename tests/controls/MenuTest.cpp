@@ -72,7 +72,9 @@ TEST_F(MenuTest, TheKeyboardReachesEveryEntry) {
   const Row rows[] = {
       {"Alt and its letters",
        [this] {
+         QTest::keyPress(window_.get(), Qt::Key_Alt);
          press(Qt::Key_F, Qt::AltModifier);
+         QTest::keyRelease(window_.get(), Qt::Key_Alt);
          press(Qt::Key_Q);
        },
        "quit"},
@@ -90,8 +92,16 @@ TEST_F(MenuTest, TheKeyboardReachesEveryEntry) {
          press(Qt::Key_Return);
        },
        "about"},
+      {"Alt and the letters of another menu",
+       [this] {
+         press(Qt::Key_H, Qt::AltModifier);
+         press(Qt::Key_A);
+       },
+       "about"},
       {"a disabled letter",
        [this] {
+         press(Qt::Key_H, Qt::AltModifier);
+         press(Qt::Key_Escape);
          press(Qt::Key_F10);
          press(Qt::Key_N);
          press(Qt::Key_Escape);

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QObject>
+#include <QStringList>
+#include <functional>
+
+namespace tromelo {
+
+class MpvEngine;
+
+/// Which versions of what the program runs with, as text for people and for reports of bugs. What
+/// takes its time to find out comes when it is known. Main thread only.
+class AboutFacts : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("The program has one.")
+  Q_PROPERTY(QString version READ version CONSTANT)
+  Q_PROPERTY(QString details READ details NOTIFY detailsChanged)
+
+ public:
+  /// `findVulkan` gives a line for each device; it is called on another thread.
+  AboutFacts(MpvEngine& engine, std::function<QStringList()> findVulkan);
+
+  /// "Version 0.1.0"
+  static QString version();
+  /// A line for each fact.
+  QString details() const;
+  /// All of it goes to the clipboard.
+  Q_INVOKABLE void copy() const;
+
+ Q_SIGNALS:
+  void detailsChanged();
+
+ private:
+  void ask(MpvEngine& engine, const char* property, QString* line, const QString& pattern);
+  void findDevices(std::function<QStringList()> findVulkan);
+
+  QString engine_;
+  QString renderer_;
+  QStringList devices_;
+};
+
+}  // namespace tromelo

@@ -1,0 +1,87 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Tromelo.Controls
+import Tromelo.Theme
+
+// What the program is, and what it runs with.
+Window {
+    id: window
+
+    required property AboutFacts facts
+
+    title: qsTr("About Tromelo")
+    color: Theme.backdrop
+    width: Theme.settingsWidth
+    height: content.height
+    minimumWidth: width
+    maximumWidth: width
+    minimumHeight: content.height
+    maximumHeight: content.height
+
+    FocusScope {
+        width: parent.width
+        height: parent.height
+        focus: true
+        Keys.onEscapePressed: window.close()
+        Keys.onPressed: event => {
+            if (event.key === Qt.Key_W && event.modifiers === Qt.ControlModifier)
+                window.close();
+        }
+
+        Column {
+            id: content
+
+            width: parent.width
+            padding: Theme.margin
+            spacing: Theme.spacing
+
+            Text {
+                text: qsTr("Tromelo")
+                font: Theme.title
+                color: Theme.primaryText
+            }
+
+            Text {
+                text: window.facts.version + "\n" + qsTr("Free software under the GNU General Public License, version 3 or later.")
+                font: Theme.panelText
+                color: Theme.secondaryText
+                lineHeight: 1.3
+            }
+
+            TextEdit {
+                objectName: "aboutDetails"
+                width: content.width - 2 * content.padding
+                text: window.facts.details
+                textFormat: TextEdit.PlainText
+                font: Theme.panelText
+                color: Theme.primaryText
+                selectionColor: Theme.fieldOn
+                selectedTextColor: Theme.primaryText
+                readOnly: true
+                selectByMouse: true
+                activeFocusOnTab: true
+                wrapMode: TextEdit.Wrap
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
+
+            PushButton {
+                id: copyButton
+
+                objectName: "aboutCopy"
+                focus: true
+                text: qsTr("Copy")
+                Accessible.description: tip.tip
+                onClicked: window.facts.copy()
+
+                HoverTip {
+                    id: tip
+
+                    control: copyButton
+                    tip: qsTr("Copy all of this for a bug report")
+                }
+            }
+        }
+    }
+}

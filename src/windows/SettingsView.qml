@@ -1,0 +1,70 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Tromelo.Controls
+import Tromelo.Settings
+import Tromelo.Theme
+
+// The settings, on three pages. Whatever is changed holds at once.
+FocusScope {
+    id: view
+
+    required property PlayerSettings settings
+    property int page: 0
+
+    implicitWidth: Theme.settingsWidth
+    implicitHeight: content.y + content.height
+
+    TabStrip {
+        id: tabs
+
+        objectName: "settingsTabs"
+        anchors.horizontalCenter: parent.horizontalCenter
+        topPadding: Theme.commandPadding
+        focus: true
+        labels: [qsTr("General"), qsTr("Subtitles"), qsTr("Shortcuts")]
+        symbols: ["gearshape", "captions.bubble", "keyboard"]
+        current: view.page
+        onChosen: index => view.page = index
+    }
+
+    Rectangle {
+        id: line
+
+        anchors.top: tabs.bottom
+        anchors.topMargin: Theme.commandPadding
+        width: parent.width
+        height: Theme.hairline
+        color: Theme.panelDivider
+    }
+
+    Loader {
+        id: content
+
+        anchors.top: line.bottom
+        width: parent.width
+        sourceComponent: [general, subtitles, shortcuts][view.page]
+    }
+
+    Component {
+        id: general
+
+        GeneralSettings {
+            settings: view.settings
+        }
+    }
+
+    Component {
+        id: subtitles
+
+        SubtitleSettings {
+            settings: view.settings
+        }
+    }
+
+    Component {
+        id: shortcuts
+
+        ShortcutList {}
+    }
+}

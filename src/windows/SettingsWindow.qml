@@ -1,0 +1,35 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Tromelo.Settings
+import Tromelo.Theme
+
+// The settings in a window that is as high as its page.
+Window {
+    id: window
+
+    required property PlayerSettings settings
+    property alias page: view.page
+
+    title: qsTr("Settings")
+    color: Theme.backdrop
+    width: view.implicitWidth
+    height: view.implicitHeight
+    minimumWidth: width
+    maximumWidth: width
+    minimumHeight: view.implicitHeight
+    maximumHeight: view.implicitHeight
+
+    SettingsView {
+        id: view
+
+        anchors.fill: parent
+        focus: true
+        settings: window.settings
+        Keys.onEscapePressed: window.close()
+        Keys.onPressed: event => {
+            if (event.key === Qt.Key_W && event.modifiers === Qt.ControlModifier)
+                window.close();
+        }
+    }
+}

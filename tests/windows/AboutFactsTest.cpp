@@ -1,0 +1,46 @@
+#include "windows/AboutFacts.h"
+
+#include <gtest/gtest.h>
+#include <mpv/client.h>
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QTemporaryDir>
+
+#include "engine/MpvEngine.h"
+#include "support/FakeMpv.h"
+#include "support/WaitFor.h"
+
+namespace tromelo {
+namespace {
+
+TEST(AboutFactsTest, SaysWhatIsKnownAndAddsWhatIsFound) {
+  testing::FakeMpv mpv;
+  MpvEngine engine(mpv.api());
+  const QTemporaryDir directory;
+  engine.initialize(directory.path());
+  AboutFacts facts(engine, [] { return QStringList{QStringLiteral("Vulkan device: fast")}; });
+  EXPECT_TRUE(facts.details().contains(QStringLiteral("libmpv: client API 2.5\n")));
+  EXPECT_FALSE(facts.details().contains(QStringLiteral("libplacebo")));
+  EXPECT_TRUE(testing::waitFor(
+      [&] { return facts.details().contains(QStringLiteral("\nVulkan device: fast\n")); }));
+
+  const char* version = "mpv 0.40";
+  mpv_event_property property{"mpv-version", MPV_FORMAT_OSD_STRING, &version};
+  for (const auto& words : mpv.requests) {
+    if (words[1] == "mpv-version")
+      mpv.queue(MPV_EVENT_GET_PROPERTY_REPLY, &property, std::stoull(words[2]));
+    if (words[1] == "libplacebo-version")
+      mpv.queue(MPV_EVENT_GET_PROPERTY_REPLY, nullptr, std::stoull(words[2]),
+                MPV_ERROR_PROPERTY_NOT_FOUND);
+  }
+  EXPECT_EQ(mpv.queuedEvents(), 2U);
+  engine.drainEvents();
+  EXPECT_TRUE(facts.details().contains(QStringLiteral("libmpv: client API 2.5, mpv 0.40\n")));
+  facts.copy();
+  const QString copied = QGuiApplication::clipboard()->text();
+  EXPECT_TRUE(copied.startsWith(QStringLiteral("Tromelo ")) && copied.contains(facts.details()));
+}
+
+}  // namespace
+}  // namespace tromelo

@@ -1,0 +1,178 @@
+#include <gtest/gtest.h>
+
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "platform/UserDefaults.h"
+#include "player/PlayerShortcuts.h"
+#include "settings/PlayerSettings.h"
+#include "support/WaitFor.h"
+#include "support/Warnings.h"
+#include "windows/ProgramWindow.h"
+
+namespace tromelo {
+namespace {
+
+using testing::waitFor;
+
+enum Page { general, subtitles, shortcuts };
+
+class SettingsWindowTest : public ::testing::Test {
+ protected:
+  void SetUp() override { testing::allowWarning(QStringLiteral("This plugin does not support")); }
+  void show(Page page) {
+    window_ = &shell_.show();
+    window_->setProperty("page", int(page));
+    EXPECT_TRUE(waitFor([this] { return window_->isActive(); }));
+    window_->grabWindow();  // rows place what is in them when a picture is drawn
+  }
+  QList<QQuickItem*> items(const QString& name, const QQuickItem* within = nullptr) {
+    QList<QQuickItem*> found;
+    for (QQuickItem* child : (within ? within : window_->contentItem())->childItems()) {
+      if (child->objectName() == name) found << child;
+      found << items(name, child);
+    }
+    return found;
+  }
+  QQuickItem* item(const char* name) {
+    QQuickItem* found = items(QString::fromLatin1(name)).value(0);
+    if (!found) qFatal("no %s", name);
+    return found;
+  }
+  QVariant value(const char* name, const char* property) { return item(name)->property(property); }
+  void click(QQuickItem* target) {
+    const QRectF frame = target->mapRectToScene({QPointF(), target->size()});
+    QTest::mouseClick(window_, Qt::LeftButton, {}, frame.center().toPoint());
+    testing::settle();
+  }
+  void press(Qt::Key key, int times = 1) {
+    for (int i = 0; i < times; ++i) QTest::keyClick(window_, key);
+    testing::settle();
+  }
+  void tabTo(const char* name) {
+    for (int i = 0; i < 20 && window_->activeFocusItem() != item(name); ++i) press(Qt::Key_Tab);
+    EXPECT_EQ(window_->activeFocusItem(), item(name)) << name;
+  }
+
+  QTemporaryDir directory_;
+  UserDefaults defaults_{directory_.filePath(QStringLiteral("defaults.json"))};
+  PlayerSettings settings_{defaults_};
+  QQmlEngine engine_;
+  ProgramWindow shell_{
+      engine_, "SettingsWindow", {{QStringLiteral("settings"), QVariant::fromValue(&settings_)}}};
+  QQuickWindow* window_ = nullptr;
+};
+
+TEST_F(SettingsWindowTest, EveryControlCanBeUsedByKeys) {
+  show(general);
+  tabTo("autoHideDelay");
+  press(Qt::Key_Down, 4);
+  EXPECT_EQ(settings_.autoHideDelay(), 0);
+  EXPECT_EQ(defaults_.value(QStringLiteral("playerSettings"))[u"autoHideDelay"], QJsonValue(0));
+  press(Qt::Key_Tab);
+  EXPECT_EQ(window_->activeFocusItem(), item("tabGeneral"));
+  press(Qt::Key_Right);
+  window_->grabWindow();
+  ASSERT_EQ(window_->activeFocusItem(), item("tabSubtitles"));
+  struct Row {
+    const char* control;
+    Qt::Key key;
+    std::function<bool()> holds;
+  };
+  const Row rows[] = {
+      {"subtitleFont", Qt::Key_Down,
+       [this] { return settings_.subtitleFont() == QStringLiteral("Avenir Next"); }},
+      {"subtitleBold", Qt::Key_Return, [this] { return settings_.subtitleBold(); }},
+      {"subtitleSize", Qt::Key_Right, [this] { return settings_.subtitleSize() == 46; }},
+      {"subtitleColorPreset", Qt::Key_Space,
+       [this] { return settings_.subtitleColor() == RgbaColor(1, 1, 1); }},
+      {"segmentOutline", Qt::Key_Right,
+       [this] { return settings_.subtitleBorderStyle() == SubtitleBorderStyle::shadow; }},
+      {"subtitleOverridesStyled", Qt::Key_Space,
+       [this] { return settings_.subtitleOverridesStyled(); }},
+      {"resetSubtitleStyle", Qt::Key_Return,
+       [this] { return settings_.subtitleStyle() == SubtitleStyle(); }},
+  };
+  for (const Row& row : rows) {
+    tabTo(row.control);
+    press(row.key);
+    EXPECT_TRUE(row.holds()) << row.control;
+  }
+  EXPECT_EQ(settings_.autoHideDelay(), 0);
+}
+
+TEST_F(SettingsWindowTest, ShowsWhatIsSetElsewhere) {
+  show(subtitles);
+  settings_.setSubtitleSize(45.9);
+  EXPECT_EQ(value("subtitleSizeText", "text"), QVariant(QStringLiteral("45")));
+  tabTo("subtitleSize");
+  press(Qt::Key_Left);
+  EXPECT_EQ(settings_.subtitleSize(), 44);  // on a step again
+  press(Qt::Key_End);
+  press(Qt::Key_Right);
+  EXPECT_LE(settings_.subtitleSize(), 80);
+  settings_.setSubtitleOutlineColor({0.5, 0, 0});
+  for (const int style : {2, 0, 1}) {
+    settings_.setSubtitleBorderStyle(SubtitleBorderStyle(style));
+    EXPECT_EQ(item("subtitleOutlineColor")->isVisible(), style != 2);
+  }
+  EXPECT_EQ(value("subtitleOutlineColor", "color").value<QColor>(),
+            settings_.subtitleOutlineColor().toQColor());
+  window_->grabWindow();
+  const auto presets = items(QStringLiteral("subtitleColorPreset"));
+  ASSERT_EQ(presets.size(), 4);
+  click(presets[1]);
+  EXPECT_EQ(settings_.subtitleColor(), RgbaColor(1, 0.93, 0.35));
+
+  show(general);
+  settings_.setAutoHideDelay(4);
+  EXPECT_EQ(value("autoHideDelay", "displayText"), QVariant(QStringLiteral("4 seconds")));
+  settings_.setAutoHideDelay(10);
+  EXPECT_EQ(value("autoHideDelay", "displayText"), QVariant(QStringLiteral("10 seconds")));
+}
+
+TEST_F(SettingsWindowTest, ListsTheShortcutsInTheirOrder) {
+  show(shortcuts);
+  QStringList actions;
+  for (const QQuickItem* action : items(QStringLiteral("shortcutAction")))
+    actions << action->property("text").toString();
+  QStringList expected;
+  for (const ShortcutGroup& group : PlayerShortcuts::shownGroups())
+    for (const Shortcut& shortcut : group.items) expected << shortcut.action;
+  EXPECT_EQ(actions, expected);
+  EXPECT_EQ(items(QStringLiteral("shortcutTitle")).value(0)->property("text"),
+            QVariant(QStringLiteral("Playback")));
+  tabTo("shortcutList");
+  press(Qt::Key_PageDown, 9);
+  EXPECT_EQ(value("shortcutList", "contentY").toDouble(),
+            value("shortcutList", "contentHeight").toDouble() - item("shortcutList")->height());
+}
+
+TEST_F(SettingsWindowTest, ThereIsOneUntilItIsClosedAndItIsAsHighAsItsPage) {
+  show(general);
+  EXPECT_EQ(window_, &shell_.show());
+  QList<int> heights;
+  for (const Page page : {general, subtitles, shortcuts}) {
+    show(page);
+    heights << window_->height();
+    EXPECT_EQ(window_->size(),
+              QSize(520, window_->contentItem()->childItems()[0]->implicitHeight()));
+  }
+  EXPECT_GT(heights[1], heights[0]);
+  EXPECT_GT(heights[2], heights[1]);
+  press(Qt::Key_Escape);
+  EXPECT_FALSE(shell_.isOpen());
+  show(general);
+  tabTo("autoHideDelay");
+  press(Qt::Key_Return);
+  press(Qt::Key_Escape);
+  EXPECT_TRUE(shell_.isOpen()) << "Esc closes the list first";
+  QTest::keyClick(window_, Qt::Key_W, Qt::ControlModifier);
+  testing::settle();
+  EXPECT_FALSE(shell_.isOpen());
+}
+
+}  // namespace
+}  // namespace tromelo

@@ -1,0 +1,82 @@
+#include "settings/SubtitlePicture.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace tromelo {
+namespace {
+
+constexpr QSizeF kSize(480, 110);
+
+/// Of the pixels that differ from those of a picture without text.
+QRect changed(const QImage& picture) {
+  SubtitleStyle unseen;
+  unseen.color = {1, 1, 1, 0};
+  unseen.outlineColor = {0, 0, 0, 0};
+  const QImage plain = subtitlePicture(kSize, picture.devicePixelRatio(), unseen);
+  QRect found;
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x)
+      if (picture.pixel(x, y) != plain.pixel(x, y)) found |= QRect(x, y, 1, 1);
+  return found;
+}
+
+int darkest(const QImage& picture, QRect within) {
+  int least = 255;
+  for (int y = within.top(); y <= within.bottom(); ++y)
+    for (int x = within.left(); x <= within.right(); ++x)
+      least = std::min(least, picture.pixelColor(x, y).value());
+  return least;
+}
+
+TEST(SubtitlePictureTest, DrawsEachStyleAtTheBottom) {
+  struct Row {
+    const char* name;
+    SubtitleBorderStyle style;
+    RgbaColor edge;
+    int darkest;  // at most, somewhere
+    int bottom;   // the lowest row that isn't backdrop; points
+  };
+  const Row rows[] = {
+      {"outline", SubtitleBorderStyle::outline, {0, 0, 0}, 40, 98},
+      {"white outline", SubtitleBorderStyle::outline, {1, 1, 1}, 160, 98},
+      {"shadow", SubtitleBorderStyle::shadow, {1, 1, 1}, 80, 100},
+      {"box", SubtitleBorderStyle::box, {1, 1, 1}, 60, 96},
+  };
+  for (const Row& row : rows) {
+    for (const double scale : {1.0, 2.0}) {
+      SubtitleStyle style;
+      style.font = QStringLiteral("Inter");
+      style.borderStyle = row.style;
+      style.outlineColor = row.edge;
+      const QImage picture = subtitlePicture(kSize, scale, style);
+      ASSERT_EQ(picture.size(), (kSize * scale).toSize());
+      const QRect text = changed(picture);
+      EXPECT_LE(darkest(picture, text), row.darkest) << row.name;
+      EXPECT_NEAR(text.center().x() / scale, kSize.width() / 2, 4) << row.name;
+      EXPECT_LE(text.bottom() / scale, row.bottom) << row.name;
+      EXPECT_GT(text.top() / scale, 60) << row.name;
+    }
+  }
+}
+
+TEST(SubtitlePictureTest, IsAsLargeAndAsBoldAsSubtitles) {
+  SubtitleStyle style;
+  EXPECT_DOUBLE_EQ(subtitleSampleFont(style).pointSizeF(), 18.48);
+  const int width = changed(subtitlePicture(kSize, 1, style)).width();
+  style.bold = true;
+  EXPECT_GT(changed(subtitlePicture(kSize, 1, style)).width(), width);
+  style.size = 24;
+  EXPECT_LT(changed(subtitlePicture(kSize, 1, style)).width(), width);
+  EXPECT_TRUE(subtitleSampleFont(style).bold());
+}
+
+TEST(SubtitlePictureTest, ItsBackdropGoesFromCornerToCorner) {
+  const QImage picture = subtitlePicture(kSize, 1, {});
+  EXPECT_EQ(picture.pixelColor(0, 0), QColor(51, 82, 115));
+  EXPECT_EQ(picture.pixelColor(479, 109), QColor(140, 122, 102));
+}
+
+}  // namespace
+}  // namespace tromelo
