@@ -30,7 +30,7 @@ void AppDelegate::applicationOpen(const QList<QUrl>& urls, std::optional<double>
   if (urls.isEmpty()) return;
   const QUrl& url = urls.first();
   const bool opensAtLaunch =
-      !didFinishLaunching_ && launchPath_ && url == fileUrlFromPath(*launchPath_);
+      !didFinishLaunching_ && launchPath_ && pathFromFileUrl(url) == absolutePath(*launchPath_);
   if (!opensAtLaunch) playback_->open(url, start);
 }
 

@@ -17,7 +17,9 @@ QList<QUrl> fileUrls(const QStringList& paths) {
 
 QString nameFilter(const QStringList& extensions) {
   QStringList patterns;
-  for (const QString& extension : extensions) patterns.append(QStringLiteral("*.") + extension);
+  // Some desktops' dialogs tell "*.srt" and "*.SRT" apart.
+  for (const QString& extension : extensions)
+    patterns << QStringLiteral("*.") + extension << QStringLiteral("*.") + extension.toUpper();
   return QStringLiteral("(%1)").arg(patterns.join(u' '));
 }
 
@@ -26,7 +28,8 @@ QString nameFilter(const QStringList& extensions) {
 DialogFileChooser::~DialogFileChooser() { delete dialog_; }
 
 void DialogFileChooser::chooseFiles(const Request& request, Callback chosen) {
-  if (dialog_) {
+  if (dialog_ && dialog_->labelText(QFileDialog::Accept) != request.prompt) dialog_->close();
+  if (dialog_ && dialog_->isVisible()) {
     dialog_->raise();
     dialog_->activateWindow();
     return;

@@ -7,8 +7,8 @@
 
 namespace tromelo {
 
-/// The desktop's own file dialog where there is one, else Qt's. One at a time: asked again while
-/// one is open, it brings that one to the front.
+/// The desktop's own file dialog where there is one, else Qt's. One at a time: asked again for
+/// the same, it brings the open one to the front; asked for something else, it closes that.
 class DialogFileChooser : public FileChooser {
  public:
   ~DialogFileChooser() override;

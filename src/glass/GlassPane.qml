@@ -9,6 +9,7 @@ Item {
 
     required property Item backdrop
     required property real radius
+    property real place: 0
     // How much brighter it is than at rest.
     property real light: 0
 
@@ -39,6 +40,8 @@ Item {
         }
     }
 
+    onPlaceChanged: if (visible && backdrop)
+        Qt.callLater(refresh)
     onVisibleChanged: if (visible && backdrop)
         refresh()
     onWidthChanged: if (visible && backdrop)

@@ -15,6 +15,8 @@ Item {
     property bool interactive: false
     property bool hovered: false
     property bool pressed: false
+    // Changes when it moves over what is behind it, if it can.
+    property real place: 0
 
     Loader {
         anchors.fill: parent
@@ -43,6 +45,7 @@ Item {
             objectName: "glassPane"
             backdrop: surface.backdrop
             radius: surface.radius
+            place: surface.place
             light: !surface.interactive ? 0 : surface.pressed ? Theme.glassPressed : surface.hovered ? Theme.glassHovered : 0
         }
     }

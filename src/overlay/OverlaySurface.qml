@@ -14,6 +14,7 @@ Item {
         anchors.fill: parent
         backdrop: surface.backdrop
         radius: surface.radius
+        place: surface.y
     }
 
     MouseArea {

@@ -74,7 +74,7 @@ OverlaySurface {
             InfoRow {
                 objectName: "infoDropped"
                 label: qsTr("Dropped")
-                value: panel.playback.decoderFrameDrops + " decode · " + panel.playback.outputFrameDrops + " output"
+                value: qsTr("%1 decode · %2 output").arg(panel.playback.decoderFrameDrops).arg(panel.playback.outputFrameDrops)
             }
         }
     }

@@ -73,8 +73,9 @@ DefaultsResult readDefaults(const QString& path) {
 DefaultsResult mergeDefaults(const QString& path, const DefaultsChanges& changes) {
   QDir().mkpath(QFileInfo(path).absolutePath());
   QLockFile lock(path + QStringLiteral(".lock"));
-  lock.tryLock(kLockWaitMilliseconds);
   QString error;
+  if (!lock.tryLock(kLockWaitMilliseconds) && lock.error() == QLockFile::LockFailedError)
+    return {.values = {}, .error = cannotSave(path, QStringLiteral("another program holds it")), .failed = true};
   auto merged = tryRead(path, error);
   if (!merged) return {.values = {}, .error = cannotSave(path, error), .failed = true};
   for (const auto& [place, change] : changes) put(merged->values, place, change);

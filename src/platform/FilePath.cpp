@@ -12,12 +12,19 @@ const QString kFileScheme = QStringLiteral("file://");
 
 }  // namespace
 
-QUrl fileUrlFromPath(std::string_view pathBytes) {
-  if (pathBytes.empty()) return {};
+std::string absolutePath(std::string_view pathBytes) {
   std::error_code error;
   // lexically_normal is not wanted: ".." behind a symbolic link would name another file.
-  const std::string absolute = std::filesystem::absolute(std::string(pathBytes), error).string();
-  const QByteArray encoded = QByteArray::fromStdString(absolute).toPercentEncoding("/");
+  std::filesystem::path plain;
+  for (const auto& part : std::filesystem::absolute(std::string(pathBytes), error))
+    if (part != ".") plain /= part;
+  return plain.string();
+}
+
+QUrl fileUrlFromPath(std::string_view pathBytes) {
+  if (pathBytes.empty()) return {};
+  const QByteArray encoded =
+      QByteArray::fromStdString(absolutePath(pathBytes)).toPercentEncoding("/");
   return QUrl::fromEncoded("file://" + encoded, QUrl::StrictMode);
 }
 

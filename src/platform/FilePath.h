@@ -11,6 +11,9 @@ namespace tromelo {
 /// File URLs keep a path's bytes as they are on disk, percent-encoded, so that names that are not
 /// UTF-8 survive. These functions are the only way between the two.
 
+/// Absolute against the working directory, without "." and doubled slashes; ".." stays.
+std::string absolutePath(std::string_view pathBytes);
+
 /// The URL of an absolute or relative path (made absolute against the working directory).
 QUrl fileUrlFromPath(std::string_view pathBytes);
 

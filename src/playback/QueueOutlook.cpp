@@ -15,7 +15,12 @@ void QueueOutlook::appended(const QString& title) {
 }
 
 void QueueOutlook::fileStarted() {
-  if (!reportIsAhead_) ++position_;
+  if (jump_) {
+    position_ = *jump_;
+  } else if (!reportIsAhead_) {
+    ++position_;
+  }
+  jump_.reset();
   awaitsFirst_ = false;
   reportIsAhead_ = false;
   startedSinceReport_ = true;
@@ -23,12 +28,20 @@ void QueueOutlook::fileStarted() {
 
 void QueueOutlook::reported(const PlayQueue& queue) {
   if (awaitsFirst_) return;
+  const qsizetype current = currentIndex(queue).value_or(queue_.size());
+  const bool wasMoved = queue.size() < queue_.size() && isSameFile(queue, current);
   if (queue.size() >= queue_.size()) awaitsMore_ = false;
   if (!awaitsMore_) queue_ = queue;
-  const qsizetype current = currentIndex(queue).value_or(queue_.size());
-  reportIsAhead_ = current != position_ && !startedSinceReport_;
+  reportIsAhead_ = current != position_ && !startedSinceReport_ && !wasMoved;
   position_ = current;
   startedSinceReport_ = false;
+}
+
+/// As the one that started last.
+bool QueueOutlook::isSameFile(const PlayQueue& queue, qsizetype current) const {
+  const auto has = [](const PlayQueue& of, qsizetype at) { return at >= 0 && at < of.size(); };
+  return has(queue, current) && has(queue_, position_) &&
+         queue[current].path == queue_[position_].path;
 }
 
 std::optional<QString> QueueOutlook::unreportedTitle() const {

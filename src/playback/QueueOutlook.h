@@ -17,6 +17,10 @@ class QueueOutlook {
   /// A file was asked for in place of all others; `title` is its name for people.
   void opened(const QString& title);
   void appended(const QString& title);
+  /// The engine was asked for the item at this position of its playlist.
+  void willStart(qsizetype position) { jump_ = position; }
+  /// Something was taken from the engine's playlist: the next report may be shorter.
+  void removed() { awaitsMore_ = false; }
   void fileStarted();
   void reported(const PlayQueue& queue);
 
@@ -26,8 +30,11 @@ class QueueOutlook {
   std::optional<QString> unreportedTitle() const;
 
  private:
+  bool isSameFile(const PlayQueue& queue, qsizetype current) const;
+
   PlayQueue queue_;
   qsizetype position_ = 0;    // in queue_, of the file that started last
+  std::optional<qsizetype> jump_;  // where the next file starts, if not after the last
   bool awaitsFirst_ = false;  // reports are of what played before
   bool awaitsMore_ = false;   // appended files that no report has shown yet
   bool startedSinceReport_ = false;

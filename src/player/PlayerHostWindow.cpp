@@ -73,12 +73,14 @@ void PlayerHostWindow::showUnseen() {
   center();
   // Without a compositor a transparent window is a black one: leave it one pixel to be.
   setMask(QRegion(0, 0, 1, 1));
-  show();
+  setVisible(true);
 }
 
 void PlayerHostWindow::present() {
   setMask(QRegion());
-  show();
+  // Not show(), which also ends full screen.
+  if (windowStates() & Qt::WindowMinimized) setWindowStates(windowStates() & ~Qt::WindowMinimized);
+  setVisible(true);
   raise();
   requestActivate();
 }

@@ -53,10 +53,12 @@ void PlayerWindow::followEngine() {
   connect(engineWindow_, &EngineWindow::sizeChanged, this, &PlayerWindow::adoptEngineSize);
   connect(engineWindow_, &EngineWindow::stateChanged, this, &PlayerWindow::stateChanged);
   connect(engineWindow_, &EngineWindow::takenDown, this, &PlayerWindow::handleTakenDown);
-  connect(engineWindow_, &EngineWindow::titleChanged, host_.get(),
+  connect(engineWindow_, &EngineWindow::titleChanged, this,
           [this] { host_->setTitle(engineWindow_->title()); });
-  connect(engineWindow_, &EngineWindow::fullscreenRequested, host_.get(),
-          [this](bool fullscreen) { fullscreen ? host_->showFullScreen() : host_->showNormal(); });
+  connect(engineWindow_, &EngineWindow::fullscreenRequested, this, [this](bool fullscreen) {
+    // Never shows a window that was given up meanwhile.
+    host_->setWindowState(fullscreen ? Qt::WindowFullScreen : Qt::WindowNoState);
+  });
 }
 
 bool PlayerWindow::isVisible() const { return engineWindow_ && engineWindow_->isVisible(); }
@@ -95,6 +97,7 @@ void PlayerWindow::orderOut() {
 void PlayerWindow::dress(QSize minimumSize) {
   host_->setMinimumSize(minimumSize);
   adoptEngineSize();
+  if (engineWindow_ && engineWindow_->isFullscreen()) host_->setWindowState(Qt::WindowFullScreen);
   host_->showUnseen();
 }
 
@@ -138,9 +141,7 @@ void PlayerWindow::sendHostState() {
   if (!engineWindow_ || chosenSize_.isEmpty()) return;
   const QSize pixels = host_->pixelSize();
   EngineWindow::HostState state;
-  // A new size can come before the state that it belongs to; told the state before, the engine
-  // would take its request back.
-  state.fullscreen = requestedFullscreen_.value_or(isFullscreen());
+  state.fullscreen = isFullscreen();
   state.size = state.fullscreen ? pixels : chosenSize_.scaled(pixels, Qt::KeepAspectRatio);
   if (nearlyEqual(state.size, chosenSize_) && !state.fullscreen) state.size = chosenSize_;
   state.activated = host_->isActive();
@@ -153,7 +154,6 @@ void PlayerWindow::sendHostState() {
 }
 
 void PlayerWindow::handleVisibility(QWindow::Visibility visibility) {
-  requestedFullscreen_.reset();
   scheduleHostState();
   const bool fullscreen = visibility == QWindow::FullScreen;
   if (std::exchange(wasFullscreen_, fullscreen) && !fullscreen) Q_EMIT leftFullscreen();
@@ -176,7 +176,7 @@ std::unique_ptr<PlayerHostWindow> PlayerWindow::takeHost() {
   host_->video().setEngineWindow(nullptr);
   host_->setPictureAspect({});
   host_->setKeyMonitor({});
-  if (host_->windowState() == Qt::WindowFullScreen) host_->setWindowState(Qt::WindowNoState);
+  if (host_->windowStates() != Qt::WindowNoState) host_->setWindowState(Qt::WindowNoState);
   return std::move(host_);
 }
 

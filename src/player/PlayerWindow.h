@@ -72,7 +72,6 @@ class PlayerWindow : public VideoWindow {
   QSize chosenSize_;  // by the engine, device pixels; gives the aspect
   // Sizes that the engine was asked for and has not answered yet, oldest first.
   std::deque<QSize> requestedSizes_;
-  std::optional<bool> requestedFullscreen_;  // by the engine, until the host answers
   bool wasFullscreen_ = false;
   bool hostStateScheduled_ = false;
 };

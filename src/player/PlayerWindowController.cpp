@@ -37,6 +37,8 @@ PlayerWindowController::~PlayerWindowController() = default;
 void PlayerWindowController::setAwaitingVideo(bool awaiting) {
   if (awaitingVideo_ == awaiting) return;
   awaitingVideo_ = awaiting;
+  // What closes would stop the file that is opened next.
+  if (awaiting && isClosing_ && window_) return stopAndTearDown();
   Q_EMIT windowStateChanged();
 }
 
@@ -117,7 +119,7 @@ void PlayerWindowController::reveal() {
   if (!window_) readoptOrShowLibrary();
   if (!window_ || isClosing_) return;
   if (isRevealed_) {
-    awaitingVideo_ = false;
+    if (std::exchange(awaitingVideo_, false)) window_->makeKeyAndOrderFront();
     return;
   }
   isRevealed_ = true;
@@ -223,7 +225,6 @@ void PlayerWindowController::handleDroppedFiles(const QList<QUrl>& urls) {
 }
 
 void PlayerWindowController::prepareForTermination() {
-  isClosing_ = true;
   isTerminating_ = true;
   tearDownWindowState();
 }

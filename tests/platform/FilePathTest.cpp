@@ -17,7 +17,7 @@ TEST(FilePath, KeepsEveryByteOfAPathThroughAUrl) {
                                "/comma,semi;hash#?.x",
                                "/bad\xff\xfe utf8.mkv",
                                "/\xe2\x82\xac.mkv",
-                               "/a//b/../c",
+                               "/a/b/../c/",
                                "/" + std::string(3990, 'x')};
   for (const std::string& path : paths) {
     const QUrl url = fileUrlFromPath(path);
@@ -29,6 +29,8 @@ TEST(FilePath, KeepsEveryByteOfAPathThroughAUrl) {
 TEST(FilePath, IsAbsoluteFromTheWorkingDirectory) {
   EXPECT_EQ(pathFromFileUrl(fileUrlFromPath("movie.mkv")),
             (std::filesystem::current_path() / "movie.mkv").string());
+  EXPECT_EQ(fileUrlFromPath("./movie.mkv"), fileUrlFromPath("movie.mkv"));
+  EXPECT_EQ(absolutePath("/a//./b/.x"), "/a/b/.x");
 }
 
 TEST(FilePath, GivesNothingForWhatIsNoLocalFile) {

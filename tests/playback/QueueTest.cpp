@@ -110,4 +110,23 @@ TEST(QueueOutlook, FollowsJumpsAndRemovals) {
   EXPECT_FALSE(outlook.hasNext());
 }
 
+TEST(QueueOutlook, CountsOnFromAnItemThatMovedAndFromOneThatWasJumpedTo) {
+  PlayQueue queue = queueOf(3, 1);
+  for (QueueItem& item : queue) item.path = item.title;
+  QueueOutlook outlook;
+  outlook.reported(queue);
+  queue.removeFirst();
+  outlook.reported(queue);
+  outlook.fileStarted();
+  EXPECT_FALSE(outlook.hasNext());
+  EXPECT_EQ(outlook.unreportedTitle(), "2");
+
+  outlook.reported(queueOf(4, 3));
+  outlook.willStart(1);
+  outlook.reported(queueOf(4, 3));
+  outlook.fileStarted();
+  EXPECT_EQ(outlook.unreportedTitle(), "1");
+  EXPECT_TRUE(outlook.hasNext());
+}
+
 }  // namespace tromelo
