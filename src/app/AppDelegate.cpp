@@ -53,6 +53,7 @@ TerminateReply AppDelegate::applicationShouldTerminate() {
   if (playback_->isShuttingDown()) return TerminateReply::later;
   if (!playback_->engine().hasHandle()) return TerminateReply::now;
   playback_->setShuttingDown(true);
+  Q_EMIT willTerminate();
   player().prepareForTermination();
   playback_->engine().terminate([this] { Q_EMIT readyToTerminate(); });
   return TerminateReply::later;

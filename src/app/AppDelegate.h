@@ -45,12 +45,13 @@ class AppDelegate : public QObject {
   bool applicationShouldHandleReopen(bool hasVisibleWindows);
   TerminateReply applicationShouldTerminate();
   void showLibraryWindow();
-  bool isLibraryVisible() const { return libraryWindow_ && libraryWindow_->isVisible(); }
 
   /// Asks whether to quit, and quits when that may be: see readyToTerminate.
   void quit();
 
  Q_SIGNALS:
+  /// The engine is about to be destroyed.
+  void willTerminate();
   /// The engine is gone: nothing keeps the process any more.
   void readyToTerminate();
 

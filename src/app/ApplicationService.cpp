@@ -14,12 +14,22 @@ constexpr int kHandOverMilliseconds = 5000;
 QString serviceName() { return QStringLiteral("org.tromelo.Tromelo"); }
 QString objectPath() { return QStringLiteral("/org/tromelo/Tromelo"); }
 QString startKey() { return QStringLiteral("tromelo-start"); }
+QString tokenKey() { return QStringLiteral("activation-token"); }
+constexpr const char* kTokenVariable = "XDG_ACTIVATION_TOKEN";
+
+/// Qt takes it from there when a window of ours wants to come forward.
+void takeActivation(const QVariantMap& platformData) {
+  const QByteArray token = platformData.value(tokenKey()).toString().toUtf8();
+  if (!token.isEmpty()) qputenv(kTokenVariable, token);
+}
 
 bool handOver(QDBusConnection& bus, const ApplicationService::Request& request) {
   QDBusMessage call = QDBusMessage::createMethodCall(
       serviceName(), objectPath(), QStringLiteral("org.freedesktop.Application"),
       request.file ? QStringLiteral("Open") : QStringLiteral("Activate"));
   QVariantMap platformData;
+  if (const QString token = qEnvironmentVariable(kTokenVariable); !token.isEmpty())
+    platformData.insert(tokenKey(), token);
   if (request.start) platformData.insert(startKey(), *request.start);
   if (request.file) call << QStringList{request.file->toString(QUrl::FullyEncoded)};
   call << platformData;
@@ -38,7 +48,17 @@ ApplicationService::Role ApplicationService::start(const Request& request) {
   return handOver(*bus, request) ? Role::handedOver : Role::alone;
 }
 
-void ApplicationService::Activate(const QVariantMap&) { Q_EMIT activated(); }
+void ApplicationService::stop() {
+  auto bus = sessionBus();
+  if (!bus) return;
+  bus->unregisterService(serviceName());
+  bus->unregisterObject(objectPath());
+}
+
+void ApplicationService::Activate(const QVariantMap& platformData) {
+  takeActivation(platformData);
+  Q_EMIT activated();
+}
 
 void ApplicationService::Open(const QStringList& uris, const QVariantMap& platformData) {
   QList<QUrl> files;
@@ -46,6 +66,7 @@ void ApplicationService::Open(const QStringList& uris, const QVariantMap& platfo
     const QUrl url(uri, QUrl::StrictMode);
     if (url.isLocalFile()) files.append(url);
   }
+  takeActivation(platformData);
   bool known = false;
   const double start = platformData.value(startKey()).toDouble(&known);
   Q_EMIT filesOpened(files, known ? std::optional(start) : std::nullopt);

@@ -33,6 +33,9 @@ class ApplicationService : public QObject {
   /// Waits for the other program's answer, at most a few seconds.
   Role start(const Request& request);
 
+  /// Leaves the name to the next program.
+  void stop();
+
  public Q_SLOTS:
   void Activate(const QVariantMap& platformData);
   void Open(const QStringList& uris, const QVariantMap& platformData);

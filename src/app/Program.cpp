@@ -99,6 +99,9 @@ void Program::makeDelegate() {
   delegate_ = std::make_unique<AppDelegate>(commandLine_, defaults_, formerDefaults(), parts);
   QObject::connect(delegate_.get(), &AppDelegate::readyToTerminate, qApp,
                    [] { QCoreApplication::exit(0); });
+  // What is asked of the program from now on is for the next one.
+  QObject::connect(delegate_.get(), &AppDelegate::willTerminate, &service_,
+                   &ApplicationService::stop);
   QObject::connect(&signals_, &TerminationSignals::received, delegate_.get(), &AppDelegate::quit);
   settingsWindow_ = std::make_unique<ProgramWindow>(
       qmlEngine_, "SettingsWindow",
@@ -196,7 +199,8 @@ void Program::keepAwake() {
 }
 
 void Program::bringToFront() {
-  delegate_->applicationShouldHandleReopen(hasVisibleWindows());
+  // A library that is covered or minimised comes forward too.
+  delegate_->applicationShouldHandleReopen(delegate_->player().isRevealed());
   delegate_->player().bringToFront();
 }
 
@@ -204,10 +208,6 @@ void Program::startReport() {
   report_ = std::make_unique<StateReport>(
       delegate_->playback(), delegate_->player(), clock_, [this] { return windowText(); }, stdout);
   QObject::connect(stage_.get(), &PlayerStage::hostResized, report_.get(), &StateReport::schedule);
-}
-
-bool Program::hasVisibleWindows() {
-  return delegate_->isLibraryVisible() || delegate_->player().isRevealed();
 }
 
 void Program::handleLibraryClosed() {

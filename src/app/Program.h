@@ -47,7 +47,6 @@ class Program {
   void keepAwake();
   void bringToFront();
   void handleLibraryClosed();
-  bool hasVisibleWindows();
   QString windowText();
 
   const CommandLine commandLine_;

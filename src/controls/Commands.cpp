@@ -12,6 +12,12 @@ Commands::Commands(Actions actions) : actions_(std::move(actions)) {
 }
 
 bool Commands::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Quit && watched == qApp) {
+    // The session ends, or somebody else asks; our windows don't decide.
+    actions_.quit();
+    event->ignore();
+    return true;
+  }
   if (event->type() != QEvent::KeyPress || !watched->isWindowType()) return false;
   const auto* key = static_cast<QKeyEvent*>(event);
   // The keypad's keys are as good as their twins.

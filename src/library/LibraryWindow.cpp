@@ -58,7 +58,10 @@ void LibraryWindow::make() {
   window_->installEventFilter(this);
 }
 
-bool LibraryWindow::isVisible() const { return window_ ? window_->isVisible() : isComing_; }
+bool LibraryWindow::isVisible() const {
+  if (!window_) return isComing_;
+  return window_->isVisible() && !(window_->windowStates() & Qt::WindowMinimized);
+}
 
 void LibraryWindow::setOpacity(double opacity) {
   opacity_ = opacity;
@@ -81,7 +84,10 @@ void LibraryWindow::present() {
   if (!isComing_) return;
   isComing_ = false;
   if (!window_) make();
-  window_->show();
+  // Not show(), which also undoes a maximised window.
+  if (window_->windowStates() & Qt::WindowMinimized)
+    window_->setWindowStates(window_->windowStates() & ~Qt::WindowMinimized);
+  window_->setVisible(true);
   window_->raise();
   window_->requestActivate();
 }

@@ -25,6 +25,7 @@ Row {
 
         anchors.verticalCenter: parent.verticalCenter
         playback: options.playback
+        chrome: options.chrome
         room: options.room
     }
 

@@ -9,9 +9,10 @@ PlainButton {
     id: button
 
     required property PlaybackModel playback
+    required property PlayerChrome chrome
     // Holds the list while it is open. It goes when this is hidden.
     required property Item room
-    property bool isOpen: false
+    readonly property bool isOpen: chrome.showsSpeeds
 
     objectName: "speedMenu"
     implicitWidth: Math.ceil(Math.max(implicitContentWidth, Theme.speedWidth)) + leftPadding + rightPadding
@@ -23,7 +24,7 @@ PlainButton {
     active: isOpen || !Format.isSameSpeed(playback.speed, 1)
     Accessible.role: Accessible.ButtonMenu
     Accessible.description: text
-    onClicked: isOpen = true
+    onClicked: chrome.showsSpeeds = true
 
     contentItem: Text {
         text: button.text
@@ -38,13 +39,13 @@ PlainButton {
         enabled: button.isOpen
 
         function onVisibleChanged() {
-            button.isOpen = false;
+            button.chrome.showsSpeeds = false;
         }
         function onWidthChanged() {
-            button.isOpen = false;
+            button.chrome.showsSpeeds = false;
         }
         function onHeightChanged() {
-            button.isOpen = false;
+            button.chrome.showsSpeeds = false;
         }
     }
 
@@ -57,7 +58,7 @@ PlainButton {
         sourceComponent: SpeedList {
             playback: button.playback
             anchor: button.mapToItem(button.room, Qt.rect(0, 0, button.width, button.height))
-            onDismissed: button.isOpen = false
+            onDismissed: button.chrome.showsSpeeds = false
         }
     }
 }

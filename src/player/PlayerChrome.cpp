@@ -11,6 +11,7 @@ void PlayerChrome::setShowsInfo(bool shows) {
 void PlayerChrome::setPanel(std::optional<PlayerPanel> panel) {
   if (panel_ == panel) return;
   panel_ = panel;
+  setShowsSpeeds(false);
   Q_EMIT panelChanged();
 }
 
@@ -21,6 +22,12 @@ void PlayerChrome::setShows(PlayerPanel panel, bool shows) {
 
 void PlayerChrome::toggle(PlayerPanel panel) {
   setPanel(panel_ == panel ? std::nullopt : std::optional(panel));
+}
+
+void PlayerChrome::setShowsSpeeds(bool shows) {
+  if (showsSpeeds_ == shows) return;
+  showsSpeeds_ = shows;
+  Q_EMIT showsSpeedsChanged();
 }
 
 void PlayerChrome::setToast(std::optional<QString> toast) {

@@ -17,6 +17,8 @@ class PlayerChrome : public QObject {
   Q_PROPERTY(bool showsChapters READ showsChapters WRITE setShowsChapters NOTIFY panelChanged)
   Q_PROPERTY(bool showsQueue READ showsQueue WRITE setShowsQueue NOTIFY panelChanged)
   Q_PROPERTY(bool showsShortcuts READ showsShortcuts WRITE setShowsShortcuts NOTIFY panelChanged)
+  // The list of speeds over the control bar: no panel, but open like one.
+  Q_PROPERTY(bool showsSpeeds READ showsSpeeds WRITE setShowsSpeeds NOTIFY showsSpeedsChanged)
   Q_PROPERTY(QString toast READ toastText NOTIFY toastChanged)
 
  public:
@@ -31,12 +33,16 @@ class PlayerChrome : public QObject {
   /// Closes `panel` if it is open, else opens it in place of any other.
   void toggle(PlayerPanel panel);
 
+  bool showsSpeeds() const { return showsSpeeds_; }
+  void setShowsSpeeds(bool shows);
+
   const std::optional<QString>& toast() const { return toast_; }
   void setToast(std::optional<QString> toast);
 
  Q_SIGNALS:
   void showsInfoChanged();
   void panelChanged();
+  void showsSpeedsChanged();
   void toastChanged();
 
  private:
@@ -53,6 +59,7 @@ class PlayerChrome : public QObject {
 
   bool showsInfo_ = false;
   std::optional<PlayerPanel> panel_;
+  bool showsSpeeds_ = false;
   std::optional<QString> toast_;
 };
 

@@ -202,6 +202,7 @@ void PlayerWindowController::tearDownWindowState() {
   isFadingOut_ = false;
   chrome_.setShowsInfo(false);
   chrome_.setPanel(std::nullopt);
+  chrome_.setShowsSpeeds(false);
   chrome_.setToast(std::nullopt);
   updateSubtitleLift();
   if (window) giveUp(*window);

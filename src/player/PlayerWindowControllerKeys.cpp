@@ -86,6 +86,7 @@ bool PlayerWindowController::handleCharacter(const QString& characters, bool isR
 }
 
 void PlayerWindowController::escape() {
+  if (chrome_.showsSpeeds()) return chrome_.setShowsSpeeds(false);
   if (chrome_.panel()) return chrome_.setPanel(std::nullopt);
   if (!window_ || !window_->isFullscreen()) return close();
   playback_.engine().setProperty("fullscreen", flagText(false));

@@ -18,6 +18,16 @@ TEST_F(EndToEnd, ASecondStartHandsItsFileToTheFirst) {
   ASSERT_TRUE(player.waitUntilPlaying());
   EXPECT_EQ(player.said(QStringLiteral("title")), QStringLiteral("sample"));
   EXPECT_GE(player.said(QStringLiteral("position")).toDouble(), 3);
+
+  probe().set(QStringLiteral("fullscreen"), true);
+  ASSERT_TRUE(player.waitFor(QStringLiteral("fullscreen"), QStringLiteral("yes")));
+  RunningPlayer third;
+  third.environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus.address());
+  third.start({clip("white.mp4")});
+  EXPECT_EQ(third.waitForEnd(), 0);
+  ASSERT_TRUE(player.waitFor(QStringLiteral("title"), QStringLiteral("white")));
+  ASSERT_TRUE(player.waitUntilPlaying());
+  EXPECT_EQ(player.said(QStringLiteral("fullscreen")), QStringLiteral("yes"));
   EXPECT_EQ(player.quit(), 0);
 }
 

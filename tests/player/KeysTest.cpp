@@ -270,6 +270,10 @@ TEST_F(KeysTest, EscapeGoesBackOneStepAtATime) {
   chrome().setPanel(PlayerPanel::queue);
   EXPECT_TRUE(press(escape));
   EXPECT_EQ(effects(), Sent());
+  chrome().setShowsSpeeds(true);
+  EXPECT_TRUE(press(escape));
+  EXPECT_FALSE(chrome().showsSpeeds());
+  EXPECT_EQ(effects(), Sent());
   EXPECT_TRUE(press(escape));
   EXPECT_EQ(effects(), Sent{"set fullscreen no"});
   window_.fullscreen = false;
