@@ -27,7 +27,7 @@ endfunction()
 
 # tromelo_test(<name> SOURCES ... LINK ... [GUI | NO_MAIN] [CLIPS] [ENVIRONMENT ...] [LABELS ...]
 # [TIMEOUT s]): one GoogleTest executable, each of its tests known to CTest by its own name.
-#   GUI      main() makes a QGuiApplication, not a QCoreApplication
+#   GUI      main() makes a QApplication, as the program does, not a QCoreApplication
 #   NO_MAIN  one of SOURCES has main()
 #   CLIPS    the generated clips are there before a test starts
 #   LABELS   "unit" or "engine" tests run under the sanitizers too

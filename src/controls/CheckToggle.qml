@@ -6,12 +6,12 @@ import Tromelo.Theme
 
 // A box to tick, and what that means.
 T.CheckBox {
-    id: toggle
+    id: box
 
     property string tip: ""
 
     function press() {
-        toggle();
+        box.toggle();
         toggled();
     }
 
@@ -26,17 +26,17 @@ T.CheckBox {
     Accessible.description: tip
 
     indicator: Rectangle {
-        anchors.verticalCenter: toggle.verticalCenter
+        anchors.verticalCenter: box.verticalCenter
         width: Theme.checkBoxSize
         height: Theme.checkBoxSize
         radius: Theme.checkBoxRadius
-        color: toggle.down ? Theme.fieldPressed : toggle.checked ? Theme.fieldOn : toggle.hovered ? Theme.fieldHovered : Theme.fieldSurface
-        border.width: toggle.visualFocus ? Theme.focusWidth : Theme.hairline
-        border.color: toggle.visualFocus ? Theme.accent : Theme.fieldEdge
+        color: box.down ? Theme.fieldPressed : box.checked ? Theme.fieldOn : box.hovered ? Theme.fieldHovered : Theme.fieldSurface
+        border.width: box.visualFocus ? Theme.focusWidth : Theme.hairline
+        border.color: box.visualFocus ? Theme.accent : Theme.fieldEdge
 
         Symbol {
             anchors.centerIn: parent
-            visible: toggle.checked
+            visible: box.checked
             name: "checkmark"
             size: Theme.fieldSymbolSize - 3
             color: Theme.primaryText
@@ -44,16 +44,16 @@ T.CheckBox {
     }
 
     contentItem: Text {
-        leftPadding: toggle.indicator.width + toggle.spacing
-        text: toggle.text
-        font: toggle.font
+        leftPadding: box.indicator.width + box.spacing
+        text: box.text
+        font: box.font
         color: Theme.primaryText
         elide: Text.ElideRight
         verticalAlignment: Text.AlignVCenter
     }
 
     HoverTip {
-        control: toggle
-        tip: toggle.tip
+        control: box
+        tip: box.tip
     }
 }

@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Tromelo.Player
-import Tromelo.Theme
 
 // Speed, panels and full screen.
 Row {

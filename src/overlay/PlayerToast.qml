@@ -13,11 +13,11 @@ GlassSurface {
 
     objectName: "playerToast"
     visible: chrome.toast !== ""
-    implicitWidth: Math.ceil(text.implicitWidth) + 2 * Theme.toastPadding
-    implicitHeight: Math.ceil(text.implicitHeight) + 2 * Theme.toastRise
+    implicitWidth: Math.ceil(words.implicitWidth) + 2 * Theme.toastPadding
+    implicitHeight: Math.ceil(words.implicitHeight) + 2 * Theme.toastRise
 
     Text {
-        id: text
+        id: words
 
         anchors.centerIn: parent
         width: Math.min(Math.ceil(implicitWidth), toast.width - 2 * Theme.toastPadding)
@@ -27,6 +27,6 @@ GlassSurface {
         color: "white"
         elide: Text.ElideMiddle
         Accessible.role: Accessible.AlertMessage
-        Accessible.name: text
+        Accessible.name: words.text
     }
 }

@@ -75,7 +75,9 @@ DefaultsResult mergeDefaults(const QString& path, const DefaultsChanges& changes
   QLockFile lock(path + QStringLiteral(".lock"));
   QString error;
   if (!lock.tryLock(kLockWaitMilliseconds) && lock.error() == QLockFile::LockFailedError)
-    return {.values = {}, .error = cannotSave(path, QStringLiteral("another program holds it")), .failed = true};
+    return {.values = {},
+            .error = cannotSave(path, QStringLiteral("another program holds it")),
+            .failed = true};
   auto merged = tryRead(path, error);
   if (!merged) return {.values = {}, .error = cannotSave(path, error), .failed = true};
   for (const auto& [place, change] : changes) put(merged->values, place, change);

@@ -33,10 +33,10 @@ class QueueOutlook {
   bool isSameFile(const PlayQueue& queue, qsizetype current) const;
 
   PlayQueue queue_;
-  qsizetype position_ = 0;    // in queue_, of the file that started last
+  qsizetype position_ = 0;         // in queue_, of the file that started last
   std::optional<qsizetype> jump_;  // where the next file starts, if not after the last
-  bool awaitsFirst_ = false;  // reports are of what played before
-  bool awaitsMore_ = false;   // appended files that no report has shown yet
+  bool awaitsFirst_ = false;       // reports are of what played before
+  bool awaitsMore_ = false;        // appended files that no report has shown yet
   bool startedSinceReport_ = false;
   bool reportIsAhead_ = false;  // it told of a file whose start has not been told
 };

@@ -36,8 +36,8 @@ class Library : public EndToEnd {
   }
 
   QRect frame() { return screen::geometryOf(id); }
-  /// In the sidebar, of the window.
-  QRect row(int number) { return {12, 54 + 28 * number, 200, 24}; }
+  /// In the sidebar, of the window: the menu bar and the heading are above.
+  QRect row(int number) { return {12, 28 + 54 + 28 * number, 200, 24}; }
   static int brightest(const QImage& image, const QRect& part) {
     int most = 0;
     for (int y = part.top(); y <= part.bottom(); ++y)

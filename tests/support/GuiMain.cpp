@@ -1,5 +1,5 @@
-#include <QGuiApplication>
+#include <QApplication>
 
 #include "support/RunTests.h"
 
-int main(int argc, char** argv) { return tromelo::testing::runTests<QGuiApplication>(argc, argv); }
+int main(int argc, char** argv) { return tromelo::testing::runTests<QApplication>(argc, argv); }
