@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QIcon>
+#include <QPalette>
 #include <QQuickWindow>
 #include <QStyleHints>
 #include <cstdio>
@@ -25,6 +26,16 @@ void prepareGraphics() {
   QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
 }
 
+/// The dialogs that Qt draws itself stay light where no desktop's theme answers.
+void darken(QApplication& application) {
+  application.styleHints()->setColorScheme(Qt::ColorScheme::Dark);
+  if (application.palette().color(QPalette::Window).lightness() < 128) return;
+  QPalette dark(QColor(0x2c, 0x2e, 0x35), QColor(0x1a, 0x1c, 0x22));
+  dark.setColor(QPalette::Highlight, QColor(0x2f, 0x6f, 0xb0));
+  dark.setColor(QPalette::HighlightedText, Qt::white);
+  application.setPalette(dark);
+}
+
 void describe(QApplication& application) {
   application.setApplicationName(QStringLiteral("Tromelo"));
   application.setApplicationDisplayName(QStringLiteral("Tromelo"));
@@ -33,7 +44,6 @@ void describe(QApplication& application) {
   application.setQuitOnLastWindowClosed(false);
   // Menus look like the rest of the window that they belong to.
   application.setAttribute(Qt::AA_DontUseNativeMenuBar);
-  application.styleHints()->setColorScheme(Qt::ColorScheme::Dark);
 }
 
 }  // namespace
@@ -49,6 +59,7 @@ int main(int argc, char** argv) {
   prepareGraphics();
   QApplication application(argc, argv);
   describe(application);
+  darken(application);
   if (line.displaySelftest)
     return std::fputs(qPrintable(tromelo::runDisplaySelftest()), stdout) < 0;
   tromelo::Program program(line);
