@@ -9,6 +9,7 @@
 #include "app/CommandLine.h"
 #include "app/Program.h"
 #include "app/SelftestCommand.h"
+#include "app/Translations.h"
 #include "platform/HostEnvironment.h"
 
 namespace {
@@ -62,6 +63,8 @@ int main(int argc, char** argv) {
   darken(application);
   if (line.displaySelftest)
     return std::fputs(qPrintable(tromelo::runDisplaySelftest()), stdout) < 0;
+  tromelo::Translations translations;
+  translations.install();
   tromelo::Program program(line);
   return program.run();
 }

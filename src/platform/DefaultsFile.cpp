@@ -1,5 +1,6 @@
 #include "platform/DefaultsFile.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -21,12 +22,14 @@ QString asideName(const QString& path) {
 }
 
 QString cannotRead(const QString& path, const QString& why) {
-  return QStringLiteral("Your settings in %1 can't be read, and changes can't be saved: %2.")
+  return QCoreApplication::translate(
+             "DefaultsFile", "Your settings in %1 can't be read, and changes can't be saved: %2.")
       .arg(path, why);
 }
 
 QString cannotSave(const QString& path, const QString& why) {
-  return QStringLiteral("Your settings can't be saved in %1: %2.").arg(path, why);
+  return QCoreApplication::translate("DefaultsFile", "Your settings can't be saved in %1: %2.")
+      .arg(path, why);
 }
 
 /// None when it can't be read, which is no reason to lose what is in it.
@@ -44,12 +47,14 @@ std::optional<DefaultsResult> tryRead(const QString& path, QString& error) {
   if (document.isObject()) return DefaultsResult{.values = document.object()};
   const QString aside = asideName(path);
   if (!QFile::rename(path, aside)) {
-    error = QStringLiteral("it is damaged, and can't be set aside");
+    error = QCoreApplication::translate("DefaultsFile", "it is damaged, and can't be set aside");
     return {};
   }
   return DefaultsResult{
       .values = {},
-      .error = QStringLiteral("Your settings file was damaged; it is kept as %1.").arg(aside)};
+      .error = QCoreApplication::translate("DefaultsFile",
+                                           "Your settings file was damaged; it is kept as %1.")
+                   .arg(aside)};
 }
 
 void put(QJsonObject& values, const DefaultsPath& path, const DefaultsChange& change) {

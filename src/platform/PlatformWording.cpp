@@ -1,20 +1,22 @@
 #include "platform/PlatformWording.h"
 
+#include <QCoreApplication>
 #include <array>
 #include <utility>
 
 namespace tromelo {
 
 QString platformWording(QString text) {
-  static constexpr std::array<std::pair<QStringView, QStringView>, 5> kWords{{
-      {u"⌘", u"Ctrl+"},
-      {u"⇧", u"Shift+"},
-      {u"⌥", u"Alt+"},
-      {u"Finder", u"File Manager"},
-      {u"VideoToolbox", u"hardware decoder"},
+  static constexpr std::array<std::pair<QStringView, const char*>, 5> kWords{{
+      {u"⌘", QT_TRANSLATE_NOOP("PlatformWording", "Ctrl+")},
+      {u"⇧", QT_TRANSLATE_NOOP("PlatformWording", "Shift+")},
+      {u"⌥", QT_TRANSLATE_NOOP("PlatformWording", "Alt+")},
+      {u"Finder", QT_TRANSLATE_NOOP("PlatformWording", "File Manager")},
+      {u"VideoToolbox", QT_TRANSLATE_NOOP("PlatformWording", "hardware decoder")},
   }};
   for (const auto& [theirs, ours] : kWords) {
-    text.replace(theirs.data(), theirs.size(), ours.data(), ours.size());
+    if (text.contains(theirs))
+      text.replace(theirs.toString(), QCoreApplication::translate("PlatformWording", ours));
   }
   return text;
 }

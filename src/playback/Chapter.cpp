@@ -1,5 +1,7 @@
 #include "playback/Chapter.h"
 
+#include <QCoreApplication>
+
 #include "playback/NodeText.h"
 
 namespace tromelo {
@@ -13,7 +15,8 @@ QString chapterTitle(const MpvMap& entry, qsizetype position) {
   const QString title = nodeText(entry, "title").value_or(QString());
   // libmpv makes up a title of its own where the file has none.
   const bool isUntitled = title.isEmpty() || title == QLatin1String("(unnamed)");
-  return isUntitled ? QStringLiteral("Chapter %1").arg(position + 1) : title;
+  if (!isUntitled) return title;
+  return QCoreApplication::translate("Chapter", "Chapter %1").arg(position + 1);
 }
 
 double chapterTime(const MpvMap& entry) {

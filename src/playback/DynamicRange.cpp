@@ -1,5 +1,7 @@
 #include "playback/DynamicRange.h"
 
+#include <QCoreApplication>
+
 #include "playback/SignalInputs.h"
 
 namespace tromelo {
@@ -15,8 +17,8 @@ QString DynamicRange::label() const {
     case Kind::dolbyVision:
       break;
   }
-  const QString name = QStringLiteral("Dolby Vision");
-  return profile ? name + QStringLiteral(" · Profile %1").arg(*profile) : name;
+  if (!profile) return QStringLiteral("Dolby Vision");
+  return QCoreApplication::translate("DynamicRange", "Dolby Vision · Profile %1").arg(*profile);
 }
 
 DynamicRange dynamicRangeOf(const SignalInputs& inputs) {

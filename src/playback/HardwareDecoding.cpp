@@ -1,5 +1,7 @@
 #include "playback/HardwareDecoding.h"
 
+#include <QCoreApplication>
+
 namespace tromelo {
 
 namespace {
@@ -33,10 +35,13 @@ std::optional<QString> decoderText(const std::optional<std::string>& reported, b
                                    bool isLoaded) {
   const std::string hardware = reported.value_or("no");
   if (!hardware.empty() && hardware != "no") {
-    return QStringLiteral("Hardware (%1)").arg(QString::fromUtf8(hardware));
+    return QCoreApplication::translate("HardwareDecoding", "Hardware (%1)")
+        .arg(QString::fromUtf8(hardware));
   }
-  if (forcedSoftware) return QStringLiteral("Software (stream rejected by VideoToolbox)");
-  if (isLoaded) return QStringLiteral("Software (FFmpeg)");
+  if (forcedSoftware)
+    return QCoreApplication::translate("HardwareDecoding",
+                                       "Software (stream rejected by VideoToolbox)");
+  if (isLoaded) return QCoreApplication::translate("HardwareDecoding", "Software (FFmpeg)");
   return {};
 }
 

@@ -1,5 +1,6 @@
 #include "playback/MediaTrack.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <QStringList>
 
@@ -50,9 +51,9 @@ MediaTrack mediaTrack(const MpvMap& entry, qint64 id, MediaTrack::Kind kind) {
 }
 
 QString channelText(qint64 count) {
-  if (count == 1) return QStringLiteral("Mono");
-  if (count == 2) return QStringLiteral("Stereo");
-  return QStringLiteral("%1 ch").arg(count);
+  if (count == 1) return QCoreApplication::translate("MediaTrack", "Mono");
+  if (count == 2) return QCoreApplication::translate("MediaTrack", "Stereo");
+  return QCoreApplication::translate("MediaTrack", "%1 ch").arg(count);
 }
 
 /// As people who read the current locale see it.
@@ -65,7 +66,8 @@ bool containsWithoutCase(const QString& text, const QString& part) {
 
 QString MediaTrack::name() const {
   const QString named = language ? languageName(*language) : QString();
-  if (named.isEmpty()) return title.value_or(QStringLiteral("Track %1").arg(id));
+  if (named.isEmpty())
+    return title.value_or(QCoreApplication::translate("MediaTrack", "Track %1").arg(id));
   if (!title) return named;
   if (containsWithoutCase(*title, named)) return *title;
   return QStringLiteral("%1 (%2)").arg(*title, named);
@@ -75,8 +77,8 @@ QString MediaTrack::details() const {
   QStringList parts;
   if (codec && !codec->isEmpty()) parts << codec->toUpper();
   if (channels) parts << channelText(*channels);
-  if (isForced) parts << QStringLiteral("Forced");
-  if (isExternal) parts << QStringLiteral("External");
+  if (isForced) parts << QCoreApplication::translate("MediaTrack", "Forced");
+  if (isExternal) parts << QCoreApplication::translate("MediaTrack", "External");
   return parts.join(QStringLiteral(" · "));
 }
 

@@ -6,6 +6,7 @@
 
 #include "engine/MpvClientApi.h"
 #include "platform/FilePath.h"
+#include "playback/EngineErrorText.h"
 #include "playback/FileChooser.h"
 #include "playback/FileOptions.h"
 #include "playback/SubtitleExtensions.h"
@@ -40,7 +41,7 @@ void PlaybackModel::startEngine(const QString& diagnosticsDirectory) {
     if (model) model->handleEvent(received);
   };
   if (const auto error = engine_.initialize(diagnosticsDirectory)) {
-    status_ = QString::fromUtf8(*error);
+    status_ = engineErrorText(*error);
     errorMessage_ = status_.get();
   }
 }
@@ -94,25 +95,22 @@ void PlaybackModel::load(const QUrl& url, const char* mode, std::optional<double
 }
 
 void PlaybackModel::presentOpenPanel() {
-  files_.chooseFiles({.prompt = QStringLiteral("Play"), .allowsSeveral = true, .extensions = {}},
+  files_.chooseFiles({.prompt = tr("Play"), .allowsSeveral = true, .extensions = {}},
                      [model = QPointer(this)](const QList<QUrl>& urls) {
                        if (model) model->open(urls);
                      });
 }
 
 void PlaybackModel::presentQueuePanel() {
-  files_.chooseFiles(
-      {.prompt = QStringLiteral("Add to Queue"), .allowsSeveral = true, .extensions = {}},
-      [model = QPointer(this)](const QList<QUrl>& urls) {
-        if (model) model->enqueue(urls);
-      });
+  files_.chooseFiles({.prompt = tr("Add to Queue"), .allowsSeveral = true, .extensions = {}},
+                     [model = QPointer(this)](const QList<QUrl>& urls) {
+                       if (model) model->enqueue(urls);
+                     });
 }
 
 void PlaybackModel::presentSubtitleFilePanel() {
   files_.chooseFiles(
-      {.prompt = QStringLiteral("Add Subtitle"),
-       .allowsSeveral = false,
-       .extensions = subtitleExtensions()},
+      {.prompt = tr("Add Subtitle"), .allowsSeveral = false, .extensions = subtitleExtensions()},
       [model = QPointer(this)](const QList<QUrl>& urls) {
         if (model) model->engine_.command({"sub-add", pathFromFileUrl(urls.first()), "select"});
       });

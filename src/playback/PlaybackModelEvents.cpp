@@ -3,6 +3,7 @@
 
 #include "engine/MpvValue.h"
 #include "platform/Clock.h"
+#include "playback/EngineErrorText.h"
 #include "playback/PlaybackModel.h"
 #include "playback/PropertyMapping.h"
 
@@ -40,7 +41,7 @@ void PlaybackModel::resetForNewFile() {
   videoSize_ = kUnknown;
   frameRate_ = kUnknown;
   codec_ = kUnknown;
-  decoder_ = QStringLiteral("Selecting decoder");
+  decoder_ = tr("Selecting decoder");
   buffering_ = QStringLiteral("Loading");
   decoderFrameDrops_ = 0;
   outputFrameDrops_ = 0;
@@ -84,7 +85,7 @@ void PlaybackModel::showVideoReady() {
 void PlaybackModel::handle(const event::EndFile& end) {
   isLoaded_ = false;
   if (end.error) {
-    handleFailedFile(QString::fromUtf8(*end.error));
+    handleFailedFile(engineErrorText(*end.error));
   } else {
     status_ = QStringLiteral("Ready for a video");
     buffering_ = kUnknown;
@@ -93,10 +94,9 @@ void PlaybackModel::handle(const event::EndFile& end) {
 
 void PlaybackModel::handleFailedFile(const QString& error) {
   if (const auto title = outlook_.unreportedTitle()) title_ = *title;
-  const QString what = title_ + QStringLiteral(": ") + error;
-  reportPlaybackError(QStringLiteral("Could not play ") + what);
+  reportPlaybackError(tr("Could not play %1: %2").arg(title_, error));
   if (outlook_.hasNext()) {
-    player().showToast(QStringLiteral("Skipped ") + what);
+    player().showToast(tr("Skipped %1: %2").arg(title_, error));
     return;
   }
   player().setAwaitingVideo(false);
@@ -108,7 +108,7 @@ void PlaybackModel::handleFailedFile(const QString& error) {
 }
 
 void PlaybackModel::handle(const event::CommandFailed& failure) {
-  if (!isLoaded_) reportPlaybackError(QString::fromUtf8(failure.error));
+  if (!isLoaded_) reportPlaybackError(engineErrorText(failure.error));
 }
 
 void PlaybackModel::handle(const event::Shutdown&) {

@@ -36,18 +36,18 @@ QString PlaybackModel::cycleSubtitle() {
   const QList<MediaTrack>& tracks = subtitleTracks_;
   if (const MediaTrack* next = nextSubtitle(tracks)) {
     selectSubtitle(next->id);
-    return QStringLiteral("Subtitles: ") + next->name();
+    return tr("Subtitles: %1").arg(next->name());
   }
   turnSubtitlesOff();
-  return tracks.isEmpty() ? QStringLiteral("No subtitles") : QStringLiteral("Subtitles off");
+  return tracks.isEmpty() ? tr("No subtitles") : tr("Subtitles off");
 }
 
 QString PlaybackModel::cycleAudio() {
   const QList<MediaTrack>& tracks = audioTracks_;
   const MediaTrack* next = nextAudio(tracks);
-  if (!next) return QStringLiteral("No audio");
+  if (!next) return tr("No audio");
   if (tracks.size() > 1) selectAudio(next->id);
-  return QStringLiteral("Audio: ") + next->name();
+  return tr("Audio: %1").arg(next->name());
 }
 
 void PlaybackModel::seekToChapter(int position) {

@@ -142,8 +142,7 @@ class PlaybackState : public QObject {
   template <typename T>
   using Published = PublishedField<PlaybackState, T>;
 
-  Published<QString> title_{this, &PlaybackState::titleChanged,
-                            QStringLiteral("No video selected")};
+  Published<QString> title_{this, &PlaybackState::titleChanged, tr("No video selected")};
   Published<bool> isLoaded_{this, &PlaybackState::isLoadedChanged};
   Published<bool> isPaused_{this, &PlaybackState::isPausedChanged, true};
   Published<bool> isFullscreen_{this, &PlaybackState::isFullscreenChanged};

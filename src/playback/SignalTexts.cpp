@@ -1,6 +1,6 @@
 #include "playback/SignalTexts.h"
 
-#include <format>
+#include <QCoreApplication>
 
 namespace tromelo {
 
@@ -14,13 +14,16 @@ std::optional<QString> outputText(const SignalInputs& inputs, const DynamicRange
   if (*inputs.targetGamma == "pq") return QStringLiteral("HDR · PQ") + extended;
   if (*inputs.targetGamma == "hlg") return QStringLiteral("HDR · HLG") + extended;
   const bool toneMapped = range.kind != DynamicRange::Kind::sdr;
-  return (toneMapped ? QStringLiteral("Tone-mapped to SDR") : QStringLiteral("SDR")) + primaries;
+  return (toneMapped ? QCoreApplication::translate("SignalTexts", "Tone-mapped to SDR")
+                     : QStringLiteral("SDR")) +
+         primaries;
 }
 
 QString displayText(const ScreenHeadroom& screen) {
-  if (!(screen.potential > 1)) return QStringLiteral("SDR display");
-  return QString::fromStdString(
-      std::format("EDR · {:.1f}× headroom (now {:.1f}×)", screen.potential, screen.current));
+  if (!(screen.potential > 1)) return QCoreApplication::translate("SignalTexts", "SDR display");
+  return QCoreApplication::translate("SignalTexts", "EDR · %1× headroom (now %2×)")
+      .arg(screen.potential, 0, 'f', 1)
+      .arg(screen.current, 0, 'f', 1);
 }
 
 }  // namespace tromelo

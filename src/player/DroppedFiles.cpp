@@ -1,5 +1,6 @@
 #include "player/DroppedFiles.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include "platform/FilePath.h"
@@ -18,10 +19,12 @@ DroppedFiles DroppedFiles::sort(const QList<QUrl>& urls) {
 
 QString DroppedFiles::toast() const {
   if (!subtitles.isEmpty())
-    return QStringLiteral("Subtitles: ") + lastPathComponentWithoutExtension(subtitles.first());
+    return QCoreApplication::translate("DroppedFiles", "Subtitles: %1")
+        .arg(lastPathComponentWithoutExtension(subtitles.first()));
   if (videos.isEmpty()) return {};
-  if (videos.size() == 1) return QStringLiteral("Added to queue");
-  return QStringLiteral("Added %1 videos to queue").arg(videos.size());
+  if (videos.size() == 1) return QCoreApplication::translate("DroppedFiles", "Added to queue");
+  const int count = static_cast<int>(videos.size());
+  return QCoreApplication::translate("DroppedFiles", "Added %n videos to queue", "", count);
 }
 
 }  // namespace tromelo

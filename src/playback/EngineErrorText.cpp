@@ -1,0 +1,28 @@
+#include "playback/EngineErrorText.h"
+
+#include <QCoreApplication>
+
+namespace tromelo {
+
+namespace {
+
+// Those that a person can meet, for the catalogue.
+[[maybe_unused]] constexpr const char* kReasons[] = {
+    QT_TRANSLATE_NOOP("EngineErrorText", "Could not create the playback engine"),
+    QT_TRANSLATE_NOOP("EngineErrorText", "memory allocation failed"),
+    QT_TRANSLATE_NOOP("EngineErrorText", "error running command"),
+    QT_TRANSLATE_NOOP("EngineErrorText", "loading failed"),
+    QT_TRANSLATE_NOOP("EngineErrorText", "audio output initialization failed"),
+    QT_TRANSLATE_NOOP("EngineErrorText", "video output initialization failed"),
+    QT_TRANSLATE_NOOP("EngineErrorText", "no audio or video data played"),
+    QT_TRANSLATE_NOOP("EngineErrorText", "unrecognized file format"),
+    QT_TRANSLATE_NOOP("EngineErrorText", "not supported"),
+};
+
+}  // namespace
+
+QString engineErrorText(const std::string& reason) {
+  return QCoreApplication::translate("EngineErrorText", reason.c_str());
+}
+
+}  // namespace tromelo

@@ -1,0 +1,957 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Chapter</name>
+    <message>
+        <source>Chapter %1</source>
+        <translation>Kapitel %1</translation>
+    </message>
+</context>
+<context>
+    <name>ChaptersPanel</name>
+    <message>
+        <source>Chapters</source>
+        <translation>Kapitel</translation>
+    </message>
+</context>
+<context>
+    <name>DefaultsFile</name>
+    <message>
+        <source>Your settings in %1 can&apos;t be read, and changes can&apos;t be saved: %2.</source>
+        <translation>Die Einstellungen in %1 können nicht gelesen und Änderungen nicht gespeichert werden: %2.</translation>
+    </message>
+    <message>
+        <source>Your settings can&apos;t be saved in %1: %2.</source>
+        <translation>Die Einstellungen können nicht in %1 gespeichert werden: %2.</translation>
+    </message>
+    <message>
+        <source>it is damaged, and can&apos;t be set aside</source>
+        <translation>die Datei ist beschädigt und lässt sich nicht beiseitelegen</translation>
+    </message>
+    <message>
+        <source>Your settings file was damaged; it is kept as %1.</source>
+        <translation>Die Einstellungsdatei war beschädigt; sie wird als %1 aufbewahrt.</translation>
+    </message>
+</context>
+<context>
+    <name>DelayRow</name>
+    <message>
+        <source>Earlier</source>
+        <translation>Früher</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+</context>
+<context>
+    <name>DroppedFiles</name>
+    <message>
+        <source>Subtitles: %1</source>
+        <translation>Untertitel: %1</translation>
+    </message>
+    <message>
+        <source>Added to queue</source>
+        <translation>Zur Warteschlange hinzugefügt</translation>
+    </message>
+    <message numerus="yes">
+        <source>Added %n videos to queue</source>
+        <translation>
+            <numerusform>%n Video zur Warteschlange hinzugefügt</numerusform>
+            <numerusform>%n Videos zur Warteschlange hinzugefügt</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>DynamicRange</name>
+    <message>
+        <source>Dolby Vision · Profile %1</source>
+        <translation>Dolby Vision · Profil %1</translation>
+    </message>
+</context>
+<context>
+    <name>EmptyLibrary</name>
+    <message>
+        <source>Drop a Video</source>
+        <translation>Video hier ablegen</translation>
+    </message>
+    <message>
+        <source>Or choose some to play. Several videos play as a queue.</source>
+        <translation>Oder Videos zur Wiedergabe auswählen. Mehrere Videos bilden eine Warteschlange.</translation>
+    </message>
+    <message>
+        <source>Open Videos…</source>
+        <translation>Videos öffnen …</translation>
+    </message>
+    <message>
+        <source>Open videos (⌘O)</source>
+        <translation>Videos öffnen (⌘O)</translation>
+    </message>
+</context>
+<context>
+    <name>EngineErrorText</name>
+    <message>
+        <source>Could not create the playback engine</source>
+        <translation>Die Wiedergabe-Engine konnte nicht gestartet werden</translation>
+    </message>
+    <message>
+        <source>memory allocation failed</source>
+        <translation>nicht genug Speicher</translation>
+    </message>
+    <message>
+        <source>error running command</source>
+        <translation>Befehl fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>loading failed</source>
+        <translation>Laden fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>audio output initialization failed</source>
+        <translation>Tonausgabe konnte nicht gestartet werden</translation>
+    </message>
+    <message>
+        <source>video output initialization failed</source>
+        <translation>Bildausgabe konnte nicht gestartet werden</translation>
+    </message>
+    <message>
+        <source>no audio or video data played</source>
+        <translation>keine Ton- oder Bilddaten gefunden</translation>
+    </message>
+    <message>
+        <source>unrecognized file format</source>
+        <translation>unbekanntes Dateiformat</translation>
+    </message>
+    <message>
+        <source>not supported</source>
+        <translation>nicht unterstützt</translation>
+    </message>
+</context>
+<context>
+    <name>FileManager</name>
+    <message>
+        <source>The file manager can&apos;t be opened.</source>
+        <translation>Der Dateimanager kann nicht geöffnet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>HardwareDecoding</name>
+    <message>
+        <source>Hardware (%1)</source>
+        <translation>Hardware (%1)</translation>
+    </message>
+    <message>
+        <source>Software (stream rejected by VideoToolbox)</source>
+        <translation>Software (vom VideoToolbox abgelehnt)</translation>
+    </message>
+    <message>
+        <source>Software (FFmpeg)</source>
+        <translation>Software (FFmpeg)</translation>
+    </message>
+</context>
+<context>
+    <name>IdleInhibitor</name>
+    <message>
+        <source>Playing a video</source>
+        <translation>Wiedergabe eines Videos</translation>
+    </message>
+</context>
+<context>
+    <name>LastPlayedCard</name>
+    <message>
+        <source>Last played</source>
+        <translation>Zuletzt wiedergegeben</translation>
+    </message>
+    <message>
+        <source>LAST PLAYED</source>
+        <translation>ZULETZT WIEDERGEGEBEN</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>Decoder</source>
+        <translation>Dekoder</translation>
+    </message>
+    <message>
+        <source>Play Again</source>
+        <translation>Erneut wiedergeben</translation>
+    </message>
+    <message>
+        <source>Open Other…</source>
+        <translation>Anderes öffnen …</translation>
+    </message>
+    <message>
+        <source>Open videos (⌘O)</source>
+        <translation>Videos öffnen (⌘O)</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryDetail</name>
+    <message>
+        <source>%1 has no picture. Space pauses, the arrows seek and set the volume, Esc stops.</source>
+        <translation>%1 hat kein Bild. Leertaste pausiert, Pfeiltasten springen und ändern die Lautstärke, Esc beendet.</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryHeader</name>
+    <message>
+        <source>Tromelo</source>
+        <translation>Tromelo</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Open a video (⌘O)</source>
+        <translation>Video öffnen (⌘O)</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryWindow</name>
+    <message>
+        <source>Tromelo</source>
+        <translation>Tromelo</translation>
+    </message>
+</context>
+<context>
+    <name>MediaTrack</name>
+    <message>
+        <source>Mono</source>
+        <translation>Mono</translation>
+    </message>
+    <message>
+        <source>Stereo</source>
+        <translation>Stereo</translation>
+    </message>
+    <message>
+        <source>%1 ch</source>
+        <translation>%1 Kanäle</translation>
+    </message>
+    <message>
+        <source>Track %1</source>
+        <translation>Spur %1</translation>
+    </message>
+    <message>
+        <source>Forced</source>
+        <translation>Erzwungen</translation>
+    </message>
+    <message>
+        <source>External</source>
+        <translation>Extern</translation>
+    </message>
+</context>
+<context>
+    <name>OptionButtons</name>
+    <message>
+        <source>Chapters (C)</source>
+        <translation>Kapitel (C)</translation>
+    </message>
+    <message>
+        <source>Subtitles &amp; audio (U)</source>
+        <translation>Untertitel und Ton (U)</translation>
+    </message>
+    <message>
+        <source>Queue (Q)</source>
+        <translation>Warteschlange (Q)</translation>
+    </message>
+    <message>
+        <source>Playback info (I)</source>
+        <translation>Wiedergabeinfo (I)</translation>
+    </message>
+    <message>
+        <source>Exit full screen (F)</source>
+        <translation>Vollbild verlassen (F)</translation>
+    </message>
+    <message>
+        <source>Full screen (F)</source>
+        <translation>Vollbild (F)</translation>
+    </message>
+</context>
+<context>
+    <name>PlatformWording</name>
+    <message>
+        <source>Ctrl+</source>
+        <translation>Strg+</translation>
+    </message>
+    <message>
+        <source>Shift+</source>
+        <translation>Umschalt+</translation>
+    </message>
+    <message>
+        <source>Alt+</source>
+        <translation>Alt+</translation>
+    </message>
+    <message>
+        <source>File Manager</source>
+        <translation>Dateimanager</translation>
+    </message>
+    <message>
+        <source>hardware decoder</source>
+        <translation>Hardware-Dekoder</translation>
+    </message>
+</context>
+<context>
+    <name>PlayPauseButton</name>
+    <message>
+        <source>Play (Space)</source>
+        <translation>Wiedergabe (Leertaste)</translation>
+    </message>
+    <message>
+        <source>Pause (Space)</source>
+        <translation>Pause (Leertaste)</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerCloseButton</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Close player (Esc)</source>
+        <translation>Player schließen (Esc)</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerControlBar</name>
+    <message>
+        <source>Playback controls</source>
+        <translation>Wiedergabesteuerung</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerInfoPanel</name>
+    <message>
+        <source>Signal</source>
+        <translation>Signal</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Codec</source>
+        <translation>Codec</translation>
+    </message>
+    <message>
+        <source>Decoder</source>
+        <translation>Dekoder</translation>
+    </message>
+    <message>
+        <source>Container</source>
+        <translation>Container</translation>
+    </message>
+    <message>
+        <source>Dropped</source>
+        <translation>Verworfen</translation>
+    </message>
+    <message>
+        <source>%1 decode · %2 output</source>
+        <translation>%1 Dekoder · %2 Ausgabe</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerPanels</name>
+    <message>
+        <source>Subtitles and audio</source>
+        <translation>Untertitel und Ton</translation>
+    </message>
+    <message>
+        <source>Chapters</source>
+        <translation>Kapitel</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>Warteschlange</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerShortcuts</name>
+    <message>
+        <source>Playback</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>Play / pause</source>
+        <translation>Wiedergabe / Pause</translation>
+    </message>
+    <message>
+        <source>← / →</source>
+        <translation>← / →</translation>
+    </message>
+    <message>
+        <source>Back / forward 10 s</source>
+        <translation>10 s zurück / vor</translation>
+    </message>
+    <message>
+        <source>⇧← / ⇧→</source>
+        <translation>⇧← / ⇧→</translation>
+    </message>
+    <message>
+        <source>Back / forward 3 s</source>
+        <translation>3 s zurück / vor</translation>
+    </message>
+    <message>
+        <source>⌥← / ⌥→</source>
+        <translation>⌥← / ⌥→</translation>
+    </message>
+    <message>
+        <source>Back / forward 1 min</source>
+        <translation>1 min zurück / vor</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <translation>E</translation>
+    </message>
+    <message>
+        <source>Next frame (pauses)</source>
+        <translation>Nächstes Einzelbild (pausiert)</translation>
+    </message>
+    <message>
+        <source>[  /  ]</source>
+        <translation>[  /  ]</translation>
+    </message>
+    <message>
+        <source>Slower / faster</source>
+        <translation>Langsamer / schneller</translation>
+    </message>
+    <message>
+        <source>=</source>
+        <translation>=</translation>
+    </message>
+    <message>
+        <source>Normal speed</source>
+        <translation>Normale Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>L</source>
+        <translation>L</translation>
+    </message>
+    <message>
+        <source>Loop current video</source>
+        <translation>Video wiederholen</translation>
+    </message>
+    <message>
+        <source>T</source>
+        <translation>T</translation>
+    </message>
+    <message>
+        <source>Show time</source>
+        <translation>Zeit anzeigen</translation>
+    </message>
+    <message>
+        <source>Queue &amp; chapters</source>
+        <translation>Warteschlange und Kapitel</translation>
+    </message>
+    <message>
+        <source>N / P</source>
+        <translation>N / P</translation>
+    </message>
+    <message>
+        <source>Next / previous in queue</source>
+        <translation>Nächstes / voriges Video</translation>
+    </message>
+    <message>
+        <source>⌘→ / ⌘←</source>
+        <translation>⌘→ / ⌘←</translation>
+    </message>
+    <message>
+        <source>⇧N / ⇧P</source>
+        <translation>⇧N / ⇧P</translation>
+    </message>
+    <message>
+        <source>Next / previous chapter</source>
+        <translation>Nächstes / voriges Kapitel</translation>
+    </message>
+    <message>
+        <source>C</source>
+        <translation>C</translation>
+    </message>
+    <message>
+        <source>Chapter list</source>
+        <translation>Kapitelliste</translation>
+    </message>
+    <message>
+        <source>Q</source>
+        <translation>Q</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>Warteschlange</translation>
+    </message>
+    <message>
+        <source>O / ⌘O</source>
+        <translation>O / ⌘O</translation>
+    </message>
+    <message>
+        <source>Open videos</source>
+        <translation>Videos öffnen</translation>
+    </message>
+    <message>
+        <source>Audio &amp; subtitles</source>
+        <translation>Ton und Untertitel</translation>
+    </message>
+    <message>
+        <source>↑ / ↓</source>
+        <translation>↑ / ↓</translation>
+    </message>
+    <message>
+        <source>Volume up / down</source>
+        <translation>Lauter / leiser</translation>
+    </message>
+    <message>
+        <source>Scroll</source>
+        <translation>Scrollen</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Stummschalten</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Next audio track</source>
+        <translation>Nächste Tonspur</translation>
+    </message>
+    <message>
+        <source>V</source>
+        <translation>V</translation>
+    </message>
+    <message>
+        <source>Next subtitle track (incl. off)</source>
+        <translation>Nächster Untertitel (auch aus)</translation>
+    </message>
+    <message>
+        <source>G / H</source>
+        <translation>G / H</translation>
+    </message>
+    <message>
+        <source>Subtitle delay −/+ 50 ms</source>
+        <translation>Untertitel −/+ 50 ms</translation>
+    </message>
+    <message>
+        <source>J / K</source>
+        <translation>J / K</translation>
+    </message>
+    <message>
+        <source>Audio delay −/+ 50 ms</source>
+        <translation>Ton −/+ 50 ms</translation>
+    </message>
+    <message>
+        <source>U</source>
+        <translation>U</translation>
+    </message>
+    <message>
+        <source>Subtitles &amp; audio panel</source>
+        <translation>Untertitel und Ton</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>F, double-click</source>
+        <translation>F, Doppelklick</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Vollbild</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Close panel, leave full screen, or close player</source>
+        <translation>Leiste, Vollbild oder Player schließen</translation>
+    </message>
+    <message>
+        <source>S, ⌘W</source>
+        <translation>S, ⌘W</translation>
+    </message>
+    <message>
+        <source>Stop and close player</source>
+        <translation>Anhalten und Player schließen</translation>
+    </message>
+    <message>
+        <source>I</source>
+        <translation>I</translation>
+    </message>
+    <message>
+        <source>Playback info</source>
+        <translation>Wiedergabeinfo</translation>
+    </message>
+    <message>
+        <source>?</source>
+        <translation>?</translation>
+    </message>
+    <message>
+        <source>This list</source>
+        <translation>Diese Liste</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerShortcutsPanel</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Close (Esc)</source>
+        <translation>Schließen (Esc)</translation>
+    </message>
+</context>
+<context>
+    <name>QueuePanel</name>
+    <message>
+        <source>Queue</source>
+        <translation>Warteschlange</translation>
+    </message>
+    <message>
+        <source>Add…</source>
+        <translation>Hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Clear Up Next</source>
+        <translation>Nächste entfernen</translation>
+    </message>
+    <message>
+        <source>Nothing up next. Drop videos on the player or choose Add….</source>
+        <translation>Danach kommt nichts. Videos auf dem Player ablegen oder „Hinzufügen …“ wählen.</translation>
+    </message>
+</context>
+<context>
+    <name>QueueRow</name>
+    <message>
+        <source>Remove from queue</source>
+        <translation>Aus der Warteschlange entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>RecentsList</name>
+    <message>
+        <source>Recently Played</source>
+        <translation>Zuletzt wiedergegeben</translation>
+    </message>
+    <message>
+        <source>Videos you play appear here.</source>
+        <translation>Wiedergegebene Videos erscheinen hier.</translation>
+    </message>
+    <message>
+        <source>Add to Queue</source>
+        <translation>Zur Warteschlange hinzufügen</translation>
+    </message>
+    <message>
+        <source>Show in Finder</source>
+        <translation>Im Finder anzeigen</translation>
+    </message>
+    <message>
+        <source>Remove from Recents</source>
+        <translation>Aus „Zuletzt wiedergegeben“ entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>SidebarDivider</name>
+    <message>
+        <source>Width of the sidebar</source>
+        <translation>Breite der Seitenleiste</translation>
+    </message>
+</context>
+<context>
+    <name>SignalTexts</name>
+    <message>
+        <source>Tone-mapped to SDR</source>
+        <translation>Auf SDR umgerechnet</translation>
+    </message>
+    <message>
+        <source>SDR display</source>
+        <translation>SDR-Bildschirm</translation>
+    </message>
+    <message>
+        <source>EDR · %1× headroom (now %2×)</source>
+        <translation>EDR · %1× Reserve (jetzt %2×)</translation>
+    </message>
+</context>
+<context>
+    <name>SpeedList</name>
+    <message>
+        <source>Playback speed</source>
+        <translation>Wiedergabegeschwindigkeit</translation>
+    </message>
+</context>
+<context>
+    <name>SpeedMenu</name>
+    <message>
+        <source>Playback speed ([ and ])</source>
+        <translation>Wiedergabegeschwindigkeit ([ und ])</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleStyleControls</name>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Fett</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Use this color</source>
+        <translation>Diese Farbe verwenden</translation>
+    </message>
+    <message>
+        <source>Custom color</source>
+        <translation>Eigene Farbe</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>Stil</translation>
+    </message>
+    <message>
+        <source>Edge color</source>
+        <translation>Randfarbe</translation>
+    </message>
+    <message>
+        <source>Outline and shadow color</source>
+        <translation>Farbe von Kontur und Schatten</translation>
+    </message>
+    <message>
+        <source>Also restyle styled (ASS) subtitles</source>
+        <translation>Auch gestaltete Untertitel (ASS) anpassen</translation>
+    </message>
+    <message>
+        <source>Styled subtitles keep their own look unless this is on.</source>
+        <translation>Gestaltete Untertitel behalten sonst ihr eigenes Aussehen.</translation>
+    </message>
+</context>
+<context>
+    <name>ThinScrollBar</name>
+    <message>
+        <source>Scroll</source>
+        <translation>Scrollen</translation>
+    </message>
+</context>
+<context>
+    <name>TimeRow</name>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+</context>
+<context>
+    <name>TrackList</name>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+</context>
+<context>
+    <name>TracksPanel</name>
+    <message>
+        <source>Subtitles</source>
+        <translation>Untertitel</translation>
+    </message>
+    <message>
+        <source>Add Subtitle File…</source>
+        <translation>Untertiteldatei hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Timing</source>
+        <translation>Versatz</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Ton</translation>
+    </message>
+    <message>
+        <source>Sync</source>
+        <translation>Versatz</translation>
+    </message>
+    <message>
+        <source>Subtitle Style</source>
+        <translation>Untertitelstil</translation>
+    </message>
+    <message>
+        <source>Reset Style</source>
+        <translation>Stil zurücksetzen</translation>
+    </message>
+</context>
+<context>
+    <name>TransportButtons</name>
+    <message>
+        <source>Previous (P)</source>
+        <translation>Voriges (P)</translation>
+    </message>
+    <message>
+        <source>Back 10 seconds (←)</source>
+        <translation>10 Sekunden zurück (←)</translation>
+    </message>
+    <message>
+        <source>Forward 10 seconds (→)</source>
+        <translation>10 Sekunden vor (→)</translation>
+    </message>
+    <message>
+        <source>Next (N)</source>
+        <translation>Nächstes (N)</translation>
+    </message>
+</context>
+<context>
+    <name>VolumeControls</name>
+    <message>
+        <source>Unmute (M)</source>
+        <translation>Stummschaltung aufheben (M)</translation>
+    </message>
+    <message>
+        <source>Mute (M)</source>
+        <translation>Stummschalten (M)</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+</context>
+<context>
+    <name>tromelo::PlaybackModel</name>
+    <message>
+        <source>Play</source>
+        <translation>Wiedergeben</translation>
+    </message>
+    <message>
+        <source>Add to Queue</source>
+        <translation>Zur Warteschlange hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Subtitle</source>
+        <translation>Untertitel hinzufügen</translation>
+    </message>
+    <message>
+        <source>Selecting decoder</source>
+        <translation>Dekoder wird gewählt</translation>
+    </message>
+    <message>
+        <source>Could not play %1: %2</source>
+        <translation>%1 kann nicht wiedergegeben werden: %2</translation>
+    </message>
+    <message>
+        <source>Skipped %1: %2</source>
+        <translation>%1 übersprungen: %2</translation>
+    </message>
+    <message>
+        <source>Subtitles: %1</source>
+        <translation>Untertitel: %1</translation>
+    </message>
+    <message>
+        <source>No subtitles</source>
+        <translation>Keine Untertitel</translation>
+    </message>
+    <message>
+        <source>Subtitles off</source>
+        <translation>Untertitel aus</translation>
+    </message>
+    <message>
+        <source>No audio</source>
+        <translation>Kein Ton</translation>
+    </message>
+    <message>
+        <source>Audio: %1</source>
+        <translation>Ton: %1</translation>
+    </message>
+</context>
+<context>
+    <name>tromelo::PlaybackState</name>
+    <message>
+        <source>No video selected</source>
+        <translation>Kein Video ausgewählt</translation>
+    </message>
+</context>
+<context>
+    <name>tromelo::PlayerWindowController</name>
+    <message>
+        <source>No chapters</source>
+        <translation>Keine Kapitel</translation>
+    </message>
+    <message>
+        <source>Muted</source>
+        <translation>Stummgeschaltet</translation>
+    </message>
+    <message>
+        <source>Chapter: %1</source>
+        <translation>Kapitel: %1</translation>
+    </message>
+    <message>
+        <source>No next chapter</source>
+        <translation>Kein nächstes Kapitel</translation>
+    </message>
+    <message>
+        <source>No previous chapter</source>
+        <translation>Kein voriges Kapitel</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation>Geschwindigkeit %1</translation>
+    </message>
+    <message>
+        <source>Loop on</source>
+        <translation>Wiederholung an</translation>
+    </message>
+    <message>
+        <source>Loop off</source>
+        <translation>Wiederholung aus</translation>
+    </message>
+    <message>
+        <source>Subtitle delay %1</source>
+        <translation>Untertitel-Versatz %1</translation>
+    </message>
+    <message>
+        <source>Audio delay %1</source>
+        <translation>Ton-Versatz %1</translation>
+    </message>
+    <message>
+        <source>Volume %1%</source>
+        <translation>Lautstärke %1 %</translation>
+    </message>
+</context>
+</TS>
