@@ -2,6 +2,29 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AboutWindow</name>
+    <message>
+        <source>About Tromelo</source>
+        <translation>Über Tromelo</translation>
+    </message>
+    <message>
+        <source>Tromelo</source>
+        <translation>Tromelo</translation>
+    </message>
+    <message>
+        <source>Free software under the GNU General Public License, version 3 or later.</source>
+        <translation>Freie Software unter der GNU General Public License, Version 3 oder neuer.</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy all of this for a bug report</source>
+        <translation>Alles für einen Fehlerbericht kopieren</translation>
+    </message>
+</context>
+<context>
     <name>Chapter</name>
     <message>
         <source>Chapter %1</source>
@@ -140,6 +163,17 @@
     </message>
 </context>
 <context>
+    <name>GeneralSettings</name>
+    <message>
+        <source>Hide player controls after</source>
+        <translation>Bedienelemente ausblenden nach</translation>
+    </message>
+    <message>
+        <source>Controls stay visible while paused, while a panel is open, or while the pointer is over them.</source>
+        <translation>Die Bedienelemente bleiben sichtbar, solange die Wiedergabe angehalten oder ein Bereich offen ist oder der Zeiger auf ihnen ruht.</translation>
+    </message>
+</context>
+<context>
     <name>HardwareDecoding</name>
     <message>
         <source>Hardware (%1)</source>
@@ -216,6 +250,49 @@
     <message>
         <source>Open a video (⌘O)</source>
         <translation>Video öffnen (⌘O)</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryMenuBar</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Öffnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Settings…</source>
+        <translation>&amp;Einstellungen …</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>&amp;Fenster</translation>
+    </message>
+    <message>
+        <source>&amp;Library</source>
+        <translation>&amp;Mediathek</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Shortcuts</source>
+        <translation>&amp;Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>&amp;About Tromelo</source>
+        <translation>Ü&amp;ber Tromelo</translation>
     </message>
 </context>
 <context>
@@ -685,6 +762,39 @@
     </message>
 </context>
 <context>
+    <name>SettingsView</name>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Subtitles</source>
+        <translation>Untertitel</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutList</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Press ? in the player to show this list over the video.</source>
+        <translation>? im Player zeigt diese Liste über dem Video.</translation>
+    </message>
+</context>
+<context>
     <name>SidebarDivider</name>
     <message>
         <source>Width of the sidebar</source>
@@ -718,6 +828,39 @@
     <message>
         <source>Playback speed ([ and ])</source>
         <translation>Wiedergabegeschwindigkeit ([ und ])</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleBorderStyle</name>
+    <message>
+        <source>Outline</source>
+        <translation>Umriss</translation>
+    </message>
+    <message>
+        <source>Shadow</source>
+        <translation>Schatten</translation>
+    </message>
+    <message>
+        <source>Box</source>
+        <translation>Kasten</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitlePreview</name>
+    <message>
+        <source>The quick brown fox jumps over the lazy dog</source>
+        <translation>Zwölf Boxkämpfer jagen Viktor quer über den großen Sylter Deich</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleSettings</name>
+    <message>
+        <source>Changes apply immediately, including during playback.</source>
+        <translation>Änderungen gelten sofort, auch während der Wiedergabe.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
     </message>
 </context>
 <context>
@@ -854,6 +997,13 @@
     </message>
 </context>
 <context>
+    <name>tromelo::AboutFacts</name>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+</context>
+<context>
     <name>tromelo::PlaybackModel</name>
     <message>
         <source>Play</source>
@@ -905,6 +1055,37 @@
     <message>
         <source>No video selected</source>
         <translation>Kein Video ausgewählt</translation>
+    </message>
+</context>
+<context>
+    <name>tromelo::PlayerSettings</name>
+    <message>
+        <source>1 second</source>
+        <translation>1 Sekunde</translation>
+    </message>
+    <message>
+        <source>2 seconds</source>
+        <translation>2 Sekunden</translation>
+    </message>
+    <message>
+        <source>3 seconds</source>
+        <translation>3 Sekunden</translation>
+    </message>
+    <message>
+        <source>5 seconds</source>
+        <translation>5 Sekunden</translation>
+    </message>
+    <message>
+        <source>10 seconds</source>
+        <translation>10 Sekunden</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>%1 seconds</source>
+        <translation>%1 Sekunden</translation>
     </message>
 </context>
 <context>
