@@ -6,7 +6,6 @@
 #include "overlay/ControlBarRow.h"
 #include "overlay/ControlBarValues.h"
 #include "overlay/PopoverFrame.h"
-#include "overlay/ShortcutKeysWidth.h"
 #include "playback/Chapter.h"
 #include "playback/SpeedLadder.h"
 #include "player/PlayerFormats.h"
@@ -50,10 +49,6 @@ class Format : public QObject {
   }
   Q_INVOKABLE static QPointF placeAbove(QRectF anchor, QSizeF size, QSizeF room) {
     return tromelo::placeAbove(anchor, size, room);
-  }
-  Q_INVOKABLE static double shortcutKeysWidth(const QList<tromelo::ShortcutGroup>& groups,
-                                              const QFont& font, double column) {
-    return tromelo::shortcutKeysWidth(groups, font, column);
   }
   Q_INVOKABLE static bool isSameSpeed(double one, double other) {
     return tromelo::isSameSpeed(one, other);

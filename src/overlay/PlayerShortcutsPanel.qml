@@ -14,7 +14,7 @@ OverlaySurface {
     property list<shortcutGroup> groups: PlayerShortcuts.groups
 
     readonly property real columnWidth: (width - 2 * Theme.shortcutsPadding - Theme.shortcutsGap) / 2
-    readonly property real keysWidth: Format.shortcutKeysWidth(groups, Theme.shortcutKeys, columnWidth)
+    readonly property real keysWidth: PlayerShortcuts.keysWidth(groups, Theme.shortcutKeys, Theme.shortcutsKeysWidth, columnWidth)
 
     objectName: "playerShortcutsPanel"
     visible: chrome.showsShortcuts

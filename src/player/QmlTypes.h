@@ -7,6 +7,7 @@
 #include "player/PlayerChrome.h"
 #include "player/PlayerShortcuts.h"
 #include "player/PlayerWindowController.h"
+#include "player/ShortcutKeysWidth.h"
 
 namespace tromelo {
 
@@ -91,6 +92,10 @@ class PlayerShortcutsForQml : public QObject {
   using QObject::QObject;
 
   static QList<ShortcutGroup> groups() { return PlayerShortcuts::shownGroups(); }
+  Q_INVOKABLE static double keysWidth(const QList<tromelo::ShortcutGroup>& groups,
+                                      const QFont& font, double least, double column) {
+    return shortcutKeysWidth(groups, font, least, column);
+  }
 };
 
 }  // namespace tromelo

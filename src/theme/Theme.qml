@@ -172,7 +172,7 @@ QtObject {
     readonly property real settingsWidth: 520
     readonly property real settingsPadding: 20
     readonly property real settingsGroupSpacing: 5
-    readonly property real settingsKeysWidth: 130
+    readonly property real settingsKeysWidth: 130 // at least
     readonly property real generalHeight: 170
     readonly property real shortcutsHeight: 440
     readonly property real formRow: 40
@@ -249,6 +249,7 @@ QtObject {
     readonly property real infoSpacing: 8
     readonly property real infoLabelWidth: 66
     readonly property real infoLabelGap: 10
+    readonly property real shortcutsKeysWidth: 100 // at least
     readonly property font shortcutKeys: ({ family: fontFamily, pixelSize: 12, weight: Font.DemiBold })
     readonly property font shortcutAction: ({ family: fontFamily, pixelSize: 12 })
     readonly property color shortcutsBacking: Qt.rgba(0.07, 0.075, 0.09, 0.9)

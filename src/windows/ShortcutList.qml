@@ -10,6 +10,8 @@ import Tromelo.Theme
 Flickable {
     id: list
 
+    readonly property real keysWidth: PlayerShortcuts.keysWidth(PlayerShortcuts.groups, Theme.panelStrong, Theme.settingsKeysWidth, width - 2 * Theme.settingsPadding)
+
     function scrollBy(points: real) {
         contentY = Math.max(0, Math.min(contentHeight - height, contentY + points));
     }
@@ -68,7 +70,7 @@ Flickable {
                         Text {
                             id: keys
 
-                            width: Theme.settingsKeysWidth
+                            width: list.keysWidth
                             text: row.modelData.keys
                             font: Theme.panelStrong
                             color: Theme.primaryText

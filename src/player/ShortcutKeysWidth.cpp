@@ -1,4 +1,4 @@
-#include "overlay/ShortcutKeysWidth.h"
+#include "player/ShortcutKeysWidth.h"
 
 #include <QFontMetricsF>
 #include <algorithm>
@@ -6,9 +6,10 @@
 
 namespace tromelo {
 
-double shortcutKeysWidth(const QList<ShortcutGroup>& groups, const QFont& font, double column) {
+double shortcutKeysWidth(const QList<ShortcutGroup>& groups, const QFont& font, double least,
+                         double column) {
   const QFontMetricsF metrics(font);
-  double widest = 100;
+  double widest = least;
   for (const ShortcutGroup& group : groups)
     for (const Shortcut& shortcut : group.items)
       widest = std::max(widest, std::ceil(metrics.horizontalAdvance(shortcut.keys)));
