@@ -5,6 +5,7 @@ if(NOT Qt6_FOUND OR Qt6_VERSION VERSION_LESS 6.8)
   message(FATAL_ERROR "Tromelo needs Qt 6.8 or newer with Qt Quick; found ${Qt6_VERSION}.")
 endif()
 qt_standard_project_setup(REQUIRES 6.8)
+set(CMAKE_INSTALL_RPATH "")  # the libraries are the system's
 set(QT_QML_GENERATE_QMLLS_INI OFF)
 set(QT_QML_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml)
 
