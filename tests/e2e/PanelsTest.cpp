@@ -8,6 +8,7 @@ namespace tromelo::testing {
 namespace {
 
 // From the right end of the control bar's upper row to the middle of a button.
+constexpr int kFullscreenButton = 14;
 constexpr int kQueueButton = 86;
 constexpr int kTracksButton = 122;
 constexpr int kChaptersButton = 158;
@@ -36,6 +37,23 @@ class Panels : public EndToEnd {
     screen::run(QStringLiteral("xdotool"),
                 {QStringLiteral("windowmove"), id, QStringLiteral("60"), QStringLiteral("40")});
     ASSERT_TRUE(waitFor([&] { return frame().x() == 60; }));
+    screen::movePointer(button(kFullscreenButton));
+    ASSERT_TRUE(screen::waitForShot(QStringLiteral("panel-bar"),
+                                    [&](const QImage& image) { return showsSymbol(image); }));
+  }
+
+  /// Where the last button is now: the bar has followed the window.
+  bool showsSymbol(const QImage& image) {
+    const QPoint place = button(kFullscreenButton);
+    int darkest = 255;
+    int lightest = 0;
+    for (int x = -10; x <= 10; ++x)
+      for (int y = -10; y <= 10; ++y) {
+        const int light = image.pixelColor(place + QPoint(x, y)).lightness();
+        darkest = std::min(darkest, light);
+        lightest = std::max(lightest, light);
+      }
+    return darkest < 110 && lightest > 190;
   }
 
   QRect frame() { return screen::geometryOf(id); }
