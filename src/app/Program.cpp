@@ -40,7 +40,9 @@ ApplicationService::Request requestOf(const CommandLine& line) {
 }  // namespace
 
 Program::Program(const CommandLine& commandLine)
-    : commandLine_(commandLine), defaults_(UserDefaults::named(QStringLiteral("Tromelo"))) {}
+    : commandLine_(commandLine),
+      defaults_(UserDefaults::named(QStringLiteral("Tromelo"))),
+      reducedMotion_(qgetenv("TROMELO_REDUCED_MOTION"), sessionBus()) {}
 
 Program::~Program() = default;
 
@@ -48,6 +50,7 @@ int Program::run() {
   role_ = service_.start(requestOf(commandLine_));
   if (role_ == ApplicationService::Role::handedOver) return 0;
   if (!startDisplay()) return 1;
+  followReducedMotion();
   makeDelegate();
   connectService();
   if (commandLine_.report) startReport();
@@ -61,6 +64,13 @@ int Program::run() {
   defaults_.flush();
   if (report_) report_->flush();
   return status;
+}
+
+void Program::followReducedMotion() {
+  auto* const theme = qmlEngine_.singletonInstance<QObject*>("Tromelo.Theme", "Theme");
+  const auto tell = [this, theme] { theme->setProperty("motion", !reducedMotion_.isWanted()); };
+  QObject::connect(&reducedMotion_, &ReducedMotion::changed, theme, tell);
+  tell();
 }
 
 bool Program::startDisplay() {
@@ -81,9 +91,10 @@ bool Program::startDisplay() {
 
 void Program::makeDelegate() {
   stage_ = std::make_unique<PlayerStage>(
-      *display_, qmlEngine_,
+      *display_, qmlEngine_, reducedMotion_,
       [this](QQuickItem& scene, PlaybackModel& playback, PlayerWindowController& player) {
-        return std::make_unique<QuickPlayerOverlay>(qmlEngine_, scene, playback, player);
+        return std::make_unique<QuickPlayerOverlay>(qmlEngine_, scene, playback, player,
+                                                    reducedMotion_);
       });
   AppDelegate::Parts parts;
   parts.makePlayback = [this] {
@@ -134,8 +145,8 @@ void Program::showAbout() {
 
 std::unique_ptr<HostWindow> Program::makeLibraryWindow(PlaybackModel& playback,
                                                        PlayerWindowController& player) {
-  auto library =
-      std::make_unique<LibraryWindow>(qmlEngine_, playback, player, *commands_, defaults_);
+  auto library = std::make_unique<LibraryWindow>(qmlEngine_, playback, player, *commands_,
+                                                 defaults_, reducedMotion_);
   QObject::connect(library.get(), &LibraryWindow::closed, delegate_.get(),
                    [this] { handleLibraryClosed(); });
   return library;

@@ -15,6 +15,7 @@
 #include "mpris/MprisService.h"
 #include "platform/Clock.h"
 #include "platform/IdleInhibitor.h"
+#include "platform/ReducedMotion.h"
 #include "platform/UserDefaults.h"
 #include "player/PlayerStage.h"
 #include "windows/AboutFacts.h"
@@ -33,6 +34,7 @@ class Program {
   int run();
 
  private:
+  void followReducedMotion();
   bool startDisplay();
   void makeDelegate();
   std::unique_ptr<HostWindow> makeLibraryWindow(PlaybackModel& playback,
@@ -52,6 +54,7 @@ class Program {
   const CommandLine commandLine_;
   SystemClock clock_;
   UserDefaults defaults_;
+  ReducedMotion reducedMotion_;
   DialogFileChooser chooser_;
   std::unique_ptr<IdleInhibitor> idleInhibitor_;
   ApplicationService service_;

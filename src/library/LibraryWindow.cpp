@@ -26,11 +26,12 @@ void giveFreedMemoryBack() {
 
 LibraryWindow::LibraryWindow(QQmlEngine& engine, PlaybackModel& playback,
                              PlayerWindowController& player, Commands& commands,
-                             UserDefaults& defaults)
+                             UserDefaults& defaults, const ReducedMotion& reducedMotion)
     : engine_(engine),
       playback_(playback),
       player_(player),
       commands_(commands),
+      reducedMotion_(reducedMotion),
       frame_(defaults, QStringLiteral("TromeloLibrary")),
       sidebarWidth_(defaults) {
   connect(&fileManager_, &FileManager::failed, &playback, &PlaybackModel::reportStorageError);
@@ -49,7 +50,7 @@ void LibraryWindow::make() {
        {QStringLiteral("fileManager"), QVariant::fromValue(&fileManager_)}})));
   if (!window_) qFatal("%s", qPrintable(component.errorString()));
   fade_ = std::make_unique<WindowFade>(
-      *window_->findChild<QQuickItem*>(QStringLiteral("libraryScene")));
+      *window_->findChild<QQuickItem*>(QStringLiteral("libraryScene")), reducedMotion_);
   fade_->setOpacity(opacity_);
   window_->setGeometry(frame_.restored(kContentSize, window_->minimumSize()));
   // Hidden, which it is while a film plays, it keeps no graphics memory.

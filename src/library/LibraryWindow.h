@@ -24,7 +24,7 @@ class LibraryWindow : public HostWindow {
  public:
   /// All outlive it.
   LibraryWindow(QQmlEngine& engine, PlaybackModel& playback, PlayerWindowController& player,
-                Commands& commands, UserDefaults& defaults);
+                Commands& commands, UserDefaults& defaults, const ReducedMotion& reducedMotion);
   ~LibraryWindow() override;
 
   bool isVisible() const override;
@@ -50,6 +50,7 @@ class LibraryWindow : public HostWindow {
   PlaybackModel& playback_;
   PlayerWindowController& player_;
   Commands& commands_;
+  const ReducedMotion& reducedMotion_;
   WindowFrame frame_;
   SidebarWidth sidebarWidth_;
   FileManager fileManager_;

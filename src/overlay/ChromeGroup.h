@@ -11,8 +11,9 @@ namespace tromelo {
 /// The floating views that come and go together: the children of one item. Main thread only.
 class ChromeGroup {
  public:
-  /// `group` outlives it.
-  explicit ChromeGroup(QQuickItem& group) : group_(group), fade_(group) {}
+  /// Both outlive it.
+  ChromeGroup(QQuickItem& group, const ReducedMotion& reducedMotion)
+      : group_(group), fade_(group, reducedMotion) {}
 
   /// Hidden, they cost nothing and take no clicks. A fade begins where the one before it is.
   void setVisible(bool visible, bool animated);

@@ -33,11 +33,13 @@ Item& childNamed(QQuickItem& view, const char* name) {
 }  // namespace
 
 QuickPlayerOverlay::QuickPlayerOverlay(QQmlEngine& engine, QQuickItem& scene,
-                                       PlaybackModel& playback, PlayerWindowController& player)
+                                       PlaybackModel& playback, PlayerWindowController& player,
+                                       const ReducedMotion& reducedMotion)
     : scene_(scene),
       view_(makeView(engine, scene, playback, player)),
       controls_(&childNamed<QQuickItem>(*view_, "playerControlBar")),
-      chrome_(std::make_unique<ChromeGroup>(childNamed<QQuickItem>(*view_, "playerChrome"))),
+      chrome_(std::make_unique<ChromeGroup>(childNamed<QQuickItem>(*view_, "playerChrome"),
+                                            reducedMotion)),
       pointer_(*scene.window(), [this] { onActivity(); }) {
   view_->setParentItem(&scene);
   connectInput(childNamed<PlayerOverlayInput>(*view_, "playerInput"));

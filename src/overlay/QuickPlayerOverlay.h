@@ -14,6 +14,7 @@ namespace tromelo {
 class PlaybackModel;
 class PlayerOverlayInput;
 class PlayerWindowController;
+class ReducedMotion;
 
 /// PlayerOverlayView.qml on a player's scene.
 class QuickPlayerOverlay : public QObject, public PlayerOverlay {
@@ -23,7 +24,7 @@ class QuickPlayerOverlay : public QObject, public PlayerOverlay {
   /// Fills `scene`, above everything else there. `scene`, which has a window, and the others
   /// outlive it.
   QuickPlayerOverlay(QQmlEngine& engine, QQuickItem& scene, PlaybackModel& playback,
-                     PlayerWindowController& player);
+                     PlayerWindowController& player, const ReducedMotion& reducedMotion);
   ~QuickPlayerOverlay() override;
 
   bool isMouseInsideChrome() const override;

@@ -16,7 +16,7 @@ constexpr QSize kProvisionalSize(640, 360);
 
 }  // namespace
 
-PlayerHostWindow::PlayerHostWindow(QQmlEngine& engine) {
+PlayerHostWindow::PlayerHostWindow(QQmlEngine& engine, const ReducedMotion& reducedMotion) {
   QSurfaceFormat translucent = format();  // a scene needs the depth that it asks for
   translucent.setAlphaBufferSize(8);
   setFormat(translucent);
@@ -30,7 +30,7 @@ PlayerHostWindow::PlayerHostWindow(QQmlEngine& engine) {
   scene_->setParentItem(contentItem());
   scene_->setOpacity(0);
   video_ = scene_->findChild<EngineWindowItem*>(QStringLiteral("playerVideo"));
-  fade_ = std::make_unique<WindowFade>(*scene_);
+  fade_ = std::make_unique<WindowFade>(*scene_, reducedMotion);
   connect(this, &QWindow::widthChanged, this, &PlayerHostWindow::fillWindow);
   connect(this, &QWindow::heightChanged, this, &PlayerHostWindow::fillWindow);
   fillWindow();

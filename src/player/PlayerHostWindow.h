@@ -18,7 +18,8 @@ class PlayerHostWindow : public QQuickWindow {
   Q_OBJECT
 
  public:
-  explicit PlayerHostWindow(QQmlEngine& engine);
+  /// Both outlive it.
+  PlayerHostWindow(QQmlEngine& engine, const ReducedMotion& reducedMotion);
   ~PlayerHostWindow() override;
 
   EngineWindowItem& video() { return *video_; }

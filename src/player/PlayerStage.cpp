@@ -12,8 +12,11 @@ constexpr double kUnknownRefresh = 60;  // Hz; some hosts report none
 }  // namespace
 
 PlayerStage::PlayerStage(PrivateDisplay& display, QQmlEngine& engine,
-                         PlayerOverlayFactory overlayFactory)
-    : display_(display), engine_(engine), overlayFactory_(std::move(overlayFactory)) {
+                         const ReducedMotion& reducedMotion, PlayerOverlayFactory overlayFactory)
+    : display_(display),
+      engine_(engine),
+      reducedMotion_(reducedMotion),
+      overlayFactory_(std::move(overlayFactory)) {
   connect(&display_, &PrivateDisplay::windowAdded, this,
           [this](EngineWindow* window) { add(*window); });
   connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, [this](QScreen* screen) {
@@ -35,7 +38,7 @@ QSize PlayerStage::hostPixelSize() const {
 }
 
 void PlayerStage::prepareHostWindow() {
-  if (!spareHost_) spareHost_ = std::make_unique<PlayerHostWindow>(engine_);
+  if (!spareHost_) spareHost_ = std::make_unique<PlayerHostWindow>(engine_, reducedMotion_);
 }
 
 void PlayerStage::add(EngineWindow& engineWindow) {

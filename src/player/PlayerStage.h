@@ -19,8 +19,9 @@ class PlayerStage : public WindowSystem {
   Q_OBJECT
 
  public:
-  /// `display` and `engine` outlive it.
-  PlayerStage(PrivateDisplay& display, QQmlEngine& engine, PlayerOverlayFactory overlayFactory);
+  /// All but the factory outlive it.
+  PlayerStage(PrivateDisplay& display, QQmlEngine& engine, const ReducedMotion& reducedMotion,
+              PlayerOverlayFactory overlayFactory);
   ~PlayerStage() override;
 
   QList<VideoWindow*> videoWindows() const override;
@@ -44,6 +45,7 @@ class PlayerStage : public WindowSystem {
 
   PrivateDisplay& display_;
   QQmlEngine& engine_;
+  const ReducedMotion& reducedMotion_;
   PlayerOverlayFactory overlayFactory_;
   std::unique_ptr<PlayerHostWindow> spareHost_;
   std::vector<std::unique_ptr<PlayerWindow>> windows_;

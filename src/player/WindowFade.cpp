@@ -4,7 +4,8 @@
 
 namespace tromelo {
 
-WindowFade::WindowFade(QQuickItem& root) : root_(root) {
+WindowFade::WindowFade(QQuickItem& root, const ReducedMotion& reducedMotion)
+    : root_(root), reducedMotion_(reducedMotion) {
   QObject::connect(&animation_, &QVariantAnimation::valueChanged, &animation_,
                    [this](const QVariant& value) { root_.setOpacity(value.toDouble()); });
   QObject::connect(&animation_, &QVariantAnimation::finished, &animation_, [this] {
@@ -23,6 +24,10 @@ void WindowFade::start(double opacity, std::chrono::milliseconds duration, QEasi
   completed_ = {};
   animation_.stop();
   completed_ = std::move(completed);
+  if (reducedMotion_.isWanted()) {
+    root_.setOpacity(opacity);
+    duration = std::chrono::milliseconds(1);
+  }
   animation_.setStartValue(root_.opacity());
   animation_.setEndValue(opacity);
   animation_.setDuration(static_cast<int>(duration.count()));

@@ -232,7 +232,8 @@ TEST_F(PanelsTest, ALongQueueKeepsItsPlaceWhileItChanges) {
 class PopoverTest : public PanelsTest {
  protected:
   PopoverTest() {
-    overlay_ = std::make_unique<QuickPlayerOverlay>(engine_, layer_, playback_, player());
+    overlay_ =
+        std::make_unique<QuickPlayerOverlay>(engine_, layer_, playback_, player(), reducedMotion_);
     overlay_->onClick = [this] { said_ << "click"; };
     overlay_->onDoubleClick = [this] { said_ << "double click"; };
     overlay_->onScroll = [this](double) { said_ << "scroll"; };
@@ -249,6 +250,7 @@ class PopoverTest : public PanelsTest {
   }
   QRectF popover() { return frame(all("playerPopover").first()); }
 
+  const ReducedMotion reducedMotion_{"0", {}};
   std::unique_ptr<QuickPlayerOverlay> overlay_;
   QStringList said_;
 };
@@ -271,6 +273,15 @@ TEST_F(PopoverTest, OpensAboveTheBarWithinTheWindow) {
       player().chrome().setPanel(std::nullopt);
       ASSERT_TRUE(waitFor([this] { return all("playerPopover").isEmpty(); }));
     }
+}
+
+TEST_F(PopoverTest, ComesAndGoesInOneStepWithoutMotion) {
+  engine_.singletonInstance<QObject*>("Tromelo.Theme", "Theme")->setProperty("motion", 0);
+  player().chrome().setPanel(PlayerPanel::tracks);
+  ASSERT_EQ(all("playerPopover").size(), 1);
+  EXPECT_EQ(all("playerPopover").first()->parentItem()->parentItem()->parentItem()->opacity(), 1);
+  player().chrome().setPanel(std::nullopt);
+  EXPECT_TRUE(all("playerPopover").isEmpty());
 }
 
 TEST_F(PopoverTest, APressOutsideOnlyClosesIt) {

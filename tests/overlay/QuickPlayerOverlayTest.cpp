@@ -21,7 +21,8 @@ class QuickPlayerOverlayTest : public testing::PlayerTest {
     scene_.setParentItem(host_.contentItem());
     scene_.setSize(host_.size());
     host_.show();
-    overlay_ = std::make_unique<QuickPlayerOverlay>(engine_, scene_, playback_, player());
+    overlay_ =
+        std::make_unique<QuickPlayerOverlay>(engine_, scene_, playback_, player(), reducedMotion_);
     overlay_->onActivity = [this] { said_ << "activity"; };
     overlay_->onClick = [this] { said_ << "click"; };
     overlay_->onDoubleClick = [this] { said_ << "double click"; };
@@ -87,6 +88,7 @@ class QuickPlayerOverlayTest : public testing::PlayerTest {
   QQmlEngine engine_;
   QQuickWindow host_;
   QQuickItem scene_;
+  const ReducedMotion reducedMotion_{"0", {}};
   std::unique_ptr<QuickPlayerOverlay> overlay_;
   QStringList said_;
   std::chrono::milliseconds time_ = 1000ms;

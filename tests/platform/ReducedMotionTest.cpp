@@ -1,0 +1,117 @@
+#include "platform/ReducedMotion.h"
+
+#include <gtest/gtest.h>
+
+#include <QDBusMetaType>
+#include <QVariantMap>
+
+#include "support/BusDaemon.h"
+#include "support/WaitFor.h"
+
+using SettingGroups = QMap<QString, QVariantMap>;
+
+namespace tromelo {
+namespace {
+
+class SettingsPortal : public QObject {
+  Q_OBJECT
+  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+
+ public:
+  SettingGroups settings;
+  int asked = 0;
+
+ public Q_SLOTS:
+  SettingGroups ReadAll(const QStringList& groups) {
+    ++asked;
+    SettingGroups found;
+    for (const QString& group : groups)
+      if (settings.contains(group)) found[group] = settings[group];
+    return found;
+  }
+
+ Q_SIGNALS:
+  void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+};
+
+class ReducedMotionTest : public ::testing::Test {
+ protected:
+  ReducedMotionTest() {
+    qDBusRegisterMetaType<SettingGroups>();
+    desktop_.registerObject("/org/freedesktop/portal/desktop", &portal_,
+                            QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
+    desktop_.registerService("org.freedesktop.portal.Desktop");
+  }
+  ~ReducedMotionTest() override {
+    for (const char* name : {"desktop", "player"}) QDBusConnection::disconnectFromBus(name);
+  }
+
+  const testing::BusDaemon daemon_;
+  QDBusConnection desktop_ = QDBusConnection::connectToBus(daemon_.address(), "desktop");
+  QDBusConnection player_ = QDBusConnection::connectToBus(daemon_.address(), "player");
+  SettingsPortal portal_;
+};
+
+constexpr const char* kStandard = "org.freedesktop.appearance";
+constexpr const char* kGnome = "org.gnome.desktop.interface";
+constexpr const char* kKde = "org.kde.kdeglobals.KDE";
+
+TEST_F(ReducedMotionTest, IsWhatTheDesktopSaysNowAndLater) {
+  struct Row {
+    const char* group;
+    const char* key;
+    QVariant less;
+    QVariant more;
+  };
+  for (const Row& row : {
+           Row{kStandard, "reduced-motion", 1u, 0u},
+           Row{kGnome, "enable-animations", false, true},
+           Row{kKde, "AnimationDurationFactor", "0", "0.5"},
+           Row{kKde, "AnimationDurationFactor", 0.0, "not a number"},
+       }) {
+    SCOPED_TRACE(row.group);
+    portal_.settings = {{row.group, {{row.key, row.less}, {"cursor-size", 0}}}};
+    ReducedMotion motion("", player_);
+    EXPECT_FALSE(motion.isWanted()) << "nobody waits for the desktop";
+    EXPECT_TRUE(testing::waitFor([&] { return motion.isWanted(); }));
+    int changes = 0;
+    QObject::connect(&motion, &ReducedMotion::changed, &motion, [&] { ++changes; });
+    Q_EMIT portal_.SettingChanged(row.group, "cursor-size", QDBusVariant(24));
+    Q_EMIT portal_.SettingChanged(row.group, row.key, QDBusVariant(row.more));
+    EXPECT_TRUE(testing::waitFor([&] { return !motion.isWanted(); }));
+    Q_EMIT portal_.SettingChanged(row.group, row.key, QDBusVariant(row.less));
+    EXPECT_TRUE(testing::waitFor([&] { return motion.isWanted(); }));
+    EXPECT_EQ(changes, 2);
+  }
+}
+
+TEST_F(ReducedMotionTest, IsWantedAsLongAsOneSettingAsksForIt) {
+  portal_.settings = {{kStandard, {{"reduced-motion", 0u}}},
+                      {kGnome, {{"enable-animations", false}}}};
+  ReducedMotion motion("", player_);
+  EXPECT_TRUE(testing::waitFor([&] { return motion.isWanted(); }));
+  Q_EMIT portal_.SettingChanged(kStandard, "reduced-motion", QDBusVariant(1u));
+  Q_EMIT portal_.SettingChanged(kGnome, "enable-animations", QDBusVariant(true));
+  Q_EMIT portal_.SettingChanged(kKde, "AnimationDurationFactor", QDBusVariant("0"));
+  Q_EMIT portal_.SettingChanged(kStandard, "reduced-motion", QDBusVariant(0u));
+  testing::settle();
+  EXPECT_TRUE(motion.isWanted());
+  Q_EMIT portal_.SettingChanged(kKde, "AnimationDurationFactor", QDBusVariant("1"));
+  EXPECT_TRUE(testing::waitFor([&] { return !motion.isWanted(); }));
+}
+
+TEST_F(ReducedMotionTest, IsNotAskedOfTheDesktopWhereThePersonSaysIt) {
+  portal_.settings = {{kStandard, {{"reduced-motion", 1u}}}};
+  const ReducedMotion none("0", player_);
+  EXPECT_TRUE(ReducedMotion("1", player_).isWanted());
+  EXPECT_FALSE(ReducedMotion("", {}).isWanted());
+  const ReducedMotion asks("", player_);
+  EXPECT_TRUE(testing::waitFor([&] { return asks.isWanted(); }));
+  EXPECT_EQ(portal_.asked, 1);
+  EXPECT_FALSE(none.isWanted());
+}
+
+}  // namespace
+}  // namespace tromelo
+
+#include "ReducedMotionTest.moc"
