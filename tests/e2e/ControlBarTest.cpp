@@ -18,6 +18,7 @@ class ControlBar : public EndToEnd {
     const QByteArray title = QByteArray(name).split('.').first();
     ASSERT_TRUE(waitFor([&] { return isActive(title.constData()); }));
     id = window(title.constData());
+    ASSERT_FALSE(id.isEmpty());
   }
 
   QRect frame() { return screen::geometryOf(id); }
@@ -92,13 +93,14 @@ TEST_F(ControlBar, IsReadOverAnyPicture) {
       ASSERT_NO_FATAL_FAILURE(start(clipName));
       screen::click(button(kInfo));
       const QRect place = bar();
+      const QPoint info = button(kInfo);
       const QString name =
           QStringLiteral("bar-%1-%2")
               .arg(QString::fromLatin1(clipName).first(5), QString::fromLatin1(rendering));
       EXPECT_TRUE(screen::waitForShot(name, [&](const QImage& image) {
         int lightest = 0;
-        for (int x = kInfo - 10; x < kInfo + 10; ++x)
-          lightest = std::max(lightest, image.pixelColor(button(x)).lightness());
+        for (int x = -10; x < 10; ++x)
+          lightest = std::max(lightest, image.pixelColor(info + QPoint(x, 0)).lightness());
         return image.pixelColor(place.center().x(), place.y() + 5).lightness() < 110 &&
                lightest > 190;
       }));
