@@ -29,6 +29,7 @@ set(loaded
   fonts-inter
   fonts-material-design-icons-iconfont
   hicolor-icon-theme
+  "libmpv2 (>= 0.38)"
   libqt6svg6
   "mesa-vulkan-drivers | vulkan-icd"
   qml6-module-qtqml-workerscript

@@ -1,22 +1,44 @@
 #include "engine/MpvClientApi.h"
 
+#include <dlfcn.h>
+
 namespace tromelo {
+
+namespace {
+
+// libmpv brings some two hundred libraries along. Linked with the program they would all be
+// searched for each symbol of Qt's and the drivers', which took a third of the time that a start
+// needs.
+void* library() {
+  static void* const loaded = dlopen("libmpv.so.2", RTLD_LAZY | RTLD_LOCAL);
+  return loaded;
+}
+
+/// A function that the library lacks answers nothing: no handle is made, and the engine says so.
+template <typename Function>
+std::function<Function> entry(const char* name) {
+  if (void* found = library() ? dlsym(library(), name) : nullptr)
+    return reinterpret_cast<Function*>(found);
+  return [](auto...) { return typename std::function<Function>::result_type(); };
+}
+
+}  // namespace
 
 const MpvClientApi& MpvClientApi::libmpv() {
   static const MpvClientApi api{
-      .create = mpv_create,
-      .setOptionString = mpv_set_option_string,
-      .initialize = mpv_initialize,
-      .observeProperty = mpv_observe_property,
-      .requestLogMessages = mpv_request_log_messages,
-      .setWakeupCallback = mpv_set_wakeup_callback,
-      .waitEvent = mpv_wait_event,
-      .commandAsync = mpv_command_async,
-      .setPropertyAsync = mpv_set_property_async,
-      .getPropertyAsync = mpv_get_property_async,
-      .clientApiVersion = mpv_client_api_version,
-      .errorString = mpv_error_string,
-      .terminateDestroy = mpv_terminate_destroy,
+      .create = entry<decltype(mpv_create)>("mpv_create"),
+      .setOptionString = entry<decltype(mpv_set_option_string)>("mpv_set_option_string"),
+      .initialize = entry<decltype(mpv_initialize)>("mpv_initialize"),
+      .observeProperty = entry<decltype(mpv_observe_property)>("mpv_observe_property"),
+      .requestLogMessages = entry<decltype(mpv_request_log_messages)>("mpv_request_log_messages"),
+      .setWakeupCallback = entry<decltype(mpv_set_wakeup_callback)>("mpv_set_wakeup_callback"),
+      .waitEvent = entry<decltype(mpv_wait_event)>("mpv_wait_event"),
+      .commandAsync = entry<decltype(mpv_command_async)>("mpv_command_async"),
+      .setPropertyAsync = entry<decltype(mpv_set_property_async)>("mpv_set_property_async"),
+      .getPropertyAsync = entry<decltype(mpv_get_property_async)>("mpv_get_property_async"),
+      .clientApiVersion = entry<decltype(mpv_client_api_version)>("mpv_client_api_version"),
+      .errorString = entry<decltype(mpv_error_string)>("mpv_error_string"),
+      .terminateDestroy = entry<decltype(mpv_terminate_destroy)>("mpv_terminate_destroy"),
   };
   return api;
 }

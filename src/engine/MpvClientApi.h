@@ -27,7 +27,8 @@ struct MpvClientApi {
   std::function<const char*(int code)> errorString;
   std::function<void(mpv_handle*)> terminateDestroy;
 
-  /// The library itself.
+  /// The library itself, which is loaded the first time. Where there is none, create() gives
+  /// nothing.
   static const MpvClientApi& libmpv();
 };
 

@@ -44,6 +44,14 @@ std::vector<MpvOption> platformOptions() {
       {"gpu-sw", "yes", true},
       // The program itself keeps the screen awake.
       {"stop-screensaver", "no"},
+      // The engine's own dialogs on the picture, and profiles for a configuration that is never
+      // read.
+      {"load-stats-overlay", "no", true},
+      {"load-console", "no", true},
+      {"load-auto-profiles", "no", true},
+      {"load-select", "no", true},
+      {"load-commands", "no", true},
+      {"load-positioning", "no", true},
       // The clipboard would be a second client of the private display, which has none to offer.
       {"clipboard-backends", "", true},
   };

@@ -48,6 +48,12 @@ const Options kExpectedOptions{
     {"msg-level", "all=info"},
     {"gpu-sw", "yes"},
     {"stop-screensaver", "no"},
+    {"load-stats-overlay", "no"},
+    {"load-console", "no"},
+    {"load-auto-profiles", "no"},
+    {"load-select", "no"},
+    {"load-commands", "no"},
+    {"load-positioning", "no"},
     {"clipboard-backends", ""},
 };
 
