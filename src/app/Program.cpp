@@ -50,7 +50,6 @@ int Program::run() {
   role_ = service_.start(requestOf(commandLine_));
   if (role_ == ApplicationService::Role::handedOver) return 0;
   if (!startDisplay()) return 1;
-  followReducedMotion();
   makeDelegate();
   connectService();
   if (commandLine_.report) startReport();
@@ -59,7 +58,10 @@ int Program::run() {
   offerMediaControls();
   keepAwake();
   delegate_->applicationDidFinishLaunching();
-  stage_->prepareHostWindow();
+  // From here on the engine opens the file, if there is one, beside us.
+  followReducedMotion();
+  if (delegate_->player().isAwaitingVideo())
+    stage_->prepareWindow(delegate_->playback(), delegate_->player());
   const int status = QCoreApplication::exec();
   defaults_.flush();
   if (report_) report_->flush();

@@ -14,6 +14,8 @@ namespace tromelo {
 namespace {
 
 constexpr QSize kContentSize(1100, 720);  // points
+// A file that takes longer to open leaves the person in front of nothing.
+constexpr std::chrono::milliseconds kPatience = std::chrono::seconds(1);
 
 /// What starting up and the scene used and left is of no use to the film that plays next.
 void giveFreedMemoryBack() {
@@ -34,6 +36,8 @@ LibraryWindow::LibraryWindow(QQmlEngine& engine, PlaybackModel& playback,
       reducedMotion_(reducedMotion),
       frame_(defaults, QStringLiteral("TromeloLibrary")),
       sidebarWidth_(defaults) {
+  patience_.setSingleShot(true);
+  connect(&patience_, &QTimer::timeout, this, &LibraryWindow::present);
   connect(&fileManager_, &FileManager::failed, &playback, &PlaybackModel::reportStorageError);
 }
 
@@ -71,6 +75,13 @@ void LibraryWindow::setOpacity(double opacity) {
 
 void LibraryWindow::fadeTo(double opacity, std::chrono::milliseconds duration,
                            QEasingCurve::Type curve, std::function<void()> completed) {
+  if (isComing_ && opacity > 0) present();
+  if (!window_ && opacity == 0) {
+    isComing_ = false;
+    opacity_ = 0;
+    if (completed) completed();
+    return;
+  }
   if (!window_) make();
   fade_->start(opacity, duration, curve, std::move(completed));
 }
@@ -78,7 +89,14 @@ void LibraryWindow::fadeTo(double opacity, std::chrono::milliseconds duration,
 void LibraryWindow::makeKeyAndOrderFront() {
   isComing_ = true;
   if (window_) return present();
-  QMetaObject::invokeMethod(this, &LibraryWindow::present, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(this, &LibraryWindow::presentUnlessAFileComes, Qt::QueuedConnection);
+}
+
+void LibraryWindow::presentUnlessAFileComes() {
+  if (player_.isAwaitingVideo())
+    patience_.start(kPatience);
+  else
+    present();
 }
 
 void LibraryWindow::present() {

@@ -2,6 +2,7 @@
 
 #include <QQmlEngine>
 #include <QQuickWindow>
+#include <QTimer>
 #include <memory>
 
 #include "library/SidebarWidth.h"
@@ -16,8 +17,9 @@ class Commands;
 class PlaybackModel;
 class PlayerWindowController;
 
-/// The program's home. Closing it only hides it. It comes on the screen when the event loop runs: a
-/// file that is opened together with it doesn't wait for its scene. Main thread only.
+/// The program's home. Closing it only hides it. The first time it comes on the screen when the
+/// event loop runs, and not before a file that is opened together with it, unless that takes long:
+/// the film doesn't wait for a window that it hides again. Main thread only.
 class LibraryWindow : public HostWindow {
   Q_OBJECT
 
@@ -44,6 +46,7 @@ class LibraryWindow : public HostWindow {
  private:
   void make();
   void present();
+  void presentUnlessAFileComes();
   void saveFrame();
 
   QQmlEngine& engine_;
@@ -55,6 +58,7 @@ class LibraryWindow : public HostWindow {
   SidebarWidth sidebarWidth_;
   FileManager fileManager_;
   bool isComing_ = false;
+  QTimer patience_;
   double opacity_ = 1;
   std::unique_ptr<QQuickWindow> window_;
   std::unique_ptr<WindowFade> fade_;

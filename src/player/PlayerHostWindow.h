@@ -8,6 +8,7 @@
 #include "player/EdgeResize.h"
 #include "player/HeldKey.h"
 #include "player/KeyPress.h"
+#include "player/PlayerOverlay.h"
 #include "player/WindowFade.h"
 
 namespace tromelo {
@@ -25,6 +26,10 @@ class PlayerHostWindow : public QQuickWindow {
   EngineWindowItem& video() { return *video_; }
   QQuickItem& scene() { return *scene_; }
   WindowFade& fade() { return *fade_; }
+
+  /// An overlay that was made in its scene before there is a window to install it in.
+  void keepOverlay(std::unique_ptr<PlayerOverlay> overlay) { overlay_ = std::move(overlay); }
+  std::unique_ptr<PlayerOverlay> takeOverlay() { return std::move(overlay_); }
 
   /// Its size in device pixels.
   QSize pixelSize() const;
@@ -63,6 +68,7 @@ class PlayerHostWindow : public QQuickWindow {
 
   std::unique_ptr<QQuickItem> scene_;
   EngineWindowItem* video_ = nullptr;
+  std::unique_ptr<PlayerOverlay> overlay_;
   std::unique_ptr<WindowFade> fade_;
   EdgeResize edgeResize_{*this};
   KeyMonitor keyMonitor_;

@@ -37,12 +37,17 @@ QSize PlayerStage::hostPixelSize() const {
   return windows_.empty() ? QSize() : windows_.back()->host().pixelSize();
 }
 
-void PlayerStage::prepareHostWindow() {
+void PlayerStage::prepareWindow(PlaybackModel& playback, PlayerWindowController& controller) {
+  prepareHost();
+  spareHost_->keepOverlay(overlayFactory_(spareHost_->scene(), playback, controller));
+}
+
+void PlayerStage::prepareHost() {
   if (!spareHost_) spareHost_ = std::make_unique<PlayerHostWindow>(engine_, reducedMotion_);
 }
 
 void PlayerStage::add(EngineWindow& engineWindow) {
-  prepareHostWindow();
+  prepareHost();
   auto window = std::make_unique<PlayerWindow>(engineWindow, std::move(spareHost_), overlayFactory_,
                                                headroom_);
   PlayerWindow* const added = window.get();

@@ -29,8 +29,8 @@ class PlayerStage : public WindowSystem {
   /// The size in device pixels of the newest window's host; empty without one.
   QSize hostPixelSize() const;
 
-  /// Makes the next host window now, while there is nothing else to do.
-  void prepareHostWindow();
+  /// Makes the next window's host and overlay now, while the engine opens a file.
+  void prepareWindow(PlaybackModel& playback, PlayerWindowController& controller);
 
   /// What the engine is told of `screen`.
   static PrivateDisplay::Output outputOf(const QScreen& screen);
@@ -40,6 +40,7 @@ class PlayerStage : public WindowSystem {
 
  private:
   void add(EngineWindow& engineWindow);
+  void prepareHost();
   void retire(PlayerWindow* window);
   void followScreen(QScreen* screen);
 

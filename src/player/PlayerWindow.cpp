@@ -103,6 +103,7 @@ void PlayerWindow::dress(QSize minimumSize) {
 
 std::unique_ptr<PlayerOverlay> PlayerWindow::installOverlay(PlaybackModel& playback,
                                                             PlayerWindowController& controller) {
+  if (auto made = host_->takeOverlay()) return made;
   return overlayFactory_(host_->scene(), playback, controller);
 }
 

@@ -57,6 +57,8 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
 
   bool isRevealed() const { return isRevealed_; }
   bool isClosing() const { return isClosing_; }
+  /// A file is being opened whose picture isn't there yet.
+  bool isAwaitingVideo() const { return awaitingVideo_; }
   /// The controls are shown, or coming up.
   bool chromeVisible() const { return chromeVisible_; }
   /// A file plays that has no picture, so that no window has come.
