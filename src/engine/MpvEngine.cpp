@@ -18,6 +18,11 @@ namespace tromelo {
 
 namespace {
 
+// A library that is replaced may be older than the one that the program was built with.
+constexpr unsigned long kOldestClientApi = MPV_MAKE_VERSION(2, 3);
+constexpr const char* kTooOld =
+    "The playback library libmpv is too old; install version 0.38 or newer to play videos.";
+
 int sendCommand(const MpvClientApi& api, mpv_handle* handle, const MpvCommand& command) {
   std::vector<const char*> arguments;
   arguments.reserve(command.arguments.size() + 1);
@@ -47,6 +52,7 @@ MpvEngine::~MpvEngine() {
 
 std::optional<std::string> MpvEngine::initialize(const QString& diagnosticsDirectory) {
   if (handle_) return {};
+  if (api_->clientApiVersion() < kOldestClientApi) return kTooOld;
   prepareEngineEnvironment(shippedVulkanManifest());
   handle_ = api_->create();
   if (!handle_) return "Could not create the playback engine";

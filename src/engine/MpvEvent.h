@@ -50,10 +50,21 @@ struct HardwareDecodeError {
   friend bool operator==(HardwareDecodeError, HardwareDecodeError) = default;
 };
 
+/// The file's picture has nowhere to go; its sound, if it has any, plays on.
+struct VideoOutputFailed {
+  friend bool operator==(VideoOutputFailed, VideoOutputFailed) = default;
+};
+
+/// The file's sound has nowhere to go; its picture, if it has one, plays on.
+struct AudioOutputFailed {
+  friend bool operator==(AudioOutputFailed, AudioOutputFailed) = default;
+};
+
 }  // namespace event
 
-using MpvEvent = std::variant<event::Property, event::EndFile, event::CommandFailed,
-                              event::StartFile, event::FileLoaded, event::PlaybackRestart,
-                              event::Shutdown, event::HardwareDecodeError>;
+using MpvEvent =
+    std::variant<event::Property, event::EndFile, event::CommandFailed, event::StartFile,
+                 event::FileLoaded, event::PlaybackRestart, event::Shutdown,
+                 event::HardwareDecodeError, event::VideoOutputFailed, event::AudioOutputFailed>;
 
 }  // namespace tromelo

@@ -17,10 +17,15 @@ const T* payload(const mpv_event& received) {
 
 std::optional<MpvEvent> translateLog(const mpv_event_log_message* message) {
   if (!message || !message->prefix || !message->text) return {};
-  if (std::string_view(message->prefix) != "vd") return {};
-  if (std::string_view(message->text).find("hardware decoding") == std::string_view::npos)
-    return {};
-  return event::HardwareDecodeError{};
+  const std::string_view prefix(message->prefix);
+  const auto says = [text = std::string_view(message->text)](std::string_view words) {
+    return text.find(words) != std::string_view::npos;
+  };
+  if (prefix == "vd" && says("hardware decoding")) return event::HardwareDecodeError{};
+  // No event or property tells of an output that is missing while the other plays on.
+  if (prefix == "cplayer" && says("(--vo) device")) return event::VideoOutputFailed{};
+  if (prefix == "cplayer" && says("initialize audio device")) return event::AudioOutputFailed{};
+  return {};
 }
 
 std::optional<MpvEvent> translateReply(const MpvClientApi& api, int error) {

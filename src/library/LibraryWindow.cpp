@@ -38,7 +38,7 @@ LibraryWindow::LibraryWindow(QQmlEngine& engine, PlaybackModel& playback,
       sidebarWidth_(defaults) {
   patience_.setSingleShot(true);
   connect(&patience_, &QTimer::timeout, this, &LibraryWindow::present);
-  connect(&fileManager_, &FileManager::failed, &playback, &PlaybackModel::reportStorageError);
+  connect(&fileManager_, &FileManager::failed, &playback, &PlaybackModel::tell);
 }
 
 LibraryWindow::~LibraryWindow() { saveFrame(); }

@@ -9,6 +9,9 @@ namespace {
 // Those that a person can meet, for the catalogue.
 [[maybe_unused]] constexpr const char* kReasons[] = {
     QT_TRANSLATE_NOOP("EngineErrorText", "Could not create the playback engine"),
+    QT_TRANSLATE_NOOP("EngineErrorText",
+                      "The playback library libmpv is too old; install version 0.38 or newer to "
+                      "play videos."),
     QT_TRANSLATE_NOOP("EngineErrorText", "memory allocation failed"),
     QT_TRANSLATE_NOOP("EngineErrorText", "error running command"),
     QT_TRANSLATE_NOOP("EngineErrorText", "loading failed"),

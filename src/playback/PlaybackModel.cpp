@@ -19,13 +19,14 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       files_(parts.files),
       defaults_(parts.defaults),
       makePlayer_(std::move(parts.makePlayer)),
+      hasVulkanDevice_(std::move(parts.hasVulkanDevice)),
       engine_(parts.api),
       settings_(parts.defaults),
       existence_(std::move(parts.fileExists),
                  [this](const QList<FileExistence::Answer>& answers) { takeAnswers(answers); }) {
   hardware_.softwarePaths = storedSoftwareDecodePaths(defaults_);
   loadRecents();
-  startEngine(parts.diagnosticsDirectory);
+  startEngine(parts);
   settings_.apply(engine_);
   // Queued: the change is announced before it is made.
   settingsObserver_ = connect(
@@ -35,15 +36,21 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
 
 PlaybackModel::~PlaybackModel() = default;
 
-void PlaybackModel::startEngine(const QString& diagnosticsDirectory) {
-  QDir().mkpath(diagnosticsDirectory);
+void PlaybackModel::startEngine(const Parts& parts) {
+  QDir().mkpath(parts.diagnosticsDirectory);
   engine_.onEvent = [model = QPointer(this)](const MpvEvent& received) {
     if (model) model->handleEvent(received);
   };
-  if (const auto error = engine_.initialize(diagnosticsDirectory)) {
-    status_ = engineErrorText(*error);
-    errorMessage_ = status_.get();
+  if (const auto error = initializeEngine(parts)) {
+    status_ = *error;
+    errorMessage_ = *error;
   }
+}
+
+std::optional<QString> PlaybackModel::initializeEngine(const Parts& parts) {
+  if (!parts.engineFault.isEmpty()) return parts.engineFault;
+  const auto error = engine_.initialize(parts.diagnosticsDirectory);
+  return error ? std::optional(engineErrorText(*error)) : std::nullopt;
 }
 
 PlayerPresenting& PlaybackModel::player() {
@@ -116,9 +123,14 @@ void PlaybackModel::presentSubtitleFilePanel() {
       });
 }
 
-void PlaybackModel::reportStorageError(const QString& message) {
+void PlaybackModel::tell(const QString& message) {
   errorMessage_ = message;
-  if (player().hasWindow()) player().showToast(message);
+  toast_ = message;
+  showWaitingToast();
+}
+
+void PlaybackModel::showWaitingToast() {
+  if (!toast_.isEmpty() && player().hasWindow()) player().showToast(std::exchange(toast_, {}));
 }
 
 void PlaybackModel::reportPlaybackError(const QString& message) {

@@ -46,6 +46,9 @@ class PlaybackModel : public PlaybackState {
     std::function<std::unique_ptr<PlayerPresenting>(PlaybackModel&)> makePlayer;
     /// Says whether a recent file is there; may take its time, on other threads.
     std::function<bool(const std::string& path)> fileExists = tromelo::fileExists;
+    /// Asked when a picture can't be drawn; may take a moment.
+    std::function<bool()> hasVulkanDevice = [] { return true; };
+    QString engineFault = {};  // a sentence: why the engine can't be started; empty: it can
   };
 
   /// Starts the engine; a failure shows in status and errorMessage.
@@ -128,8 +131,9 @@ class PlaybackModel : public PlaybackState {
   void updateDisplay(const std::optional<ScreenHeadroom>& screen);
 
   void reportPlaybackError(const QString& message);
-  /// Something that has to do with no file: told, without a word on playback.
-  void reportStorageError(const QString& message);
+  /// Something that has to do with no file: told in the library and in the player window, as soon
+  /// as there is one, without a word on playback.
+  void tell(const QString& message);
 
  Q_SIGNALS:
   /// Playback goes on from another position, in seconds, than the one it would have come to by
@@ -146,7 +150,8 @@ class PlaybackModel : public PlaybackState {
     double tolerance;
   };
 
-  void startEngine(const QString& diagnosticsDirectory);
+  void startEngine(const Parts& parts);
+  std::optional<QString> initializeEngine(const Parts& parts);
   void handleEvent(const MpvEvent& received);
   void handle(const event::Property& change);
   void handle(const event::EndFile& end);
@@ -156,7 +161,11 @@ class PlaybackModel : public PlaybackState {
   void handle(const event::PlaybackRestart&);
   void handle(const event::Shutdown&);
   void handle(const event::HardwareDecodeError&);
+  void handle(const event::VideoOutputFailed&);
+  void handle(const event::AudioOutputFailed&);
   void handleFailedFile(const QString& error);
+  void tellOutputFault();
+  void showWaitingToast();
   void resetForNewFile();
   void updateStatus();
   void describeSignal();
@@ -181,6 +190,7 @@ class PlaybackModel : public PlaybackState {
   FileChooser& files_;
   UserDefaults& defaults_;
   std::function<std::unique_ptr<PlayerPresenting>(PlaybackModel&)> makePlayer_;
+  std::function<bool()> hasVulkanDevice_;
   MpvEngine engine_;
   PlayerSettings settings_;
   SignalInputs inputs_;
@@ -190,8 +200,12 @@ class PlaybackModel : public PlaybackState {
   FileExistence existence_;
   std::optional<std::string> currentPath_;  // as the engine reports it
   double subtitleLift_ = 0;
-  double lastScrubSeek_ = 0;        // of the clock
-  bool hasStarted_ = false;         // the current file has
+  double lastScrubSeek_ = 0;  // of the clock
+  bool hasStarted_ = false;   // the current file has
+  bool hasFailed_ = false;    // the current file has
+  QString outputFault_;       // of the current file; a sentence
+  QString toast_;             // waits for the player window
+  bool toldOfNoSound_ = false;
   std::optional<Restart> restart_;  // the engine has yet to tell where
   bool isShuttingDown_ = false;
   QMetaObject::Connection settingsObserver_;

@@ -4,6 +4,7 @@
 #include "engine/MpvValue.h"
 #include "platform/Clock.h"
 #include "playback/EngineErrorText.h"
+#include "playback/OutputFaults.h"
 #include "playback/PlaybackModel.h"
 #include "playback/PropertyMapping.h"
 
@@ -34,6 +35,8 @@ void PlaybackModel::handle(const event::StartFile&) {
 void PlaybackModel::resetForNewFile() {
   isLoaded_ = false;
   hasStarted_ = false;
+  hasFailed_ = false;
+  outputFault_.clear();
   restart_.reset();
   elapsed_ = 0;
   duration_ = 0;
@@ -56,6 +59,7 @@ void PlaybackModel::handle(const event::FileLoaded&) {
   isLoaded_ = true;
   buffering_ = QStringLiteral("Ready");
   if (currentPath_) remember(*currentPath_);
+  tellOutputFault();
 }
 
 void PlaybackModel::handle(const event::PlaybackRestart&) {
@@ -80,12 +84,13 @@ void PlaybackModel::checkRestart() {
 void PlaybackModel::showVideoReady() {
   player().setVideoReady(true);
   player().reveal();
+  showWaitingToast();
 }
 
 void PlaybackModel::handle(const event::EndFile& end) {
   isLoaded_ = false;
   if (end.error) {
-    handleFailedFile(engineErrorText(*end.error));
+    handleFailedFile(outputFault_.isEmpty() ? engineErrorText(*end.error) : outputFault_);
   } else {
     status_ = QStringLiteral("Ready for a video");
     buffering_ = kUnknown;
@@ -94,6 +99,7 @@ void PlaybackModel::handle(const event::EndFile& end) {
 
 void PlaybackModel::handleFailedFile(const QString& error) {
   if (const auto title = outlook_.unreportedTitle()) title_ = *title;
+  hasFailed_ = true;
   reportPlaybackError(tr("Could not play %1: %2").arg(title_, error));
   if (outlook_.hasNext()) {
     player().showToast(tr("Skipped %1: %2").arg(title_, error));
@@ -121,6 +127,28 @@ void PlaybackModel::handle(const event::HardwareDecodeError&) {
   if (!hardware_.givesUpAfterError(clock_.now())) return;
   engine_.setProperty("file-local-options/hwdec", "no");
   if (currentPath_) rememberSoftwareDecode(*currentPath_);
+}
+
+void PlaybackModel::handle(const event::VideoOutputFailed&) {
+  outputFault_ = videoOutputFault(hasVulkanDevice_());
+  tellOutputFault();
+}
+
+void PlaybackModel::handle(const event::AudioOutputFailed&) {
+  if (!outputFault_.isEmpty()) return;
+  outputFault_ = audioOutputFault();
+  tellOutputFault();
+}
+
+/// The engine tells of a missing output before or after the file is loaded or has failed.
+void PlaybackModel::tellOutputFault() {
+  if (outputFault_.isEmpty()) return;
+  if (hasFailed_) reportPlaybackError(tr("Could not play %1: %2").arg(title_, outputFault_));
+  if (!isLoaded_) return;
+  if (outputFault_ != audioOutputFault())
+    errorMessage_ = outputFault_;
+  else if (!std::exchange(toldOfNoSound_, true))
+    tell(outputFault_);
 }
 
 void PlaybackModel::rememberSoftwareDecode(const std::string& path) {

@@ -48,6 +48,15 @@ TEST(Translation, OnlyTheVideoDecodersWarningsAboutHardwareCount) {
   EXPECT_EQ(translated(MPV_EVENT_LOG_MESSAGE), std::nullopt);
 }
 
+TEST(Translation, ThePlayersWordsOnItsOutputsCount) {
+  const char* noVideo = "Error opening/initializing the selected video_out (--vo) device.\n";
+  const char* noAudio = "Could not open/initialize audio device -> no sound.\n";
+  EXPECT_EQ(translatedLog("cplayer", noVideo), MpvEvent(event::VideoOutputFailed{}));
+  EXPECT_EQ(translatedLog("cplayer", noAudio), MpvEvent(event::AudioOutputFailed{}));
+  EXPECT_EQ(translatedLog("vo", noVideo), std::nullopt);
+  EXPECT_EQ(translatedLog("cplayer", "No audio."), std::nullopt);
+}
+
 TEST(Translation, EndOfFile) {
   const auto ended = [](std::optional<std::string> error) {
     return std::optional<MpvEvent>(event::EndFile{std::move(error)});

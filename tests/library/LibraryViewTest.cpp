@@ -226,7 +226,7 @@ TEST_F(LibraryViewTest, EveryButtonThatOpensAsksForFiles) {
 TEST_F(LibraryViewTest, TellsTheErrorWordForWord) {
   EXPECT_FALSE(isShown("libraryError"));
   const QString sentence = QStringLiteral("Could not play <b>Film</b>: ") + QString(300, u'x');
-  playback_.reportStorageError(sentence);
+  playback_.tell(sentence);
   ASSERT_TRUE(isShown("libraryError"));
   QQuickItem* capsule = item("libraryError");
   const QQuickItem* words = items(QStringLiteral("messageText"), capsule).value(0);

@@ -2,6 +2,7 @@
 
 #include "ModelTest.h"
 #include "platform/FilePath.h"
+#include "playback/OutputFaults.h"
 
 namespace tromelo {
 
@@ -152,6 +153,53 @@ TEST_F(Events, AFileThatFailsGivesWayToTheNextOrClosesThePlayer) {
     EXPECT_EQ(model().buffering(), "Unavailable") << row.what;
     EXPECT_EQ(player_.take(), row.calls) << row.what;
   }
+}
+
+TEST_F(Events, AFileWithoutItsOutputNamesWhatIsMissing) {
+  const QString picture = videoOutputFault(true);
+  const struct {
+    const char* what;
+    std::vector<MpvEvent> events;
+    QString error;
+  } rows[] = {
+      {"told before the failure",
+       {event::VideoOutputFailed{}, event::EndFile{"no data"}},
+       "Could not play Movie: " + picture},
+      {"told after it",
+       {event::EndFile{"no data"}, event::VideoOutputFailed{}},
+       "Could not play Movie: " + picture},
+      {"neither picture nor sound",
+       {event::VideoOutputFailed{}, event::AudioOutputFailed{}, event::EndFile{"no data"}},
+       "Could not play Movie: " + picture},
+      {"the sound plays on", {event::FileLoaded{}, event::VideoOutputFailed{}}, picture},
+      {"the sound plays on, told early",
+       {event::VideoOutputFailed{}, event::FileLoaded{}},
+       picture},
+      {"only sound",
+       {event::EndFile{"no data"}, event::AudioOutputFailed{}},
+       "Could not play Movie: " + audioOutputFault()},
+  };
+  for (const auto& row : rows) {
+    remake();
+    report(event::StartFile{});
+    report(P::mediaTitle, "Movie.mkv");
+    for (const MpvEvent& event : row.events) report(event);
+    EXPECT_EQ(model().errorMessage(), row.error) << row.what;
+  }
+}
+
+TEST_F(Events, AMissingSoundDeviceIsToldOnceInTheWindowOfTheFilm) {
+  report(event::StartFile{});
+  report(event::AudioOutputFailed{});
+  report(event::FileLoaded{});
+  EXPECT_EQ(model().errorMessage(), audioOutputFault());
+  EXPECT_TRUE(player_.calls.isEmpty());
+  player_.hasWindow = true;
+  report(event::PlaybackRestart{});
+  EXPECT_EQ(player_.take(), (QStringList{"ready", "reveal", "toast " + audioOutputFault()}));
+  load();
+  report(event::AudioOutputFailed{});
+  EXPECT_TRUE(player_.calls.isEmpty());
 }
 
 TEST_F(Events, FilesThatFailBeforeTheQueueIsReportedAreNamedEach) {

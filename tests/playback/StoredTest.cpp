@@ -136,10 +136,10 @@ TEST_F(StoredTest, SettingsReachTheEngineAtTheStartAndOnceForEachWriteWithTheFin
   EXPECT_EQ(sent, Requests(9, {"set", "sub-font-size", "60.0"}));
 }
 
-TEST_F(StoredTest, AStorageErrorLeavesPlaybackAlone) {
+TEST_F(StoredTest, WhatIsToldLeavesPlaybackAlone) {
   load();
   const QString status = model().status();
-  model().reportStorageError(QStringLiteral("Full."));
+  model().tell(QStringLiteral("Full."));
   EXPECT_EQ(model().errorMessage(), QStringLiteral("Full."));
   EXPECT_EQ(model().status(), status);
   EXPECT_EQ(model().buffering(), QStringLiteral("Ready"));

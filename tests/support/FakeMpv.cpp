@@ -54,7 +54,7 @@ MpvClientApi FakeMpv::api() {
       .getPropertyAsync = [this](
                               mpv_handle*, std::uint64_t reply, const char* name,
                               mpv_format) { return request({"get", name, std::to_string(reply)}); },
-      .clientApiVersion = [] { return 0x20005UL; },
+      .clientApiVersion = [this] { return version; },
       .errorString = [](int code) -> const char* {
         return code < -100 ? nullptr : mpv_error_string(code);
       },

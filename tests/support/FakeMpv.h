@@ -20,6 +20,7 @@ class FakeMpv {
 
   // What it answers.
   bool cannotBeCreated = false;
+  unsigned long version = 0x20005;
   std::map<std::string, int> optionResults;  // 0 for the others
   int initializeResult = 0;
   std::size_t room = 1000;  // requests that it takes before it says that its queue is full
