@@ -154,6 +154,10 @@
         <source>not supported</source>
         <translation>nicht unterstützt</translation>
     </message>
+    <message>
+        <source>The playback library libmpv is too old; install version 0.38 or newer to play videos.</source>
+        <translation>Die Wiedergabebibliothek libmpv ist zu alt; mit Version 0.38 oder neuer lassen sich Videos abspielen.</translation>
+    </message>
 </context>
 <context>
     <name>FileManager</name>
@@ -354,6 +358,21 @@
     <message>
         <source>Full screen (F)</source>
         <translation>Vollbild (F)</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFaults</name>
+    <message>
+        <source>The picture can&apos;t be drawn with the Vulkan driver of your graphics card; update it to play videos.</source>
+        <translation>Der Vulkan-Treiber der Grafikkarte kann das Bild nicht zeichnen; aktualisieren Sie ihn, um Videos abzuspielen.</translation>
+    </message>
+    <message>
+        <source>No Vulkan driver was found; install one for your graphics card (mesa-vulkan-drivers) to play videos.</source>
+        <translation>Es wurde kein Vulkan-Treiber gefunden; installieren Sie den Ihrer Grafikkarte (mesa-vulkan-drivers), um Videos abzuspielen.</translation>
+    </message>
+    <message>
+        <source>No sound device was found; check your sound settings.</source>
+        <translation>Es wurde kein Audiogerät gefunden; prüfen Sie die Klangeinstellungen.</translation>
     </message>
 </context>
 <context>
@@ -710,6 +729,28 @@
     <message>
         <source>Close (Esc)</source>
         <translation>Schließen (Esc)</translation>
+    </message>
+</context>
+<context>
+    <name>PrivateDisplay</name>
+    <message>
+        <source>no folder could be made for the private display (%1); set XDG_RUNTIME_DIR to one that you can write to.</source>
+        <translation>für die eigene Anzeige ließ sich kein Ordner anlegen (%1); setzen Sie XDG_RUNTIME_DIR auf einen beschreibbaren.</translation>
+    </message>
+    <message>
+        <source>the private display did not start; install the package of the library wlroots again.</source>
+        <translation>die eigene Anzeige ist nicht gestartet; installieren Sie das Paket der Bibliothek wlroots neu.</translation>
+    </message>
+</context>
+<context>
+    <name>Program</name>
+    <message>
+        <source>Videos can&apos;t be shown: %1</source>
+        <translation>Videos können nicht gezeigt werden: %1</translation>
+    </message>
+    <message>
+        <source>OpenGL doesn&apos;t work here, which makes drawing slow; install the OpenGL driver of your graphics card (libgl1-mesa-dri).</source>
+        <translation>OpenGL funktioniert hier nicht, daher wird langsam gezeichnet; installieren Sie den OpenGL-Treiber Ihrer Grafikkarte (libgl1-mesa-dri).</translation>
     </message>
 </context>
 <context>

@@ -1,11 +1,14 @@
 #include "app/Program.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <cstdio>
 
+#include "display/AbsentDisplay.h"
 #include "display/DmabufSupport.h"
 #include "display/EglDevice.h"
+#include "display/SceneDrawing.h"
 #include "display/SelftestLines.h"
 #include "engine/MpvClientApi.h"
 #include "glass/GlassRendering.h"
@@ -49,11 +52,13 @@ Program::~Program() = default;
 int Program::run() {
   role_ = service_.start(requestOf(commandLine_));
   if (role_ == ApplicationService::Role::handedOver) return 0;
-  if (!startDisplay()) return 1;
+  hasOpenGl_ = chooseSceneDrawing();
+  startDisplay();
   makeDelegate();
   connectService();
   if (commandLine_.report) startReport();
   tellOfStorageErrors();
+  tellOfWhatIsMissing();
   offerToDesktop();
   offerMediaControls();
   keepAwake();
@@ -75,20 +80,21 @@ void Program::followReducedMotion() {
   tell();
 }
 
-bool Program::startDisplay() {
-  setGlassRendering(
-      chooseGlassRendering(qgetenv("TROMELO_GLASS"), drawsInSoftware(platformEglDisplay())));
-  const auto dmabuf = DmabufSupport::query();
+void Program::startDisplay() {
+  const bool inSoftware = !hasOpenGl_ || drawsInSoftware(platformEglDisplay());
+  setGlassRendering(chooseGlassRendering(qgetenv("TROMELO_GLASS"), inSoftware));
+  const auto dmabuf = hasOpenGl_ ? DmabufSupport::query() : std::nullopt;
   QString error;
   display_ = PrivateDisplay::start(PlayerStage::outputOf(*QGuiApplication::primaryScreen()), dmabuf,
                                    &error);
   if (!display_) {
-    std::fprintf(stderr, "Tromelo can't start its video display: %s\n", qPrintable(error));
-    return false;
+    displayFault_ = QCoreApplication::translate("Program", "Videos can't be shown: %1").arg(error);
+    std::fprintf(stderr, "%s\n", qPrintable(displayFault_));
+    display_ = std::make_unique<AbsentDisplay>();
+    return;
   }
   if (!dmabuf) DmabufSupport::presentThroughSharedMemory();
   HostEnvironment::enterPrivateDisplay(display_->socketPath());
-  return true;
 }
 
 void Program::makeDelegate() {
@@ -101,10 +107,16 @@ void Program::makeDelegate() {
   AppDelegate::Parts parts;
   parts.makePlayback = [this] {
     return std::make_unique<PlaybackModel>(PlaybackModel::Parts{
-        MpvClientApi::libmpv(), clock_, chooser_, defaults_, diagnosticsDirectoryPath(),
-        [this](PlaybackModel& playback) -> std::unique_ptr<PlayerPresenting> {
+        .api = MpvClientApi::libmpv(),
+        .clock = clock_,
+        .files = chooser_,
+        .defaults = defaults_,
+        .diagnosticsDirectory = diagnosticsDirectoryPath(),
+        .makePlayer = [this](PlaybackModel& playback) -> std::unique_ptr<PlayerPresenting> {
           return std::make_unique<PlayerWindowController>(playback, *stage_, clock_);
-        }});
+        },
+        .hasVulkanDevice = &hasVulkanDevice,
+        .engineFault = displayFault_});
   };
   parts.makeLibraryWindow = [this](PlaybackModel& playback, PlayerWindowController& player) {
     return makeLibraryWindow(playback, player);
@@ -167,8 +179,20 @@ void Program::connectService() {
 void Program::tellOfStorageErrors() {
   defaults_.onError([this](const QString& sentence) {
     std::fprintf(stderr, "%s\n", qPrintable(sentence));
-    if (!delegate_->playback().isShuttingDown()) delegate_->playback().reportStorageError(sentence);
+    if (!delegate_->playback().isShuttingDown()) delegate_->playback().tell(sentence);
   });
+}
+
+void Program::tellOfWhatIsMissing() {
+  const QString logs = diagnosticsDirectoryPath();
+  if (const QFileInfo folder(logs); !folder.isDir() || !folder.isWritable())
+    std::fprintf(stderr, "The log of playback can't be written; make %s a folder that is yours.\n",
+                 qPrintable(logs));
+  if (!hasOpenGl_)
+    delegate_->playback().tell(QCoreApplication::translate(
+        "Program",
+        "OpenGL doesn't work here, which makes drawing slow; install the OpenGL driver of your "
+        "graphics card (libgl1-mesa-dri)."));
 }
 
 void Program::offerToDesktop() {

@@ -35,7 +35,7 @@ class Program {
 
  private:
   void followReducedMotion();
-  bool startDisplay();
+  void startDisplay();
   void makeDelegate();
   std::unique_ptr<HostWindow> makeLibraryWindow(PlaybackModel& playback,
                                                 PlayerWindowController& player);
@@ -44,6 +44,7 @@ class Program {
   void connectService();
   void startReport();
   void tellOfStorageErrors();
+  void tellOfWhatIsMissing();
   void offerToDesktop();
   void offerMediaControls();
   void keepAwake();
@@ -59,7 +60,9 @@ class Program {
   std::unique_ptr<IdleInhibitor> idleInhibitor_;
   ApplicationService service_;
   ApplicationService::Role role_ = ApplicationService::Role::alone;
+  bool hasOpenGl_ = true;
   std::unique_ptr<PrivateDisplay> display_;
+  QString displayFault_;  // a sentence: why there is none
   QQmlEngine qmlEngine_;
   std::unique_ptr<PlayerStage> stage_;
   std::unique_ptr<Commands> commands_;

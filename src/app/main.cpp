@@ -1,7 +1,6 @@
 #include <QApplication>
 #include <QIcon>
 #include <QPalette>
-#include <QQuickWindow>
 #include <QStyleHints>
 #include <cstdio>
 #include <span>
@@ -24,7 +23,6 @@ void prepareGraphics() {
   // The picture comes in as a texture, or as a buffer that only EGL can import: GLX can't.
   if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
     tromelo::HostEnvironment::set("QT_XCB_GL_INTEGRATION", "xcb_egl");
-  QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
 }
 
 /// The dialogs that Qt draws itself stay light where no desktop's theme answers.

@@ -14,7 +14,8 @@ namespace tromelo {
 namespace {
 
 bool canShowPictures(const QQuickWindow& window) {
-  return window.rendererInterface()->graphicsApi() == QSGRendererInterface::OpenGL;
+  const auto api = window.rendererInterface()->graphicsApi();
+  return api == QSGRendererInterface::OpenGL || api == QSGRendererInterface::Software;
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ class SceneItemSink;
 /// Shows an engine window's picture in a Qt Quick scene: one to one where item and picture have the
 /// same size in device pixels, else fitted with the aspect kept. Repaints when the engine commits a
 /// frame and never otherwise. While it can't be seen, the engine is told "suspended". Shows nothing
-/// in a scene that isn't drawn with OpenGL.
+/// in a scene that is drawn neither with OpenGL nor by the processor.
 class EngineWindowItem : public QQuickItem {
   Q_OBJECT
 

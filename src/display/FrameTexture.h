@@ -10,7 +10,8 @@ class QSGTexture;
 
 namespace tromelo {
 
-/// Brings frames of one kind to the GPU. Render thread, with the scene's OpenGL context current.
+/// Brings frames of one kind into the scene. Render thread, with the scene's OpenGL context current
+/// where it has one.
 class FrameTexture {
  public:
   virtual ~FrameTexture() = default;
@@ -24,5 +25,7 @@ class FrameTexture {
 
 std::unique_ptr<FrameTexture> createShmTexture();
 std::unique_ptr<FrameTexture> createDmabufTextures();
+/// For shared memory in a scene without OpenGL.
+std::unique_ptr<FrameTexture> createImageTexture();
 
 }  // namespace tromelo

@@ -1,12 +1,21 @@
 #include "display/PictureNode.h"
 
 #include <QQuickWindow>
+#include <QSGRendererInterface>
 #include <chrono>
 #include <utility>
 
 #include "display/PicturePlacement.h"
 
 namespace tromelo {
+
+namespace {
+
+bool drawsInSoftware(const QQuickWindow& window) {
+  return window.rendererInterface()->graphicsApi() == QSGRendererInterface::Software;
+}
+
+}  // namespace
 
 PictureNode::PictureNode(QQuickWindow* window, std::shared_ptr<SceneItemSink> sink)
     : window_(window), sink_(std::move(sink)) {
@@ -42,9 +51,10 @@ void PictureNode::show(std::shared_ptr<Frame> frame, const QRegion& damage) {
   if (!image_) {
     image_.reset(window_->createImageNode());
     image_->setFlag(QSGNode::OwnedByParent, false);
-    appendChildNode(image_.get());
   }
   image_->setTexture(handle);
+  // A scene without OpenGL looks at the texture at once.
+  if (!image_->parent()) appendChildNode(image_.get());
   if (frame_) replaced_.push_back(std::move(frame_));
   frame_ = std::move(frame);
   texture_ = texture;
@@ -56,7 +66,11 @@ void PictureNode::show(std::shared_ptr<Frame> frame, const QRegion& damage) {
 FrameTexture* PictureNode::textureFor(const Frame& frame) {
   const bool isDmabuf = std::holds_alternative<DmabufPixels>(frame.content().buffer->pixels);
   auto& texture = isDmabuf ? dmabuf_ : shm_;
-  if (!texture) texture = isDmabuf ? createDmabufTextures() : createShmTexture();
+  if (texture) return texture.get();
+  if (isDmabuf)
+    texture = createDmabufTextures();
+  else
+    texture = drawsInSoftware(*window_) ? createImageTexture() : createShmTexture();
   return texture.get();
 }
 

@@ -13,6 +13,8 @@ namespace tromelo {
 QStringList hostLines();
 QStringList eglLines();
 QStringList vulkanLines();
+/// There is something for the engine to draw with.
+bool hasVulkanDevice();
 /// What a client of the display at `socketPath` is told.
 QStringList displayLines(const QByteArray& socketPath);
 QString frameLine(const Frame& frame);

@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 #include <sys/un.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <cstdlib>
@@ -61,7 +62,9 @@ std::unique_ptr<SocketDirectory> SocketDirectory::create(QString* error) {
   for (const QByteArray& parent :
        {qgetenv("XDG_RUNTIME_DIR"), QFile::encodeName(QDir::tempPath()), QByteArray("/tmp")})
     if (auto directory = createBelow(parent)) return directory;
-  *error = QStringLiteral("There is no directory for the private display's socket: %1.")
+  *error = QCoreApplication::translate("PrivateDisplay",
+                                       "no folder could be made for the private display (%1); set "
+                                       "XDG_RUNTIME_DIR to one that you can write to.")
                .arg(QString::fromLocal8Bit(std::strerror(errno)));
   return nullptr;
 }

@@ -3,6 +3,7 @@
 #include <pthread.h>
 #include <signal.h>
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 #include <cstdio>
 
@@ -53,7 +54,9 @@ std::unique_ptr<PrivateDisplay> PrivateDisplay::start(const Output& output,
   if (!directory) return nullptr;
   auto display = std::make_unique<ThreadedDisplay>(output, dmabuf, std::move(directory));
   if (display->run()) return display;
-  *error = QStringLiteral("The private display could not be started.");
+  *error = QCoreApplication::translate("PrivateDisplay",
+                                       "the private display did not start; install the package of "
+                                       "the library wlroots again.");
   return nullptr;
 }
 

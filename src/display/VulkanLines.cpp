@@ -93,6 +93,11 @@ QString Instance::describe(VkPhysicalDevice device) const {
 
 }  // namespace
 
+bool hasVulkanDevice() {
+  const Instance instance;
+  return instance.hasLoader() && !instance.devices().empty();
+}
+
 QStringList vulkanLines() {
   const Instance instance;
   if (!instance.hasLoader()) return {QStringLiteral("Vulkan: no loader")};
