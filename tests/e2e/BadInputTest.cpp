@@ -54,16 +54,5 @@ TEST_F(EndToEnd, PlaysSoundWithoutAPictureFromTheLibrary) {
   ASSERT_TRUE(player.waitFor(QStringLiteral("status"), QStringLiteral("Ready for a video")));
 }
 
-TEST_F(EndToEnd, GoesOnWithoutAVulkanDevice) {
-  player.environment.insert(QStringLiteral("VK_DRIVER_FILES"), QStringLiteral("/no/driver.json"));
-  player.start({clip("sample.mp4")});
-  ASSERT_TRUE(player.waitUntil([&] {
-    return player.said(QStringLiteral("error")).startsWith(u"Could not play sample") ||
-           player.said(QStringLiteral("status")) == QStringLiteral("Playing");
-  }));
-  EXPECT_EQ(player.said(QStringLiteral("window")), QStringLiteral("none"));
-  EXPECT_EQ(player.quit(), 0);
-}
-
 }  // namespace
 }  // namespace tromelo::testing
