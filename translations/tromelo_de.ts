@@ -158,6 +158,10 @@
         <source>The playback library libmpv is too old; install version 0.38 or newer to play videos.</source>
         <translation>Die Wiedergabebibliothek libmpv ist zu alt; mit Version 0.38 oder neuer lassen sich Videos abspielen.</translation>
     </message>
+    <message>
+        <source>The playback library libmpv was not found; install it (libmpv2) to play videos.</source>
+        <translation>Die Wiedergabebibliothek libmpv wurde nicht gefunden; installieren Sie sie (libmpv2), um Videos abzuspielen.</translation>
+    </message>
 </context>
 <context>
     <name>FileManager</name>

@@ -18,10 +18,16 @@ namespace tromelo {
 
 namespace {
 
-// A library that is replaced may be older than the one that the program was built with.
 constexpr unsigned long kOldestClientApi = MPV_MAKE_VERSION(2, 3);
-constexpr const char* kTooOld =
-    "The playback library libmpv is too old; install version 0.38 or newer to play videos.";
+
+/// What is wrong with the library that the program found, if anything is.
+std::optional<std::string> libraryFault(unsigned long version) {
+  if (version == 0)
+    return "The playback library libmpv was not found; install it (libmpv2) to play videos.";
+  if (version < kOldestClientApi)
+    return "The playback library libmpv is too old; install version 0.38 or newer to play videos.";
+  return {};
+}
 
 int sendCommand(const MpvClientApi& api, mpv_handle* handle, const MpvCommand& command) {
   std::vector<const char*> arguments;
@@ -52,7 +58,7 @@ MpvEngine::~MpvEngine() {
 
 std::optional<std::string> MpvEngine::initialize(const QString& diagnosticsDirectory) {
   if (handle_) return {};
-  if (api_->clientApiVersion() < kOldestClientApi) return kTooOld;
+  if (auto fault = libraryFault(api_->clientApiVersion())) return fault;
   prepareEngineEnvironment(shippedVulkanManifest());
   handle_ = api_->create();
   if (!handle_) return "Could not create the playback engine";

@@ -10,6 +10,9 @@ namespace {
 [[maybe_unused]] constexpr const char* kReasons[] = {
     QT_TRANSLATE_NOOP("EngineErrorText", "Could not create the playback engine"),
     QT_TRANSLATE_NOOP("EngineErrorText",
+                      "The playback library libmpv was not found; install it (libmpv2) to play "
+                      "videos."),
+    QT_TRANSLATE_NOOP("EngineErrorText",
                       "The playback library libmpv is too old; install version 0.38 or newer to "
                       "play videos."),
     QT_TRANSLATE_NOOP("EngineErrorText", "memory allocation failed"),

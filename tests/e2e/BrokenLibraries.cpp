@@ -22,9 +22,14 @@ Function real(const char* name) {
 
 extern "C" {
 
-unsigned long mpv_client_api_version() {
-  if (isBroken("libmpv")) return 0x20002;
-  return real<unsigned long (*)()>("mpv_client_api_version")();
+unsigned long mpv_client_api_version() { return 0x20002; }
+
+void* dlopen(const char* file, int flags) {
+  const auto open = real<void* (*)(const char*, int)>("dlopen");
+  const bool isLibmpv = file && std::strstr(file, "libmpv");
+  if (isLibmpv && isBroken("no libmpv")) return nullptr;
+  if (isLibmpv && isBroken("old libmpv")) file = nullptr;  // the version above is the whole of it
+  return open(file, flags);
 }
 
 char* mkdtemp(char* path) {

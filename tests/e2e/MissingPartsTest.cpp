@@ -113,7 +113,8 @@ TEST_F(MissingParts, WithoutAnEngineTheLibraryOpensAndSaysWhy) {
     const char* part;
     const char* error;
   } rows[] = {
-      {"libmpv", "The playback library libmpv is too old; install version 0.38 or newer"},
+      {"no libmpv", "The playback library libmpv was not found; install it (libmpv2)"},
+      {"old libmpv", "The playback library libmpv is too old; install version 0.38 or newer"},
       {"folder",
        "Videos can't be shown: no folder could be made for the private display (Read-only"},
       {"wlroots", "Videos can't be shown: the private display did not start; install"},

@@ -96,6 +96,8 @@ TEST_F(EngineStart, AFailureIsOneLineAndLeavesNoHandle) {
   } rows[] = {
       {"no engine", [](FakeMpv& m) { m.cannotBeCreated = true; },
        "Could not create the playback engine"},
+      {"no library", [](FakeMpv& m) { m.version = 0; },
+       "The playback library libmpv was not found; install it (libmpv2) to play videos."},
       {"an old library", [](FakeMpv& m) { m.version = 0x20002; },
        "The playback library libmpv is too old; install version 0.38 or newer to play videos."},
       {"unknown option", [](FakeMpv& m) { m.optionResults["vo"] = MPV_ERROR_OPTION_NOT_FOUND; },
