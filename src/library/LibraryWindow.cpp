@@ -79,7 +79,7 @@ void LibraryWindow::fadeTo(double opacity, std::chrono::milliseconds duration,
   if (!window_ && opacity == 0) {
     isComing_ = false;
     opacity_ = 0;
-    if (completed) completed();
+    if (completed) QMetaObject::invokeMethod(this, std::move(completed), Qt::QueuedConnection);
     return;
   }
   if (!window_) make();
