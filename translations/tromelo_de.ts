@@ -469,6 +469,10 @@
         <source>%1 decode · %2 output</source>
         <translation>%1 Dekoder · %2 Ausgabe</translation>
     </message>
+    <message>
+        <source>Playback info</source>
+        <translation>Wiedergabeinfo</translation>
+    </message>
 </context>
 <context>
     <name>PlayerPanels</name>
@@ -956,13 +960,6 @@
     </message>
 </context>
 <context>
-    <name>ThinScrollBar</name>
-    <message>
-        <source>Scroll</source>
-        <translation>Scrollen</translation>
-    </message>
-</context>
-<context>
     <name>TimeRow</name>
     <message>
         <source>Position</source>
@@ -1131,6 +1128,22 @@
     <message>
         <source>%1 seconds</source>
         <translation>%1 Sekunden</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>Light blue</source>
+        <translation>Hellblau</translation>
+    </message>
+    <message>
+        <source>Light green</source>
+        <translation>Hellgrün</translation>
     </message>
 </context>
 <context>

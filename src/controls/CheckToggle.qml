@@ -24,6 +24,8 @@ T.CheckBox {
     Keys.onEnterPressed: press()
     Accessible.name: text
     Accessible.description: tip
+    Accessible.onPressAction: press()
+    Accessible.onToggleAction: press()
 
     indicator: Rectangle {
         anchors.verticalCenter: box.verticalCenter
@@ -32,7 +34,7 @@ T.CheckBox {
         radius: Theme.checkBoxRadius
         color: box.down ? Theme.fieldPressed : box.checked ? Theme.fieldOn : box.hovered ? Theme.fieldHovered : Theme.fieldSurface
         border.width: box.visualFocus ? Theme.focusWidth : Theme.hairline
-        border.color: box.visualFocus ? Theme.accent : Theme.fieldEdge
+        border.color: box.visualFocus ? (box.checked ? Theme.primaryText : Theme.accent) : Theme.fieldEdge
 
         Symbol {
             anchors.centerIn: parent

@@ -16,14 +16,25 @@ T.Button {
     hoverEnabled: true
     Keys.onReturnPressed: click()
     Keys.onEnterPressed: click()
-    Accessible.name: tip
 
     background: Rectangle {
         radius: height / 2
         color: swatch.color
         opacity: swatch.down ? 0.7 : 1
-        border.width: swatch.visualFocus ? Theme.focusWidth : Theme.hairline
-        border.color: swatch.visualFocus ? Theme.accent : swatch.hovered ? Theme.primaryText : Theme.swatchEdge
+        border.width: Theme.hairline
+        border.color: swatch.hovered ? Theme.primaryText : Theme.swatchEdge
+
+        // Outside, where it stands out from any colour.
+        Rectangle {
+            objectName: "focusRing"
+            anchors.fill: parent
+            anchors.margins: -2 * Theme.focusWidth
+            visible: swatch.visualFocus
+            radius: height / 2
+            color: "transparent"
+            border.width: Theme.focusWidth
+            border.color: Theme.accent
+        }
     }
 
     HoverTip {

@@ -19,6 +19,7 @@ T.MenuItem {
     hoverEnabled: true
     Accessible.name: Mnemonic.plainText(text)
     Accessible.description: keys
+    Accessible.onPressAction: click()
 
     contentItem: Item {
         opacity: item.enabled ? 1 : Theme.disabledOpacity

@@ -24,7 +24,9 @@ T.MenuBarItem {
     leftPadding: Theme.commandSide
     rightPadding: Theme.commandSide
     hoverEnabled: true
+    Accessible.role: Accessible.MenuItem
     Accessible.name: text
+    Accessible.onPressAction: open()
 
     contentItem: Text {
         text: Mnemonic.markedText(title.commands.text, title.showsLetters)

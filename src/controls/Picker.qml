@@ -19,6 +19,8 @@ T.ComboBox {
     wheelEnabled: false
     Keys.onReturnPressed: popup.open()
     Keys.onEnterPressed: popup.open()
+    Accessible.description: displayText
+    Accessible.onPressAction: popup.open()
 
     contentItem: Text {
         text: picker.displayText
@@ -62,6 +64,8 @@ T.ComboBox {
         text: modelData
         font: picker.font
         Accessible.name: text
+        Accessible.selected: index === picker.currentIndex
+        Accessible.onPressAction: click()
 
         contentItem: Text {
             text: entry.text

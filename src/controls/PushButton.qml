@@ -37,6 +37,6 @@ T.Button {
         radius: Theme.fieldRadius
         color: button.down ? Theme.fieldPressed : button.checked ? Theme.fieldOn : button.hovered ? Theme.fieldHovered : Theme.fieldSurface
         border.width: button.visualFocus ? Theme.focusWidth : Theme.hairline
-        border.color: button.visualFocus ? Theme.accent : Theme.fieldEdge
+        border.color: button.visualFocus ? (button.checked ? Theme.primaryText : Theme.accent) : Theme.fieldEdge
     }
 }

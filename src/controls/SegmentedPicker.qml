@@ -49,10 +49,14 @@ Rectangle {
                 implicitWidth: Math.ceil(implicitContentWidth) + 2 * Theme.fieldSide
                 implicitHeight: picker.height - 2 * Theme.fieldInset
                 hoverEnabled: true
+                // A press changes it only through what is chosen.
+                checkable: true
+                checked: isChosen
+                onToggled: checked = Qt.binding(() => isChosen)
                 Accessible.role: Accessible.RadioButton
                 Accessible.name: text
-                Accessible.checkable: true
-                Accessible.checked: isChosen
+                Accessible.onPressAction: click()
+                Accessible.onToggleAction: click()
                 onClicked: picker.chosen(index)
                 onIsChosenChanged: if (isChosen && Window.activeFocusItem?.parent === segments && !activeFocus)
                     forceActiveFocus(Qt.TabFocusReason)

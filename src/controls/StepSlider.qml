@@ -9,6 +9,9 @@ T.Slider {
     id: slider
 
     required property real shown
+    // By these names assistive technology finds them.
+    readonly property real minimumValue: from
+    readonly property real maximumValue: to
 
     // By hand, by key or by assistive technology.
     signal chosen(real value)
@@ -44,7 +47,17 @@ T.Slider {
         height: width
         radius: height / 2
         color: slider.pressed ? Theme.fieldKnobHeld : Theme.fieldKnob
-        border.width: slider.visualFocus ? Theme.focusWidth : 0
-        border.color: Theme.accent
+
+        // Outside, where it stands out from any knob.
+        Rectangle {
+            objectName: "focusRing"
+            anchors.fill: parent
+            anchors.margins: -2 * Theme.focusWidth
+            visible: slider.visualFocus
+            radius: height / 2
+            color: "transparent"
+            border.width: Theme.focusWidth
+            border.color: Theme.accent
+        }
     }
 }

@@ -43,6 +43,7 @@ Row {
             Accessible.role: Accessible.PageTab
             Accessible.name: text
             Accessible.selected: isCurrent
+            Accessible.onPressAction: click()
             onClicked: strip.chosen(index)
             onIsCurrentChanged: if (isCurrent && !activeFocus)
                 forceActiveFocus(Qt.TabFocusReason)

@@ -14,7 +14,7 @@ T.ScrollBar {
     minimumSize: Theme.scrollLeast
     focusPolicy: Qt.NoFocus
     hoverEnabled: true
-    Accessible.name: qsTr("Scroll")
+    Accessible.ignored: true
 
     contentItem: Rectangle {
         implicitWidth: Theme.scrollWidth

@@ -13,11 +13,14 @@ GlassSurface {
     property color tint: Theme.primaryText
     // The room for it.
     required property real room
+    readonly property string told: visible ? message : ""
 
     implicitWidth: Math.min(room, Math.ceil(words.implicitWidth) + words.x + Theme.messagePadding)
     implicitHeight: words.height + 2 * Theme.messageRise
     Accessible.role: Accessible.AlertMessage
     Accessible.name: message
+    onToldChanged: if (told !== "")
+        Accessible.announce(told, Accessible.Assertive)
 
     Symbol {
         id: sign

@@ -30,6 +30,7 @@ T.AbstractButton {
     Accessible.name: name
     Accessible.description: path
     Accessible.selected: chosen
+    Accessible.onPressAction: click()
 
     HoverTip {
         control: row

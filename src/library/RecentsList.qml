@@ -46,6 +46,8 @@ Rectangle {
         font: Theme.libraryText
         color: Theme.secondaryText
         wrapMode: Text.Wrap
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
 
     ListView {

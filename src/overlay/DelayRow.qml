@@ -14,6 +14,8 @@ RowLayout {
     signal chosen(real seconds)
 
     spacing: Theme.trackSpacing
+    Accessible.role: Accessible.Grouping
+    Accessible.name: label
 
     Text {
         Layout.fillWidth: true
@@ -36,6 +38,8 @@ RowLayout {
         text: Format.delay(row.delay)
         font: Theme.panelNumber
         color: Theme.overlayText
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
 
     PanelButton {

@@ -19,6 +19,14 @@ Row {
 
     signal fullscreenToggled
 
+    // Opens and closes something. A press changes what it is only through that.
+    component Opener: IconButton {
+        checkable: true
+        checked: active
+        onToggled: checked = Qt.binding(() => active)
+        Accessible.role: Accessible.Button
+    }
+
     SpeedMenu {
         id: speed
 
@@ -28,7 +36,7 @@ Row {
         room: options.room
     }
 
-    IconButton {
+    Opener {
         id: chapters
 
         objectName: "chaptersButton"
@@ -39,7 +47,7 @@ Row {
         onClicked: options.chrome.showsChapters = !options.chrome.showsChapters
     }
 
-    IconButton {
+    Opener {
         id: tracks
 
         objectName: "tracksButton"
@@ -49,7 +57,7 @@ Row {
         onClicked: options.chrome.showsTracks = !options.chrome.showsTracks
     }
 
-    IconButton {
+    Opener {
         id: queue
 
         objectName: "queueButton"
@@ -59,7 +67,7 @@ Row {
         onClicked: options.chrome.showsQueue = !options.chrome.showsQueue
     }
 
-    IconButton {
+    Opener {
         objectName: "infoButton"
         symbol: "info.circle"
         tip: qsTr("Playback info (I)")

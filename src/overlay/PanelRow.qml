@@ -19,6 +19,8 @@ T.AbstractButton {
     focusPolicy: Qt.NoFocus
     hoverEnabled: true
     Accessible.role: Accessible.ListItem
+    Accessible.onPressAction: click()
+    Accessible.onToggleAction: click()
 
     leftInset: -outset
     rightInset: -outset

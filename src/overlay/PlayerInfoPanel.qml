@@ -13,6 +13,8 @@ OverlaySurface {
 
     objectName: "playerInfoPanel"
     visible: chrome.showsInfo
+    Accessible.role: Accessible.Grouping
+    Accessible.name: qsTr("Playback info")
     implicitWidth: Theme.infoWidth
     implicitHeight: rows.implicitHeight + 2 * Theme.infoPadding
     radius: Theme.infoRadius

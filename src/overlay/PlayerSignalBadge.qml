@@ -14,6 +14,9 @@ OverlaySurface {
     readonly property real tagRoom: tag.visible ? tag.width + Theme.badgeSpacing : 0
 
     objectName: "playerSignalBadge"
+    Accessible.role: Accessible.StaticText
+    Accessible.name: title.text
+    Accessible.description: chapter.text
     implicitWidth: Theme.badgeLeading + tagRoom + Math.min(titleWidth, Theme.badgeTitleWidth) + Theme.badgeTrailing
     implicitHeight: Math.ceil(titles.implicitHeight) + 2 * Theme.badgeRise
 

@@ -13,8 +13,6 @@ SliderInput {
     opacity: enabled ? 1 : Theme.overlayDisabled
     Accessible.role: Accessible.Slider
     Accessible.name: name
-    Accessible.onIncreaseAction: increase()
-    Accessible.onDecreaseAction: decrease()
 
     Rectangle {
         anchors.verticalCenter: parent.verticalCenter

@@ -28,5 +28,7 @@ GlassSurface {
         elide: Text.ElideMiddle
         Accessible.role: Accessible.AlertMessage
         Accessible.name: words.text
+        onTextChanged: if (text !== "")
+            Accessible.announce(text)
     }
 }

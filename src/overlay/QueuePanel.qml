@@ -67,6 +67,8 @@ Item {
             wrapMode: Text.Wrap
             font: Theme.panelCallout
             color: Theme.secondaryText
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
 
         ListView {

@@ -58,6 +58,7 @@ PanelRow {
             symbol: "xmark.circle.fill"
             tint: Theme.secondaryText
             tip: qsTr("Remove from queue")
+            Accessible.description: row.title
             onClicked: row.removed()
         }
     }

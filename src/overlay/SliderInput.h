@@ -36,9 +36,6 @@ class SliderInput : public QQuickItem {
   double knobX() const { return knobX_; }
   bool isDragged() const { return isDragged_; }
 
-  Q_INVOKABLE void increase() { ask(shown_ + stepSize_); }
-  Q_INVOKABLE void decrease() { ask(shown_ - stepSize_); }
-
  Q_SIGNALS:
   void shownChanged();
   void maximumValueChanged();

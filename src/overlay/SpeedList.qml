@@ -57,9 +57,12 @@ MouseArea {
                     focusPolicy: Qt.NoFocus
                     hoverEnabled: true
                     text: Format.speed(modelData)
+                    // A press changes it only through the speed.
+                    checkable: true
+                    checked: isCurrent
+                    onToggled: checked = Qt.binding(() => isCurrent)
                     Accessible.role: Accessible.MenuItem
-                    Accessible.checkable: true
-                    Accessible.checked: isCurrent
+                    Accessible.onPressAction: click()
                     onClicked: {
                         list.playback.setSpeed(modelData);
                         list.dismissed();

@@ -24,6 +24,7 @@ PlainButton {
     active: isOpen || !Format.isSameSpeed(playback.speed, 1)
     Accessible.role: Accessible.ButtonMenu
     Accessible.description: text
+    Accessible.onPressAction: click()
     onClicked: chrome.showsSpeeds = true
 
     contentItem: Text {

@@ -18,6 +18,8 @@ Item {
         width: Math.max(Math.ceil(implicitWidth), Theme.timeWidth)
         font: Theme.overlayClock
         color: Theme.timeText
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
 
     Time {

@@ -15,11 +15,13 @@ PanelRow {
     bottomPadding: Theme.trackRise
     // What shows where the pointer is reaches a little further than the text.
     outset: Theme.trackOutset
+    // A press changes it only through the player.
+    checkable: true
+    checked: isSelected
+    onToggled: checked = Qt.binding(() => isSelected)
     Accessible.role: Accessible.RadioButton
     Accessible.name: name
     Accessible.description: details
-    Accessible.checkable: true
-    Accessible.checked: isSelected
 
     contentItem: Row {
         spacing: Theme.trackSpacing

@@ -60,6 +60,10 @@ const QList<RgbaColor>& PlayerSettings::colorPresets() {
   return presets;
 }
 
+QStringList PlayerSettings::colorPresetNames() {
+  return {tr("White"), tr("Yellow"), tr("Light blue"), tr("Light green")};
+}
+
 void PlayerSettings::setAutoHideDelay(double seconds) {
   const double before = values_.autoHideDelay;
   write(values_.autoHideDelay, keptAutoHideDelay(seconds));

@@ -42,6 +42,7 @@ class PlayerSettings : public QObject {
   Q_PROPERTY(QStringList fonts READ fonts CONSTANT)
   Q_PROPERTY(QList<tromelo::AutoHideChoice> autoHideChoices READ autoHideChoices CONSTANT)
   Q_PROPERTY(QList<tromelo::RgbaColor> colorPresets READ colorPresets CONSTANT)
+  Q_PROPERTY(QStringList colorPresetNames READ colorPresetNames CONSTANT)
   Q_PROPERTY(QStringList borderStyleLabels READ borderStyleLabels CONSTANT)
 
  public:
@@ -52,6 +53,8 @@ class PlayerSettings : public QObject {
   static const QStringList& fonts();
   static const QList<AutoHideChoice>& autoHideChoices();
   static const QList<RgbaColor>& colorPresets();
+  /// One for each preset, in the person's language.
+  static QStringList colorPresetNames();
   /// In the person's language.
   static QStringList autoHideLabels();
   static QStringList borderStyleLabels() { return tromelo::borderStyleLabels(); }

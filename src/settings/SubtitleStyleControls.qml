@@ -74,12 +74,15 @@ Column {
 
             ColorSwatch {
                 required property rgbaColor modelData
+                required property int index
 
                 objectName: "subtitleColorPreset"
                 anchors.verticalCenter: parent.verticalCenter
                 focusPolicy: controls.focusPolicy
                 color: modelData.color
                 tip: qsTr("Use this color")
+                Accessible.name: controls.settings.colorPresetNames[index]
+                Accessible.description: tip
                 onClicked: controls.settings.subtitleColor = modelData
             }
         }

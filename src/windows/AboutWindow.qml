@@ -40,6 +40,8 @@ Window {
                 text: qsTr("Tromelo")
                 font: Theme.title
                 color: Theme.primaryText
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
             }
 
             Text {
@@ -47,9 +49,13 @@ Window {
                 font: Theme.panelText
                 color: Theme.secondaryText
                 lineHeight: 1.3
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
             }
 
             TextEdit {
+                id: details
+
                 objectName: "aboutDetails"
                 width: content.width - 2 * content.padding
                 text: window.facts.details
@@ -64,6 +70,16 @@ Window {
                 wrapMode: TextEdit.Wrap
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
+
+                Rectangle {
+                    anchors.fill: parent
+                    anchors.margins: -Theme.fieldSide
+                    visible: details.activeFocus
+                    radius: Theme.fieldRadius
+                    color: "transparent"
+                    border.width: Theme.focusWidth
+                    border.color: Theme.accent
+                }
             }
 
             PushButton {

@@ -56,5 +56,7 @@ Item {
         font: Theme.panelCallout
         color: Theme.secondaryText
         wrapMode: Text.Wrap
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
 }

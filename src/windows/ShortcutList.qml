@@ -55,6 +55,8 @@ Flickable {
                     text: group.modelData.title
                     font: Theme.panelHeader
                     color: Theme.primaryText
+                    Accessible.role: Accessible.Heading
+                    Accessible.name: text
                 }
 
                 Repeater {
@@ -66,6 +68,8 @@ Flickable {
                         required property shortcut modelData
 
                         spacing: Theme.rowSpacing
+                        Accessible.role: Accessible.ListItem
+                        Accessible.name: modelData.keys + ": " + modelData.action
 
                         Text {
                             id: keys
@@ -92,6 +96,8 @@ Flickable {
             text: qsTr("Press ? in the player to show this list over the video.")
             font: Theme.panelCallout
             color: Theme.secondaryText
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
     }
 

@@ -41,6 +41,8 @@ Column {
             font: Theme.panelCallout
             color: Theme.secondaryText
             verticalAlignment: Text.AlignVCenter
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
 
         PushButton {
