@@ -1,0 +1,140 @@
+#include "RandomUse.h"
+
+#include <QElapsedTimer>
+#include <array>
+
+#include "Screen.h"
+#include "support/Clips.h"
+#include "support/WaitFor.h"
+
+namespace tromelo::testing {
+
+namespace {
+
+constexpr std::array kFilms{"sample.mp4", "short-wide.mp4", "short-tall.mp4", "short-square.mp4",
+                            "tracks.mkv", "hdr10.mkv",      "sample.mkv",     "video-only.mkv"};
+constexpr std::array kOthers{"audio.m4a", "empty.mkv", "text.mkv", "truncated.mkv"};
+
+QString clip(const char* name) { return QString::fromStdString(clipPath(name)); }
+
+std::string named(const char* what, const char* film, bool waits) {
+  return std::string(what) + ' ' + film + (waits ? " and see it" : "");
+}
+
+}  // namespace
+
+RandomUse::RandomUse(RunningPlayer& player, unsigned seed)
+    : player_(player), engine_(player.ipcPath()), random_(seed) {
+  engine_.set(QStringLiteral("ao"), QStringLiteral("null"));  // the machine may have no sound
+}
+
+int RandomUse::below(int limit) { return int(random_() % unsigned(limit)); }
+
+bool RandomUse::chance(double probability) {
+  return random_() < probability * double(std::mt19937::max());
+}
+
+RandomUse::Step RandomUse::step() {
+  const bool waits = chance(0.6);
+  switch (below(10)) {
+    case 0:
+    case 1:
+    case 2:
+      return open(waits);
+    case 3:
+      return next(waits);
+    case 4:
+    case 5:
+      return seek();
+    case 6:
+    case 7:
+      return pause();
+    default:
+      return close();
+  }
+}
+
+bool RandomUse::waitForFilm(const QString& name) {
+  return player_.waitUntil([&] {
+    return player_.isRevealed() && name.startsWith(player_.said(QStringLiteral("title")) + u'.') &&
+           player_.said(QStringLiteral("status")) != QStringLiteral("Opening media");
+  });
+}
+
+/// What is sent to the engine from here would overtake what the program sent it, and without the
+/// program's knowledge a film could come up in the window that was given up.
+bool RandomUse::waitForIdle() {
+  return testing::waitFor([&] {
+    if (engine_.get(QStringLiteral("idle-active")).toBool())
+      return !engine_.get(QStringLiteral("current-vo")).isString();
+    // It plays without the window that the key was meant for.
+    if (player_.said(QStringLiteral("title")) == QStringLiteral("audio"))
+      engine_.command({QStringLiteral("stop")});
+    return false;
+  });
+}
+
+RandomUse::Step RandomUse::openAndWait() { return open(true); }
+
+RandomUse::Step RandomUse::open(bool waits) {
+  const bool isFilm = waits || chance(0.8);
+  const char* name = isFilm ? kFilms[std::size_t(below(int(kFilms.size())))]
+                            : kOthers[std::size_t(below(int(kOthers.size())))];
+  engine_.command({QStringLiteral("loadfile"), clip(name)});
+  return {.name = named("open", name, waits),
+          .isDone = !waits || waitForFilm(QString::fromLatin1(name))};
+}
+
+RandomUse::Step RandomUse::next(bool waits) {
+  const char* name = kFilms[std::size_t(below(int(kFilms.size())))];
+  engine_.command({QStringLiteral("loadfile"), clip(name), QStringLiteral("append-play")});
+  engine_.set(QStringLiteral("playlist-pos"),
+              engine_.get(QStringLiteral("playlist-count")).toInt() - 1);
+  return {.name = named("next", name, waits),
+          .isDone = !waits || waitForFilm(QString::fromLatin1(name))};
+}
+
+RandomUse::Step RandomUse::seek() {
+  const int percent = below(100);
+  engine_.command({QStringLiteral("seek"), percent, QStringLiteral("absolute-percent")});
+  return {.name = "seek", .isDone = true};
+}
+
+RandomUse::Step RandomUse::pause() {
+  const bool paused = chance(0.5);
+  engine_.set(QStringLiteral("pause"), paused);
+  // Not for long, where a film is closing at the moment.
+  return {.name = paused ? "pause" : "play", .isDone = true};
+}
+
+/// The film's window has the keyboard; false when there is none any more.
+bool RandomUse::waitForKeyboard() {
+  return player_.waitUntil([&] {
+    if (!player_.isRevealed()) return true;
+    const QString window =
+        screen::windowOf(player_.processId(), player_.said(QStringLiteral("title")));
+    return !window.isEmpty() &&
+           window == screen::run(QStringLiteral("xdotool"), {QStringLiteral("getactivewindow")});
+  }) && player_.isRevealed();
+}
+
+RandomUse::Step RandomUse::close() {
+  const bool hasKeyboard = waitForKeyboard();
+  QElapsedTimer timer;
+  timer.start();
+  if (hasKeyboard)
+    screen::press(QStringLiteral("s"));
+  else
+    engine_.command({QStringLiteral("stop")});
+  const bool isDone = player_.waitUntil([&] {
+    return player_.said(QStringLiteral("window")) == QStringLiteral("none") &&
+           !screen::windowOf(player_.processId(), QStringLiteral("^Tromelo$")).isEmpty();
+  });
+  const std::chrono::milliseconds closing(timer.elapsed());
+  return {.name = "close",
+          .isDone = isDone && waitForIdle(),
+          .closing = closing,
+          .use = ProcessUse::of(player_.processId())};
+}
+
+}  // namespace tromelo::testing

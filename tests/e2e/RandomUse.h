@@ -1,0 +1,48 @@
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <random>
+#include <string>
+
+#include "EngineProbe.h"
+#include "ProcessUse.h"
+#include "RunningPlayer.h"
+
+namespace tromelo::testing {
+
+/// Somebody who opens, plays, seeks, pauses and closes films without a plan, and often without
+/// waiting for what comes of it. The same seed does the same. X11.
+class RandomUse {
+ public:
+  /// `player` has been started.
+  RandomUse(RunningPlayer& player, unsigned seed);
+
+  struct Step {
+    std::string name;
+    bool isDone = false;                                    // what had to come of it came
+    std::optional<std::chrono::milliseconds> closing = {};  // from the key to the library
+    std::optional<ProcessUse> use = {};                     // at rest, in the library
+  };
+  Step step();
+
+  Step openAndWait();
+  Step close();
+
+ private:
+  Step open(bool waits);
+  Step next(bool waits);
+  Step seek();
+  Step pause();
+  bool chance(double probability);
+  int below(int limit);
+  bool waitForFilm(const QString& name);
+  bool waitForKeyboard();
+  bool waitForIdle();
+
+  RunningPlayer& player_;
+  EngineProbe engine_;
+  std::mt19937 random_;
+};
+
+}  // namespace tromelo::testing
