@@ -52,18 +52,18 @@ Program::~Program() = default;
 int Program::run() {
   role_ = service_.start(requestOf(commandLine_));
   if (role_ == ApplicationService::Role::handedOver) return 0;
-  hasOpenGl_ = chooseSceneDrawing();
   startDisplay();
   makeDelegate();
   connectService();
   if (commandLine_.report) startReport();
   tellOfStorageErrors();
-  tellOfWhatIsMissing();
+  tellOfMissingLog();
   offerToDesktop();
   offerMediaControls();
   keepAwake();
   delegate_->applicationDidFinishLaunching();
   // From here on the engine opens the file, if there is one, beside us.
+  chooseDrawing();
   followReducedMotion();
   if (delegate_->player().isAwaitingVideo())
     stage_->prepareWindow(delegate_->playback(), delegate_->player());
@@ -71,6 +71,17 @@ int Program::run() {
   defaults_.flush();
   if (report_) report_->flush();
   return status;
+}
+
+void Program::chooseDrawing() {
+  const bool hasOpenGl = chooseSceneDrawing();
+  const bool inSoftware = !hasOpenGl || drawsInSoftware(platformEglDisplay());
+  setGlassRendering(chooseGlassRendering(qgetenv("TROMELO_GLASS"), inSoftware));
+  if (!hasOpenGl)
+    delegate_->playback().tell(QCoreApplication::translate(
+        "Program",
+        "OpenGL doesn't work here, which makes drawing slow; install the OpenGL driver of your "
+        "graphics card (libgl1-mesa-dri)."));
 }
 
 void Program::followReducedMotion() {
@@ -81,9 +92,7 @@ void Program::followReducedMotion() {
 }
 
 void Program::startDisplay() {
-  const bool inSoftware = !hasOpenGl_ || drawsInSoftware(platformEglDisplay());
-  setGlassRendering(chooseGlassRendering(qgetenv("TROMELO_GLASS"), inSoftware));
-  const auto dmabuf = hasOpenGl_ ? DmabufSupport::query() : std::nullopt;
+  const auto dmabuf = DmabufSupport::query();
   QString error;
   display_ = PrivateDisplay::start(PlayerStage::outputOf(*QGuiApplication::primaryScreen()), dmabuf,
                                    &error);
@@ -183,16 +192,11 @@ void Program::tellOfStorageErrors() {
   });
 }
 
-void Program::tellOfWhatIsMissing() {
+void Program::tellOfMissingLog() {
   const QString logs = diagnosticsDirectoryPath();
   if (const QFileInfo folder(logs); !folder.isDir() || !folder.isWritable())
     std::fprintf(stderr, "The log of playback can't be written; make %s a folder that is yours.\n",
                  qPrintable(logs));
-  if (!hasOpenGl_)
-    delegate_->playback().tell(QCoreApplication::translate(
-        "Program",
-        "OpenGL doesn't work here, which makes drawing slow; install the OpenGL driver of your "
-        "graphics card (libgl1-mesa-dri)."));
 }
 
 void Program::offerToDesktop() {

@@ -34,8 +34,9 @@ class Program {
   int run();
 
  private:
-  void followReducedMotion();
   void startDisplay();
+  void chooseDrawing();
+  void followReducedMotion();
   void makeDelegate();
   std::unique_ptr<HostWindow> makeLibraryWindow(PlaybackModel& playback,
                                                 PlayerWindowController& player);
@@ -44,7 +45,7 @@ class Program {
   void connectService();
   void startReport();
   void tellOfStorageErrors();
-  void tellOfWhatIsMissing();
+  void tellOfMissingLog();
   void offerToDesktop();
   void offerMediaControls();
   void keepAwake();
@@ -60,7 +61,6 @@ class Program {
   std::unique_ptr<IdleInhibitor> idleInhibitor_;
   ApplicationService service_;
   ApplicationService::Role role_ = ApplicationService::Role::alone;
-  bool hasOpenGl_ = true;
   std::unique_ptr<PrivateDisplay> display_;
   QString displayFault_;  // a sentence: why there is none
   QQmlEngine qmlEngine_;

@@ -17,7 +17,10 @@ constexpr QSize kContentSize(1100, 720);  // points
 // A file that takes longer to open leaves the person in front of nothing.
 constexpr std::chrono::milliseconds kPatience = std::chrono::seconds(1);
 
-/// What starting up and the scene used and left is of no use to the film that plays next.
+// Until the window has come up and what played before is gone.
+constexpr std::chrono::milliseconds kSettled = std::chrono::seconds(3);
+
+/// What starting up, the scene and the films used and left is of no use to what comes next.
 void giveFreedMemoryBack() {
 #ifdef __GLIBC__
   malloc_trim(0);
@@ -37,6 +40,11 @@ LibraryWindow::LibraryWindow(QQmlEngine& engine, PlaybackModel& playback,
       frame_(defaults, QStringLiteral("TromeloLibrary")),
       sidebarWidth_(defaults) {
   patience_.setSingleShot(true);
+  settled_.setSingleShot(true);
+  settled_.setInterval(kSettled);
+  connect(&settled_, &QTimer::timeout, this, [this] {
+    if (isVisible()) giveFreedMemoryBack();
+  });
   connect(&patience_, &QTimer::timeout, this, &LibraryWindow::present);
   connect(&fileManager_, &FileManager::failed, &playback, &PlaybackModel::tell);
 }
@@ -107,6 +115,7 @@ void LibraryWindow::present() {
   if (window_->windowStates() & Qt::WindowMinimized)
     window_->setWindowStates(window_->windowStates() & ~Qt::WindowMinimized);
   window_->setVisible(true);
+  settled_.start();
   window_->raise();
   window_->requestActivate();
 }

@@ -59,6 +59,7 @@ class LibraryWindow : public HostWindow {
   FileManager fileManager_;
   bool isComing_ = false;
   QTimer patience_;
+  QTimer settled_;
   double opacity_ = 1;
   std::unique_ptr<QQuickWindow> window_;
   std::unique_ptr<WindowFade> fade_;
