@@ -28,7 +28,7 @@ GlassSurface {
         elide: Text.ElideMiddle
         Accessible.role: Accessible.AlertMessage
         Accessible.name: words.text
-        onTextChanged: if (text !== "")
-            Accessible.announce(text)
+        onTextChanged: if (words.text !== "")
+            Accessible.announce(words.text)
     }
 }

@@ -54,7 +54,7 @@ TEST_F(BadInput, WhatCannotBePlayedIsNamedAndTheNextFilePlays) {
                                 .arg(lastPathComponentWithoutExtension(url), row.reason);
     EXPECT_TRUE(failsWith(url, message)) << row.name << model_.errorMessage().toStdString();
     EXPECT_EQ(model_.buffering(), "Unavailable") << row.name;
-    EXPECT_EQ(player_.take().last(), "library") << row.name;
+    EXPECT_TRUE(player_.take().contains("library")) << row.name;
   }
   EXPECT_TRUE(plays(clip("short-wide.mp4")));
   EXPECT_EQ(model_.errorMessage(), "");
