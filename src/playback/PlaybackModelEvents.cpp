@@ -168,6 +168,9 @@ void PlaybackModel::updateStatus() {
 void PlaybackModel::publishQueue(const PlayQueue& queue) {
   outlook_.reported(queue);
   queue_ = queue;
+  // A file can fail before those that were opened with it have reached the engine.
+  if (!hasFailed_) return;
+  if (const auto next = outlook_.leftOver(queue)) playQueueItem(*next);
 }
 
 }  // namespace tromelo

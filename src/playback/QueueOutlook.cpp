@@ -1,11 +1,12 @@
 #include "playback/QueueOutlook.h"
 
+#include <algorithm>
+
 namespace tromelo {
 
 void QueueOutlook::opened(const QString& title) {
   *this = {};
   awaitsFirst_ = true;
-  position_ = -1;
   appended(title);
 }
 
@@ -15,6 +16,7 @@ void QueueOutlook::appended(const QString& title) {
 }
 
 void QueueOutlook::fileStarted() {
+  left_.push_back(position_);
   if (jump_) {
     position_ = *jump_;
   } else if (!reportIsAhead_) {
@@ -23,18 +25,24 @@ void QueueOutlook::fileStarted() {
   jump_.reset();
   awaitsFirst_ = false;
   reportIsAhead_ = false;
-  startedSinceReport_ = true;
 }
 
 void QueueOutlook::reported(const PlayQueue& queue) {
   if (awaitsFirst_) return;
-  const qsizetype current = currentIndex(queue).value_or(queue_.size());
+  const qsizetype current = currentIndex(queue).value_or(position_);
   const bool wasMoved = queue.size() < queue_.size() && isSameFile(queue, current);
   if (queue.size() >= queue_.size()) awaitsMore_ = false;
   if (!awaitsMore_) queue_ = queue;
-  reportIsAhead_ = current != position_ && !startedSinceReport_ && !wasMoved;
+  // The engine's answer can be older than the starts that it told of meanwhile.
+  if (!wasMoved && current != position_ && std::ranges::find(left_, current) != left_.end()) return;
+  reportIsAhead_ = current != position_ && left_.empty() && !wasMoved;
   position_ = current;
-  startedSinceReport_ = false;
+  left_.clear();
+}
+
+std::optional<qsizetype> QueueOutlook::leftOver(const PlayQueue& queue) const {
+  if (awaitsFirst_ || jump_ || currentIndex(queue) || position_ + 1 >= queue.size()) return {};
+  return position_ + 1;
 }
 
 /// As the one that started last.
@@ -45,7 +53,7 @@ bool QueueOutlook::isSameFile(const PlayQueue& queue, qsizetype current) const {
 }
 
 std::optional<QString> QueueOutlook::unreportedTitle() const {
-  if (!startedSinceReport_ || position_ < 0 || position_ >= queue_.size()) return {};
+  if (left_.empty() || position_ < 0 || position_ >= queue_.size()) return {};
   return queue_[position_].title;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <optional>
+#include <vector>
 
 #include "playback/QueueItem.h"
 
@@ -26,6 +27,9 @@ class QueueOutlook {
 
   bool hasNext() const { return position_ < queue_.size() - 1; }
 
+  /// Where in `queue` the engine would have gone on, had it not come to rest at the last failure.
+  std::optional<qsizetype> leftOver(const PlayQueue& queue) const;
+
   /// The name of the file that started last, while the engine has not told of it yet.
   std::optional<QString> unreportedTitle() const;
 
@@ -33,12 +37,12 @@ class QueueOutlook {
   bool isSameFile(const PlayQueue& queue, qsizetype current) const;
 
   PlayQueue queue_;
-  qsizetype position_ = 0;         // in queue_, of the file that started last
+  qsizetype position_ = -1;        // in queue_, of the file that started last
   std::optional<qsizetype> jump_;  // where the next file starts, if not after the last
   bool awaitsFirst_ = false;       // reports are of what played before
   bool awaitsMore_ = false;        // appended files that no report has shown yet
-  bool startedSinceReport_ = false;
-  bool reportIsAhead_ = false;  // it told of a file whose start has not been told
+  std::vector<qsizetype> left_;    // positions before each start since the last report
+  bool reportIsAhead_ = false;     // it told of a file whose start has not been told
 };
 
 }  // namespace tromelo

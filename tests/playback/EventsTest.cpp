@@ -216,6 +216,22 @@ TEST_F(Events, FilesThatFailBeforeTheQueueIsReportedAreNamedEach) {
   EXPECT_EQ(model().errorMessage(), "Could not play c: gone");
 }
 
+TEST_F(Events, FilesThatReachTheEngineAfterTheFirstHasFailedArePlayed) {
+  model().open(QList<QUrl>{fileUrlFromPath("/films/a.mkv"), fileUrlFromPath("/films/b.mkv")});
+  report(event::StartFile{});
+  report(event::EndFile{"gone"});
+  takeRequests();
+  constexpr std::size_t kNone = 9;
+  reportPlaylist({"a.mkv"}, kNone);
+  EXPECT_EQ(takeRequests(), Requests());
+  reportPlaylist({"a.mkv", "b.mkv"}, kNone);
+  reportPlaylist({"a.mkv", "b.mkv"}, kNone);
+  EXPECT_EQ(takeRequests(), (Requests{{"playlist-play-index", "1"}}));
+  report(event::StartFile{});
+  report(event::EndFile{"gone"});
+  EXPECT_EQ(player_.take().last(), "library");
+}
+
 TEST_F(Events, NothingHappensOnceTheModelIsGone) {
   const auto handler = model().engine().onEvent;
   const auto answer = [this] {

@@ -96,6 +96,16 @@ TEST(QueueOutlook, FollowsAReportThatComesBeforeTheStartItTellsOf) {
   EXPECT_FALSE(outlook.hasNext());
 }
 
+TEST(QueueOutlook, IsNotSetBackByAReportOfWhatPlayedBefore) {
+  QueueOutlook outlook;
+  outlook.fileStarted();
+  outlook.fileStarted();
+  outlook.reported(queueOf(3, 0));
+  outlook.reported(queueOf(3, 1));
+  outlook.fileStarted();
+  EXPECT_FALSE(outlook.hasNext());
+}
+
 TEST(QueueOutlook, FollowsJumpsAndRemovals) {
   QueueOutlook outlook;
   outlook.reported(queueOf(3, 2));
