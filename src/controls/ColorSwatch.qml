@@ -24,16 +24,8 @@ T.Button {
         border.width: Theme.hairline
         border.color: swatch.hovered ? Theme.primaryText : Theme.swatchEdge
 
-        // Outside, where it stands out from any colour.
-        Rectangle {
-            objectName: "focusRing"
-            anchors.fill: parent
-            anchors.margins: -2 * Theme.focusWidth
+        FocusRing {
             visible: swatch.visualFocus
-            radius: height / 2
-            color: "transparent"
-            border.width: Theme.focusWidth
-            border.color: Theme.accent
         }
     }
 

@@ -48,16 +48,8 @@ T.Slider {
         radius: height / 2
         color: slider.pressed ? Theme.fieldKnobHeld : Theme.fieldKnob
 
-        // Outside, where it stands out from any knob.
-        Rectangle {
-            objectName: "focusRing"
-            anchors.fill: parent
-            anchors.margins: -2 * Theme.focusWidth
+        FocusRing {
             visible: slider.visualFocus
-            radius: height / 2
-            color: "transparent"
-            border.width: Theme.focusWidth
-            border.color: Theme.accent
         }
     }
 }

@@ -7,8 +7,7 @@ namespace tromelo {
 namespace {
 
 // libmpv brings some two hundred libraries along. Linked with the program they would all be
-// searched for each symbol of Qt's and the drivers', which took a third of the time that a start
-// needs.
+// searched for each symbol of Qt's and the drivers', which took a fifth of a start's time.
 void* library() {
   static void* const loaded = dlopen("libmpv.so.2", RTLD_LAZY | RTLD_LOCAL);
   return loaded;

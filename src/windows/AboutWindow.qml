@@ -71,14 +71,10 @@ Window {
                 Accessible.role: Accessible.StaticText
                 Accessible.name: text
 
-                Rectangle {
-                    anchors.fill: parent
-                    anchors.margins: -Theme.fieldSide
+                FocusRing {
+                    distance: Theme.fieldSide
                     visible: details.activeFocus
                     radius: Theme.fieldRadius
-                    color: "transparent"
-                    border.width: Theme.focusWidth
-                    border.color: Theme.accent
                 }
             }
 
