@@ -8,7 +8,7 @@ namespace tromelo {
 
 namespace {
 
-using Kind = MediaTrack::Kind;
+using TrackKind = MediaTrack::Kind;
 using P = MpvProperty;
 using testing::flag;
 using testing::integer;
@@ -54,9 +54,9 @@ struct Tracks : ModelTest {
 
 TEST_F(Tracks, AreReadWithWhatIsUsableOfThem) {
   const MediaTrack plain{
-      .id = 4, .kind = Kind::sub, .title = {}, .language = {}, .codec = {}, .channels = {}};
+      .id = 4, .kind = TrackKind::sub, .title = {}, .language = {}, .codec = {}, .channels = {}};
   MediaTrack full{.id = 2,
-                  .kind = Kind::sub,
+                  .kind = TrackKind::sub,
                   .title = "SDH",
                   .language = "eng",
                   .codec = "subrip",
@@ -112,7 +112,7 @@ TEST_F(Tracks, AreReadWithWhatIsUsableOfThem) {
   for (const auto& row : rows) {
     MpvList list = testing::notEntries();
     list.push_back(row.entry);
-    EXPECT_EQ(mediaTracks(listOf(list), Kind::sub), row.expected) << row.what;
+    EXPECT_EQ(mediaTracks(listOf(list), TrackKind::sub), row.expected) << row.what;
   }
 }
 

@@ -8,13 +8,13 @@
 namespace tromelo {
 namespace {
 
-struct Row {
+struct FormatRow {
   double value;
   const char* text;
 };
 
-void expectTexts(QString (*format)(double), std::initializer_list<Row> rows) {
-  for (const Row& row : rows)
+void expectTexts(QString (*format)(double), std::initializer_list<FormatRow> rows) {
+  for (const FormatRow& row : rows)
     EXPECT_EQ(format(row.value), QString::fromUtf8(row.text)) << row.value;
 }
 
