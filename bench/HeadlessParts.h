@@ -1,9 +1,18 @@
 #pragma once
 
+#include <QString>
+#include <cstdio>
+
 #include "playback/FileChooser.h"
 #include "playback/PlayerPresenting.h"
 
 namespace tromelo {
+
+/// Says on stderr why nothing could be measured; the exit status for that.
+inline int failed(const QString& why) {
+  std::fprintf(stderr, "nothing was measured: %s\n", qPrintable(why));
+  return 1;
+}
 
 // What the model needs around it where nobody watches.
 

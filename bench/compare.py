@@ -175,6 +175,8 @@ class Bench:
                 time.sleep(max(0, start + (step + 1) / POINTER_RATE - time.monotonic()))
             engine.get("time-pos")
             sought = engine.seeks - seeks
+            if not sought:
+                raise SystemExit("bench: the drag of the position reached nobody")
             self.screen.hold_button(False)
             released = time.monotonic()
             while abs(engine.get("time-pos") - 0.8 * duration) > 0.02 * duration or engine.get("seeking"):

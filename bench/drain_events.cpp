@@ -98,7 +98,7 @@ MpvClientApi preparedEngine(Events& events) {
           .setPropertyAsync = [](mpv_handle*, std::uint64_t, const char*, mpv_format,
                                  void*) { return 0; },
           .getPropertyAsync = [](mpv_handle*, std::uint64_t, const char*, mpv_format) { return 0; },
-          .clientApiVersion = [] { return 0UL; },
+          .clientApiVersion = [] { return static_cast<unsigned long>(MPV_CLIENT_API_VERSION); },
           .errorString = [](int) { return "error"; },
           .terminateDestroy = [](mpv_handle*) {}};
 }
@@ -124,12 +124,14 @@ int run(int argc, char** argv) {
                        .defaults = defaults,
                        .diagnosticsDirectory = directory.path(),
                        .makePlayer = [](PlaybackModel&) { return std::make_unique<NoPlayer>(); }});
+  if (const QString fault = model.errorMessage(); !fault.isEmpty()) return failed(fault);
   int announced = 0;
   QObject::connect(&model, &PlaybackModel::elapsedChanged, &model, [&announced] { ++announced; });
   double best = 0;
   for (int round = 0; round < 3; ++round) {
     best = std::max(best, drainedPerSecond(model.engine(), kEvents));
   }
+  if (announced == 0) return failed(QStringLiteral("no event reached the model"));
   std::printf("drainEvents: %.0f property events/s (%d position changes shown)\n", best, announced);
   return 0;
 }

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 
 #include "HeadlessParts.h"
@@ -114,6 +115,7 @@ Measured modelMilliseconds(const QList<QUrl>& urls, const QString& directory) {
                        .diagnosticsDirectory = directory,
                        .makePlayer = [](PlaybackModel&) { return std::make_unique<NoPlayer>(); }});
   Measured result;
+  if (const QString fault = model.errorMessage(); !fault.isEmpty()) std::exit(failed(fault));
   QCoreApplication::processEvents();
   QObject::connect(&model, &PlaybackModel::queueChanged, &model, [&] {
     if (model.queue().size() == urls.size()) QCoreApplication::exit();
