@@ -34,10 +34,32 @@ set_target_properties(tromelo_headers PROPERTIES AUTOMOC OFF)
 target_precompile_headers(tromelo_headers PRIVATE ${PROJECT_SOURCE_DIR}/cmake/CommonHeaders.h)
 
 function(tromelo_builds_fast)
+  if(NOT TROMELO_BUILD_FAST)
+    return()
+  endif()
   foreach(target ${ARGN})
     target_precompile_headers(${target} REUSE_FROM tromelo_headers)
     set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 12)
   endforeach()
+endfunction()
+
+# Every header of ours compiled with nothing before it; the ordinary build wouldn't notice what one
+# lacks.
+add_custom_target(all_headers_alone)
+function(tromelo_headers_alone name)
+  list(FILTER ARGN INCLUDE REGEX "^[A-Z].*\\.h$")
+  foreach(header ${ARGN})
+    set(source ${CMAKE_CURRENT_BINARY_DIR}/alone/${header}.cpp)
+    file(CONFIGURE OUTPUT ${source} CONTENT "#include \"${CMAKE_CURRENT_SOURCE_DIR}/${header}\"\n")
+    list(APPEND alone ${source})
+  endforeach()
+  add_library(tromelo_${name}_alone OBJECT EXCLUDE_FROM_ALL ${alone})
+  set_target_properties(tromelo_${name}_alone PROPERTIES AUTOMOC OFF)
+  target_compile_options(tromelo_${name}_alone PRIVATE -O0 -g0)
+  target_include_directories(tromelo_${name}_alone PRIVATE
+    $<TARGET_PROPERTY:tromelo_${name},INCLUDE_DIRECTORIES>)
+  target_link_libraries(tromelo_${name}_alone PRIVATE tromelo_${name})
+  add_dependencies(all_headers_alone tromelo_${name}_alone)
 endfunction()
 
 # tromelo_library(<folder> SOURCES ... LINK ...): the static library of one folder of src/.
@@ -46,6 +68,9 @@ function(tromelo_library name)
   qt_add_library(tromelo_${name} STATIC ${ARG_SOURCES})
   target_link_libraries(tromelo_${name}
     PUBLIC tromelo_options ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK})
+  if(TROMELO_BUILD_FAST)
+    tromelo_headers_alone(${name} ${ARG_SOURCES})
+  endif()
   tromelo_builds_fast(tromelo_${name})
 endfunction()
 

@@ -1,3 +1,6 @@
+# Sources that are generated, which what reads ours needs.
+add_custom_target(tromelo_generated)
+
 # tromelo_client_protocols(<name> <xml>...): the library tromelo_<name> with the client's side of
 # Wayland protocols, made from their descriptions; C, so apart from our own C++.
 function(tromelo_client_protocols name)
@@ -16,6 +19,7 @@ function(tromelo_client_protocols name)
   endforeach()
   add_library(tromelo_${name} STATIC ${sources})
   set_target_properties(tromelo_${name} PROPERTIES AUTOGEN OFF AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+  add_dependencies(tromelo_generated tromelo_${name})
   target_include_directories(tromelo_${name} SYSTEM INTERFACE ${folder})
   target_link_libraries(tromelo_${name} PUBLIC PkgConfig::WAYLAND_CLIENT)
 endfunction()
