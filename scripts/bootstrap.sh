@@ -33,13 +33,15 @@ print_sources() {
         echo "deb $TROMELO_MIRROR $root_suite main"
         return
     fi
-    local codename
-    codename=$(sed -n 's/^VERSION_CODENAME=//p' /etc/os-release)
+    local distribution
+    distribution=$(sed -n 's/^ID=//p' /etc/os-release)
+    # Whose packages a mirror has is known only once its lists were fetched.
     # shellcheck disable=SC2016  # apt's own variables
-    apt-get indextargets --format '$(SITE) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' |
-        sort -u | awk -v codename="$codename" -v suite="$root_suite" '
-            $3 == "main" && index($2, codename) == 1 {
-                kind = substr($2, length(codename) + 1)
+    apt-get indextargets --format '$(SITE) $(RELEASE) $(COMPONENT) $(ORIGIN)' 'Created-By: Packages' |
+        sort -u | awk -v distribution="$distribution" -v suite="$root_suite" '
+            $3 == "main" && ($4 == "Debian" || ($4 !~ /^[A-Z]/ && distribution == "debian")) {
+                kind = $2
+                sub(/^[^-]*/, "", kind)
                 if (kind == "" || kind == "-updates" || kind == "-security")
                     print "deb", $1, suite kind, "main"
             }'
@@ -55,8 +57,9 @@ prepare_bootstrap() {
     require_tools
     require_rights
     mapfile -t sources < <(print_sources)
-    [ ${#sources[@]} != 0 ] \
-        || die "This machine's apt names no Debian mirror; set TROMELO_MIRROR to one's address."
+    [ ${#sources[@]} != 0 ] || die "This machine's libmpv, Qt or wlroots is too old, and its apt" \
+        "names no Debian mirror to get newer ones from; set TROMELO_MIRROR to the address of one," \
+        "or use packaging/Containerfile."
 }
 
 # bootstrap TARGET PACKAGES MMDEBSTRAP-OPTION...: PACKAGES are separated by commas.

@@ -93,8 +93,22 @@ explain() {
     die "$1 failed; the whole log is $2"
 }
 
-# package_list: the names of packages.txt, one a line.
-package_list() { sed 's/#.*//; s/[[:space:]]*$//; /^$/d' "$scripts/packages.txt"; }
+# need LIST...: what runs from here on needs these lists of packages too, besides run.
+need() { export TROMELO_NEEDS="${TROMELO_NEEDS-} $*"; }
+
+# package_list LIST...: the names in these lists of packages/, one a line.
+package_list() {
+    local name
+    for name in "$@"; do
+        sed 's/#.*//; s/[[:space:]]*$//; /^$/d' "$scripts/packages/$name.txt"
+    done | sort -u
+}
+
+# make_sample: a clip to play is in the cache.
+make_sample() {
+    [ -e "$cache/clips/sample.mkv" ] || logged clips "Generating a clip to play" \
+        "$scripts/enter" "$scripts/make-clips" "$cache/clips" sample.mp4 sample.mkv
+}
 
 # as_admin COMMAND...: runs it as root, with sudo where we aren't.
 as_admin() {

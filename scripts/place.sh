@@ -5,9 +5,10 @@
 # Part of the root's key: raise it when make-root makes another root from the same packages.
 root_format=1
 root_suite=trixie
+all_lists=(run virtual test bench) # what a root of our own has
 
 root_key() {
-    { echo "$root_format $root_suite $(uname -m)"; package_list | sort; } | hash
+    { echo "$root_format $root_suite $(uname -m)"; package_list "${all_lists[@]}"; } | hash
 }
 
 # machine_is_new_enough: the libraries that decide are here, and new enough.
@@ -17,11 +18,12 @@ machine_is_new_enough() {
     pkg-config --exists wlroots-0.19 || pkg-config --exists wlroots-0.18
 }
 
-# missing_packages: what packages.txt names and this machine lacks, one name a line.
+# missing_packages: what the lists that are needed name and this machine lacks, one name a line.
 missing_packages() {
     local installed
     installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' | sed -n 's/^installed //p')
-    comm -23 <(package_list | sort) <(sort -u <<<"$installed")
+    # shellcheck disable=SC2086  # one list a word
+    comm -23 <(package_list run ${TROMELO_NEEDS-}) <(sort -u <<<"$installed")
 }
 
 # machine_is_complete: nothing has to be installed first.
@@ -30,8 +32,9 @@ machine_is_complete() {
     if command -v dpkg-query >/dev/null; then
         [ -z "$(missing_packages)" ]
     else # another distribution's names differ: look for the tools themselves
-        local tool
-        for tool in cmake ninja c++ ffmpeg Xvfb openbox xprop xrdb; do
+        local tool tools=(cmake ninja c++ xdpyinfo)
+        [ -z "${TROMELO_NEEDS-}" ] || tools+=(ffmpeg Xvfb openbox xrdb)
+        for tool in "${tools[@]}"; do
             command -v $tool >/dev/null || return 1
         done
     fi
