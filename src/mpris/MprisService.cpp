@@ -4,10 +4,9 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QMetaClassInfo>
-#include <QMetaProperty>
 
 #include "mpris/MprisPlayer.h"
+#include "mpris/MprisProperties.h"
 #include "mpris/MprisRoot.h"
 #include "playback/PlaybackModel.h"
 
@@ -30,20 +29,10 @@ QDBusMessage callBus(const char* method, const QString& name) {
 }
 
 /// Everything that clients are told of by signal. The position isn't: it goes by itself.
-QVariantMap properties(const QDBusAbstractAdaptor& adaptor) {
-  const QMetaObject* type = adaptor.metaObject();
-  QVariantMap values;
-  for (int i = type->propertyOffset(); i < type->propertyCount(); ++i) {
-    const QMetaProperty property = type->property(i);
-    if (qstrcmp(property.name(), "Position") == 0) continue;
-    values.insert(QString::fromLatin1(property.name()), property.read(&adaptor));
-  }
+QVariantMap told(const QDBusAbstractAdaptor& adaptor) {
+  QVariantMap values = MprisProperties::of(adaptor);
+  values.remove(QStringLiteral("Position"));
   return values;
-}
-
-QString interfaceOf(const QDBusAbstractAdaptor& adaptor) {
-  const QMetaObject* type = adaptor.metaObject();
-  return QString::fromLatin1(type->classInfo(type->indexOfClassInfo("D-Bus Interface")).value());
 }
 
 }  // namespace
@@ -54,8 +43,9 @@ MprisService::MprisService(const QDBusConnection& bus, PlaybackModel& playback, 
       shell_(std::move(shell)),
       root_(new MprisRoot(playback_, shell_, this)),
       player_(new MprisPlayer(bus_, playback_, shell_, this)),
-      rootTold_(properties(*root_)),
-      playerTold_(properties(*player_)) {
+      rootTold_(told(*root_)),
+      playerTold_(told(*player_)) {
+  new MprisProperties(bus_, this);
   // The object comes first: whoever finds the name may call at once.
   if (!bus_.registerObject(objectPath(), this, QDBusConnection::ExportAdaptors)) return;
   follow();
@@ -104,17 +94,17 @@ void MprisService::schedule() {
   QMetaObject::invokeMethod(this, announceBoth, Qt::QueuedConnection);
 }
 
-void MprisService::announce(const QDBusAbstractAdaptor& adaptor, QVariantMap& told) {
-  QVariantMap changed = properties(adaptor);
-  changed.removeIf([&told](const QVariantMap::iterator& entry) {
-    return told.value(entry.key()) == entry.value();
+void MprisService::announce(const QDBusAbstractAdaptor& adaptor, QVariantMap& last) {
+  QVariantMap changed = told(adaptor);
+  changed.removeIf([&last](const QVariantMap::iterator& entry) {
+    return last.value(entry.key()) == entry.value();
   });
   if (changed.isEmpty()) return;
-  told.insert(changed);
+  last.insert(changed);
   QDBusMessage signal =
       QDBusMessage::createSignal(objectPath(), QStringLiteral("org.freedesktop.DBus.Properties"),
                                  QStringLiteral("PropertiesChanged"));
-  signal << interfaceOf(adaptor) << changed << QStringList();
+  signal << MprisProperties::interfaceOf(adaptor) << changed << QStringList();
   bus_.send(signal);
 }
 

@@ -26,7 +26,7 @@ class MprisService : public QObject {
   void requestName(const QString& name);
   void follow();
   void schedule();
-  void announce(const QDBusAbstractAdaptor& adaptor, QVariantMap& told);
+  void announce(const QDBusAbstractAdaptor& adaptor, QVariantMap& last);
 
   QDBusConnection bus_;
   PlaybackModel& playback_;

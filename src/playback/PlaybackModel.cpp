@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QPointer>
+#include <cmath>
 #include <utility>
 
 #include "engine/MpvClientApi.h"
@@ -97,6 +98,7 @@ void PlaybackModel::append(const QList<QUrl>& urls) {
 
 void PlaybackModel::load(const QUrl& url, const char* mode, std::optional<double> startAt) {
   const std::string path = pathFromFileUrl(url);
+  if (startAt && !std::isfinite(*startAt)) startAt.reset();
   engine_.command(
       {"loadfile", path, mode, "-1", fileOptions(startAt, hardware_.softwarePaths.contains(path))});
 }

@@ -28,8 +28,8 @@ class UserDefaults;
 struct PropertyMapping;
 
 /// What plays, how, and every way to change it: the one object between the engine and the views.
-/// Control operations return at once; what they change shows when the engine reports it back. Main
-/// thread only.
+/// Control operations return at once; what they change shows when the engine reports it back; they
+/// do nothing with a number that isn't finite. Main thread only.
 class PlaybackModel : public PlaybackState {
   Q_OBJECT
   Q_PROPERTY(tromelo::PlayerSettings* settings READ settingsForViews CONSTANT)

@@ -28,11 +28,11 @@ void PlaybackModel::seek(double seconds, const char* how) {
 }
 
 void PlaybackModel::seekBy(double seconds) {
-  if (isLoaded_) seek(seconds, "relative");
+  if (isLoaded_ && std::isfinite(seconds)) seek(seconds, "relative");
 }
 
 void PlaybackModel::seekTo(double seconds) {
-  if (isLoaded_) seek(std::max(seconds, 0.0), "absolute+exact");
+  if (isLoaded_ && std::isfinite(seconds)) seek(std::max(seconds, 0.0), "absolute+exact");
 }
 
 void PlaybackModel::beginScrubbing() {
@@ -41,6 +41,7 @@ void PlaybackModel::beginScrubbing() {
 }
 
 void PlaybackModel::scrubTo(double seconds) {
+  if (!std::isfinite(seconds)) return;
   scrubPosition_ = seconds;
   const double now = clock_.now();
   if (now - lastScrubSeek_ <= kScrubInterval) return;
@@ -67,6 +68,7 @@ void PlaybackModel::toggleMute() {
 }
 
 void PlaybackModel::setVolume(double volume) {
+  if (!std::isfinite(volume)) return;
   volume_ = std::clamp(volume, 0.0, 100.0);
   engine_.setProperty("volume", numberText(volume_));
   if (!isMuted_ || volume_ <= 0) return;
@@ -75,6 +77,7 @@ void PlaybackModel::setVolume(double volume) {
 }
 
 void PlaybackModel::setSpeed(double speed) {
+  if (!std::isfinite(speed)) return;
   speed_ = speed;
   engine_.setProperty("speed", numberText(speed));
 }
@@ -90,11 +93,13 @@ void PlaybackModel::toggleLoop() {
 }
 
 void PlaybackModel::setSubtitleDelay(double seconds) {
+  if (!std::isfinite(seconds)) return;
   subtitleDelay_ = toMilliseconds(seconds);
   engine_.setProperty("sub-delay", numberText(subtitleDelay_));
 }
 
 void PlaybackModel::setAudioDelay(double seconds) {
+  if (!std::isfinite(seconds)) return;
   audioDelay_ = toMilliseconds(seconds);
   engine_.setProperty("audio-delay", numberText(audioDelay_));
 }

@@ -70,9 +70,14 @@ QVariant Desktop::property(const QString& name) {
   return reply.value().variant();
 }
 
-void Desktop::set(const QString& name, const QVariant& value) {
-  call(kProperties, QStringLiteral("Set"),
-       {kPlayer, name, QVariant::fromValue(QDBusVariant(value))});
+QVariantMap Desktop::properties() {
+  const QDBusReply<QVariantMap> reply = call(kProperties, QStringLiteral("GetAll"), {kPlayer});
+  return reply.value();
+}
+
+QDBusMessage Desktop::set(const QString& name, const QVariant& value) {
+  return call(kProperties, QStringLiteral("Set"),
+              {kPlayer, name, QVariant::fromValue(QDBusVariant(value))});
 }
 
 QStringList Desktop::members(const QString& interface) {

@@ -23,7 +23,8 @@ class Desktop : public QObject {
 
   QDBusMessage call(const QString& interface, const QString& method, const QVariantList& arguments);
   QVariant property(const QString& name);
-  void set(const QString& name, const QVariant& value);
+  QVariantMap properties();
+  QDBusMessage set(const QString& name, const QVariant& value);
   /// The members of an interface, one a line: "method Seek(x Offset)", "property Volume d
   /// readwrite".
   QStringList members(const QString& interface);

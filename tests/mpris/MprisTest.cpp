@@ -1,4 +1,6 @@
 #include <QCoreApplication>
+#include <cmath>
+#include <limits>
 
 #include "Desktop.h"
 #include "mpris/MprisService.h"
@@ -91,7 +93,7 @@ class MprisOnABus : public Mpris {
   }
   Requests askedBySetting(const QString& property, const QVariant& value) {
     takeRequests();
-    desktop_.set(property, value);
+    answer_ = desktop_.set(property, value);
     return takeRequests();
   }
   QStringList takeShell() { return std::exchange(shell_, {}); }
@@ -167,6 +169,7 @@ TEST_F(MprisOnABus, DoesWhatTheViewsDo) {
       {"Previous", {}, {}},
       {"Seek", {seconds(-4)}, {{"seek", "-4.0", "relative"}}},
       {"Seek", {seconds(51)}, {{"playlist-next"}}},
+      {"Seek", {std::numeric_limits<qlonglong>::max()}, {{"playlist-next"}}},
       {"SetPosition", {here, seconds(30)}, {{"seek", "30.0", "absolute+exact"}}},
       {"SetPosition", {here, seconds(61)}, {}},
       {"OpenUri", {"https://example.org/a.mkv"}, {}},
@@ -198,6 +201,29 @@ TEST_F(MprisOnABus, DoesWhatTheViewsDo) {
   };
   for (const Set& set : sets)
     EXPECT_EQ(askedBySetting(set.property, set.value), set.asked) << set.property;
+}
+
+TEST_F(MprisOnABus, RefusesWhatIsNoValueAndTellsAll) {
+  loadQueue();
+  struct Row {
+    const char* property;
+    QVariant value;
+    const char* error;
+  };
+  for (const Row& row :
+       {Row{"Volume", std::nan(""), "InvalidArgs"}, Row{"Volume", "nan", "InvalidArgs"},
+        Row{"Volume", QStringList("1"), "InvalidArgs"}, Row{"Rate", HUGE_VAL, "InvalidArgs"},
+        Row{"Rate", -HUGE_VAL, "InvalidArgs"}, Row{"Position", qlonglong(1), "PropertyReadOnly"},
+        Row{"Colour", 1, "UnknownProperty"}}) {
+    EXPECT_EQ(askedBySetting(row.property, row.value), Requests()) << row.property;
+    EXPECT_EQ(answer_.errorName(), QLatin1String("org.freedesktop.DBus.Error.") + row.error)
+        << row.property;
+  }
+  const QVariantMap all = desktop_.properties();
+  for (const char* name : {"Metadata", "CanSeek", "PlaybackStatus"})
+    EXPECT_TRUE(all.contains(name));
+  EXPECT_EQ(all["Volume"], QVariant(1.0));
+  EXPECT_EQ(all["Position"], QVariant(qlonglong(10'000'000)));
 }
 
 TEST_F(MprisOnABus, SignalsWhatHasChangedOnceAndJumpsOnly) {

@@ -1,3 +1,5 @@
+#include <cmath>
+
 #include "ModelTest.h"
 #include "platform/FilePath.h"
 #include "playback/SubtitleExtensions.h"
@@ -98,6 +100,26 @@ TEST_F(Transport, PausesAndSeeks) {
   EXPECT_EQ(asked([this] { model().seekTo(12.25); }),
             (Requests{{"seek", "12.25", "absolute+exact"}}));
   EXPECT_EQ(asked([this] { model().seekTo(-3); }), (Requests{{"seek", "0.0", "absolute+exact"}}));
+}
+
+TEST_F(Transport, WhatIsNoNumberIsRefused) {
+  load();
+  for (const double wrong : {std::nan(""), HUGE_VAL, -HUGE_VAL}) {
+    EXPECT_EQ(asked([&] {
+                model().seekBy(wrong);
+                model().seekTo(wrong);
+                model().scrubTo(wrong);
+                model().setVolume(wrong);
+                model().setSpeed(wrong);
+                model().setSubtitleDelay(wrong);
+                model().setAudioDelay(wrong);
+              }),
+              Requests());
+    EXPECT_EQ(asked([&] { model().open(film("a.mkv"), wrong); })[0].back(), "");
+  }
+  EXPECT_EQ(model().scrubPosition(), 0);
+  EXPECT_EQ(model().volume(), 100);
+  EXPECT_EQ(model().speed(), 1);
 }
 
 TEST_F(Transport, DraggingSeeksCoarselyAtTimesAndExactlyAtTheEnd) {
