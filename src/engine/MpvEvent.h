@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <variant>
@@ -9,7 +10,9 @@
 
 namespace tromelo {
 
-/// What the engine tells the model; each holds its own copy of everything.
+/// What the engine tells the model; each holds its own copy of everything. An `entry` is the
+/// engine's own number of a file in its playlist, which no other file ever gets; 0 where there is
+/// none.
 namespace event {
 
 struct Property {
@@ -20,6 +23,7 @@ struct Property {
 
 struct EndFile {
   std::optional<std::string> error;  // none: the file ended by itself or was stopped
+  std::int64_t entry = 0;
   friend bool operator==(const EndFile&, const EndFile&) = default;
 };
 
@@ -28,7 +32,15 @@ struct CommandFailed {
   friend bool operator==(const CommandFailed&, const CommandFailed&) = default;
 };
 
+/// A file that was asked for has its place in the playlist. Files are answered in the order in
+/// which they were asked for.
+struct FileQueued {
+  std::int64_t entry = 0;
+  friend bool operator==(FileQueued, FileQueued) = default;
+};
+
 struct StartFile {
+  std::int64_t entry = 0;
   friend bool operator==(StartFile, StartFile) = default;
 };
 
@@ -39,6 +51,11 @@ struct FileLoaded {
 /// After loading or seeking.
 struct PlaybackRestart {
   friend bool operator==(PlaybackRestart, PlaybackRestart) = default;
+};
+
+/// Nothing starts until it is asked for.
+struct Idle {
+  friend bool operator==(Idle, Idle) = default;
 };
 
 struct Shutdown {
@@ -63,8 +80,9 @@ struct AudioOutputFailed {
 }  // namespace event
 
 using MpvEvent =
-    std::variant<event::Property, event::EndFile, event::CommandFailed, event::StartFile,
-                 event::FileLoaded, event::PlaybackRestart, event::Shutdown,
-                 event::HardwareDecodeError, event::VideoOutputFailed, event::AudioOutputFailed>;
+    std::variant<event::Property, event::EndFile, event::CommandFailed, event::FileQueued,
+                 event::StartFile, event::FileLoaded, event::PlaybackRestart, event::Idle,
+                 event::Shutdown, event::HardwareDecodeError, event::VideoOutputFailed,
+                 event::AudioOutputFailed>;
 
 }  // namespace tromelo

@@ -28,16 +28,32 @@ std::optional<MpvEvent> translateLog(const mpv_event_log_message* message) {
   return {};
 }
 
-std::optional<MpvEvent> translateReply(const MpvClientApi& api, int error) {
-  auto text = mpvErrorText(api, error);
-  if (!text) return {};
+/// Of the commands that we send only "loadfile" has a result.
+std::optional<MpvEvent> translateResult(const mpv_event_command* reply) {
+  const auto node = reply ? mpvNode(reply->result) : std::nullopt;
+  const auto* result = node ? node->as<MpvMap>() : nullptr;
+  const auto* entry = result ? mpvEntry<std::int64_t>(*result, "playlist_entry_id") : nullptr;
+  if (!entry) return {};
+  return event::FileQueued{*entry};
+}
+
+std::optional<MpvEvent> translateReply(const MpvClientApi& api, const mpv_event& reply) {
+  auto text = mpvErrorText(api, reply.error);
+  if (!text) return translateResult(payload<mpv_event_command>(reply));
   return event::CommandFailed{std::move(*text)};
+}
+
+std::optional<MpvEvent> translateStart(const mpv_event_start_file* start) {
+  return event::StartFile{start ? start->playlist_entry_id : 0};
 }
 
 std::optional<MpvEvent> translateEnd(const MpvClientApi& api, const mpv_event_end_file* end) {
   if (!end) return {};
-  if (end->reason != MPV_END_FILE_REASON_ERROR) return event::EndFile{};
-  return event::EndFile{mpvErrorText(api, end->error).value_or("Playback failed")};
+  event::EndFile ended{.error = {}, .entry = end->playlist_entry_id};
+  if (end->reason == MPV_END_FILE_REASON_ERROR) {
+    ended.error = mpvErrorText(api, end->error).value_or("Playback failed");
+  }
+  return ended;
 }
 
 std::optional<MpvEvent> translateChange(std::uint64_t reply, const mpv_event_property* change) {
@@ -55,15 +71,17 @@ std::optional<MpvEvent> translateMpvEvent(const MpvClientApi& api, const mpv_eve
     case MPV_EVENT_LOG_MESSAGE:
       return translateLog(payload<mpv_event_log_message>(received));
     case MPV_EVENT_COMMAND_REPLY:
-      return translateReply(api, received.error);
+      return translateReply(api, received);
     case MPV_EVENT_START_FILE:
-      return event::StartFile{};
+      return translateStart(payload<mpv_event_start_file>(received));
     case MPV_EVENT_END_FILE:
       return translateEnd(api, payload<mpv_event_end_file>(received));
     case MPV_EVENT_FILE_LOADED:
       return event::FileLoaded{};
     case MPV_EVENT_PLAYBACK_RESTART:
       return event::PlaybackRestart{};
+    case MPV_EVENT_IDLE:
+      return event::Idle{};
     case MPV_EVENT_PROPERTY_CHANGE:
       return translateChange(received.reply_userdata, payload<mpv_event_property>(received));
     default:

@@ -70,7 +70,7 @@ void PlaybackModel::open(const QUrl& url, std::optional<double> startAt) {
   errorMessage_ = QString();
   player().setAwaitingVideo(true);
   player().setVideoReady(false);
-  outlook_.opened(title_);
+  progress_.opened();
   load(url, "replace", startAt);
   engine_.setProperty("pause", "no");
 }
@@ -91,7 +91,7 @@ void PlaybackModel::enqueue(const QList<QUrl>& urls) {
 
 void PlaybackModel::append(const QList<QUrl>& urls) {
   for (const QUrl& url : urls) {
-    outlook_.appended(lastPathComponentWithoutExtension(url));
+    progress_.appended();
     load(url, "append", {});
   }
 }

@@ -15,7 +15,7 @@
 #include "playback/HardwareDecoding.h"
 #include "playback/PlaybackState.h"
 #include "playback/PlayerPresenting.h"
-#include "playback/QueueOutlook.h"
+#include "playback/QueueProgress.h"
 #include "playback/RecentFiles.h"
 #include "playback/SignalInputs.h"
 #include "settings/PlayerSettings.h"
@@ -156,14 +156,17 @@ class PlaybackModel : public PlaybackState {
   void handle(const event::Property& change);
   void handle(const event::EndFile& end);
   void handle(const event::CommandFailed& failure);
-  void handle(const event::StartFile&);
+  void handle(const event::FileQueued& answer);
+  void handle(const event::StartFile& start);
   void handle(const event::FileLoaded&);
   void handle(const event::PlaybackRestart&);
+  void handle(const event::Idle&);
   void handle(const event::Shutdown&);
   void handle(const event::HardwareDecodeError&);
   void handle(const event::VideoOutputFailed&);
   void handle(const event::AudioOutputFailed&);
-  void handleFailedFile(const QString& error);
+  void settleFailures();
+  void tellOf(const QueueProgress::Failure& failure);
   void tellOutputFault();
   void showWaitingToast();
   void resetForNewFile();
@@ -195,7 +198,7 @@ class PlaybackModel : public PlaybackState {
   PlayerSettings settings_;
   SignalInputs inputs_;
   HardwareDecoding hardware_;
-  QueueOutlook outlook_;
+  QueueProgress progress_;
   RecentFiles recentFiles_;
   FileExistence existence_;
   std::optional<std::string> currentPath_;  // as the engine reports it

@@ -26,8 +26,14 @@ void PlaybackModel::handle(const event::Property& change) {
   PropertyMapping::apply(*this, change.property, change.value);
 }
 
+void PlaybackModel::handle(const event::FileQueued& answer) {
+  progress_.queued(answer.entry);
+  settleFailures();
+}
+
 void PlaybackModel::handle(const event::StartFile&) {
-  outlook_.fileStarted();
+  progress_.started();
+  settleFailures();
   resetForNewFile();
   status_ = QStringLiteral("Opening media");
 }
@@ -89,22 +95,38 @@ void PlaybackModel::showVideoReady() {
 
 void PlaybackModel::handle(const event::EndFile& end) {
   isLoaded_ = false;
-  if (end.error) {
-    handleFailedFile(outputFault_.isEmpty() ? engineErrorText(*end.error) : outputFault_);
-  } else {
+  if (!end.error) {
     status_ = QStringLiteral("Ready for a video");
     buffering_ = kUnknown;
-  }
-}
-
-void PlaybackModel::handleFailedFile(const QString& error) {
-  if (const auto title = outlook_.unreportedTitle()) title_ = *title;
-  hasFailed_ = true;
-  reportPlaybackError(tr("Could not play %1: %2").arg(title_, error));
-  if (outlook_.hasNext()) {
-    player().showToast(tr("Skipped %1: %2").arg(title_, error));
     return;
   }
+  const QString reason = outputFault_.isEmpty() ? engineErrorText(*end.error) : outputFault_;
+  hasFailed_ = progress_.failed(end.entry, reason);
+  settleFailures();
+}
+
+void PlaybackModel::handle(const event::Idle&) {
+  progress_.cameToRest();
+  settleFailures();
+}
+
+/// A file can also fail before those that were opened with it have reached the engine.
+void PlaybackModel::settleFailures() {
+  while (const auto failure = progress_.nextFailure(queue_)) tellOf(*failure);
+  if (const auto next = progress_.takeLeftBehind(queue_)) playQueueItem(*next);
+}
+
+void PlaybackModel::tellOf(const QueueProgress::Failure& failure) {
+  const QString title = failure.title.isEmpty() ? title_ : failure.title;
+  const QString message = tr("Could not play %1: %2").arg(title, failure.reason);
+  if (failure.isNew && failure.isSkipped) {
+    errorMessage_ = message;  // the rest is about the file that has started since
+  } else if (failure.isNew) {
+    title_ = title;
+    reportPlaybackError(message);
+  }
+  if (failure.isSkipped) player().showToast(tr("Skipped %1: %2").arg(title, failure.reason));
+  if (!failure.isLast) return;
   player().setAwaitingVideo(false);
   if (player().hasWindow()) {
     player().close();
@@ -115,6 +137,8 @@ void PlaybackModel::handleFailedFile(const QString& error) {
 
 void PlaybackModel::handle(const event::CommandFailed& failure) {
   if (!isLoaded_) reportPlaybackError(engineErrorText(failure.error));
+  progress_.refused();
+  settleFailures();
 }
 
 void PlaybackModel::handle(const event::Shutdown&) {
@@ -163,14 +187,6 @@ void PlaybackModel::updateStatus() {
   } else {
     status_ = isPaused_ ? QStringLiteral("Paused") : QStringLiteral("Playing");
   }
-}
-
-void PlaybackModel::publishQueue(const PlayQueue& queue) {
-  outlook_.reported(queue);
-  queue_ = queue;
-  // A file can fail before those that were opened with it have reached the engine.
-  if (!hasFailed_) return;
-  if (const auto next = outlook_.leftOver(queue)) playQueueItem(*next);
 }
 
 }  // namespace tromelo

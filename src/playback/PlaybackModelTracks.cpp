@@ -18,19 +18,14 @@ void PlaybackModel::turnSubtitlesOff() { engine_.setProperty("sid", "no"); }
 void PlaybackModel::selectAudio(qint64 track) { engine_.setProperty("aid", std::to_string(track)); }
 
 void PlaybackModel::playQueueItem(qint64 item) {
-  outlook_.willStart(item);
   engine_.command({"playlist-play-index", std::to_string(item)});
 }
 
 void PlaybackModel::removeQueueItem(qint64 item) {
-  outlook_.removed();
   engine_.command({"playlist-remove", std::to_string(item)});
 }
 
-void PlaybackModel::clearQueue() {
-  outlook_.removed();
-  engine_.command({"playlist-clear"});
-}
+void PlaybackModel::clearQueue() { engine_.command({"playlist-clear"}); }
 
 QString PlaybackModel::cycleSubtitle() {
   const QList<MediaTrack>& tracks = subtitleTracks_;

@@ -55,10 +55,7 @@ void PlaybackModel::endScrubbing() {
   isScrubbing_ = false;
 }
 
-void PlaybackModel::playPrevious() {
-  if (const auto current = currentIndex(queue_); current > 0) outlook_.willStart(*current - 1);
-  engine_.command({"playlist-prev"});
-}
+void PlaybackModel::playPrevious() { engine_.command({"playlist-prev"}); }
 
 void PlaybackModel::playNext() { engine_.command({"playlist-next"}); }
 

@@ -146,7 +146,10 @@ struct PropertyMapping::Actions {
         position < 0 ? std::nullopt : std::optional(static_cast<int>(std::min(position, kLast)));
   }
 
-  static void playlist(Model& m, const Value& v) { m.publishQueue(playQueue(v)); }
+  static void playlist(Model& m, const Value& v) {
+    m.queue_ = playQueue(v);
+    m.settleFailures();
+  }
 
   /// Anything but "no" is "inf" or a number of rounds.
   static void loopFile(Model& m, const Value& v) {

@@ -22,15 +22,16 @@ std::optional<MpvEvent> translatedEnd(mpv_end_file_reason reason, int error) {
   mpv_event_end_file end{};
   end.reason = reason;
   end.error = error;
+  end.playlist_entry_id = 7;
   return translated(MPV_EVENT_END_FILE, &end);
 }
 
 }  // namespace
 
 TEST(Translation, EventsWithoutPayload) {
-  EXPECT_EQ(translated(MPV_EVENT_START_FILE), MpvEvent(event::StartFile{}));
   EXPECT_EQ(translated(MPV_EVENT_FILE_LOADED), MpvEvent(event::FileLoaded{}));
   EXPECT_EQ(translated(MPV_EVENT_PLAYBACK_RESTART), MpvEvent(event::PlaybackRestart{}));
+  EXPECT_EQ(translated(MPV_EVENT_IDLE), MpvEvent(event::Idle{}));
   EXPECT_EQ(translated(MPV_EVENT_SHUTDOWN), MpvEvent(event::Shutdown{}));
   for (const mpv_event_id other : {MPV_EVENT_SET_PROPERTY_REPLY, MPV_EVENT_GET_PROPERTY_REPLY,
                                    MPV_EVENT_SEEK, MPV_EVENT_VIDEO_RECONFIG, MPV_EVENT_HOOK}) {
@@ -57,9 +58,11 @@ TEST(Translation, ThePlayersWordsOnItsOutputsCount) {
   EXPECT_EQ(translatedLog("cplayer", "No audio."), std::nullopt);
 }
 
-TEST(Translation, EndOfFile) {
+TEST(Translation, StartAndEndOfFile) {
+  mpv_event_start_file start{7};
+  EXPECT_EQ(translated(MPV_EVENT_START_FILE, &start), MpvEvent(event::StartFile{7}));
   const auto ended = [](std::optional<std::string> error) {
-    return std::optional<MpvEvent>(event::EndFile{std::move(error)});
+    return std::optional<MpvEvent>(event::EndFile{std::move(error), 7});
   };
   const struct {
     const char* what;
@@ -78,8 +81,15 @@ TEST(Translation, EndOfFile) {
   for (const auto& row : rows) EXPECT_EQ(row.got, row.expected) << row.what;
 }
 
-TEST(Translation, RepliesToCommandsMatterWhenTheyFail) {
-  EXPECT_EQ(translated(MPV_EVENT_COMMAND_REPLY, nullptr, 0), std::nullopt);
+TEST(Translation, RepliesToCommandsMatterWhenTheyFailOrQueueAFile) {
+  mpv_event_command reply{};
+  EXPECT_EQ(translated(MPV_EVENT_COMMAND_REPLY, &reply), std::nullopt);
+  mpv_node entry{.u = {.int64 = 7}, .format = MPV_FORMAT_INT64};
+  std::string key = "playlist_entry_id";
+  char* keys = key.data();
+  mpv_node_list map{1, &entry, &keys};
+  reply.result = {.u = {.list = &map}, .format = MPV_FORMAT_NODE_MAP};
+  EXPECT_EQ(translated(MPV_EVENT_COMMAND_REPLY, &reply), MpvEvent(event::FileQueued{7}));
   EXPECT_EQ(translated(MPV_EVENT_COMMAND_REPLY, nullptr, MPV_ERROR_COMMAND),
             MpvEvent(event::CommandFailed{mpv_error_string(MPV_ERROR_COMMAND)}));
 }

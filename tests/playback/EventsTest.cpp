@@ -133,24 +133,24 @@ TEST_F(Events, AFailedCommandMattersWhileNothingPlays) {
 TEST_F(Events, AFileThatFailsGivesWayToTheNextOrClosesThePlayer) {
   const struct {
     const char* what;
-    std::size_t current;
+    MpvEvent followedBy;
     bool hasWindow;
     QStringList calls;
   } rows[] = {
-      {"the next is coming", 0, true, {"toast Skipped Movie: no data"}},
-      {"the last, with a window", 1, true, {"not awaiting", "close"}},
-      {"the last, without one", 1, false, {"not awaiting", "library"}},
+      {"the next is coming", event::StartFile{}, true, {"toast Skipped Movie: no data"}},
+      {"the last, with a window", event::Idle{}, true, {"not awaiting", "close"}},
+      {"the last, without one", event::Idle{}, false, {"not awaiting", "library"}},
   };
   for (const auto& row : rows) {
     remake();
     player_ = {.calls = {}, .hasWindow = row.hasWindow};
     report(event::StartFile{});
     report(P::mediaTitle, "Movie.mkv");
-    reportPlaylist({"a.mkv", "b.mkv"}, row.current);
     report(event::EndFile{"no data"});
     EXPECT_EQ(model().errorMessage(), "Could not play Movie: no data") << row.what;
     EXPECT_EQ(model().status(), model().errorMessage()) << row.what;
     EXPECT_EQ(model().buffering(), "Unavailable") << row.what;
+    report(row.followedBy);
     EXPECT_EQ(player_.take(), row.calls) << row.what;
   }
 }
@@ -203,14 +203,19 @@ TEST_F(Events, AMissingSoundDeviceIsToldOnceInTheWindowOfTheFilm) {
 }
 
 TEST_F(Events, FilesThatFailBeforeTheQueueIsReportedAreNamedEach) {
+  model().open(fileUrlFromPath("/films/former.mkv"));
   model().open(QList<QUrl>{fileUrlFromPath("/films/a.mkv"), fileUrlFromPath("/films/b.mkv"),
                            fileUrlFromPath("/films/c.mkv")});
   player_.take();
-  reportPlaylist({"former.mkv", "other.mkv"}, 0);
-  for (int i = 0; i < 3; ++i) {
-    report(event::StartFile{});
-    report(event::EndFile{"gone"});
+  report(event::FileQueued{100});
+  report(event::EndFile{"gone", 100});
+  for (const std::int64_t entry : {1, 2, 3}) report(event::FileQueued{entry});
+  for (const std::int64_t entry : {1, 2, 3}) {
+    report(event::StartFile{entry});
+    report(event::EndFile{"gone", entry});
   }
+  report(event::Idle{});
+  reportPlaylist({"a.mkv", "b.mkv", "c.mkv"}, 9);
   EXPECT_EQ(player_.take(), (QStringList{"toast Skipped a: gone", "toast Skipped b: gone",
                                          "not awaiting", "library"}));
   EXPECT_EQ(model().errorMessage(), "Could not play c: gone");
@@ -218,18 +223,24 @@ TEST_F(Events, FilesThatFailBeforeTheQueueIsReportedAreNamedEach) {
 
 TEST_F(Events, FilesThatReachTheEngineAfterTheFirstHasFailedArePlayed) {
   model().open(QList<QUrl>{fileUrlFromPath("/films/a.mkv"), fileUrlFromPath("/films/b.mkv")});
-  report(event::StartFile{});
-  report(event::EndFile{"gone"});
+  player_.take();
+  for (const MpvEvent& event : std::initializer_list<MpvEvent>{
+           event::FileQueued{1}, event::StartFile{1}, event::EndFile{"gone", 1}, event::Idle{}})
+    report(event);
+  reportPlaylist({"a.mkv"}, 9);
+  report(event::FileQueued{2});
   takeRequests();
-  constexpr std::size_t kNone = 9;
-  reportPlaylist({"a.mkv"}, kNone);
-  EXPECT_EQ(takeRequests(), Requests());
-  reportPlaylist({"a.mkv", "b.mkv"}, kNone);
-  reportPlaylist({"a.mkv", "b.mkv"}, kNone);
+  reportPlaylist({"a.mkv", "b.mkv"}, 9);
   EXPECT_EQ(takeRequests(), (Requests{{"playlist-play-index", "1"}}));
-  report(event::StartFile{});
-  report(event::EndFile{"gone"});
-  EXPECT_EQ(player_.take().last(), "library");
+  report(event::StartFile{2});
+  EXPECT_EQ(player_.take(), QStringList{"toast Skipped a: gone"});
+
+  model().enqueue({fileUrlFromPath("/films/c.mkv")});
+  report(event::EndFile{"gone", 2});
+  report(event::Idle{});
+  EXPECT_EQ(player_.take(), QStringList()) << "another is coming";
+  report(event::CommandFailed{"refused"});
+  EXPECT_EQ(player_.take(), (QStringList{"not awaiting", "library"}));
 }
 
 TEST_F(Events, NothingHappensOnceTheModelIsGone) {

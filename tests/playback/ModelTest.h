@@ -43,11 +43,12 @@ class ModelTest : public ::testing::Test {
     report(event::StartFile{});
     report(event::FileLoaded{});
   }
-  /// `names` in order, `current` the position of the one that plays.
+  /// `names` in order, entries 1, 2, …; `current` the position of the one that plays.
   void reportPlaylist(const std::vector<std::string>& names, std::size_t current) {
     MpvList list;
     for (std::size_t i = 0; i < names.size(); ++i) {
-      MpvMap entry{{"filename", MpvNode{"/films/" + names[i]}}};
+      MpvMap entry{{"filename", MpvNode{"/films/" + names[i]}},
+                   {"id", MpvNode{static_cast<std::int64_t>(i + 1)}}};
       if (i == current) entry["current"] = MpvNode{true};
       list.push_back(MpvNode{entry});
     }

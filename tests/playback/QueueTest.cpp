@@ -2,7 +2,7 @@
 
 #include "Nodes.h"
 #include "playback/QueueItem.h"
-#include "playback/QueueOutlook.h"
+#include "playback/QueueProgress.h"
 
 namespace tromelo {
 
@@ -66,77 +66,29 @@ TEST(Queue, KnowsItsNeighbours) {
   }
 }
 
-TEST(QueueOutlook, CountsWhatWasAskedForUntilItIsReported) {
-  QueueOutlook outlook;
-  outlook.reported(queueOf(5, 0));
-  outlook.opened("a");
-  outlook.appended("b");
-  outlook.reported(queueOf(5, 1));  // of what played before
-  outlook.fileStarted();
-  EXPECT_TRUE(outlook.hasNext());
-  EXPECT_EQ(outlook.unreportedTitle(), "a");
-  outlook.reported(queueOf(1, 0));  // the second has not arrived
-  EXPECT_TRUE(outlook.hasNext());
-  EXPECT_EQ(outlook.unreportedTitle(), std::nullopt);
-  outlook.fileStarted();
-  EXPECT_FALSE(outlook.hasNext());
-  EXPECT_EQ(outlook.unreportedTitle(), "b");
-  outlook.reported(queueOf(2, 1));
-  EXPECT_FALSE(outlook.hasNext());
-}
+TEST(QueueProgress, WhatWasReplacedMeanwhileIsNotToldAndWhatWasRefusedIsNotWaitedFor) {
+  QueueProgress progress;
+  progress.opened();
+  progress.queued(1);
+  progress.appended();
+  progress.opened();
+  progress.appended();
+  progress.started();
+  EXPECT_FALSE(progress.failed(1, "gone"));
+  progress.queued(2);
+  progress.started();
+  EXPECT_FALSE(progress.failed(2, "gone"));
+  progress.cameToRest();
+  progress.queued(3);
+  progress.started();
+  EXPECT_TRUE(progress.failed(3, "gone"));
+  progress.cameToRest();
 
-TEST(QueueOutlook, FollowsAReportThatComesBeforeTheStartItTellsOf) {
-  QueueOutlook outlook;
-  outlook.fileStarted();
-  outlook.reported(queueOf(3, 0));
-  outlook.reported(queueOf(3, 1));
-  outlook.fileStarted();
-  EXPECT_TRUE(outlook.hasNext());
-  outlook.fileStarted();
-  EXPECT_FALSE(outlook.hasNext());
-}
-
-TEST(QueueOutlook, IsNotSetBackByAReportOfWhatPlayedBefore) {
-  QueueOutlook outlook;
-  outlook.fileStarted();
-  outlook.fileStarted();
-  outlook.reported(queueOf(3, 0));
-  outlook.reported(queueOf(3, 1));
-  outlook.fileStarted();
-  EXPECT_FALSE(outlook.hasNext());
-}
-
-TEST(QueueOutlook, FollowsJumpsAndRemovals) {
-  QueueOutlook outlook;
-  outlook.reported(queueOf(3, 2));
-  EXPECT_FALSE(outlook.hasNext());
-  outlook.fileStarted();
-  outlook.reported(queueOf(3, 0));  // a jump back to the first
-  EXPECT_TRUE(outlook.hasNext());
-  outlook.fileStarted();
-  outlook.fileStarted();
-  EXPECT_FALSE(outlook.hasNext());
-  outlook.reported(queueOf(1, 0));
-  EXPECT_FALSE(outlook.hasNext());
-}
-
-TEST(QueueOutlook, CountsOnFromAnItemThatMovedAndFromOneThatWasJumpedTo) {
-  PlayQueue queue = queueOf(3, 1);
-  for (QueueItem& item : queue) item.path = item.title;
-  QueueOutlook outlook;
-  outlook.reported(queue);
-  queue.removeFirst();
-  outlook.reported(queue);
-  outlook.fileStarted();
-  EXPECT_FALSE(outlook.hasNext());
-  EXPECT_EQ(outlook.unreportedTitle(), "2");
-
-  outlook.reported(queueOf(4, 3));
-  outlook.willStart(1);
-  outlook.reported(queueOf(4, 3));
-  outlook.fileStarted();
-  EXPECT_EQ(outlook.unreportedTitle(), "1");
-  EXPECT_TRUE(outlook.hasNext());
+  const PlayQueue queue{{0, "Film", QString(), false, 3}};
+  EXPECT_EQ(progress.nextFailure(queue)->title, "Film");
+  EXPECT_FALSE(progress.nextFailure(queue)) << "another is on its way";
+  progress.refused();
+  EXPECT_TRUE(progress.nextFailure(queue)->isLast);
 }
 
 }  // namespace tromelo
