@@ -24,6 +24,7 @@ struct Property {
 struct EndFile {
   std::optional<std::string> error;  // none: the file ended by itself or was stopped
   std::int64_t entry = 0;
+  bool lacksSoundDevice = false;  // the error is that its sound had nowhere to go
   friend bool operator==(const EndFile&, const EndFile&) = default;
 };
 
@@ -51,6 +52,12 @@ struct FileLoaded {
 /// After loading or seeking.
 struct PlaybackRestart {
   friend bool operator==(PlaybackRestart, PlaybackRestart) = default;
+};
+
+/// Pictures of another form come from now on, or none. Between the loading of a file and its first
+/// PlaybackRestart: it has a picture, which can be shown.
+struct VideoReconfigured {
+  friend bool operator==(VideoReconfigured, VideoReconfigured) = default;
 };
 
 /// Nothing starts until it is asked for.
@@ -81,8 +88,8 @@ struct AudioOutputFailed {
 
 using MpvEvent =
     std::variant<event::Property, event::EndFile, event::CommandFailed, event::FileQueued,
-                 event::StartFile, event::FileLoaded, event::PlaybackRestart, event::Idle,
-                 event::Shutdown, event::HardwareDecodeError, event::VideoOutputFailed,
-                 event::AudioOutputFailed>;
+                 event::StartFile, event::FileLoaded, event::PlaybackRestart,
+                 event::VideoReconfigured, event::Idle, event::Shutdown, event::HardwareDecodeError,
+                 event::VideoOutputFailed, event::AudioOutputFailed>;
 
 }  // namespace tromelo

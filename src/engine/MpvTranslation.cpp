@@ -52,6 +52,7 @@ std::optional<MpvEvent> translateEnd(const MpvClientApi& api, const mpv_event_en
   event::EndFile ended{.error = {}, .entry = end->playlist_entry_id};
   if (end->reason == MPV_END_FILE_REASON_ERROR) {
     ended.error = mpvErrorText(api, end->error).value_or("Playback failed");
+    ended.lacksSoundDevice = end->error == MPV_ERROR_AO_INIT_FAILED;
   }
   return ended;
 }
@@ -80,6 +81,8 @@ std::optional<MpvEvent> translateMpvEvent(const MpvClientApi& api, const mpv_eve
       return event::FileLoaded{};
     case MPV_EVENT_PLAYBACK_RESTART:
       return event::PlaybackRestart{};
+    case MPV_EVENT_VIDEO_RECONFIG:
+      return event::VideoReconfigured{};
     case MPV_EVENT_IDLE:
       return event::Idle{};
     case MPV_EVENT_PROPERTY_CHANGE:

@@ -160,6 +160,7 @@ class PlaybackModel : public PlaybackState {
   void handle(const event::StartFile& start);
   void handle(const event::FileLoaded&);
   void handle(const event::PlaybackRestart&);
+  void handle(const event::VideoReconfigured&);
   void handle(const event::Idle&);
   void handle(const event::Shutdown&);
   void handle(const event::HardwareDecodeError&);
@@ -205,6 +206,7 @@ class PlaybackModel : public PlaybackState {
   double subtitleLift_ = 0;
   double lastScrubSeek_ = 0;  // of the clock
   bool hasStarted_ = false;   // the current file has
+  bool hasPicture_ = false;   // the current file has, and it is shown
   bool hasFailed_ = false;    // the current file has
   QString outputFault_;       // of the current file; a sentence
   QString toast_;             // waits for the player window

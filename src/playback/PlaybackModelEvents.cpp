@@ -41,6 +41,7 @@ void PlaybackModel::handle(const event::StartFile&) {
 void PlaybackModel::resetForNewFile() {
   isLoaded_ = false;
   hasStarted_ = false;
+  hasPicture_ = false;
   hasFailed_ = false;
   outputFault_.clear();
   restart_.reset();
@@ -66,6 +67,10 @@ void PlaybackModel::handle(const event::FileLoaded&) {
   buffering_ = QStringLiteral("Ready");
   if (currentPath_) remember(*currentPath_);
   tellOutputFault();
+}
+
+void PlaybackModel::handle(const event::VideoReconfigured&) {
+  if (isLoaded_ && !hasStarted_) hasPicture_ = true;
 }
 
 void PlaybackModel::handle(const event::PlaybackRestart&) {
@@ -95,11 +100,13 @@ void PlaybackModel::showVideoReady() {
 
 void PlaybackModel::handle(const event::EndFile& end) {
   isLoaded_ = false;
-  if (!end.error) {
+  // A film that was shown without its sound has been played.
+  if (!end.error || (end.lacksSoundDevice && hasPicture_)) {
     status_ = QStringLiteral("Ready for a video");
     buffering_ = kUnknown;
     return;
   }
+  if (end.lacksSoundDevice && outputFault_.isEmpty()) outputFault_ = audioOutputFault();
   const QString reason = outputFault_.isEmpty() ? engineErrorText(*end.error) : outputFault_;
   hasFailed_ = progress_.failed(end.entry, reason);
   settleFailures();

@@ -53,6 +53,7 @@ TEST_F(RealEngine, PlaysAFileFromLoadToEnd) {
   ASSERT_TRUE(waitFor([this] { return has(event::PlaybackRestart{}); }));
   // The first can come before it comes to rest at all.
   std::erase(received, MpvEvent(event::Idle{}));
+  std::erase(received, MpvEvent(event::VideoReconfigured{}));
   EXPECT_EQ(received, (std::vector<MpvEvent>{event::FileQueued{1}, event::StartFile{1},
                                              event::FileLoaded{}, event::PlaybackRestart{}}));
   received.clear();

@@ -31,10 +31,11 @@ std::optional<MpvEvent> translatedEnd(mpv_end_file_reason reason, int error) {
 TEST(Translation, EventsWithoutPayload) {
   EXPECT_EQ(translated(MPV_EVENT_FILE_LOADED), MpvEvent(event::FileLoaded{}));
   EXPECT_EQ(translated(MPV_EVENT_PLAYBACK_RESTART), MpvEvent(event::PlaybackRestart{}));
+  EXPECT_EQ(translated(MPV_EVENT_VIDEO_RECONFIG), MpvEvent(event::VideoReconfigured{}));
   EXPECT_EQ(translated(MPV_EVENT_IDLE), MpvEvent(event::Idle{}));
   EXPECT_EQ(translated(MPV_EVENT_SHUTDOWN), MpvEvent(event::Shutdown{}));
   for (const mpv_event_id other : {MPV_EVENT_SET_PROPERTY_REPLY, MPV_EVENT_GET_PROPERTY_REPLY,
-                                   MPV_EVENT_SEEK, MPV_EVENT_VIDEO_RECONFIG, MPV_EVENT_HOOK}) {
+                                   MPV_EVENT_SEEK, MPV_EVENT_HOOK}) {
     EXPECT_EQ(translated(other, nullptr, MPV_ERROR_GENERIC), std::nullopt) << other;
   }
 }
@@ -61,8 +62,8 @@ TEST(Translation, ThePlayersWordsOnItsOutputsCount) {
 TEST(Translation, StartAndEndOfFile) {
   mpv_event_start_file start{7};
   EXPECT_EQ(translated(MPV_EVENT_START_FILE, &start), MpvEvent(event::StartFile{7}));
-  const auto ended = [](std::optional<std::string> error) {
-    return std::optional<MpvEvent>(event::EndFile{std::move(error), 7});
+  const auto ended = [](std::optional<std::string> error, bool lacksSoundDevice = false) {
+    return std::optional<MpvEvent>(event::EndFile{std::move(error), 7, lacksSoundDevice});
   };
   const struct {
     const char* what;
@@ -74,6 +75,8 @@ TEST(Translation, StartAndEndOfFile) {
       {"redirected", translatedEnd(MPV_END_FILE_REASON_REDIRECT, 0), ended({})},
       {"failed", translatedEnd(MPV_END_FILE_REASON_ERROR, MPV_ERROR_LOADING_FAILED),
        ended(mpv_error_string(MPV_ERROR_LOADING_FAILED))},
+      {"without sound", translatedEnd(MPV_END_FILE_REASON_ERROR, MPV_ERROR_AO_INIT_FAILED),
+       ended(mpv_error_string(MPV_ERROR_AO_INIT_FAILED), true)},
       {"failed without a reason", translatedEnd(MPV_END_FILE_REASON_ERROR, 0),
        ended("Playback failed")},
       {"no payload", translated(MPV_EVENT_END_FILE), std::nullopt},

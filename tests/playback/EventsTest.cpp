@@ -202,6 +202,24 @@ TEST_F(Events, AMissingSoundDeviceIsToldOnceInTheWindowOfTheFilm) {
   EXPECT_TRUE(player_.calls.isEmpty());
 }
 
+TEST_F(Events, AFilmThatWasShownWithoutSoundHasBeenPlayed) {
+  const event::EndFile end{.error = "no device", .lacksSoundDevice = true};
+  report(event::StartFile{});
+  report(event::VideoReconfigured{});  // the picture of the file before goes
+  report(event::FileLoaded{});
+  report(event::PlaybackRestart{});
+  report(end);
+  EXPECT_EQ(model().status(), "Could not play No video selected: " + audioOutputFault());
+  load();
+  report(event::VideoReconfigured{});
+  report(event::PlaybackRestart{});
+  player_.take();
+  report(end);
+  EXPECT_EQ(model().status(), "Ready for a video");
+  report(event::StartFile{});
+  EXPECT_TRUE(player_.calls.isEmpty());
+}
+
 TEST_F(Events, FilesThatFailBeforeTheQueueIsReportedAreNamedEach) {
   model().open(fileUrlFromPath("/films/former.mkv"));
   model().open(QList<QUrl>{fileUrlFromPath("/films/a.mkv"), fileUrlFromPath("/films/b.mkv"),

@@ -19,7 +19,15 @@ namespace tromelo::testing {
 /// The model over the real libmpv, without picture and sound.
 class RealPlayback : public ::testing::Test {
  protected:
-  RealPlayback() {
+  explicit RealPlayback(bool hasSoundDevice = true)
+      : model_({.api = headlessMpv(hasSoundDevice),
+                .clock = clock_,
+                .files = chooser_,
+                .defaults = defaults_,
+                .diagnosticsDirectory = directory_.filePath("diagnostics"),
+                .makePlayer = [this](PlaybackModel&) {
+                  return std::make_unique<FakePlayer>(player_);
+                }}) {
     auto& onEvent = model_.engine().onEvent;
     onEvent = [this, toModel = onEvent](const MpvEvent& event) {
       note(event);
@@ -60,13 +68,7 @@ class RealPlayback : public ::testing::Test {
   FakePlayer::Log player_;
   int restarts_ = 0;
   double position_ = 0;  // as the engine reports it, seconds
-  PlaybackModel model_{
-      {.api = headlessMpv(),
-       .clock = clock_,
-       .files = chooser_,
-       .defaults = defaults_,
-       .diagnosticsDirectory = directory_.filePath("diagnostics"),
-       .makePlayer = [this](PlaybackModel&) { return std::make_unique<FakePlayer>(player_); }}};
+  PlaybackModel model_;
 
  private:
   void note(const MpvEvent& event) {

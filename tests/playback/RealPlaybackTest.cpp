@@ -1,4 +1,5 @@
 #include "RealPlayback.h"
+#include "playback/OutputFaults.h"
 
 namespace tromelo {
 
@@ -9,6 +10,10 @@ using testing::waitFor;
 
 /// A little more than a frame of the clips.
 constexpr double kFrame = 0.04;
+
+struct WithoutSound : RealPlayback {
+  WithoutSound() : RealPlayback(false) {}
+};
 
 }  // namespace
 
@@ -111,6 +116,17 @@ TEST_F(RealPlayback, SoundWithoutPicturePlays) {
   EXPECT_TRUE(waitFor([this] { return position_ > 0.1; }));
   EXPECT_EQ(model_.videoSize(), "—");
   EXPECT_EQ(model_.errorMessage(), "");
+}
+
+TEST_F(WithoutSound, FilmsPlayOneAfterTheOtherAndSoundIsMissedOnce) {
+  player_.hasWindow = true;
+  model_.open(QList<QUrl>{clip("short-wide.mp4"), clip("short-square.mp4"), clip("audio.m4a"),
+                          clip("short-tall.mp4")});
+  ASSERT_TRUE(waitFor([this] { return model_.title() == "short-tall" && model_.isPaused(); }));
+  const QString missing = audioOutputFault();
+  EXPECT_EQ(player_.calls.filter("toast").join('\n'),
+            "toast " + missing + "\ntoast Skipped audio: " + missing);
+  EXPECT_FALSE(player_.calls.contains("close"));
 }
 
 TEST_F(RealPlayback, TheEngineEndsWhileItPlaysAndTellsNothingMore) {

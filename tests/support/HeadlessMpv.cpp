@@ -1,19 +1,18 @@
 #include "support/HeadlessMpv.h"
 
+#include <string_view>
+
 namespace tromelo::testing {
 
-MpvClientApi headlessMpv(std::map<std::string, std::string> overrides) {
+MpvClientApi headlessMpv(bool hasSoundDevice) {
   MpvClientApi api = MpvClientApi::libmpv();
-  overrides.insert({"vo", "null"});
-  api.setOptionString = [overrides = std::move(overrides)](mpv_handle* handle, const char* name,
-                                                           const char* value) {
-    const auto found = overrides.find(name);
-    return mpv_set_option_string(handle, name,
-                                 found == overrides.end() ? value : found->second.c_str());
+  api.setOptionString = [](mpv_handle* handle, const char* name, const char* value) {
+    return mpv_set_option_string(handle, name, name == std::string_view("vo") ? "null" : value);
   };
   // No option of the engine's own asks for an audio output.
-  api.initialize = [](mpv_handle* handle) {
-    mpv_set_option_string(handle, "ao", "null");
+  api.initialize = [hasSoundDevice](mpv_handle* handle) {
+    mpv_set_option_string(handle, "ao", hasSoundDevice ? "null" : "pcm");
+    mpv_set_option_string(handle, "ao-pcm-file", "/no/such/folder/file");
     return mpv_initialize(handle);
   };
   return api;

@@ -1,14 +1,10 @@
 #pragma once
 
-#include <map>
-#include <string>
-
 #include "engine/MpvClientApi.h"
 
 namespace tromelo::testing {
 
-/// The real libmpv, but with neither picture nor sound; `overrides` are other option values that
-/// take the place of the engine's own.
-MpvClientApi headlessMpv(std::map<std::string, std::string> overrides = {});
+/// The real libmpv, but its picture and sound go nowhere; without a device it can't open the sound.
+MpvClientApi headlessMpv(bool hasSoundDevice = true);
 
 }  // namespace tromelo::testing
