@@ -38,7 +38,7 @@ Rectangle {
 
     Text {
         objectName: "noRecents"
-        visible: list.count === 0
+        visible: sidebar.playback.hasNoRecents
         anchors.top: heading.bottom
         x: heading.x
         width: heading.width

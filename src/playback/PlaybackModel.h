@@ -183,8 +183,8 @@ class PlaybackModel : public PlaybackState {
   void loadRecents();
   void takeAnswers(const QList<FileExistence::Answer>& answers);
   void remember(const std::string& path);
-  void publishRecents();
-  void publishQueue(const PlayQueue& queue);
+  void showRecents();
+  void storeRecents();
 
   void load(const QUrl& url, const char* mode, std::optional<double> startAt);
   void append(const QList<QUrl>& urls);

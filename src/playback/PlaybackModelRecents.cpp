@@ -12,27 +12,33 @@ const QString kRecentFiles = QStringLiteral("recentFiles");
 
 void PlaybackModel::loadRecents() {
   recentFiles_ = RecentFiles(defaults_.value(kRecentFiles));
+  showRecents();
   existence_.ask(recentFiles_.unknown());
 }
 
 void PlaybackModel::takeAnswers(const QList<FileExistence::Answer>& answers) {
   for (const auto& [file, exists] : answers) recentFiles_.found(file, exists);
-  recents_ = recentFiles_.files();
+  showRecents();
 }
 
 void PlaybackModel::remember(const std::string& path) {
   recentFiles_.remember(fileUrlFromPath(path));
-  publishRecents();
+  storeRecents();
 }
 
 void PlaybackModel::removeRecent(const QUrl& file) {
   recentFiles_.remove(fileUrlFromPath(pathFromFileUrl(file)));
-  publishRecents();
+  storeRecents();
 }
 
-void PlaybackModel::publishRecents() {
-  recents_ = recentFiles_.files();
+void PlaybackModel::storeRecents() {
+  showRecents();
   defaults_.set(kRecentFiles, recentFiles_.stored());
+}
+
+void PlaybackModel::showRecents() {
+  recents_ = recentFiles_.files();
+  hasNoRecents_ = recentFiles_.isEmpty();
 }
 
 }  // namespace tromelo

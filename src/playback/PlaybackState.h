@@ -54,6 +54,7 @@ class PlaybackState : public QObject {
   Q_PROPERTY(bool isScrubbing READ isScrubbing NOTIFY isScrubbingChanged)
   Q_PROPERTY(double scrubPosition READ scrubPosition NOTIFY scrubPositionChanged)
   Q_PROPERTY(QList<QUrl> recents READ recents NOTIFY recentsChanged)
+  Q_PROPERTY(bool hasNoRecents READ hasNoRecents NOTIFY hasNoRecentsChanged)
   Q_PROPERTY(QUrl lastURL READ lastURL NOTIFY lastURLChanged)
 
  public:
@@ -93,6 +94,7 @@ class PlaybackState : public QObject {
   bool isScrubbing() const { return isScrubbing_; }        // the position is being dragged
   double scrubPosition() const { return scrubPosition_; }  // seconds; elapsed unless dragged
   QList<QUrl> recents() const { return recents_; }         // newest first
+  bool hasNoRecents() const { return hasNoRecents_; }      // false until that is known
   QUrl lastURL() const {
     return lastURL_;
   }  // the file that the engine told of last; empty when there is none
@@ -134,6 +136,7 @@ class PlaybackState : public QObject {
   void isScrubbingChanged();
   void scrubPositionChanged();
   void recentsChanged();
+  void hasNoRecentsChanged();
   void lastURLChanged();
 
  protected:
@@ -176,6 +179,7 @@ class PlaybackState : public QObject {
   Published<bool> isScrubbing_{this, &PlaybackState::isScrubbingChanged};
   Published<double> scrubPosition_{this, &PlaybackState::scrubPositionChanged};
   Published<QList<QUrl>> recents_{this, &PlaybackState::recentsChanged};
+  Published<bool> hasNoRecents_{this, &PlaybackState::hasNoRecentsChanged, true};
   Published<QUrl> lastURL_{this, &PlaybackState::lastURLChanged};
 
  private:

@@ -17,6 +17,8 @@ class RecentFiles {
   /// From a list of paths; what is something else is left out.
   explicit RecentFiles(const QJsonValue& stored);
 
+  /// Nothing is stored, not even a file that isn't known to be there yet.
+  bool isEmpty() const { return entries_.isEmpty(); }
   /// What is shown.
   QList<QUrl> files() const;
   /// To be stored: also what isn't known to be there yet.

@@ -1,6 +1,8 @@
 #include <QAccessible>
 #include <QDropEvent>
+#include <QJsonArray>
 #include <QMimeData>
+#include <semaphore>
 
 #include "library/SidebarWidth.h"
 #include "overlay/ViewTest.h"
@@ -30,8 +32,8 @@ class LibraryViewTest : public testing::ViewTest {
 
   /// To its end.
   void play(const char* path) {
-    report(MpvProperty::path, path);
     load(60);
+    report(MpvProperty::path, path);
     report(event::EndFile{});
     layOut();
   }
@@ -100,6 +102,27 @@ TEST_F(LibraryViewTest, ListsWhatWasPlayedNewestFirst) {
   clickAt(rows()[1]);
   EXPECT_EQ(opened(), Sent{"loadfile /Movies/.hidden replace"});
   EXPECT_EQ(chosen(), QString()) << "a click leaves the keyboard where it is";
+}
+
+TEST_F(LibraryViewTest, SaysNothingOfRecentFilesUntilTheyAreKnown) {
+  auto answers = std::make_shared<std::counting_semaphore<>>(0);
+  defaults_.set(QStringLiteral("recentFiles"), QJsonArray{"/share/film.mkv"});
+  PlaybackModel starting({.api = api_,
+                          .clock = clock_,
+                          .files = files_,
+                          .defaults = defaults_,
+                          .diagnosticsDirectory = directory_.path(),
+                          .makePlayer = {},
+                          .fileExists = [answers](const std::string&) {
+                            answers->acquire();
+                            return false;
+                          }});
+  show("RecentsList", {{"playback", QVariant::fromValue(&starting)},
+                       {"fileManager", QVariant::fromValue(&fileManager_)}});
+  EXPECT_FALSE(isShown("noRecents"));
+  answers->release();
+  EXPECT_TRUE(testing::waitFor([this] { return isShown("noRecents"); }));
+  view_.reset();
 }
 
 TEST_F(LibraryViewTest, TheKeyboardStaysAtItsFileWhileTheListChanges) {

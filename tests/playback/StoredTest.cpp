@@ -91,6 +91,8 @@ TEST_F(StoredTest, RemembersWhatPlaysAndShowsWhatIsThereAfterARestart) {
   model().removeRecent(QUrl::fromLocalFile(QString::fromStdString(kept)));
   EXPECT_EQ(model().recents(), there.sliced(1));
   EXPECT_EQ(pathFromStored(defaults_.value(kRecents)[0].toString()), bytes);
+  model().removeRecent(there[1]);
+  EXPECT_TRUE(waitFor([this] { return model().hasNoRecents(); }));
   std::remove(bytes.c_str());  // which the directory's own clearing up doesn't find
 }
 
@@ -109,6 +111,7 @@ TEST_F(StoredTest, AShareThatDoesNotAnswerHoldsNothingUp) {
   defaults_.set(kRecents, QJsonArray{"/share/slow", "/films/quick"});
   remake();
   EXPECT_TRUE(model().recents().isEmpty());  // not even a quick answer is waited for
+  EXPECT_FALSE(model().hasNoRecents());
   ASSERT_TRUE(waitFor([this] { return names(model().recents()) == "quick "; }));
   play("/films/new");
   EXPECT_EQ(names(model().recents()), "new quick ");
