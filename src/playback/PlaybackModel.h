@@ -182,6 +182,8 @@ class PlaybackModel : public PlaybackState {
   void rememberSoftwareDecode(const std::string& path);
   void loadRecents();
   void takeAnswers(const QList<FileExistence::Answer>& answers);
+  void takePath(const std::string& path);
+  void askForPath();
   void remember(const std::string& path);
   void showRecents();
   void storeRecents();
@@ -202,7 +204,8 @@ class PlaybackModel : public PlaybackState {
   QueueProgress progress_;
   RecentFiles recentFiles_;
   FileExistence existence_;
-  std::optional<std::string> currentPath_;  // as the engine reports it
+  std::int64_t entry_ = 0;                  // of the current file, the engine's number for it
+  std::optional<std::string> currentPath_;  // as the engine has reported it since the file started
   double subtitleLift_ = 0;
   double lastScrubSeek_ = 0;  // of the clock
   bool hasStarted_ = false;   // the current file has

@@ -31,10 +31,11 @@ void PlaybackModel::handle(const event::FileQueued& answer) {
   settleFailures();
 }
 
-void PlaybackModel::handle(const event::StartFile&) {
+void PlaybackModel::handle(const event::StartFile& start) {
   progress_.started();
   settleFailures();
   resetForNewFile();
+  entry_ = start.entry;
   status_ = QStringLiteral("Opening media");
 }
 
@@ -44,6 +45,7 @@ void PlaybackModel::resetForNewFile() {
   hasPicture_ = false;
   hasFailed_ = false;
   outputFault_.clear();
+  currentPath_.reset();
   restart_.reset();
   elapsed_ = 0;
   duration_ = 0;
@@ -65,7 +67,10 @@ void PlaybackModel::resetForNewFile() {
 void PlaybackModel::handle(const event::FileLoaded&) {
   isLoaded_ = true;
   buffering_ = QStringLiteral("Ready");
-  if (currentPath_) remember(*currentPath_);
+  if (currentPath_)
+    remember(*currentPath_);
+  else
+    askForPath();
   tellOutputFault();
 }
 

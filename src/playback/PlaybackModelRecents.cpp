@@ -21,6 +21,20 @@ void PlaybackModel::takeAnswers(const QList<FileExistence::Answer>& answers) {
   showRecents();
 }
 
+void PlaybackModel::takePath(const std::string& path) {
+  currentPath_ = path;
+  lastURL_ = fileUrlFromPath(path);
+  hardware_.pathReported(path);
+  if (isLoaded_) remember(path);
+}
+
+/// The engine doesn't report a path again that is that of the file before.
+void PlaybackModel::askForPath() {
+  engine_.readProperty("path", [this, entry = entry_](const std::optional<std::string>& path) {
+    if (path && isLoaded_ && entry == entry_ && !currentPath_) takePath(*path);
+  });
+}
+
 void PlaybackModel::remember(const std::string& path) {
   recentFiles_.remember(fileUrlFromPath(path));
   storeRecents();

@@ -6,7 +6,6 @@
 #include <limits>
 
 #include "engine/MpvValue.h"
-#include "platform/FilePath.h"
 #include "playback/PlaybackModel.h"
 #include "playback/VideoTexts.h"
 
@@ -120,12 +119,7 @@ struct PropertyMapping::Actions {
   }
 
   static void path(Model& m, const Value& v) {
-    const auto path = held<std::string>(v);
-    if (!path) return;
-    m.currentPath_ = path;
-    m.lastURL_ = fileUrlFromPath(*path);
-    m.hardware_.pathReported(*path);
-    if (m.isLoaded_) m.remember(*path);
+    if (const auto path = held<std::string>(v)) m.takePath(*path);
   }
 
   static void hwdecCurrent(Model& m, const Value& v) {

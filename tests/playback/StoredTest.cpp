@@ -69,8 +69,9 @@ class StoredTest : public ModelTest {
     return path;
   }
   void play(const std::string& path) {
+    report(event::StartFile{});
     report(MpvProperty::path, path);
-    load();
+    report(event::FileLoaded{});
   }
 };
 
@@ -96,10 +97,26 @@ TEST_F(StoredTest, RemembersWhatPlaysAndShowsWhatIsThereAfterARestart) {
   std::remove(bytes.c_str());  // which the directory's own clearing up doesn't find
 }
 
-TEST_F(StoredTest, AFileThatIsNotLoadedIsNotRemembered) {
-  report(MpvProperty::path, "/films/a.mkv");
-  report(event::StartFile{});
+TEST_F(StoredTest, APathIsOfTheFileThatHasStartedSince) {
+  report(MpvProperty::path, "/films/a.mkv");  // which can't be played
+  report(event::StartFile{2});
+  report(event::FileLoaded{});
   EXPECT_TRUE(model().recents().isEmpty());
+  report(MpvProperty::path, "/films/b.mkv");
+  EXPECT_EQ(names(model().recents()), "b.mkv ");
+  model().removeRecent(file("b.mkv"));
+
+  report(event::StartFile{3});  // the same file: the engine sees no change to report
+  takeRequests();
+  report(event::FileLoaded{});
+  const Requests asked = takeRequests();
+  ASSERT_EQ(asked.size(), 1U);
+  EXPECT_EQ(asked[0][1], "path");
+  const char* path = "/films/b.mkv";
+  mpv_event_property answer{"path", MPV_FORMAT_OSD_STRING, &path};
+  mpv_.queue(MPV_EVENT_GET_PROPERTY_REPLY, &answer, std::stoull(asked[0][2]));
+  model().engine().drainEvents();
+  EXPECT_EQ(names(model().recents()), "b.mkv ");
 }
 
 TEST_F(StoredTest, AShareThatDoesNotAnswerHoldsNothingUp) {
