@@ -200,13 +200,9 @@ void Program::tellOfMissingLog() {
 }
 
 void Program::offerToDesktop() {
-  PlaybackModel& playback = delegate_->playback();
-  const auto offer = [&playback] {
-    if (playback.isLoaded() && !playback.lastURL().isEmpty())
-      addToDesktopRecents(playback.lastURL());
-  };
-  QObject::connect(&playback, &PlaybackModel::isLoadedChanged, delegate_.get(), offer);
-  QObject::connect(&playback, &PlaybackModel::lastURLChanged, delegate_.get(), offer);
+  const PlaybackModel& playback = delegate_->playback();
+  QObject::connect(&playback, &PlaybackModel::remembered, &addToDesktopRecents);
+  QObject::connect(&playback, &PlaybackModel::forgotten, &removeFromDesktopRecents);
 }
 
 void Program::offerMediaControls() {

@@ -4,6 +4,8 @@
 
 #include <QFile>
 #include <QMimeDatabase>
+#include <deque>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <thread>
@@ -30,11 +32,42 @@ Bookmarks load(const QByteArray& listPath) {
   return isNew ? Bookmarks(g_bookmark_file_new()) : nullptr;
 }
 
+/// What is to be done to the list, one thing after the other.
+class Line : public std::enable_shared_from_this<Line> {
+ public:
+  void append(std::function<void()> job) {
+    const std::scoped_lock lock(mutex_);
+    jobs_.push_back(std::move(job));
+    if (jobs_.size() > 1) return;  // the thread that works will come to it
+    // Left to itself: our end doesn't wait for the disk.
+    std::thread([line = shared_from_this()] { line->work(); }).detach();
+  }
+
+ private:
+  void work() {
+    std::unique_lock lock(mutex_);
+    while (!jobs_.empty()) {
+      const auto& job = jobs_.front();  // stays in its place meanwhile
+      lock.unlock();
+      job();
+      lock.lock();
+      jobs_.pop_front();
+    }
+  }
+
+  std::mutex mutex_;
+  std::deque<std::function<void()>> jobs_;
+};
+
+void changeList(bool (*change)(const QByteArray& listPath, const QUrl& file), const QUrl& file) {
+  static const auto line = std::make_shared<Line>();
+  const QByteArray list = QFile::encodeName(userDataDirectory()) + "/recently-used.xbel";
+  line->append([change, list, file] { change(list, file); });
+}
+
 }  // namespace
 
 bool addToRecentsList(const QByteArray& listPath, const QUrl& file) {
-  static std::mutex oneAtATime;
-  const std::scoped_lock lock(oneAtATime);
   const Bookmarks bookmarks = load(listPath);
   if (!bookmarks) return false;
   const QByteArray uri = file.toEncoded();
@@ -45,9 +78,15 @@ bool addToRecentsList(const QByteArray& listPath, const QUrl& file) {
   return g_bookmark_file_to_file(bookmarks.get(), listPath, nullptr);
 }
 
-void addToDesktopRecents(const QUrl& file) {
-  const QByteArray list = QFile::encodeName(userDataDirectory()) + "/recently-used.xbel";
-  std::thread([list, file] { addToRecentsList(list, file); }).detach();
+bool removeFromRecentsList(const QByteArray& listPath, const QUrl& file) {
+  const Bookmarks bookmarks = load(listPath);
+  if (!bookmarks) return false;
+  if (!g_bookmark_file_remove_item(bookmarks.get(), file.toEncoded(), nullptr)) return true;
+  return g_bookmark_file_to_file(bookmarks.get(), listPath, nullptr);
 }
+
+void addToDesktopRecents(const QUrl& file) { changeList(&addToRecentsList, file); }
+
+void removeFromDesktopRecents(const QUrl& file) { changeList(&removeFromRecentsList, file); }
 
 }  // namespace tromelo

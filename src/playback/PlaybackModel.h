@@ -140,6 +140,9 @@ class PlaybackModel : public PlaybackState {
   /// itself. Twice for one jump where the engine ends elsewhere than it was first said.
   void seeked(double position);
   void isShuttingDownChanged();
+  /// A file plays and is on the list of recent files; one was taken off it.
+  void remembered(const QUrl& file);
+  void forgotten(const QUrl& file);
 
  private:
   friend struct PropertyMapping;

@@ -36,13 +36,17 @@ void PlaybackModel::askForPath() {
 }
 
 void PlaybackModel::remember(const std::string& path) {
-  recentFiles_.remember(fileUrlFromPath(path));
+  const QUrl file = fileUrlFromPath(path);
+  recentFiles_.remember(file);
   storeRecents();
+  Q_EMIT remembered(file);
 }
 
-void PlaybackModel::removeRecent(const QUrl& file) {
-  recentFiles_.remove(fileUrlFromPath(pathFromFileUrl(file)));
+void PlaybackModel::removeRecent(const QUrl& url) {
+  const QUrl file = fileUrlFromPath(pathFromFileUrl(url));
+  recentFiles_.remove(file);
   storeRecents();
+  Q_EMIT forgotten(file);
 }
 
 void PlaybackModel::storeRecents() {

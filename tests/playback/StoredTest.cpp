@@ -98,6 +98,11 @@ TEST_F(StoredTest, RemembersWhatPlaysAndShowsWhatIsThereAfterARestart) {
 }
 
 TEST_F(StoredTest, APathIsOfTheFileThatHasStartedSince) {
+  QStringList told;
+  QObject::connect(&model(), &PlaybackModel::remembered, &model(),
+                   [&told](const QUrl& file) { told << lastPathComponent(file); });
+  QObject::connect(&model(), &PlaybackModel::forgotten, &model(),
+                   [&told](const QUrl& file) { told << "not " + lastPathComponent(file); });
   report(MpvProperty::path, "/films/a.mkv");  // which can't be played
   report(event::StartFile{2});
   report(event::FileLoaded{});
@@ -117,6 +122,7 @@ TEST_F(StoredTest, APathIsOfTheFileThatHasStartedSince) {
   mpv_.queue(MPV_EVENT_GET_PROPERTY_REPLY, &answer, std::stoull(asked[0][2]));
   model().engine().drainEvents();
   EXPECT_EQ(names(model().recents()), "b.mkv ");
+  EXPECT_EQ(told, (QStringList{"b.mkv", "not b.mkv", "b.mkv"}));
 }
 
 TEST_F(StoredTest, AShareThatDoesNotAnswerHoldsNothingUp) {
