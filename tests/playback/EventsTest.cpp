@@ -27,19 +27,14 @@ TEST_F(Events, StartsWithNothingToPlay) {
               {"volume", 100.0},
               {"speed", 1.0},
               {"errorMessage", ""},
-              {"videoSize", "—"},
-              {"frameRate", "—"},
-              {"codec", "—"},
-              {"decoder", "—"},
-              {"container", "—"},
-              {"buffering", "—"},
-              {"output", "—"},
-              {"display", "—"},
               {"hasNext", false},
               {"hasPrevious", false},
               {"currentChapter", -1},
               {"lastURL", QUrl()}};
   for (const auto& row : rows) EXPECT_EQ(model().property(row.field), row.expected) << row.field;
+  for (const char* field : {"videoSize", "frameRate", "codec", "decoder", "container", "buffering",
+                            "output", "display"})
+    EXPECT_EQ(model().property(field), "—") << field;
   EXPECT_EQ(model().dynamicRange(), DynamicRange());
   EXPECT_TRUE(QDir(directory_.filePath("state/diagnostics")).exists());
   EXPECT_TRUE(player_.calls.isEmpty());
@@ -70,6 +65,7 @@ TEST_F(Events, ANewFileForgetsTheLastOnesState) {
                                                      {P::fileFormat, "mkv"},
                                                      {P::decoderDrops, std::int64_t{1}},
                                                      {P::outputDrops, std::int64_t{2}},
+                                                     {P::chapter, std::int64_t{1}},
                                                      {P::speed, 2.0},
                                                      {P::subDelay, 1.0}}) {
     report(property, value);
@@ -84,6 +80,7 @@ TEST_F(Events, ANewFileForgetsTheLastOnesState) {
   EXPECT_EQ(model().elapsed() + model().duration() + model().scrubPosition(), 0.0);
   EXPECT_EQ(model().decoderFrameDrops() + model().outputFrameDrops(), 0);
   EXPECT_EQ(model().videoSize() + model().frameRate() + model().codec(), "———");
+  EXPECT_EQ(model().currentChapter(), std::nullopt);
   EXPECT_EQ(model().container(), "MKV");
   EXPECT_EQ(model().speed(), 2.0);
   EXPECT_EQ(model().subtitleDelay(), 1.0);
@@ -178,6 +175,9 @@ TEST_F(Events, AFileWithoutItsOutputNamesWhatIsMissing) {
       {"only sound",
        {event::EndFile{"no data"}, event::AudioOutputFailed{}},
        "Could not play Movie: " + audioOutputFault()},
+      {"only the file before",
+       {event::VideoOutputFailed{}, event::StartFile{}, event::EndFile{"no data"}},
+       "Could not play Movie: no data"},
   };
   for (const auto& row : rows) {
     remake();

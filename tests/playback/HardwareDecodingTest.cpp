@@ -56,11 +56,15 @@ TEST(HardwareDecoding, ASecondBurstCountsHoweverSoonAfterASeek) {
   HardwareDecoding decoding;
   decoding.lastPlaybackRestart = 100;
   EXPECT_FALSE(decoding.givesUpAfterError(100.5));
-  decoding.lastPlaybackRestart = 102;
+  for (const double seek : {101, 102, 103}) {  // a burst goes on however long it has lasted
+    decoding.lastPlaybackRestart = seek;
+    for (const double error : {0.1, 0.7}) EXPECT_FALSE(decoding.givesUpAfterError(seek + error));
+  }
+  decoding.lastPlaybackRestart = 105;
   decoding.fileStarted();
-  EXPECT_FALSE(decoding.givesUpAfterError(102.1));  // of another file
-  decoding.lastPlaybackRestart = 104;
-  EXPECT_TRUE(decoding.givesUpAfterError(104.2));
+  EXPECT_FALSE(decoding.givesUpAfterError(105.1));  // of another file
+  decoding.lastPlaybackRestart = 107;
+  EXPECT_TRUE(decoding.givesUpAfterError(107.2));
 }
 
 TEST(HardwareDecoding, IsDescribed) {
@@ -108,6 +112,15 @@ TEST_F(Decoder, FallsBackForThisFileAndOpensItInSoftwareFromThenOn) {
   report(event::FileLoaded{});
   report(P::hwdecCurrent, "no");
   EXPECT_EQ(model().decoder(), "Software (FFmpeg)");
+  for (int file = 0; file < 2; ++file) {  // one burst in each
+    report(event::StartFile{});
+    report(P::path, "/films/b.mkv");
+    report(event::FileLoaded{});
+    report(event::PlaybackRestart{});
+    fails();
+    clock_.advance(std::chrono::seconds(2));
+  }
+  EXPECT_EQ(takeRequests(), Requests());
 
   model().open(fileUrlFromPath("/films/a.mkv"), 12.5);
   EXPECT_EQ(takeRequests().front().back(), "start=12.5,hwdec=no");

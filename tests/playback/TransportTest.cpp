@@ -63,11 +63,13 @@ TEST_F(Transport, ThePanelsAskAndDoAsTheyAreTold) {
   EXPECT_EQ(chooser_.asked->prompt, "Play");
   EXPECT_TRUE(chooser_.asked->allowsSeveral);
   EXPECT_TRUE(chooser_.asked->extensions.isEmpty());
-  EXPECT_EQ(asked([this] { chooser_.answer({film("a.mkv"), film("b.mkv")}); }).size(), 3u);
+  EXPECT_EQ(asked([this] { chooser_.answer({film("a.mkv"), film("b.mkv")}); }),
+            asked([this] { model().open({film("a.mkv"), film("b.mkv")}); }));
 
   model().presentQueuePanel();
   EXPECT_EQ(chooser_.asked->prompt, "Add to Queue");
   EXPECT_TRUE(chooser_.asked->allowsSeveral);
+  EXPECT_TRUE(chooser_.asked->extensions.isEmpty());
   load();
   EXPECT_EQ(asked([this] { chooser_.answer({film("c.mkv")}); }),
             (Requests{{"loadfile", "/films/c.mkv", "append", "-1", ""}}));

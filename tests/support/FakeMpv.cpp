@@ -58,7 +58,11 @@ MpvClientApi FakeMpv::api() {
       .errorString = [](int code) -> const char* {
         return code < -100 ? nullptr : mpv_error_string(code);
       },
-      .terminateDestroy = [this](mpv_handle*) { ++destroyed; },
+      .terminateDestroy =
+          [this](mpv_handle*) {
+            destroyedBy = std::this_thread::get_id();
+            ++destroyed;
+          },
   };
 }
 

@@ -5,6 +5,7 @@
 #include <map>
 #include <mutex>
 #include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -41,6 +42,7 @@ class FakeMpv {
   std::string logLevel;
   int created = 0;
   std::atomic<int> destroyed = 0;
+  std::atomic<std::thread::id> destroyedBy;  // the last time
 
   /// Waits to be taken by the engine. `data` must live until then.
   void queue(mpv_event_id id, void* data = nullptr, std::uint64_t reply = 0, int error = 0);
