@@ -20,6 +20,8 @@ class Wording : public QObject {
   Q_INVOKABLE static QString withoutKey(const QString& tooltip) {
     return platformWording(tromelo::withoutKey(tooltip));
   }
+  /// A title or message with a space in place of each line break.
+  Q_INVOKABLE static QString onOneLine(const QString& text);
 };
 
 }  // namespace tromelo

@@ -54,18 +54,15 @@ T.AbstractButton {
             color: Theme.accent
         }
 
-        Text {
+        OneLine {
             objectName: "recentName"
             anchors.left: sign.right
             anchors.leftMargin: Theme.sidebarRowSpacing
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            text: row.name
-            textFormat: Text.PlainText
+            content: row.name
             font: Theme.sidebarRow
             color: Theme.primaryText
-            elide: Text.ElideMiddle
-            maximumLineCount: 1
         }
     }
 

@@ -62,16 +62,14 @@ ListView {
                 color: Theme.secondaryText
             }
 
-            Text {
+            OneLine {
                 objectName: "chapterTitle"
                 Layout.fillWidth: true
                 Layout.rightMargin: Theme.rowGap
-                text: row.modelData.title
-                textFormat: Text.PlainText
+                content: row.modelData.title
                 font: row.isCurrent ? Theme.panelStrong : Theme.panelText
                 color: Theme.overlayText
                 elide: Text.ElideRight
-                maximumLineCount: 1
             }
 
             Text {

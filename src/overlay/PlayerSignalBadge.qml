@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Tromelo.Controls
 import Tromelo.Player
 import Tromelo.Theme
 
@@ -28,11 +29,9 @@ OverlaySurface {
         range: badge.playback.dynamicRange
     }
 
-    component Line: Text {
+    component Line: OneLine {
         width: titles.width
         horizontalAlignment: Text.AlignRight
-        textFormat: Text.PlainText
-        elide: Text.ElideMiddle
     }
 
     Column {
@@ -47,7 +46,7 @@ OverlaySurface {
             id: title
 
             objectName: "badgeTitle"
-            text: badge.playback.title
+            content: badge.playback.title
             font: Theme.overlayTitle
             color: Theme.badgeTitle
         }
@@ -57,7 +56,7 @@ OverlaySurface {
 
             objectName: "badgeChapter"
             visible: text !== ""
-            text: Format.chapterTitle(badge.playback.chapters, badge.playback.currentChapter)
+            content: Format.chapterTitle(badge.playback.chapters, badge.playback.currentChapter)
             font: Theme.overlayChapter
             color: Theme.badgeChapter
         }

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Tromelo.Controls
 import Tromelo.Glass
 import Tromelo.Player
 import Tromelo.Theme
@@ -16,16 +17,14 @@ GlassSurface {
     implicitWidth: Math.ceil(words.implicitWidth) + 2 * Theme.toastPadding
     implicitHeight: Math.ceil(words.implicitHeight) + 2 * Theme.toastRise
 
-    Text {
+    OneLine {
         id: words
 
         anchors.centerIn: parent
         width: Math.min(Math.ceil(implicitWidth), toast.width - 2 * Theme.toastPadding)
-        text: toast.chrome.toast
-        textFormat: Text.PlainText
+        content: toast.chrome.toast
         font: Theme.overlayToast
         color: "white"
-        elide: Text.ElideMiddle
         Accessible.role: Accessible.AlertMessage
         Accessible.name: words.text
         onTextChanged: if (words.text !== "")

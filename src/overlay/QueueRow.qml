@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
+import Tromelo.Controls
 import Tromelo.Theme
 
 // A file of the queue: a press plays it, unless it plays already.
@@ -39,16 +40,13 @@ PanelRow {
             color: row.isCurrent ? Theme.accent : Theme.secondaryText
         }
 
-        Text {
+        OneLine {
             objectName: "queueTitle"
             Layout.fillWidth: true
             Layout.rightMargin: Theme.rowGap
-            text: row.title
-            textFormat: Text.PlainText
+            content: row.title
             font: row.isCurrent ? Theme.panelStrong : Theme.panelText
             color: Theme.overlayText
-            elide: Text.ElideMiddle
-            maximumLineCount: 1
         }
 
         PanelButton {

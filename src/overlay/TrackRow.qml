@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Tromelo.Controls
 import Tromelo.Theme
 
 // A track to choose, ticked while it is the chosen one.
@@ -41,22 +42,19 @@ PanelRow {
             width: row.availableWidth - Theme.checkmarkWidth - Theme.trackSpacing
             spacing: Theme.detailsSpacing
 
-            Text {
+            OneLine {
                 width: parent.width
-                text: row.name
-                textFormat: Text.PlainText
+                content: row.name
                 font: Theme.panelText
                 color: Theme.overlayText
                 elide: Text.ElideRight
-                maximumLineCount: 1
             }
 
-            Text {
+            OneLine {
                 objectName: "details"
                 width: parent.width
                 visible: row.details !== ""
-                text: row.details
-                textFormat: Text.PlainText
+                content: row.details
                 font: Theme.panelCaption
                 color: Theme.secondaryText
                 elide: Text.ElideRight

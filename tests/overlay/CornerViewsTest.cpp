@@ -1,6 +1,8 @@
 #include <QAccessible>
+#include <QSet>
 
 #include "ViewTest.h"
+#include "glass/GlassRendering.h"
 
 namespace tromelo {
 namespace {
@@ -15,9 +17,11 @@ TEST_F(CornerViewsTest, TheBadgeTellsRangeTitleAndChapter) {
   const double plain = badge.implicitWidth();
   const double low = badge.implicitHeight();
 
-  report(MpvProperty::gamma, MpvValue(std::string("hlg")));
-  EXPECT_TRUE(isShown("rangeTag"));
-  EXPECT_EQ(text("rangeText"), "HLG");
+  for (const auto& [gamma, tag] : {std::pair{"pq", "HDR10"}, {"hlg", "HLG"}}) {
+    report(MpvProperty::gamma, MpvValue(std::string(gamma)));
+    EXPECT_TRUE(isShown("rangeTag"));
+    EXPECT_EQ(text("rangeText"), tag);
+  }
   EXPECT_FALSE(item("rangeTag")->property("isGold").toBool());
   EXPECT_EQ(badge.implicitWidth(), plain + item("rangeTag")->width() + 9);
   report(MpvProperty::dolbyVisionProfile, MpvValue(std::int64_t{8}));
@@ -33,12 +37,13 @@ TEST_F(CornerViewsTest, TheBadgeTellsRangeTitleAndChapter) {
   report(MpvProperty::chapter, MpvValue(std::int64_t{3}));
   EXPECT_FALSE(isShown("badgeChapter"));
 
-  for (const char* title : {"فيلم طويل", "長い映画の題名"}) {
-    report(MpvProperty::mediaTitle, MpvValue(std::string(title)));
-    EXPECT_EQ(text("badgeTitle"), QString::fromUtf8(title));
-    EXPECT_GT(item("badgeTitle")->property("contentWidth").toDouble(), 20);
+  const double high = badge.implicitHeight();
+  for (const char* lineBreak : {"\n", "\r\n", "\u2028"}) {
+    report(MpvProperty::mediaTitle, MpvValue(std::string("A") + lineBreak + "film"));
+    EXPECT_EQ(text("badgeTitle"), "A film");
   }
-  report(MpvProperty::mediaTitle, MpvValue(std::string(300, 'm')));
+  report(MpvProperty::mediaTitle, MpvValue(std::string(300, 'm') + '\n' + std::string(300, 'm')));
+  EXPECT_EQ(badge.implicitHeight(), high);
   view_->setWidth(badge.implicitWidth());
   EXPECT_EQ(item("badgeTitle")->width(), 360);
   EXPECT_TRUE(item("badgeTitle")->property("truncated").toBool());
@@ -50,9 +55,17 @@ TEST_F(CornerViewsTest, TheInfoPanelTellsWhatIsPlayed) {
   EXPECT_FALSE(panel.isVisible());
   player().chrome().setShowsInfo(true);
   EXPECT_TRUE(panel.isVisible());
+  load(60);
   report(MpvProperty::decoderDrops, MpvValue(std::int64_t{0}));
   report(MpvProperty::outputDrops, MpvValue(std::int64_t{12}));
-  report(MpvProperty::hwdecCurrent, MpvValue(std::string("vaapi")));
+  for (const auto& [property, value] : {std::pair{MpvProperty::hwdecCurrent, "vaapi"},
+                                        {MpvProperty::gamma, "pq"},
+                                        {MpvProperty::targetGamma, "bt.1886"},
+                                        {MpvProperty::videoFormat, "hevc"},
+                                        {MpvProperty::fileFormat, "matroska"}})
+    report(property, MpvValue(std::string(value)));
+  playback_.updateDisplay(ScreenHeadroom{4, 2});
+  QSet<QString> values;
   struct Row {
     const char* name;
     const char* label;
@@ -68,7 +81,9 @@ TEST_F(CornerViewsTest, TheInfoPanelTellsWhatIsPlayed) {
                          Row{"infoDropped", "Dropped", "0 decode · 12 output"}}) {
     EXPECT_EQ(text(row.name, "label"), row.label);
     EXPECT_EQ(text(row.name, "value"), row.value) << row.name;
+    values << row.value;
   }
+  EXPECT_EQ(values.size(), 8) << "none can stand in for another";
   EXPECT_EQ(panel.width(), 330);
   panel.setHeight(100);
   layOut();
@@ -81,6 +96,19 @@ TEST_F(CornerViewsTest, TheToastIsSaid) {
   player().chrome().setToast(QStringLiteral("Volume 50%"));
   EXPECT_TRUE(toast.isVisible());
   EXPECT_GT(toast.implicitWidth(), 80);
+  const double high = toast.implicitHeight();
+  player().chrome().setToast(QStringLiteral("Chapter: one\nand\ntwo"));
+  EXPECT_EQ(toast.implicitHeight(), high);
+}
+
+TEST_F(CornerViewsTest, SurfacesAreDrawnAsWasChosen) {
+  for (const auto rendering : {GlassRendering::glass, GlassRendering::material}) {
+    setGlassRendering(rendering);
+    show("OverlaySurface");
+    EXPECT_EQ(isShown("glassPane"), rendering == GlassRendering::glass);
+    EXPECT_EQ(isShown("glassMaterial"), rendering == GlassRendering::material);
+    view_.reset();
+  }
 }
 
 TEST_F(CornerViewsTest, TheCloseButtonIsToldByItsPurpose) {
