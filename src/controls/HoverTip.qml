@@ -4,8 +4,9 @@ import QtQuick
 import QtQuick.Templates as T
 import Tromelo.Theme
 
-// What a control is for, once the pointer has rested on it. It is in nobody's way, and once the
-// control was pressed it stays away until the pointer comes back.
+// What a control is for, once the pointer has rested on it: the innermost one of those that have a
+// tip, which is the only one that is hovered there. It is in nobody's way, and once the control was
+// pressed it stays away until the pointer comes back. The tip is shown as it is.
 Loader {
     id: loader
 
@@ -19,6 +20,12 @@ Loader {
     function stop() {
         rest.stop();
         active = false;
+    }
+
+    HoverHandler {
+        parent: loader.control
+        enabled: loader.tip !== ""
+        blocking: true
     }
 
     Timer {
@@ -56,7 +63,7 @@ Loader {
         implicitHeight: implicitContentHeight + topPadding + bottomPadding
         x: Math.round((parent.width - width) / 2)
         y: loader.below ? parent.height + Theme.toolTipGap : -height - Theme.toolTipGap
-        text: Wording.shown(loader.tip)
+        text: loader.tip
         font: Theme.toolTip
 
         contentItem: Text {

@@ -16,6 +16,7 @@ class Wording : public QObject {
  public:
   using QObject::QObject;
 
+  /// Only for the program's own texts: what people named stays as they wrote it.
   Q_INVOKABLE static QString shown(const QString& text) { return platformWording(text); }
   Q_INVOKABLE static QString withoutKey(const QString& tooltip) {
     return platformWording(tromelo::withoutKey(tooltip));

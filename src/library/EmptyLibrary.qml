@@ -59,7 +59,7 @@ Column {
 
         HoverTip {
             control: openVideos
-            tip: qsTr("Open videos (⌘O)")
+            tip: Wording.shown(qsTr("Open videos (⌘O)"))
         }
     }
 }

@@ -119,7 +119,7 @@ GlassSurface {
 
                 HoverTip {
                     control: openOther
-                    tip: qsTr("Open videos (⌘O)")
+                    tip: Wording.shown(qsTr("Open videos (⌘O)"))
                 }
             }
         }

@@ -58,7 +58,7 @@ Item {
 
         HoverTip {
             control: open
-            tip: qsTr("Open a video (⌘O)")
+            tip: Wording.shown(qsTr("Open a video (⌘O)"))
             below: true
         }
     }

@@ -24,6 +24,6 @@ T.Button {
 
     HoverTip {
         control: button
-        tip: button.tip
+        tip: Wording.shown(button.tip)
     }
 }

@@ -83,7 +83,8 @@ Item {
             spacing: Theme.listSpacing
             boundsBehavior: Flickable.StopAtBounds
             clip: true
-            reuseItems: true
+            // What the pointer did to a row goes with it, so none is used for another file.
+            reuseItems: false
             Accessible.role: Accessible.List
             Accessible.name: qsTr("Queue")
 

@@ -181,6 +181,28 @@ TEST_F(LibraryViewTest, ARowsMenuDoesWhatItSaysFromTheHandAndFromTheKeyboard) {
   play("/c");  // while the menu is open
   clickAt(item("removeFromRecents"));
   EXPECT_EQ(texts(rows(), "name"), (QStringList{"c", "a"}));
+
+  QStringList said;
+  QObject::connect(&fileManager_, &FileManager::failed, &host_,
+                   [&said](const QString& sentence) { said << sentence; });
+  const QByteArray path = qgetenv("PATH");
+  qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+  qputenv("PATH", "/nowhere");
+  clickAt(rows()[0], Qt::RightButton);
+  clickAt(item("showInFileManager"));
+  qputenv("PATH", path);
+  EXPECT_EQ(said.size(), 1) << "there is none that could show it";
+}
+
+TEST_F(LibraryViewTest, TipsTellOurKeysAndTheNamesThatPeopleGave) {
+  play("/Finders Keepers.mkv");
+  const auto tipOf = [this](const QQuickItem* one) {
+    mouse(QEvent::MouseMove, frame(one).center(), Qt::NoButton);
+    EXPECT_TRUE(testing::waitFor([&] { return one->findChild<QObject*>("toolTip"); }));
+    return one->findChild<QObject*>("toolTip")->property("text").toString();
+  };
+  EXPECT_EQ(tipOf(rows()[0]), "/Finders Keepers.mkv");
+  EXPECT_EQ(tipOf(item("libraryOpen")), "Open a video (Ctrl+O)");
 }
 
 TEST_F(LibraryViewTest, DescribesTheLastFileOnceItIsKnown) {

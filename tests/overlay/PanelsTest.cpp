@@ -62,6 +62,14 @@ class PanelsTest : public testing::ViewTest {
       }
     return found;
   }
+  /// Once the pointer rests there.
+  bool tells(const QQuickItem* row, const QQuickItem* pointed, const char* tip) {
+    mouse(QEvent::MouseMove, frame(pointed).center(), Qt::NoButton);
+    return waitFor([&] {
+      const auto tips = row->findChildren<QObject*>("toolTip");
+      return tips.size() == 1 && tips[0]->property("text") == tip;
+    });
+  }
 };
 
 TEST_F(PanelsTest, TracksAreChosenByTheirRows) {
@@ -213,6 +221,22 @@ TEST_F(PanelsTest, TheQueueIsPlayedAndClearedByItsRows) {
   clickItem(only("clearUpNext"));
   EXPECT_EQ(takeSent(), Sent({"playlist-play-index 2", "playlist-remove 0", "playlist-remove 2",
                               "playlist-clear"}));
+  clickItem(only("addToQueue"));
+  ASSERT_TRUE(files_.asked);
+  EXPECT_TRUE(files_.asked->allowsSeveral);
+}
+
+TEST_F(PanelsTest, ARowOfTheQueueTellsOneThingAtATime) {
+  show("QueuePanel", {{"playback", model()}, {"width", 340}, {"height", 400}});
+  reportPlaylist(3, 0);
+  ASSERT_TRUE(waitFor([this] { return all("queueItem").size() == 3; }));
+  layOut();
+  const QPointer<QQuickItem> row = all("queueItem")[2];
+  EXPECT_TRUE(tells(row, row, "/films/2"));
+  EXPECT_TRUE(tells(row, only("removeFromQueue", row), "Remove from queue"));
+  EXPECT_TRUE(tells(row, row, "/films/2"));
+  reportPlaylist(2, 0);
+  EXPECT_TRUE(waitFor([&] { return !row || !row->findChild<QObject*>("toolTip"); }));
 }
 
 TEST_F(PanelsTest, ALongQueueKeepsItsPlaceWhileItChanges) {
