@@ -111,7 +111,7 @@ void Program::makeDelegate() {
       *display_, qmlEngine_, reducedMotion_,
       [this](QQuickItem& scene, PlaybackModel& playback, PlayerWindowController& player) {
         return std::make_unique<QuickPlayerOverlay>(qmlEngine_, scene, playback, player,
-                                                    reducedMotion_);
+                                                    reducedMotion_, clock_);
       });
   AppDelegate::Parts parts;
   parts.makePlayback = [this] {

@@ -1,14 +1,33 @@
 #include "overlay/PointerWatch.h"
 
+#include <QCursor>
 #include <QEnterEvent>
 #include <QMouseEvent>
 #include <utility>
 
 namespace tromelo {
 
-PointerWatch::PointerWatch(QQuickWindow& window, std::function<void()> moved)
-    : moved_(std::move(moved)) {
+namespace {
+
+using namespace std::chrono_literals;
+
+// A window manager that looks at each press takes the pointer away and gives it back together with
+// the press.
+constexpr auto kPressFollows = 50ms;
+
+}  // namespace
+
+PointerWatch::PointerWatch(QQuickWindow& window, Clock& clock, Place place,
+                           std::function<void()> moved)
+    : window_(window), clock_(clock), place_(std::move(place)), moved_(std::move(moved)) {
   window.installEventFilter(this);
+}
+
+QPointF PointerWatch::onScreen() { return QCursor::pos(); }
+
+std::optional<QPointF> PointerWatch::position() const {
+  if (!isOver_) return {};
+  return window_.mapFromGlobal(place_());
 }
 
 bool PointerWatch::eventFilter(QObject*, QEvent* event) {
@@ -21,7 +40,7 @@ bool PointerWatch::eventFilter(QObject*, QEvent* event) {
       break;
     case QEvent::Leave:
     case QEvent::Hide:
-      position_.reset();
+      leave();
       break;
     default:
       break;
@@ -30,12 +49,17 @@ bool PointerWatch::eventFilter(QObject*, QEvent* event) {
 }
 
 void PointerWatch::follow(const QSinglePointEvent& event) {
-  position_ = event.position();
-  // A click can make the pointer leave and come back at once without having moved.
+  isOver_ = true;
   const bool hasMoved =
       std::exchange(lastOnScreen_, event.globalPosition()) != event.globalPosition();
-  const bool isMove = event.type() == QEvent::Enter || event.type() == QEvent::MouseMove;
-  if (hasMoved && isMove && event.buttons() == Qt::NoButton) moved_();
+  if (event.isBeginEvent() || event.isEndEvent()) return entered_.reset();
+  if (hasMoved && event.buttons() == Qt::NoButton) return moved_();
+  if (event.type() == QEvent::Enter) entered_ = clock_.after(kPressFollows, moved_);
+}
+
+void PointerWatch::leave() {
+  isOver_ = false;
+  entered_.reset();
 }
 
 }  // namespace tromelo

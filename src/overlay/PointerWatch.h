@@ -4,7 +4,10 @@
 #include <QPointF>
 #include <QQuickWindow>
 #include <functional>
+#include <memory>
 #include <optional>
+
+#include "platform/Clock.h"
 
 namespace tromelo {
 
@@ -14,21 +17,34 @@ class PointerWatch : public QObject {
   Q_OBJECT
 
  public:
-  /// `moved` is called when the pointer comes over the window or moves there with no button held.
-  PointerWatch(QQuickWindow& window, std::function<void()> moved);
+  /// Tells where the pointer is on the screen, in points.
+  using Place = std::function<QPointF()>;
 
-  /// In the window, in points; none while the pointer is elsewhere.
-  std::optional<QPointF> position() const { return position_; }
+  /// `moved` is called when the pointer comes over the window or moves there with no button held.
+  /// `window` and `clock` outlive it.
+  PointerWatch(QQuickWindow& window, Clock& clock, Place place, std::function<void()> moved);
+
+  /// In the window as that is now, in points; none while the pointer is elsewhere.
+  std::optional<QPointF> position() const;
+
+  /// As the host tells it.
+  static QPointF onScreen();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void follow(const QSinglePointEvent& event);
+  void leave();
 
-  std::function<void()> moved_;
-  std::optional<QPointF> position_;
+  QQuickWindow& window_;
+  Clock& clock_;
+  const Place place_;
+  const std::function<void()> moved_;
+  bool isOver_ = false;
   std::optional<QPointF> lastOnScreen_;
+  // Runs from an entry of a pointer that rests: the window came to it, or a press did.
+  std::unique_ptr<Clock::Timer> entered_;
 };
 
 }  // namespace tromelo

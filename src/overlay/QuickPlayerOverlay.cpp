@@ -34,13 +34,14 @@ Item& childNamed(QQuickItem& view, const char* name) {
 
 QuickPlayerOverlay::QuickPlayerOverlay(QQmlEngine& engine, QQuickItem& scene,
                                        PlaybackModel& playback, PlayerWindowController& player,
-                                       const ReducedMotion& reducedMotion)
+                                       const ReducedMotion& reducedMotion, Clock& clock,
+                                       PointerWatch::Place pointer)
     : scene_(scene),
       view_(makeView(engine, scene, playback, player)),
       controls_(&childNamed<QQuickItem>(*view_, "playerControlBar")),
       chrome_(std::make_unique<ChromeGroup>(childNamed<QQuickItem>(*view_, "playerChrome"),
                                             reducedMotion)),
-      pointer_(*scene.window(), [this] { onActivity(); }) {
+      pointer_(*scene.window(), clock, std::move(pointer), [this] { onActivity(); }) {
   view_->setParentItem(&scene);
   connectInput(childNamed<PlayerOverlayInput>(*view_, "playerInput"));
   connect(&scene, &QQuickItem::widthChanged, this, &QuickPlayerOverlay::fillScene);

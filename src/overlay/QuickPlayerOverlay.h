@@ -24,7 +24,8 @@ class QuickPlayerOverlay : public QObject, public PlayerOverlay {
   /// Fills `scene`, above everything else there. `scene`, which has a window, and the others
   /// outlive it.
   QuickPlayerOverlay(QQmlEngine& engine, QQuickItem& scene, PlaybackModel& playback,
-                     PlayerWindowController& player, const ReducedMotion& reducedMotion);
+                     PlayerWindowController& player, const ReducedMotion& reducedMotion,
+                     Clock& clock, PointerWatch::Place pointer = &PointerWatch::onScreen);
   ~QuickPlayerOverlay() override;
 
   bool isMouseInsideChrome() const override;

@@ -170,6 +170,10 @@ TEST_F(HandOnThePicture, APointerOnTheBarKeepsTheControls) {
   EXPECT_TRUE(controlsGo("hand-rests"));
   screen::movePointer(video() + QPoint(7, 0));
   EXPECT_TRUE(controlsCome("hand-moves"));
+  screen::movePointer(frame().topLeft() + QPoint(40, 32));  // on the way back
+  engine.set(QStringLiteral("fullscreen"), true);
+  ASSERT_TRUE(player.waitFor(QStringLiteral("fullscreen"), QStringLiteral("yes")));
+  EXPECT_TRUE(controlsGo("hand-left-behind"));
 }
 
 TEST_F(HandOnThePicture, TakesDroppedFilesInTheirOrderAndNothingElse) {

@@ -255,9 +255,11 @@ TEST_F(PanelsTest, ALongQueueKeepsItsPlaceWhileItChanges) {
 /// The panels above the control bar, over a video.
 class PopoverTest : public PanelsTest {
  protected:
-  PopoverTest() {
-    overlay_ =
-        std::make_unique<QuickPlayerOverlay>(engine_, layer_, playback_, player(), reducedMotion_);
+  PopoverTest() { remakeOverlay(); }
+  void remakeOverlay() {
+    overlay_.reset();
+    overlay_ = std::make_unique<QuickPlayerOverlay>(engine_, layer_, playback_, player(),
+                                                    reducedMotion_, clock_);
     overlay_->onClick = [this] { said_ << "click"; };
     overlay_->onDoubleClick = [this] { said_ << "double click"; };
     overlay_->onScroll = [this](double) { said_ << "scroll"; };

@@ -21,8 +21,8 @@ class QuickPlayerOverlayTest : public testing::PlayerTest {
     scene_.setParentItem(host_.contentItem());
     scene_.setSize(host_.size());
     host_.show();
-    overlay_ =
-        std::make_unique<QuickPlayerOverlay>(engine_, scene_, playback_, player(), reducedMotion_);
+    overlay_ = std::make_unique<QuickPlayerOverlay>(
+        engine_, scene_, playback_, player(), reducedMotion_, clock_, [this] { return pointer_; });
     overlay_->onActivity = [this] { said_ << "activity"; };
     overlay_->onClick = [this] { said_ << "click"; };
     overlay_->onDoubleClick = [this] { said_ << "double click"; };
@@ -45,7 +45,8 @@ class QuickPlayerOverlayTest : public testing::PlayerTest {
 
   void mouse(QEvent::Type type, QPointF place, Qt::MouseButtons held = Qt::NoButton,
              Qt::MouseButton button = Qt::NoButton) {
-    QMouseEvent event(type, place, host_.position() + place, button, held, Qt::NoModifier);
+    pointer_ = host_.position() + place;
+    QMouseEvent event(type, place, pointer_, button, held, Qt::NoModifier);
     event.setTimestamp(static_cast<quint64>(time_.count()));
     QCoreApplication::sendEvent(&host_, &event);
   }
@@ -69,7 +70,8 @@ class QuickPlayerOverlayTest : public testing::PlayerTest {
     release(place);
   }
   void enter(QPointF place) {
-    QEnterEvent event(place, place, host_.position() + place);
+    pointer_ = host_.position() + place;
+    QEnterEvent event(place, place, pointer_);
     QCoreApplication::sendEvent(&host_, &event);
   }
   void leave() {
@@ -91,6 +93,7 @@ class QuickPlayerOverlayTest : public testing::PlayerTest {
   const ReducedMotion reducedMotion_{"0", {}};
   std::unique_ptr<QuickPlayerOverlay> overlay_;
   QStringList said_;
+  QPointF pointer_;  // on the screen
   std::chrono::milliseconds time_ = 1000ms;
 };
 
@@ -230,18 +233,32 @@ TEST_F(QuickPlayerOverlayTest, TellsOfARealPointerThatMoves) {
   overlay_->setChromeVisible(true, false);
   testing::settle();
   move(bar);
-  leave();
-  enter(bar);  // as a click on a window in the background brings about
+  clock_.advance(1s);
   EXPECT_EQ(take(), QStringList()) << "it rested";
-  move(bar + QPointF(1, 0));
+  leave();
+  enter(bar);  // another window went away
+  clock_.advance(1s);
   EXPECT_EQ(take(), QStringList{"activity"});
-  press({400, 200});
-  drag({401, 201});
+  const QPointF video(400, 200);
+  move(video);
+  EXPECT_EQ(take(), QStringList{"activity"});
+  leave();
+  enter(video);  // as a click brings about where the window manager looks at it first
+  click(video);
+  clock_.advance(1s);
+  EXPECT_EQ(take(), QStringList{"click"});
+  time_ += 1s;
+  press(video);
+  drag(video + QPointF(1, 1));
   EXPECT_FALSE(overlay_->isMouseInsideChrome());
-  drag(bar);
+  release(video + QPointF(1, 1));
+  EXPECT_EQ(take(), QStringList{"click"}) << "a button was held";
+  move(bar);
   EXPECT_TRUE(overlay_->isMouseInsideChrome());
-  release(bar);
-  EXPECT_EQ(take(), QStringList()) << "a button was held";
+  host_.setPosition(host_.position() + QPoint(0, 200));
+  EXPECT_FALSE(overlay_->isMouseInsideChrome()) << "the window went from under it";
+  host_.setPosition(host_.position() - QPoint(0, 200));
+  EXPECT_TRUE(overlay_->isMouseInsideChrome());
   leave();
   EXPECT_FALSE(overlay_->isMouseInsideChrome());
 }
