@@ -773,7 +773,7 @@
     </message>
     <message>
         <source>Clear Up Next</source>
-        <translation>Nächste entfernen</translation>
+        <translation>Liste leeren</translation>
     </message>
     <message>
         <source>Nothing up next. Drop videos on the player or choose Add….</source>

@@ -33,6 +33,7 @@ Item {
                 text: qsTr("Queue")
                 font: Theme.panelHeader
                 color: Theme.overlayText
+                elide: Text.ElideRight
                 Accessible.role: Accessible.Heading
                 Accessible.name: text
             }

@@ -1,4 +1,6 @@
 #include <QAccessible>
+#include <QTest>
+#include <QTranslator>
 
 #include "ViewTest.h"
 #include "overlay/QuickPlayerOverlay.h"
@@ -274,6 +276,27 @@ class PopoverTest : public PanelsTest {
     player().chrome().setPanel(panel);
     ASSERT_TRUE(waitFor([this] { return all("playerPopover").size() == 1; }));
   }
+  QList<QQuickItem*> shownTexts(const QQuickItem& whole) {
+    QList<QQuickItem*> found;
+    for (QQuickItem* child : whole.childItems()) {
+      if (!child->isVisible()) continue;
+      const bool isSymbol = child->property("size").isValid();
+      if (!isSymbol && child->property("contentWidth").toDouble() > 0) found << child;
+      found << shownTexts(*child);
+    }
+    return found;
+  }
+  /// None is cut off, or lies on another.
+  void expectRoom(const QList<QQuickItem*>& texts) {
+    for (const QQuickItem* one : texts) {
+      const std::string words = one->property("text").toString().toStdString();
+      EXPECT_FALSE(one->property("truncated").toBool()) << words;
+      EXPECT_LE(one->property("contentWidth").toDouble(), std::ceil(one->width())) << words;
+      for (const QQuickItem* other : texts)
+        EXPECT_TRUE(other == one || !frame(one).intersects(frame(other)))
+            << words << " and " << other->property("text").toString().toStdString();
+    }
+  }
   QRectF popover() { return frame(all("playerPopover").first()); }
 
   const ReducedMotion reducedMotion_{"0", {}};
@@ -299,6 +322,34 @@ TEST_F(PopoverTest, OpensAboveTheBarWithinTheWindow) {
       player().chrome().setPanel(std::nullopt);
       ASSERT_TRUE(waitFor([this] { return all("playerPopover").isEmpty(); }));
     }
+}
+
+TEST_F(PopoverTest, HasRoomForItsTextsInGerman) {
+  QTranslator german;
+  ASSERT_TRUE(german.load(QStringLiteral(TROMELO_GERMAN)));
+  QCoreApplication::installTranslator(&german);
+  remakeOverlay();
+  load(60);
+  reportPlaylist(2, 0);
+  reportChapters({0, 50});
+  report(MpvProperty::trackList, MpvValue(MpvNode{MpvList{track("audio", 1, "", true)}}));
+  player().chrome().setShowsInfo(true);
+  struct Row {
+    std::optional<PlayerPanel> panel;
+    const char* view;
+  };
+  for (const Row& row :
+       {Row{PlayerPanel::tracks, "playerPopover"}, Row{PlayerPanel::chapters, "playerPopover"},
+        Row{PlayerPanel::queue, "playerPopover"},
+        Row{PlayerPanel::shortcuts, "playerShortcutsPanel"}, Row{{}, "playerInfoPanel"},
+        Row{{}, "playerControlBar"}}) {
+    player().chrome().setPanel(row.panel);
+    ASSERT_TRUE(waitFor([&] { return only(row.view) != nullptr; }));
+    layOut();
+    const QList<QQuickItem*> texts = shownTexts(*only(row.view));
+    EXPECT_GT(texts.size(), 2);
+    expectRoom(texts);
+  }
 }
 
 TEST_F(PopoverTest, ComesAndGoesInOneStepWithoutMotion) {
