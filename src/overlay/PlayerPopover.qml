@@ -5,8 +5,8 @@ import Tromelo.Glass
 import Tromelo.Theme
 
 // Shows a panel above its button in the control bar while the panel is open. It lies over the whole
-// overlay, above the bar: a press outside the panel dismisses it and does nothing else, a press or
-// scrolling on the panel stays there. The panel is made when it opens and is as large as its
+// overlay: a press on the bar is the bar's own, any other outside the panel dismisses it and does
+// nothing else, a press or scrolling on the panel stays there. The panel is made when it opens and is as large as its
 // implicit size or, where that doesn't fit, as the room above the bar. It never takes the keyboard.
 //
 // PlayerPanels.qml has one for each panel; the bar only names its buttons.
@@ -36,7 +36,11 @@ Item {
         anchors.fill: parent
         enabled: popover.isOpen
         acceptedButtons: Qt.AllButtons
-        onPressed: popover.dismissed()
+        onPressed: mouse => {
+            mouse.accepted = !popover.bar.contains(mapToItem(popover.bar, mouse.x, mouse.y));
+            if (mouse.accepted)
+                popover.dismissed();
+        }
     }
 
     Loader {

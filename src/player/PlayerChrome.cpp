@@ -11,12 +11,15 @@ void PlayerChrome::setShowsInfo(bool shows) {
 void PlayerChrome::setPanel(std::optional<PlayerPanel> panel) {
   if (panel_ == panel) return;
   panel_ = panel;
-  setShowsSpeeds(false);
+  if (panel_) setShowsSpeeds(false);
   Q_EMIT panelChanged();
 }
 
 void PlayerChrome::setShows(PlayerPanel panel, bool shows) {
-  if (shows) return setPanel(panel);
+  shows ? setPanel(panel) : close(panel);
+}
+
+void PlayerChrome::close(PlayerPanel panel) {
   if (panel_ == panel) setPanel(std::nullopt);
 }
 
@@ -27,6 +30,7 @@ void PlayerChrome::toggle(PlayerPanel panel) {
 void PlayerChrome::setShowsSpeeds(bool shows) {
   if (showsSpeeds_ == shows) return;
   showsSpeeds_ = shows;
+  if (shows) setPanel(std::nullopt);
   Q_EMIT showsSpeedsChanged();
 }
 

@@ -17,7 +17,7 @@ class PlayerChrome : public QObject {
   Q_PROPERTY(bool showsChapters READ showsChapters WRITE setShowsChapters NOTIFY panelChanged)
   Q_PROPERTY(bool showsQueue READ showsQueue WRITE setShowsQueue NOTIFY panelChanged)
   Q_PROPERTY(bool showsShortcuts READ showsShortcuts WRITE setShowsShortcuts NOTIFY panelChanged)
-  // The list of speeds over the control bar: no panel, but open like one.
+  // The list of speeds over the control bar: no panel, but open in place of one.
   Q_PROPERTY(bool showsSpeeds READ showsSpeeds WRITE setShowsSpeeds NOTIFY showsSpeedsChanged)
   Q_PROPERTY(QString toast READ toastText NOTIFY toastChanged)
 
@@ -32,6 +32,8 @@ class PlayerChrome : public QObject {
   void setPanel(std::optional<PlayerPanel> panel);
   /// Closes `panel` if it is open, else opens it in place of any other.
   void toggle(PlayerPanel panel);
+  /// Leaves any other open.
+  void close(PlayerPanel panel);
 
   bool showsSpeeds() const { return showsSpeeds_; }
   void setShowsSpeeds(bool shows);

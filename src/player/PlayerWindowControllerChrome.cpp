@@ -24,6 +24,10 @@ void PlayerWindowController::followState() {
   connect(&chrome_, &PlayerChrome::panelChanged, this, [this] {
     if (window_) chrome_.panel() ? showChrome() : scheduleChromeHide();
   });
+  connect(&playback_, &PlaybackModel::chaptersChanged, this, [this] {
+    // Its button is gone, and there is nothing to be seen in it.
+    if (playback_.chapters().isEmpty()) chrome_.close(PlayerPanel::chapters);
+  });
   connect(&chrome_, &PlayerChrome::showsInfoChanged, this,
           [this] { setInfoRefresh(chrome_.showsInfo()); });
   connect(
@@ -66,7 +70,7 @@ void PlayerWindowController::scheduleChromeHide() {
 
 bool PlayerWindowController::mayHideChrome() const {
   return !playback_.isPaused() && !playback_.isScrubbing() && !chrome_.panel() &&
-         !(overlay_ && overlay_->isMouseInsideChrome());
+         !chrome_.showsSpeeds() && !(overlay_ && overlay_->isMouseInsideChrome());
 }
 
 void PlayerWindowController::handleActivity() {

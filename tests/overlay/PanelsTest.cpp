@@ -380,6 +380,16 @@ TEST_F(PopoverTest, APressOutsideOnlyClosesIt) {
   }
   click({400, 120});
   EXPECT_EQ(said_, QStringList{"click"});
+
+  open(PlayerPanel::queue);
+  takeSent();
+  click("muteButton");
+  EXPECT_EQ(takeSent(), Sent{"set mute yes"}) << "the bar's presses are its own";
+  EXPECT_EQ(chrome.panel(), PlayerPanel::queue);
+  for (const std::optional<PlayerPanel> panel : {std::optional(PlayerPanel::tracks), {}}) {
+    click("tracksButton");
+    EXPECT_EQ(chrome.panel(), panel);
+  }
   chrome.setPanel(PlayerPanel::queue);
   chrome.setProperty("showsTracks", false);
   EXPECT_EQ(chrome.panel(), PlayerPanel::queue) << "only its own";

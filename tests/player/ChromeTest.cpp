@@ -56,16 +56,19 @@ TEST_F(ChromeTest, KeepsTheControlsWhileTheyAreNeeded) {
     const char* name;
     std::function<void()> begin;
     std::function<void()> end;
+    bool endRestarts;  // else the time goes on in which they were kept
   };
   const Row rows[] = {
       {"paused", [&] { report(MpvProperty::pause, true); },
-       [&] { report(MpvProperty::pause, false); }},
+       [&] { report(MpvProperty::pause, false); }, true},
       {"a panel is open", [&] { chrome().toggle(PlayerPanel::queue); },
-       [&] { chrome().toggle(PlayerPanel::queue); }},
+       [&] { chrome().toggle(PlayerPanel::queue); }, true},
+      {"the list of speeds is open", [&] { chrome().setShowsSpeeds(true); },
+       [&] { chrome().setShowsSpeeds(false); }, false},
       {"the position is dragged", [&] { playback_.beginScrubbing(); },
-       [&] { playback_.endScrubbing(); }},
+       [&] { playback_.endScrubbing(); }, false},
       {"the pointer is on them", [&] { window_.overlay->mouseInside = true; },
-       [&] { window_.overlay->mouseInside = false; }},
+       [&] { window_.overlay->mouseInside = false; }, false},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
@@ -74,7 +77,9 @@ TEST_F(ChromeTest, KeepsTheControlsWhileTheyAreNeeded) {
     clock_.advance(7000ms);
     EXPECT_TRUE(shown());
     row.end();
-    clock_.advance(2000ms);
+    clock_.advance(1999ms);
+    EXPECT_EQ(shown(), row.endRestarts);
+    clock_.advance(1ms);
     EXPECT_FALSE(shown());
   }
 }
@@ -89,6 +94,20 @@ TEST_F(ChromeTest, ShowsTheControlsForAPauseAndForAPanel) {
   EXPECT_TRUE(shown());
   chrome().toggle(PlayerPanel::queue);
   EXPECT_EQ(chrome().panel(), PlayerPanel::queue);
+  chrome().setShowsSpeeds(true);
+  EXPECT_EQ(chrome().panel(), std::nullopt);
+  chrome().toggle(PlayerPanel::queue);
+  EXPECT_FALSE(chrome().showsSpeeds());
+}
+
+TEST_F(ChromeTest, TheChaptersPanelGoesWithTheChapters) {
+  const MpvValue chapters(MpvNode{MpvList{MpvNode{MpvMap{{"time", MpvNode{0.0}}}}}});
+  for (const auto panel : {PlayerPanel::chapters, PlayerPanel::queue}) {
+    report(MpvProperty::chapterList, chapters);
+    chrome().setPanel(panel);
+    report(MpvProperty::chapterList, MpvValue());
+    EXPECT_EQ(chrome().panel() == panel, panel == PlayerPanel::queue);
+  }
 }
 
 TEST_F(ChromeTest, AClickHidesAndShowsTheControls) {
@@ -126,13 +145,20 @@ TEST_F(ChromeTest, FollowsTheDelayThatThePersonChooses) {
 }
 
 TEST_F(ChromeTest, AClosingWindowKeepsItsControlsAndTheNextOneBeginsWithThem) {
+  playback_.settings().setAutoHideDelay(1);
+  QCoreApplication::processEvents();
   window_.fullscreen = true;  // so that it takes time
+  chrome().setShowsInfo(true);
   player().close();
   clock_.advance(1990ms);
   EXPECT_TRUE(shown());
-  window_.fullscreen = false;
-  clock_.advance(1000ms);
+  chrome().setPanel(PlayerPanel::queue);
+  player().showToast(QStringLiteral("Volume 50%"));
+  clock_.advance(1010ms);
   ASSERT_EQ(window_.overlay, nullptr);
+  EXPECT_FALSE(chrome().showsInfo());
+  EXPECT_EQ(chrome().panel(), std::nullopt);
+  EXPECT_EQ(chrome().toast(), std::nullopt);
   testing::FakeVideoWindow next(clock_);
   showVideo(next);
   clock_.advance(2000ms);
