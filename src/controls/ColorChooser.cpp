@@ -16,8 +16,14 @@ void ColorChooser::show(const QColor& color, QWindow* above) {
   dialog_ = new QColorDialog(color);
   dialog_->setAttribute(Qt::WA_DeleteOnClose);
   dialog_->setWindowTitle(title_);
-  connect(dialog_, &QColorDialog::currentColorChanged, this, &ColorChooser::chosen);
-  connect(dialog_, &QColorDialog::rejected, this, [this, color] { Q_EMIT chosen(color); });
+  hasTried_ = false;
+  connect(dialog_, &QColorDialog::currentColorChanged, this, [this](const QColor& tried) {
+    hasTried_ = true;
+    Q_EMIT chosen(tried);
+  });
+  connect(dialog_, &QColorDialog::rejected, this, [this, color] {
+    if (hasTried_) Q_EMIT chosen(color);
+  });
   dialog_->winId();
   dialog_->windowHandle()->setTransientParent(above);
   dialog_->show();

@@ -30,6 +30,7 @@ class ColorChooser : public QObject {
 
   QString title_;
   QPointer<QColorDialog> dialog_;
+  bool hasTried_ = false;  // another colour, since the dialog was opened
 };
 
 }  // namespace tromelo

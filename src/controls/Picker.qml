@@ -102,6 +102,13 @@ T.ComboBox {
             boundsBehavior: Flickable.StopAtBounds
 
             T.ScrollBar.vertical: ThinScrollBar {}
+
+            // Its own while it is open, whoever else in the window would take the key.
+            Shortcut {
+                enabled: picker.popup.visible
+                sequence: "Escape"
+                onActivated: picker.popup.close()
+            }
         }
 
         background: Rectangle {

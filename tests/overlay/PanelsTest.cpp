@@ -19,6 +19,15 @@ MpvNode track(const char* type, std::int64_t id, const char* title, bool isSelec
                         {"selected", MpvNode{isSelected}}}};
 }
 
+/// Asked before the window, as the player's keys are.
+struct KeyCounter : QObject {
+  int count = 0;
+  bool eventFilter(QObject*, QEvent* event) override {
+    count += event->type() == QEvent::KeyPress;
+    return false;
+  }
+};
+
 class PanelsTest : public testing::ViewTest {
  protected:
   PanelsTest() { host_.resize(800, 700); }
@@ -393,6 +402,21 @@ TEST_F(PopoverTest, APressOutsideOnlyClosesIt) {
   chrome.setPanel(PlayerPanel::queue);
   chrome.setProperty("showsTracks", false);
   EXPECT_EQ(chrome.panel(), PlayerPanel::queue) << "only its own";
+}
+
+TEST_F(PopoverTest, EscClosesTheListOfFontsFirst) {
+  host_.requestActivate();
+  ASSERT_TRUE(waitFor([this] { return host_.isActive(); }));
+  open(PlayerPanel::tracks);
+  clickItem(only("subtitleFont"));
+  ASSERT_TRUE(waitFor([this] { return shows("choiceGeorgia"); }));
+  KeyCounter keys;
+  host_.installEventFilter(&keys);
+  QTest::keyClick(&host_, Qt::Key_Escape);
+  EXPECT_TRUE(waitFor([this] { return !shows("choiceGeorgia"); }));
+  EXPECT_EQ(keys.count, 0);
+  QTest::keyClick(&host_, Qt::Key_Escape);
+  EXPECT_EQ(keys.count, 1) << "the player's";
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QColorDialog>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QTemporaryDir>
@@ -131,6 +133,39 @@ TEST_F(SettingsWindowTest, ShowsWhatIsSetElsewhere) {
   EXPECT_EQ(value("autoHideDelay", "displayText"), QVariant(QStringLiteral("4 seconds")));
   settings_.setAutoHideDelay(10);
   EXPECT_EQ(value("autoHideDelay", "displayText"), QVariant(QStringLiteral("10 seconds")));
+}
+
+TEST_F(SettingsWindowTest, AColorThatIsTriedAndCancelledLeavesNothing) {
+  show(subtitles);
+  int writes = 0;
+  QObject::connect(&settings_, &PlayerSettings::willChange, window_, [&] { ++writes; });
+  const auto open = [this](const char* well) -> QColorDialog& {
+    click(item(well));
+    auto* const dialog = qobject_cast<QColorDialog*>(QApplication::topLevelWidgets().value(0));
+    if (!dialog) qFatal("no dialog for %s", well);
+    return *dialog;
+  };
+  for (const auto& [well, chosen] :
+       {std::pair{"subtitleColor", &PlayerSettings::subtitleColor},
+        {"subtitleOutlineColor", &PlayerSettings::subtitleOutlineColor}}) {
+    SCOPED_TRACE(well);
+    const RgbaColor before = (settings_.*chosen)();
+    for (const int tries : {0, 1}) {
+      writes = 0;
+      QColorDialog& dialog = open(well);
+      if (tries) dialog.setCurrentColor(Qt::red);
+      EXPECT_EQ((settings_.*chosen)(), tries ? RgbaColor(1, 0, 0) : before);
+      dialog.reject();
+      EXPECT_EQ((settings_.*chosen)(), before);
+      EXPECT_EQ(writes, 2 * tries);
+      testing::settle();
+    }
+    QColorDialog& dialog = open(well);
+    dialog.setCurrentColor(Qt::blue);
+    dialog.accept();
+    EXPECT_EQ((settings_.*chosen)(), RgbaColor(0, 0, 1));
+    testing::settle();
+  }
 }
 
 TEST_F(SettingsWindowTest, ListsTheShortcutsInTheirOrder) {
