@@ -46,8 +46,11 @@ const QHash<QString, char16_t>& glyphs() {
 QString Symbols::family() { return QStringLiteral("Material Icons"); }
 
 QString Symbols::glyph(const QString& name) {
+  if (name.isEmpty()) return {};
   const auto found = glyphs().constFind(name);
-  return found == glyphs().cend() ? QString() : QString(QChar(*found));
+  if (found != glyphs().cend()) return QString(QChar(*found));
+  qWarning("There is no symbol named %s.", qPrintable(name));
+  return {};
 }
 
 }  // namespace tromelo

@@ -17,7 +17,7 @@ class Symbols : public QObject {
   using QObject::QObject;
 
   static QString family();
-  /// Empty for a name that isn't in the table.
+  /// Empty for a name that isn't in the table, with a warning.
   Q_INVOKABLE static QString glyph(const QString& name);
 };
 

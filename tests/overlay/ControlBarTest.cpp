@@ -145,6 +145,9 @@ TEST_F(ControlBarTest, ChoosesASpeed) {
   report(MpvProperty::speed, MpvValue(1.0004));
   EXPECT_EQ(text("speedMenu"), QStringLiteral("1×"));
   EXPECT_FALSE(item("speedMenu")->property("active").toBool());
+  report(MpvProperty::speed, MpvValue(1.002));
+  EXPECT_TRUE(item("speedMenu")->property("active").toBool());
+  report(MpvProperty::speed, MpvValue(1.0004));
   EXPECT_FALSE(item("speedList"));
   click("speedMenu");
   ASSERT_TRUE(isShown("speedList"));
