@@ -143,21 +143,6 @@ TEST_F(HandOnThePicture, DragsTheEdgesWithTheAspectKept) {
   EXPECT_FALSE(engine.get(QStringLiteral("fullscreen")).toBool());
 }
 
-TEST_F(HandOnThePicture, ScrollsTheVolume) {
-  EngineProbe engine = probe();
-  engine.set(QStringLiteral("volume"), 50);
-  ASSERT_TRUE(player.waitUntil([&] { return engine.get(QStringLiteral("volume")) == 50; }));
-  screen::movePointer(video());
-  struct Row {
-    int notches;
-    int volume;
-  };
-  for (const Row& row : {Row{1, 52}, Row{-3, 46}}) {
-    screen::turnWheel(row.notches);
-    EXPECT_TRUE(engine.waitFor(QStringLiteral("volume"), row.volume)) << row.notches;
-  }
-}
-
 TEST_F(HandOnThePicture, APointerOnTheBarKeepsTheControls) {
   EngineProbe engine = probe();
   engine.set(QStringLiteral("loop-file"), QStringLiteral("inf"));

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <cstdlib>
 #include <functional>
 
@@ -54,6 +55,18 @@ bool waitForShot(const QString& name, const std::function<bool(const QImage&)>& 
   QDir().mkpath(folder);
   last.save(folder + name + QStringLiteral(".png"));
   return held;
+}
+
+bool isRead(const QImage& image, QRect place) {
+  int dark = 0;
+  int lightest = 0;
+  for (int x = place.left(); x <= place.right(); ++x)
+    for (int y = place.top(); y <= place.bottom(); ++y) {
+      const int light = image.pixelColor(x, y).lightness();
+      dark += light < 110;
+      lightest = std::max(lightest, light);
+    }
+  return lightest > 190 && 2 * dark > place.width() * place.height();
 }
 
 QString run(const QString& program, const QStringList& arguments) {
@@ -118,12 +131,6 @@ void dragPointer(const QList<QPoint>& places) {
   pressButton();
   for (const QPoint& place : places.sliced(1)) movePointer(place);
   releaseButton();
-}
-
-void turnWheel(int notches) {
-  xdotool({QStringLiteral("click"), QStringLiteral("--delay"), QStringLiteral("20"),
-           QStringLiteral("--repeat"), QString::number(std::abs(notches)),
-           notches > 0 ? QStringLiteral("4") : QStringLiteral("5")});
 }
 
 }  // namespace tromelo::testing::screen

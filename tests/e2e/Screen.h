@@ -24,6 +24,9 @@ bool showsPointer();
 [[nodiscard]] bool waitForShot(const QString& name,
                                const std::function<bool(const QImage&)>& holds);
 
+/// Something light lies on what is mostly dark there, as text does on a surface of ours.
+bool isRead(const QImage& image, QRect place);
+
 /// X11: keys and the window manager. `keys` as xdotool names them.
 void press(const QString& keys);
 QString run(const QString& program, const QStringList& arguments);
@@ -38,9 +41,6 @@ void releaseButton(int button = 1);
 void click(QPoint place, int times = 1);
 /// Presses at the first place, goes through the others and lets go at the last.
 void dragPointer(const QList<QPoint>& places);
-/// By notches; up is positive.
-void turnWheel(int notches);
-
 }  // namespace screen
 
 }  // namespace tromelo::testing

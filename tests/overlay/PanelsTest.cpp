@@ -105,6 +105,9 @@ TEST_F(PanelsTest, TracksAreChosenByTheirRows) {
   clickItem(all("track")[2]);
   clickItem(only("trackOff"));
   EXPECT_EQ(takeSent(), Sent({"set sid 3", "set aid 4", "set sid no"}));
+  clickItem(only("addSubtitleFile"));
+  ASSERT_TRUE(files_.asked);
+  EXPECT_FALSE(files_.asked->allowsSeveral);
 }
 
 TEST_F(PanelsTest, DelaysGoInStepsAndBack) {

@@ -1,7 +1,9 @@
 #include <QKeyEvent>
+#include <QRegularExpression>
 
 #include "PlayerTest.h"
 #include "engine/MpvValue.h"
+#include "player/PlayerShortcuts.h"
 
 namespace tromelo {
 namespace {
@@ -166,6 +168,37 @@ TEST_F(KeysTest, EachDoesAsTheListSays) {
     clock_.advance(1999ms);
     EXPECT_TRUE(player().chromeVisible()) << "the timer began with the key";
   }
+}
+
+/// As the list of keys writes it.
+Stroke listed(QString keys) {
+  Qt::KeyboardModifiers modifiers;
+  for (const auto& [sign, modifier] : {std::pair{u'⇧', kShift}, {u'⌥', kAlt}, {u'⌘', kControl}}) {
+    modifiers.setFlag(modifier, keys.contains(sign));
+    keys.remove(sign);
+  }
+  static const QHash<QString, int> named{
+      {QStringLiteral("Space"), Qt::Key_Space}, {QStringLiteral("Esc"), Qt::Key_Escape},
+      {QStringLiteral("←"), Qt::Key_Left},      {QStringLiteral("→"), Qt::Key_Right},
+      {QStringLiteral("↑"), Qt::Key_Up},        {QStringLiteral("↓"), Qt::Key_Down}};
+  if (named.contains(keys)) return {named[keys], {}, modifiers};
+  return typed(modifiers & kShift ? keys : keys.toLower(), modifiers);
+}
+
+TEST_F(KeysTest, WhateverIsListedIsAKeyOfThePlayer) {
+  // The hand's, and the whole program's.
+  const QStringList others{QStringLiteral("Scroll"), QStringLiteral("double-click"),
+                           QStringLiteral("⌘O")};
+  static const QRegularExpression between(QStringLiteral("\\s*[/,]\\s*"));
+  for (const ShortcutGroup& group : PlayerShortcuts::groups)
+    for (const Shortcut& shortcut : group.items)
+      for (const QString& keys : shortcut.keys.split(between)) {
+        if (others.contains(keys)) continue;
+        testing::FakeVideoWindow window(clock_);
+        showVideo(window);
+        EXPECT_TRUE(window.keyMonitor(listed(keys).pressed())) << qPrintable(keys);
+        takeDown(window);
+      }
 }
 
 TEST_F(KeysTest, OthersPassAndChangeNothing) {
