@@ -2,9 +2,7 @@
 
 add_library(tromelo_options INTERFACE)
 target_compile_features(tromelo_options INTERFACE cxx_std_20)
-# -Wsubobject-linkage takes every source that isn't compiled by itself for a header.
-target_compile_options(tromelo_options INTERFACE
-  -Wall -Wextra -Wpedantic -Wno-subobject-linkage -pthread)
+target_compile_options(tromelo_options INTERFACE -Wall -Wextra -Wpedantic -pthread)
 target_compile_definitions(tromelo_options INTERFACE
   QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH TROMELO_VERSION="${PROJECT_VERSION}")
 target_include_directories(tromelo_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
@@ -40,6 +38,8 @@ function(tromelo_builds_fast)
   foreach(target ${ARGN})
     target_precompile_headers(${target} REUSE_FROM tromelo_headers)
     set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 12)
+    # It takes every source that isn't compiled by itself for a header.
+    target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
   endforeach()
 endfunction()
 
