@@ -88,6 +88,8 @@ void SliderInput::geometryChange(const QRectF& geometry, const QRectF& oldGeomet
 void SliderInput::itemChange(ItemChange change, const ItemChangeData& data) {
   QQuickItem::itemChange(change, data);
   if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange) placeKnob();
+  // Nobody tells what leaves its window that the hand has let go of it.
+  if (change == ItemSceneChange) setDragged(false);
 }
 
 }  // namespace tromelo

@@ -50,6 +50,7 @@ void PlaybackModel::resetForNewFile() {
   elapsed_ = 0;
   duration_ = 0;
   scrubPosition_ = 0;
+  isScrubbing_ = false;
   videoSize_ = kUnknown;
   frameRate_ = kUnknown;
   codec_ = kUnknown;

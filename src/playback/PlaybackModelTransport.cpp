@@ -41,7 +41,8 @@ void PlaybackModel::beginScrubbing() {
 }
 
 void PlaybackModel::scrubTo(double seconds) {
-  if (!std::isfinite(seconds)) return;
+  // Without a drag it is another file's.
+  if (!isScrubbing_ || !std::isfinite(seconds)) return;
   scrubPosition_ = seconds;
   const double now = clock_.now();
   if (now - lastScrubSeek_ <= kScrubInterval) return;
@@ -50,6 +51,7 @@ void PlaybackModel::scrubTo(double seconds) {
 }
 
 void PlaybackModel::endScrubbing() {
+  if (!isScrubbing_) return;
   seekTo(scrubPosition_);
   elapsed_ = scrubPosition_.get();
   isScrubbing_ = false;

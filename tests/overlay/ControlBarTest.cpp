@@ -137,6 +137,10 @@ TEST_F(ControlBarTest, DragsThePosition) {
   EXPECT_EQ(takeSent(), Sent{"seek 50.0 absolute+exact"});
 
   press(at(0.75));
+  view_->setParentItem(nullptr);
+  EXPECT_FALSE(playback_.isScrubbing()) << "taken off its window under the hand";
+  view_->setParentItem(&layer_);
+  press(at(0.75));
   view_->setVisible(false);
   EXPECT_FALSE(playback_.isScrubbing()) << "hidden under the hand";
 }
