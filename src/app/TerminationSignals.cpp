@@ -10,20 +10,24 @@ namespace tromelo {
 
 namespace {
 
-// A handler may do no more than write to a descriptor.
 int writeEnd = -1;
 
-extern "C" void noteSignal(int) {
-  const char byte = 0;
-  [[maybe_unused]] const ssize_t written = ::write(writeEnd, &byte, 1);
-}
-
-void install(void (*handler)(int), int flags) {
+void install(void (*handler)(int)) {
   struct sigaction action = {};
   action.sa_handler = handler;
-  action.sa_flags = flags;
+  action.sa_flags = SA_RESTART;
+  // One that comes while the other is noted waits for what that one installs.
+  ::sigaddset(&action.sa_mask, SIGINT);
+  ::sigaddset(&action.sa_mask, SIGTERM);
   ::sigaction(SIGINT, &action, nullptr);
   ::sigaction(SIGTERM, &action, nullptr);
+}
+
+// A handler may do no more than call what is safe there.
+extern "C" void noteSignal(int) {
+  install(SIG_DFL);
+  const char byte = 0;
+  [[maybe_unused]] const ssize_t written = ::write(writeEnd, &byte, 1);
 }
 
 }  // namespace
@@ -34,12 +38,12 @@ TerminationSignals::TerminationSignals() {
   writeEnd = ends[1];
   notifier_ = std::make_unique<QSocketNotifier>(ends[0], QSocketNotifier::Read);
   connect(notifier_.get(), &QSocketNotifier::activated, this, &TerminationSignals::read);
-  install(noteSignal, SA_RESTART | SA_RESETHAND);
+  install(noteSignal);
 }
 
 TerminationSignals::~TerminationSignals() {
   if (!notifier_) return;
-  install(SIG_DFL, 0);
+  install(SIG_DFL);
   ::close(static_cast<int>(notifier_->socket()));
   ::close(writeEnd);
 }

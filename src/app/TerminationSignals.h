@@ -6,8 +6,8 @@
 
 namespace tromelo {
 
-/// SIGINT and SIGTERM as a signal of the event loop. A second one, while the program is quitting,
-/// ends it at once. One instance.
+/// SIGINT and SIGTERM as a signal of the event loop. A second one, whichever it is, ends the
+/// program at once. One instance.
 class TerminationSignals : public QObject {
   Q_OBJECT
 

@@ -1,0 +1,24 @@
+#include "app/TerminationSignals.h"
+
+#include <gtest/gtest.h>
+#include <signal.h>
+
+namespace tromelo {
+namespace {
+
+TEST(TerminationSignalsDeathTest, ASecondSignalEndsTheProgramAtOnceWhicheverItIs) {
+  for (const int first : {SIGINT, SIGTERM})
+    for (const int second : {SIGINT, SIGTERM})
+      EXPECT_EXIT(
+          {
+            const TerminationSignals signals;
+            ::raise(first);
+            ::raise(second);
+            ::_exit(0);
+          },
+          ::testing::KilledBySignal(second), "")
+          << first << " and " << second;
+}
+
+}  // namespace
+}  // namespace tromelo
