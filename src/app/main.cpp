@@ -3,9 +3,12 @@
 #include <QPalette>
 #include <QStyleHints>
 #include <cstdio>
+#include <optional>
 #include <span>
+#include <utility>
 
 #include "app/CommandLine.h"
+#include "app/DisplayGuard.h"
 #include "app/Program.h"
 #include "app/SelftestCommand.h"
 #include "app/Translations.h"
@@ -56,7 +59,9 @@ int main(int argc, char** argv) {
     return 1;
   }
   prepareGraphics();
+  std::optional<tromelo::DisplayGuard> guard(std::in_place);
   QApplication application(argc, argv);
+  guard.reset();
   describe(application);
   darken(application);
   if (line.displaySelftest)

@@ -51,6 +51,7 @@ TEST_F(EndToEnd, RunsSideBySideAndClearsUpAfterACrash) {
 TEST_F(EndToEnd, AnswersForHelpWithoutADisplay) {
   for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
     player.environment.remove(QString::fromLatin1(name));
+  const QProcessEnvironment without = player.environment;
   for (const char* option : {"--help", "--version"}) {
     player.start({QString::fromLatin1(option)});
     EXPECT_EQ(player.waitForEnd(), 0) << option;
@@ -58,6 +59,15 @@ TEST_F(EndToEnd, AnswersForHelpWithoutADisplay) {
   player.start();
   EXPECT_EQ(player.waitForEnd(), 1);
   EXPECT_TRUE(player.errors().contains("needs a display"));
+  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY"}) {
+    RunningPlayer other;
+    other.environment = without;
+    other.environment.insert(QString::fromLatin1(name), QStringLiteral(":987"));
+    other.start();
+    EXPECT_EQ(other.waitForEnd(), 1) << name;
+    EXPECT_TRUE(other.errors().startsWith("Tromelo can't reach the display")) << name;
+    EXPECT_EQ(other.errors().count('\n'), 1) << other.errors().toStdString();
+  }
 }
 
 }  // namespace
