@@ -65,12 +65,18 @@ int Program::run() {
   // From here on the engine opens the file, if there is one, beside us.
   chooseDrawing();
   followReducedMotion();
-  if (delegate_->player().isAwaitingVideo())
-    stage_->prepareWindow(delegate_->playback(), delegate_->player());
+  QMetaObject::invokeMethod(
+      delegate_.get(), [this] { preparePlayerWindow(); }, Qt::QueuedConnection);
   const int status = QCoreApplication::exec();
   defaults_.flush();
   if (report_) report_->flush();
   return status;
+}
+
+/// In the loop's first turn, behind the library.
+void Program::preparePlayerWindow() {
+  if (delegate_->player().isAwaitingVideo())
+    stage_->prepareWindow(delegate_->playback(), delegate_->player());
 }
 
 void Program::chooseDrawing() {

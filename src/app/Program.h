@@ -35,6 +35,7 @@ class Program {
 
  private:
   void startDisplay();
+  void preparePlayerWindow();
   void chooseDrawing();
   void followReducedMotion();
   void makeDelegate();

@@ -14,8 +14,6 @@ namespace tromelo {
 namespace {
 
 constexpr QSize kContentSize(1100, 720);  // points
-// A file that takes longer to open leaves the person in front of nothing.
-constexpr std::chrono::milliseconds kPatience = std::chrono::seconds(1);
 
 // Until the window has come up and what played before is gone.
 constexpr std::chrono::milliseconds kSettled = std::chrono::seconds(3);
@@ -39,13 +37,11 @@ LibraryWindow::LibraryWindow(QQmlEngine& engine, PlaybackModel& playback,
       reducedMotion_(reducedMotion),
       frame_(defaults, QStringLiteral("TromeloLibrary")),
       sidebarWidth_(defaults) {
-  patience_.setSingleShot(true);
   settled_.setSingleShot(true);
   settled_.setInterval(kSettled);
   connect(&settled_, &QTimer::timeout, this, [this] {
     if (isVisible()) giveFreedMemoryBack();
   });
-  connect(&patience_, &QTimer::timeout, this, &LibraryWindow::present);
   connect(&fileManager_, &FileManager::failed, &playback, &PlaybackModel::tell);
 }
 
@@ -97,14 +93,7 @@ void LibraryWindow::fadeTo(double opacity, std::chrono::milliseconds duration,
 void LibraryWindow::makeKeyAndOrderFront() {
   isComing_ = true;
   if (window_) return present();
-  QMetaObject::invokeMethod(this, &LibraryWindow::presentUnlessAFileComes, Qt::QueuedConnection);
-}
-
-void LibraryWindow::presentUnlessAFileComes() {
-  if (player_.isAwaitingVideo())
-    patience_.start(kPatience);
-  else
-    present();
+  QMetaObject::invokeMethod(this, &LibraryWindow::present, Qt::QueuedConnection);
 }
 
 void LibraryWindow::present() {

@@ -18,8 +18,8 @@ class PlaybackModel;
 class PlayerWindowController;
 
 /// The program's home. Closing it only hides it. The first time it comes on the screen when the
-/// event loop runs, and not before a file that is opened together with it, unless that takes long:
-/// the film doesn't wait for a window that it hides again. Main thread only.
+/// event loop runs: a file that is opened together with it is with the engine by then. Main thread
+/// only.
 class LibraryWindow : public HostWindow {
   Q_OBJECT
 
@@ -46,7 +46,6 @@ class LibraryWindow : public HostWindow {
  private:
   void make();
   void present();
-  void presentUnlessAFileComes();
   void saveFrame();
 
   QQmlEngine& engine_;
@@ -58,7 +57,6 @@ class LibraryWindow : public HostWindow {
   SidebarWidth sidebarWidth_;
   FileManager fileManager_;
   bool isComing_ = false;
-  QTimer patience_;
   QTimer settled_;
   double opacity_ = 1;
   std::unique_ptr<QQuickWindow> window_;

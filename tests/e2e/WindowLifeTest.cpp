@@ -11,7 +11,7 @@ TEST_F(EndToEnd, PlaysAFileFromItsStartAndReturnsToTheLibrary) {
   EXPECT_TRUE(screen::waitForShot(QStringLiteral("playing"), showsTestPicture));
   if (!screen::isX11()) return;
 
-  EXPECT_TRUE(window("^Tromelo$").isEmpty());
+  EXPECT_TRUE(player.waitUntil([this] { return window("^Tromelo$").isEmpty(); }));
   screen::press(QStringLiteral("alt+F4"));
   ASSERT_TRUE(player.waitFor(QStringLiteral("window"), QStringLiteral("none")));
   EXPECT_TRUE(player.isRunning());
