@@ -5,6 +5,11 @@
 
 namespace tromelo {
 
+std::vector<UserDefaults> storesOfOrvo() {
+  return {UserDefaults::named(QStringLiteral("org.orvo.Orvo")),
+          UserDefaults::named(QStringLiteral("Orvo"))};
+}
+
 void migrateDefaultsFromOrvo(UserDefaults& defaults, std::span<const UserDefaults> sources) {
   const QString migrated = QStringLiteral("migratedFromOrvo");
   if (defaults.boolean(migrated)) return;

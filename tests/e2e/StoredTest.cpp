@@ -15,8 +15,8 @@ class Stored : public EndToEnd {
 
   QString folder() const { return player.homePath() + QStringLiteral("/config/Tromelo"); }
   QString file() const { return folder() + QStringLiteral("/defaults.json"); }
-  void write(const QByteArray& text) const {
-    QFile out(file());
+  void write(const QByteArray& text, const QString& place = {}) const {
+    QFile out(place.isEmpty() ? file() : place);
     ASSERT_TRUE(out.open(QIODevice::WriteOnly));
     out.write(text);
   }
@@ -41,7 +41,9 @@ class Stored : public EndToEnd {
 TEST_F(Stored, SettingsReachTheEngineAndWrongOnesFallBackAlone) {
   const QByteArray text = R"({"playerSettings": {"subtitleSize": 60, "subtitleBold": true,
     "subtitleColor": [1, 0, 0, 1], "subtitleBorderStyle": "box", "subtitleFont": 7}})";
-  write(text);
+  const QString former = player.homePath() + QStringLiteral("/config/Orvo");
+  QDir().mkpath(former);
+  write(text, former + QStringLiteral("/defaults.json"));
   player.start({clip("tracks.mkv")});
   ASSERT_TRUE(player.waitUntilPlaying());
   EngineProbe engine = probe();

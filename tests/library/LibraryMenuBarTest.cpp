@@ -73,6 +73,9 @@ TEST(LibraryMenuBarTest, EveryEntryAndEveryKeyRunsItsCommand) {
     EXPECT_EQ(entry->property("text").toString().remove(u'&'), QString::fromUtf8(row.text));
     EXPECT_EQ(entry->property("keys"), QVariant(QString::fromLatin1(row.keys)));
   }
+  QEvent sessionEnds(QEvent::Quit);
+  QCoreApplication::sendEvent(qApp, &sessionEnds);
+  EXPECT_EQ(ran, QStringLiteral("quit"));
 }
 
 }  // namespace
