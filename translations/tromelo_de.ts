@@ -1091,6 +1091,10 @@
         <source>Audio: %1</source>
         <translation>Ton: %1</translation>
     </message>
+    <message>
+        <source>Tromelo plays local files only.</source>
+        <translation>Tromelo spielt nur lokale Dateien ab.</translation>
+    </message>
 </context>
 <context>
     <name>tromelo::PlaybackState</name>

@@ -1,13 +1,12 @@
 #include "app/AppDelegate.h"
 
 #include "app/DefaultsMigration.h"
-#include "platform/FilePath.h"
 
 namespace tromelo {
 
 AppDelegate::AppDelegate(const CommandLine& commandLine, UserDefaults& defaults,
                          const std::vector<UserDefaults>& formerDefaults, Parts parts)
-    : parts_(std::move(parts)), launchPath_(commandLine.path), launchStart_(commandLine.start) {
+    : parts_(std::move(parts)), commandLine_(commandLine) {
   // The settings are loaded by the model, so what the former edition left has to be there before.
   migrateDefaultsFromOrvo(defaults, formerDefaults);
   playback_ = parts_.makePlayback();
@@ -22,16 +21,19 @@ PlayerWindowController& AppDelegate::player() {
 void AppDelegate::applicationDidFinishLaunching() {
   didFinishLaunching_ = true;
   showLibraryWindow();
-  if (launchPath_ && fileExists(*launchPath_))
-    playback_->open(fileUrlFromPath(*launchPath_), launchStart_);
+  if (const auto file = commandLine_.fileToOpen()) open(*file, commandLine_.start);
 }
 
 void AppDelegate::applicationOpen(const QList<QUrl>& urls, std::optional<double> start) {
   if (urls.isEmpty()) return;
-  const QUrl& url = urls.first();
-  const bool opensAtLaunch =
-      !didFinishLaunching_ && launchPath_ && pathFromFileUrl(url) == absolutePath(*launchPath_);
-  if (!opensAtLaunch) playback_->open(url, start);
+  const bool opensAtLaunch = !didFinishLaunching_ && urls.first() == commandLine_.file;
+  if (!opensAtLaunch) open(urls.first(), start);
+  if (!playback_->engine().hasHandle()) showLibraryWindow();
+}
+
+void AppDelegate::open(const QUrl& url, std::optional<double> start) {
+  playback_->withLocalFiles(
+      {url}, [this, start](const QList<QUrl>& files) { playback_->open(files.first(), start); });
 }
 
 bool AppDelegate::applicationShouldHandleReopen(bool hasVisibleWindows) {

@@ -6,7 +6,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <string>
 #include <vector>
 
 #include "app/CommandLine.h"
@@ -41,6 +40,7 @@ class AppDelegate : public QObject {
   PlayerWindowController& player();
 
   void applicationDidFinishLaunching();
+  /// Opens the first. Where there is no engine the library comes up, which says why.
   void applicationOpen(const QList<QUrl>& urls, std::optional<double> start = std::nullopt);
   bool applicationShouldHandleReopen(bool hasVisibleWindows);
   TerminateReply applicationShouldTerminate();
@@ -56,10 +56,11 @@ class AppDelegate : public QObject {
   void readyToTerminate();
 
  private:
+  void open(const QUrl& url, std::optional<double> start);
+
   Parts parts_;
   bool didFinishLaunching_ = false;
-  std::optional<std::string> launchPath_;
-  std::optional<double> launchStart_;
+  const CommandLine commandLine_;
   std::unique_ptr<PlaybackModel> playback_;
   std::unique_ptr<HostWindow> libraryWindow_;
 };

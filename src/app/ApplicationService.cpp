@@ -1,15 +1,13 @@
 #include "app/ApplicationService.h"
 
-#include <QDBusInterface>
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 
-#include "platform/SessionBus.h"
+#include "platform/FilePath.h"
 
 namespace tromelo {
 
 namespace {
-
-constexpr int kHandOverMilliseconds = 5000;
 
 QString serviceName() { return QStringLiteral("org.tromelo.Tromelo"); }
 QString objectPath() { return QStringLiteral("/org/tromelo/Tromelo"); }
@@ -23,7 +21,9 @@ void takeActivation(const QVariantMap& platformData) {
   if (!token.isEmpty()) qputenv(kTokenVariable, token);
 }
 
-bool handOver(QDBusConnection& bus, const ApplicationService::Request& request) {
+}  // namespace
+
+bool ApplicationService::handOver(const Request& request, std::chrono::milliseconds patience) {
   QDBusMessage call = QDBusMessage::createMethodCall(
       serviceName(), objectPath(), QStringLiteral("org.freedesktop.Application"),
       request.file ? QStringLiteral("Open") : QStringLiteral("Activate"));
@@ -33,26 +33,29 @@ bool handOver(QDBusConnection& bus, const ApplicationService::Request& request) 
   if (request.start) platformData.insert(startKey(), *request.start);
   if (request.file) call << QStringList{request.file->toString(QUrl::FullyEncoded)};
   call << platformData;
-  return bus.call(call, QDBus::Block, kHandOverMilliseconds).type() == QDBusMessage::ReplyMessage;
+  const QDBusMessage answer = bus_->call(call, QDBus::Block, static_cast<int>(patience.count()));
+  if (answer.type() == QDBusMessage::ReplyMessage) return true;
+  // One that is busy has the request and will do it: it must not be done twice.
+  return answer.type() == QDBusMessage::ErrorMessage &&
+         QDBusError(answer).type() == QDBusError::NoReply &&
+         bus_->interface()->isServiceRegistered(serviceName());
 }
 
-}  // namespace
-
-ApplicationService::Role ApplicationService::start(const Request& request) {
-  auto bus = sessionBus();
-  if (!bus) return Role::alone;
+ApplicationService::Role ApplicationService::start(const Request& request,
+                                                   std::chrono::milliseconds patience) {
+  if (!bus_) return Role::alone;
   // The object comes first: whoever finds the name may call at once.
-  if (!bus->registerObject(objectPath(), this, QDBusConnection::ExportAllSlots)) return Role::alone;
-  if (bus->registerService(serviceName())) return Role::first;
-  bus->unregisterObject(objectPath());
-  return handOver(*bus, request) ? Role::handedOver : Role::alone;
+  if (!bus_->registerObject(objectPath(), this, QDBusConnection::ExportAllSlots))
+    return Role::alone;
+  if (bus_->registerService(serviceName())) return Role::first;
+  bus_->unregisterObject(objectPath());
+  return handOver(request, patience) ? Role::handedOver : Role::alone;
 }
 
 void ApplicationService::stop() {
-  auto bus = sessionBus();
-  if (!bus) return;
-  bus->unregisterService(serviceName());
-  bus->unregisterObject(objectPath());
+  if (!bus_) return;
+  bus_->unregisterService(serviceName());
+  bus_->unregisterObject(objectPath());
 }
 
 void ApplicationService::Activate(const QVariantMap& platformData) {
@@ -62,10 +65,7 @@ void ApplicationService::Activate(const QVariantMap& platformData) {
 
 void ApplicationService::Open(const QStringList& uris, const QVariantMap& platformData) {
   QList<QUrl> files;
-  for (const QString& uri : uris) {
-    const QUrl url(uri, QUrl::StrictMode);
-    if (url.isLocalFile()) files.append(url);
-  }
+  for (const QString& uri : uris) files.append(urlFromEncoded(uri.toUtf8()));
   takeActivation(platformData);
   bool known = false;
   const double start = platformData.value(startKey()).toDouble(&known);

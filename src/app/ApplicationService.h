@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QDBusContext>
+#include <QDBusConnection>
 #include <QObject>
 #include <QStringList>
 #include <QUrl>
 #include <QVariantMap>
+#include <chrono>
 #include <optional>
 
 namespace tromelo {
@@ -16,7 +17,8 @@ class ApplicationService : public QObject {
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
  public:
-  using QObject::QObject;
+  /// `bus` is the session bus, where there is one.
+  explicit ApplicationService(std::optional<QDBusConnection> bus) : bus_(std::move(bus)) {}
 
   /// What a start asks of the program that runs already.
   struct Request {
@@ -26,12 +28,12 @@ class ApplicationService : public QObject {
 
   enum class Role {
     first,       // we are the program now
-    handedOver,  // another one took the request
+    handedOver,  // another one took the request, or has it before it
     alone,       // there is no session bus
   };
 
-  /// Waits for the other program's answer, at most a few seconds.
-  Role start(const Request& request);
+  /// Waits for the other program's answer, at most `patience`.
+  Role start(const Request& request, std::chrono::milliseconds patience = std::chrono::seconds(5));
 
   /// Leaves the name to the next program.
   void stop();
@@ -44,7 +46,13 @@ class ApplicationService : public QObject {
 
  Q_SIGNALS:
   void activated();
+  /// Addresses as the desktop gave them.
   void filesOpened(const QList<QUrl>& files, std::optional<double> start);
+
+ private:
+  bool handOver(const Request& request, std::chrono::milliseconds patience);
+
+  std::optional<QDBusConnection> bus_;
 };
 
 }  // namespace tromelo

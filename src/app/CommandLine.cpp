@@ -4,6 +4,8 @@
 #include <cmath>
 #include <string_view>
 
+#include "platform/FilePath.h"
+
 namespace tromelo {
 
 namespace {
@@ -27,7 +29,7 @@ CommandLine CommandLine::parse(std::span<char* const> arguments) {
   for (std::size_t i = 1; i < arguments.size(); ++i) {
     const std::string_view argument = arguments[i];
     if (!argument.starts_with('-')) {
-      if (!line.path && !argument.empty()) line.path = argument;
+      if (!line.file && !argument.empty()) line.file = urlFromArgument(argument);
     } else if (argument.starts_with(kStart)) {
       if (!sawStart) line.start = decimalNumber(argument.substr(kStart.size()));
       sawStart = true;
@@ -38,6 +40,11 @@ CommandLine CommandLine::parse(std::span<char* const> arguments) {
     line.report |= argument == "--report";
   }
   return line;
+}
+
+std::optional<QUrl> CommandLine::fileToOpen() const {
+  const bool isMissing = file && file->isLocalFile() && !fileExists(pathFromFileUrl(*file));
+  return isMissing ? std::nullopt : file;
 }
 
 std::string CommandLine::helpText() {

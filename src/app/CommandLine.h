@@ -1,16 +1,16 @@
 #pragma once
 
+#include <QUrl>
 #include <optional>
 #include <span>
 #include <string>
 
 namespace tromelo {
 
-/// What the arguments ask for. A path keeps its bytes. Options that the program doesn't know are
-/// ignored.
+/// What the arguments ask for. Options that the program doesn't know are ignored.
 struct CommandLine {
-  std::optional<std::string> path;  // the first argument that does not begin with "-"
-  std::optional<double> start;      // seconds, from the first "--start="
+  std::optional<QUrl> file;     // the first argument that does not begin with "-", a path or a URL
+  std::optional<double> start;  // seconds, from the first "--start="
   bool help = false;
   bool version = false;
   bool displaySelftest = false;
@@ -18,6 +18,9 @@ struct CommandLine {
 
   /// `arguments` begins with the program's own name.
   static CommandLine parse(std::span<char* const> arguments);
+
+  /// The file, unless it is a local one that isn't there.
+  std::optional<QUrl> fileToOpen() const;
 
   static std::string helpText();
 };

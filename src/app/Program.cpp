@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <cstdio>
 
+#include "app/DefaultsMigration.h"
 #include "display/AbsentDisplay.h"
 #include "display/DmabufSupport.h"
 #include "display/EglDevice.h"
@@ -16,7 +17,6 @@
 #include "overlay/QuickPlayerOverlay.h"
 #include "platform/DesktopInhibition.h"
 #include "platform/DesktopRecents.h"
-#include "platform/FilePath.h"
 #include "platform/HostEnvironment.h"
 #include "platform/HostInhibition.h"
 #include "platform/SessionBus.h"
@@ -25,32 +25,16 @@
 
 namespace tromelo {
 
-namespace {
-
-// The former edition's stores, by its reverse-DNS name and by its plain one.
-std::vector<UserDefaults> formerDefaults() {
-  return {UserDefaults::named(QStringLiteral("org.orvo.Orvo")),
-          UserDefaults::named(QStringLiteral("Orvo"))};
-}
-
-ApplicationService::Request requestOf(const CommandLine& line) {
-  ApplicationService::Request request;
-  if (line.path && fileExists(*line.path)) request.file = fileUrlFromPath(*line.path);
-  request.start = line.start;
-  return request;
-}
-
-}  // namespace
-
 Program::Program(const CommandLine& commandLine)
     : commandLine_(commandLine),
       defaults_(UserDefaults::named(QStringLiteral("Tromelo"))),
-      reducedMotion_(qgetenv("TROMELO_REDUCED_MOTION"), sessionBus()) {}
+      reducedMotion_(qgetenv("TROMELO_REDUCED_MOTION"), sessionBus()),
+      service_(sessionBus()) {}
 
 Program::~Program() = default;
 
 int Program::run() {
-  role_ = service_.start(requestOf(commandLine_));
+  role_ = service_.start({.file = commandLine_.fileToOpen(), .start = commandLine_.start});
   if (role_ == ApplicationService::Role::handedOver) return 0;
   startDisplay();
   makeDelegate();
@@ -136,7 +120,7 @@ void Program::makeDelegate() {
   parts.makeLibraryWindow = [this](PlaybackModel& playback, PlayerWindowController& player) {
     return makeLibraryWindow(playback, player);
   };
-  delegate_ = std::make_unique<AppDelegate>(commandLine_, defaults_, formerDefaults(), parts);
+  delegate_ = std::make_unique<AppDelegate>(commandLine_, defaults_, storesOfOrvo(), parts);
   QObject::connect(delegate_.get(), &AppDelegate::readyToTerminate, qApp,
                    [] { QCoreApplication::exit(0); });
   // What is asked of the program from now on is for the next one.

@@ -2,6 +2,8 @@
 
 #include <unistd.h>
 
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 
 namespace tromelo {
@@ -9,6 +11,15 @@ namespace tromelo {
 namespace {
 
 const QString kFileScheme = QStringLiteral("file://");
+
+/// "file:///a" and "smb://host/a" are; a path may have colons too.
+bool isUrl(std::string_view text) {
+  const auto isOfScheme = [](unsigned char byte) {
+    return std::isalnum(byte) || byte == '+' || byte == '-' || byte == '.';
+  };
+  const auto scheme = text.substr(0, text.find("://"));
+  return scheme.size() < text.size() && !scheme.empty() && std::ranges::all_of(scheme, isOfScheme);
+}
 
 }  // namespace
 
@@ -31,6 +42,22 @@ QUrl fileUrlFromPath(std::string_view pathBytes) {
 std::string pathFromFileUrl(const QUrl& url) {
   if (!url.isLocalFile()) return {};
   return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toUtf8()).toStdString();
+}
+
+QUrl urlFromEncoded(QByteArrayView text) {
+  QByteArray encoded;
+  for (const char byte : text) {
+    if (static_cast<unsigned char>(byte) < 0x80)
+      encoded += byte;
+    else  // decoded, those that aren't UTF-8 would be lost
+      encoded += '%' + QByteArray(1, byte).toHex().toUpper();
+  }
+  const QUrl url = QUrl::fromEncoded(encoded);
+  return url.isLocalFile() ? fileUrlFromPath(pathFromFileUrl(url)) : url;
+}
+
+QUrl urlFromArgument(std::string_view argument) {
+  return isUrl(argument) ? urlFromEncoded(argument) : fileUrlFromPath(argument);
 }
 
 QString storedPath(std::string_view pathBytes) {

@@ -20,6 +20,13 @@ QUrl fileUrlFromPath(std::string_view pathBytes);
 /// The path's bytes; empty when `url` is no local file.
 std::string pathFromFileUrl(const QUrl& url);
 
+/// A URL as other programs write it: some leave bytes above ASCII as they are. A local file's comes
+/// out as fileUrlFromPath() writes it.
+QUrl urlFromEncoded(QByteArrayView text);
+
+/// What an argument of a command line names: a path, or any URL.
+QUrl urlFromArgument(std::string_view argument);
+
 /// A path as text that keeps its bytes, to be stored: the path itself where it is UTF-8, else its
 /// file URL. A path never begins like one.
 QString storedPath(std::string_view pathBytes);

@@ -24,7 +24,8 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       engine_(parts.api),
       settings_(parts.defaults),
       existence_(std::move(parts.fileExists),
-                 [this](const QList<FileExistence::Answer>& answers) { takeAnswers(answers); }) {
+                 [this](const QList<FileExistence::Answer>& answers) { takeAnswers(answers); }),
+      localFiles_(std::move(parts.mountedPath)) {
   hardware_.softwarePaths = storedSoftwareDecodePaths(defaults_);
   loadRecents();
   startEngine(parts);
@@ -79,6 +80,26 @@ void PlaybackModel::open(const QList<QUrl>& urls) {
   if (urls.isEmpty()) return;
   open(urls.first());
   append(urls.sliced(1));
+}
+
+void PlaybackModel::openFiles(const QList<QUrl>& addresses) {
+  withLocalFiles(addresses, [this](const QList<QUrl>& files) { open(files); });
+}
+
+void PlaybackModel::withLocalFiles(const QList<QUrl>& addresses,
+                                   const std::function<void(const QList<QUrl>& files)>& use) {
+  localFiles_.find(addresses, [this, use](const QList<QUrl>& files, bool areAll) {
+    if (!files.isEmpty()) use(files);
+    if (!areAll) refuseFilesElsewhere(!files.isEmpty());
+  });
+}
+
+void PlaybackModel::refuseFilesElsewhere(bool someFollow) {
+  const QString sentence = tr("Tromelo plays local files only.");
+  // A player window that doesn't come now must not say it later.
+  if (someFollow || player().hasWindow()) return tell(sentence);
+  errorMessage_ = sentence;
+  player().showLibrary();
 }
 
 void PlaybackModel::enqueue(const QList<QUrl>& urls) {

@@ -11,6 +11,7 @@
 #include "engine/MpvEngine.h"
 #include "platform/FileExistence.h"
 #include "platform/FilePath.h"
+#include "platform/LocalFiles.h"
 #include "platform/ScreenHeadroom.h"
 #include "playback/HardwareDecoding.h"
 #include "playback/PlaybackState.h"
@@ -46,6 +47,8 @@ class PlaybackModel : public PlaybackState {
     std::function<std::unique_ptr<PlayerPresenting>(PlaybackModel&)> makePlayer;
     /// Says whether a recent file is there; may take its time, on other threads.
     std::function<bool(const std::string& path)> fileExists = tromelo::fileExists;
+    /// Of a file that the desktop names by another address; see LocalFiles.
+    LocalFiles::PathOf mountedPath = tromelo::mountedPath;
     /// Asked when a picture can't be drawn; may take a moment.
     std::function<bool()> hasVulkanDevice = [] { return true; };
     QString engineFault = {};  // a sentence: why the engine can't be started; empty: it can
@@ -72,7 +75,11 @@ class PlaybackModel : public PlaybackState {
   /// Plays the first and queues the others.
   void open(const QList<QUrl>& urls);
   Q_INVOKABLE void openFile(const QUrl& url) { open(url); }
-  Q_INVOKABLE void openFiles(const QList<QUrl>& urls) { open(urls); }
+  Q_INVOKABLE void openFiles(const QList<QUrl>& addresses);
+  /// Does something with what a person or the desktop hands over, once it is known which local
+  /// files that is; at once where all are local. Says so where there is none.
+  void withLocalFiles(const QList<QUrl>& addresses,
+                      const std::function<void(const QList<QUrl>& files)>& use);
   /// Adds files to the end of the queue; plays them where there is nothing else.
   Q_INVOKABLE void enqueue(const QList<QUrl>& urls);
 
@@ -193,6 +200,7 @@ class PlaybackModel : public PlaybackState {
 
   void load(const QUrl& url, const char* mode, std::optional<double> startAt);
   void append(const QList<QUrl>& urls);
+  void refuseFilesElsewhere(bool someFollow);
   void seek(double seconds, const char* how);
 
   Clock& clock_;
@@ -207,6 +215,7 @@ class PlaybackModel : public PlaybackState {
   QueueProgress progress_;
   RecentFiles recentFiles_;
   FileExistence existence_;
+  LocalFiles localFiles_;
   std::int64_t entry_ = 0;                  // of the current file, the engine's number for it
   std::optional<std::string> currentPath_;  // as the engine has reported it since the file started
   double subtitleLift_ = 0;

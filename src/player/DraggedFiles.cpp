@@ -9,16 +9,12 @@ namespace tromelo {
 
 namespace {
 
-/// Some programs leave bytes above ASCII as they are; decoded, those that aren't UTF-8 were lost.
-QUrl urlOf(const QByteArray& line) {
-  QByteArray encoded;
-  for (const char byte : line) {
-    if (static_cast<unsigned char>(byte) < 0x80)
-      encoded += byte;
-    else
-      encoded += '%' + QByteArray(1, byte).toHex().toUpper();
-  }
-  return QUrl::fromEncoded(encoded);
+/// On a share, say, which can have a local path: who takes it asks for that.
+bool mayBeFileElsewhere(const QUrl& url) {
+  const QString scheme = url.scheme();
+  const bool hasPlace = !url.host().isEmpty() || url.path().startsWith(u'/');
+  return !scheme.isEmpty() && hasPlace && !url.isLocalFile() && scheme != u"http" &&
+         scheme != u"https";
 }
 
 }  // namespace
@@ -28,7 +24,8 @@ QList<QUrl> draggedFiles(const QMimeData& data) {
   for (const QByteArray& line : data.data(QStringLiteral("text/uri-list")).split('\n')) {
     const QByteArray text = line.trimmed();
     if (text.isEmpty() || text.startsWith('#')) continue;
-    if (const QUrl url = urlOf(text); !pathFromFileUrl(url).empty()) files.append(url);
+    const QUrl url = urlFromEncoded(text);
+    if (!pathFromFileUrl(url).empty() || mayBeFileElsewhere(url)) files.append(url);
   }
   return files;
 }

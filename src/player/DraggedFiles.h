@@ -8,8 +8,8 @@ class QMimeData;
 
 namespace tromelo {
 
-/// The local files and folders of a drag, in its order; web links and text are passed over. Names
-/// keep their bytes.
+/// The files and folders of a drag, in its order, by the addresses that it gives them (smb://…
+/// too); web links and text are passed over. Names keep their bytes.
 QList<QUrl> draggedFiles(const QMimeData& data);
 
 /// Answers a drag that moves or is let go: its files would be copied, anything else is refused.

@@ -217,8 +217,12 @@ void PlayerWindowController::giveUp(VideoWindow& window) {
   window.orderOut();
 }
 
-void PlayerWindowController::handleDroppedFiles(const QList<QUrl>& urls) {
-  const DroppedFiles files = DroppedFiles::sort(urls);
+void PlayerWindowController::handleDroppedFiles(const QList<QUrl>& addresses) {
+  playback_.withLocalFiles(addresses, [this](const QList<QUrl>& files) { takeDropped(files); });
+}
+
+void PlayerWindowController::takeDropped(const QList<QUrl>& dropped) {
+  const DroppedFiles files = DroppedFiles::sort(dropped);
   for (const QUrl& subtitle : files.subtitles)
     playback_.engine().command({"sub-add", pathFromFileUrl(subtitle), "select"});
   playback_.enqueue(files.videos);

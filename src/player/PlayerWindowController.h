@@ -44,7 +44,7 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   void bringToFront();
   /// Asks the engine, whose window it is.
   Q_INVOKABLE void toggleFullscreen();
-  void handleDroppedFiles(const QList<QUrl>& urls);
+  void handleDroppedFiles(const QList<QUrl>& addresses);
   /// By percent points, up or down, with a toast.
   void adjustVolume(double percent);
   QString volumeText() const;
@@ -81,6 +81,7 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   void stopAndTearDown();
   void tearDownWindowState();
   void giveUp(VideoWindow& window);
+  void takeDropped(const QList<QUrl>& dropped);
 
   void installKeyMonitor();
   bool handleCommandKey(const KeyPress& press);

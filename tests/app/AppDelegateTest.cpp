@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QJsonObject>
 #include <QTemporaryDir>
 
 #include "../player/FakeWindows.h"
@@ -16,7 +17,7 @@ namespace {
 
 CommandLine fileAt(const std::string& path, std::optional<double> start = {}) {
   CommandLine line;
-  line.path = path;
+  line.file = fileUrlFromPath(path);
   line.start = start;
   return line;
 }
@@ -25,7 +26,7 @@ class AppDelegateTest : public ::testing::Test {
  protected:
   void launch(const CommandLine& line) {
     delegate_ = std::make_unique<AppDelegate>(
-        line, defaults_, std::vector<UserDefaults>{},
+        line, defaults_, std::vector{former_},
         AppDelegate::Parts{[this] { return makePlayback(); },
                            [this](PlaybackModel&, PlayerWindowController&) {
                              ++libraries_;
@@ -66,6 +67,7 @@ class AppDelegateTest : public ::testing::Test {
   testing::NoFileChooser files_;
   QTemporaryDir directory_;
   UserDefaults defaults_{directory_.filePath(QStringLiteral("defaults.json"))};
+  UserDefaults former_{directory_.filePath(QStringLiteral("former.json"))};
   std::unique_ptr<AppDelegate> delegate_;
   testing::FakeLibraryWindow* library_ = nullptr;
   int libraries_ = 0;
@@ -107,6 +109,22 @@ TEST_F(AppDelegateTest, DoesNotOpenTheLaunchFileTwice) {
   EXPECT_EQ(takeLoaded(), std::vector{movie + " "});
 }
 
+TEST_F(AppDelegateTest, SaysInTheLibraryWhatItCannotPlay) {
+  launch({});
+  delegate_->applicationDidFinishLaunching();
+  library_->orderOut();
+  delegate_->applicationOpen({QUrl(QStringLiteral("smb://nas/a.mkv"))});
+  EXPECT_TRUE(testing::waitFor([this] { return library_->visible; }));
+  EXPECT_EQ(delegate_->playback().errorMessage(), "Tromelo plays local files only.");
+}
+
+TEST_F(AppDelegateTest, TakesOverTheFormerEditionsSettingsBeforeTheyAreRead) {
+  former_.set(QStringLiteral("playerSettings"),
+              QJsonObject{{QStringLiteral("autoHideDelay"), 4.5}});
+  launch({});
+  EXPECT_EQ(delegate_->playback().settings().autoHideDelay(), 4.5);
+}
+
 TEST_F(AppDelegateTest, ReopensItsOneLibraryWindow) {
   launch({});
   delegate_->applicationDidFinishLaunching();
@@ -123,8 +141,11 @@ TEST_F(AppDelegateTest, ReopensItsOneLibraryWindow) {
 TEST_F(AppDelegateTest, QuitsOnceHoweverOftenItIsAsked) {
   launch({});
   delegate_->applicationDidFinishLaunching();
+  testing::FakeVideoWindow window(clock_);
+  windows_.add(window);
   delegate_->quit();
   EXPECT_TRUE(delegate_->playback().isShuttingDown());
+  EXPECT_FALSE(delegate_->player().hasWindow());
   delegate_->quit();
   EXPECT_EQ(delegate_->applicationShouldTerminate(), TerminateReply::later);
   EXPECT_TRUE(testing::waitFor([this] { return ready_ > 0; }));
@@ -139,6 +160,9 @@ TEST_F(AppDelegateTest, QuitsAtOnceWithoutAnEngine) {
   delegate_->applicationDidFinishLaunching();
   EXPECT_EQ(delegate_->playback().errorMessage(),
             QStringLiteral("Could not create the playback engine"));
+  library_->orderOut();
+  delegate_->applicationOpen({fileUrlFromPath("/a.mkv")});
+  EXPECT_TRUE(library_->visible);
   delegate_->quit();
   EXPECT_EQ(ready_, 1);
 }

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+#include "platform/FilePath.h"
+
 namespace tromelo {
 namespace {
 
@@ -15,28 +17,32 @@ CommandLine parse(std::vector<std::string> arguments) {
   return CommandLine::parse(pointers);
 }
 
-TEST(CommandLine, FindsThePathAndTheStart) {
+TEST(CommandLine, FindsTheFileAndTheStart) {
   struct Row {
     std::vector<std::string> arguments;
-    std::optional<std::string> path;
+    std::optional<QUrl> file;
     std::optional<double> start;
   };
   const Row rows[] = {
       {{}, {}, {}},
-      {{"-x", "movie.mkv", "--start=90"}, "movie.mkv", 90},
-      {{"--start=1.5", "a.mkv", "b.mkv"}, "a.mkv", 1.5},
-      {{"movie.mkv", "--start=abc"}, "movie.mkv", {}},
-      {{"movie.mkv", "--start="}, "movie.mkv", {}},
-      {{"movie.mkv", "--start=12x"}, "movie.mkv", {}},
-      {{"movie.mkv", "--start=nan"}, "movie.mkv", {}},
+      {{"-x", "movie.mkv", "--start=90"}, fileUrlFromPath("movie.mkv"), 90},
+      {{"--start=1.5", "/a.mkv", "/b.mkv"}, fileUrlFromPath("/a.mkv"), 1.5},
+      {{"/a.mkv", "--start=abc"}, fileUrlFromPath("/a.mkv"), {}},
+      {{"/a.mkv", "--start="}, fileUrlFromPath("/a.mkv"), {}},
+      {{"/a.mkv", "--start=12x"}, fileUrlFromPath("/a.mkv"), {}},
+      {{"/a.mkv", "--start=nan"}, fileUrlFromPath("/a.mkv"), {}},
       {{"--start=abc", "--start=5"}, {}, {}},
       {{"--start=-5"}, {}, -5},
       {{"--unknown=1", "-"}, {}, {}},
-      {{"bad\xff.mkv"}, "bad\xff.mkv", {}},
+      {{"/bad\xff.mkv"}, fileUrlFromPath("/bad\xff.mkv"), {}},
+      {{"file:///a%20(b).mkv"}, fileUrlFromPath("/a (b).mkv"), {}},
+      {{"file:///%ff\xff.mkv"}, fileUrlFromPath("/\xff\xff.mkv"), {}},
+      {{"smb://nas/a.mkv"}, QUrl(QStringLiteral("smb://nas/a.mkv")), {}},
+      {{"/Part 2: //.mkv"}, fileUrlFromPath("/Part 2: //.mkv"), {}},
   };
   for (const Row& row : rows) {
     const CommandLine line = parse(row.arguments);
-    EXPECT_EQ(line.path, row.path);
+    EXPECT_EQ(line.file, row.file);
     EXPECT_EQ(line.start, row.start);
     EXPECT_FALSE(line.help || line.version || line.displaySelftest || line.report);
   }

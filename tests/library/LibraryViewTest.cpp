@@ -4,9 +4,12 @@
 #include <QMimeData>
 #include <semaphore>
 
+#include "controls/Commands.h"
+#include "library/LibraryWindow.h"
 #include "library/SidebarWidth.h"
 #include "overlay/ViewTest.h"
 #include "platform/FileManager.h"
+#include "platform/ReducedMotion.h"
 
 namespace tromelo {
 namespace {
@@ -342,6 +345,22 @@ TEST_F(LibraryViewTest, TakesDroppedFilesAnywhereAndNothingElse) {
     EXPECT_TRUE(testing::waitFor([this] { return item("dropHighlight")->opacity() == 0; }));
     EXPECT_EQ(opened(), (Sent{"loadfile /c.mkv replace", "loadfile /a .mkv append"}));
   }
+  const auto share = data("text/uri-list", "smb://nas/a.mkv\r\n");
+  EXPECT_TRUE(drop(*share, {50, 300}));
+  EXPECT_TRUE(testing::waitFor(
+      [this] { return playback_.errorMessage() == u"Tromelo plays local files only."; }));
+}
+
+TEST_F(LibraryViewTest, ComesUpBeforeAFileThatIsOpenedWithIt) {
+  Commands commands({});
+  const ReducedMotion motion("0", std::nullopt);
+  LibraryWindow library(engine_, playback_, player(), commands, defaults_, motion);
+  library.makeKeyAndOrderFront();
+  await();
+  testing::settle();
+  EXPECT_TRUE(std::ranges::any_of(QGuiApplication::topLevelWindows(), [](const QWindow* window) {
+    return window->isVisible() && window->title() == u"Tromelo";
+  }));
 }
 
 TEST_F(LibraryViewTest, TheDividerIsDraggedAndMovedByKeys) {

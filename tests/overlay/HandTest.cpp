@@ -125,6 +125,8 @@ TEST(DraggedFilesTest, TakesFilesInTheirOrderAndNothingElse) {
            Row{"escaped bytes", "file:///%E9%20%25.mkv\r\n", {"/\xE9 %.mkv"}},
            Row{"bytes as they are", "file:///\xE9\xC3\xA9.mkv\r\n", {"/\xE9\xC3\xA9.mkv"}},
            Row{"a host", "file://localhost/a\r\n", {"/a"}},
+           Row{"a share", "smb://nas/films/a.mkv\r\n", {""}},  // its path is asked for later
+           Row{"other links", "mailto:a@example.org\r\ndata:,a\r\nabout:blank\r\n", {}},
            Row{"no path", "file:\r\nfile://\r\n\r\n", {}},
        }) {
     ForeignDrag data;

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "platform/LocalFiles.h"
 #include "platform/NumberText.h"
 
 namespace tromelo {
@@ -36,6 +37,11 @@ TEST(FilePath, IsAbsoluteFromTheWorkingDirectory) {
 TEST(FilePath, GivesNothingForWhatIsNoLocalFile) {
   EXPECT_EQ(pathFromFileUrl(QUrl(QStringLiteral("https://example.org/movie.mkv"))), "");
   EXPECT_EQ(fileUrlFromPath(""), QUrl());
+}
+
+TEST(FilePath, OfAnAddressIsWhatTheDesktopKnows) {
+  EXPECT_EQ(mountedPath(QUrl(QStringLiteral("file:///a%20b"))), "/a b");
+  EXPECT_EQ(mountedPath(QUrl(QStringLiteral("no-such-scheme://nas/a"))), "");
 }
 
 TEST(FilePath, ShortensNamesForPeople) {

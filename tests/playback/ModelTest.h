@@ -29,7 +29,8 @@ class ModelTest : public ::testing::Test {
         .defaults = defaults_,
         .diagnosticsDirectory = directory_.filePath("state/diagnostics"),
         .makePlayer = [this](PlaybackModel&) { return std::make_unique<FakePlayer>(player_); },
-        .fileExists = fileExists_});
+        .fileExists = fileExists_,
+        .mountedPath = mountedPath_});
     startRequests_ = takeRequests();
   }
 
@@ -63,6 +64,7 @@ class ModelTest : public ::testing::Test {
   FakeChooser chooser_;
   FakePlayer::Log player_;
   std::function<bool(const std::string&)> fileExists_ = fileExists;
+  LocalFiles::PathOf mountedPath_ = [](const QUrl&) { return std::string(); };
   std::unique_ptr<PlaybackModel> model_;
   Requests startRequests_;  // what the last model sent while it was made
 };

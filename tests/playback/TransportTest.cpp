@@ -3,6 +3,7 @@
 #include "ModelTest.h"
 #include "platform/FilePath.h"
 #include "playback/SubtitleExtensions.h"
+#include "support/WaitFor.h"
 
 namespace tromelo {
 
@@ -46,6 +47,45 @@ TEST_F(Transport, TheFirstOfSeveralFilesPlaysAndTheOthersFollow) {
   EXPECT_EQ(asked([&] { model().open(films); }), expected);
   EXPECT_EQ(asked([&] { model().openFiles(films); }), expected);
   EXPECT_EQ(asked([&] { model().enqueue(films); }), expected);
+}
+
+TEST_F(Transport, FilesOnAShareArePlayedWhereTheyAreMounted) {
+  mountedPath_ = [](const QUrl& address) {
+    return address.host() == u"nas" ? "/mnt" + address.path().toStdString() : std::string();
+  };
+  const QUrl mounted(QStringLiteral("smb://nas/b.mkv"));
+  const QUrl away(QStringLiteral("smb://away/c.mkv"));
+  const QString refusal = QStringLiteral("Tromelo plays local files only.");
+  struct Row {
+    const char* name;
+    QList<QUrl> addresses;
+    std::vector<std::string> paths;
+    bool hasWindow;
+    QStringList told;
+  };
+  for (const Row& row : {
+           Row{"found", {mounted}, {"/mnt/b.mkv"}, false, {}},
+           Row{"in order", {film("a"), mounted}, {"/films/a", "/mnt/b.mkv"}, false, {}},
+           Row{"some", {away, mounted}, {"/mnt/b.mkv"}, true, {"toast " + refusal}},
+           Row{"none", {away}, {}, true, {"toast " + refusal}},
+           Row{"none, no player", {away}, {}, false, {"library"}},
+       }) {
+    SCOPED_TRACE(row.name);
+    remake();
+    player_.hasWindow = row.hasWindow;
+    player_.take();
+    std::vector<std::string> paths;
+    model().openFiles(row.addresses);
+    EXPECT_TRUE(takeRequests().empty()) << "main thread waited";
+    ASSERT_TRUE(testing::waitFor([this] { return !player_.calls.isEmpty(); }));
+    for (const auto& words : takeRequests())
+      if (words.front() == "loadfile") paths.push_back(words[1]);
+    EXPECT_EQ(paths, row.paths);
+    EXPECT_EQ(model().errorMessage(), row.told.isEmpty() ? QString() : refusal);
+    player_.calls.removeAll(QStringLiteral("awaiting"));
+    player_.calls.removeAll(QStringLiteral("not ready"));
+    EXPECT_EQ(player_.take(), row.told);
+  }
 }
 
 TEST_F(Transport, WhatIsAddedWhileSomethingPlaysWaitsItsTurn) {
@@ -106,6 +146,7 @@ TEST_F(Transport, PausesAndSeeks) {
 
 TEST_F(Transport, WhatIsNoNumberIsRefused) {
   load();
+  model().beginScrubbing();
   for (const double wrong : {std::nan(""), HUGE_VAL, -HUGE_VAL}) {
     EXPECT_EQ(asked([&] {
                 model().seekBy(wrong);
@@ -145,6 +186,13 @@ TEST_F(Transport, DraggingSeeksCoarselyAtTimesAndExactlyAtTheEnd) {
             (Requests{{"seek", "42.5", "absolute+exact"}}));
   EXPECT_EQ(model().elapsed(), 42.5);
   EXPECT_FALSE(model().isScrubbing());
+
+  model().beginScrubbing();
+  load();
+  EXPECT_FALSE(model().isScrubbing()) << "that was in another file";
+  clock_.advance(std::chrono::seconds(1));
+  EXPECT_EQ(asked([this] { model().scrubTo(50); }), Requests());
+  EXPECT_EQ(asked([this] { model().endScrubbing(); }), Requests());
 }
 
 TEST_F(Transport, VolumeIsClampedAndEndsMute) {

@@ -1,5 +1,6 @@
 #include "PlayerTest.h"
 #include "platform/FilePath.h"
+#include "support/WaitFor.h"
 
 namespace tromelo {
 namespace {
@@ -27,7 +28,12 @@ TEST_F(PlayerWindowControllerTest, DressesANewWindowUnseenAndRevealsItWhenTheVid
   EXPECT_EQ(library_.opacity, 0);
   EXPECT_FALSE(library_.visible);
 
+  window_.ordered = false;
   ready();  // after a seek
+  EXPECT_FALSE(window_.ordered);
+  await();
+  ready();  // of a second file
+  EXPECT_TRUE(window_.ordered);
   EXPECT_EQ(window_.fades, 1);
 }
 
@@ -69,9 +75,13 @@ TEST_F(PlayerWindowControllerTest, ASecondWindowTakesTheFirstOnesPlaceForGood) {
 
 TEST_F(PlayerWindowControllerTest, ClosesOnceHoweverOftenItIsAsked) {
   showVideo(window_);
+  await();
   player().close();
   player().close();
+  EXPECT_FALSE(player().isAwaitingVideo());
   EXPECT_TRUE(library_.visible);
+  takeDown(window_);
+  EXPECT_TRUE(player().hasWindow()) << "it is fading";
   clock_.advance(239ms);
   EXPECT_EQ(takeSent(), Sent{"set pause yes"});
   clock_.advance(1ms);
@@ -82,6 +92,17 @@ TEST_F(PlayerWindowControllerTest, ClosesOnceHoweverOftenItIsAsked) {
   clock_.advance(80ms);
   EXPECT_EQ(library_.opacity, 1);
   player().close();
+  EXPECT_EQ(takeSent(), Sent{});
+}
+
+TEST_F(PlayerWindowControllerTest, AFileOpenedWhileThePlayerFadesStopsTheOldOneFirst) {
+  showVideo(window_);
+  player().close();
+  clock_.advance(100ms);
+  takeSent();
+  playback_.open(fileUrlFromPath("/b.mkv"));
+  EXPECT_EQ(takeSent(), (Sent{"stop", "loadfile /b.mkv replace -1 ", "set pause no"}));
+  clock_.advance(240ms);
   EXPECT_EQ(takeSent(), Sent{});
 }
 
@@ -180,6 +201,9 @@ TEST_F(PlayerWindowControllerTest, SortsDroppedFiles) {
     EXPECT_EQ(player().chrome().toast(), row.toast);
     clock_.advance(1400ms);
   }
+  window_.overlay->onDropFiles({QUrl(QStringLiteral("smb://nas/a.mkv"))});
+  EXPECT_TRUE(testing::waitFor([this] { return player().chrome().toast().has_value(); }));
+  EXPECT_EQ(player().chrome().toast(), QStringLiteral("Tromelo plays local files only."));
 }
 
 TEST_F(PlayerWindowControllerTest, AToastStaysForItsFullTime) {
