@@ -25,13 +25,12 @@ TEST(DialogFileChooserTest, ShowsOneDialogForWhatIsAskedLast) {
     QFileDialog::FileMode mode;
     QStringList filters;
   };
-  const QStringList all{QStringLiteral("All Files (*)")};
   const Row rows[] = {
-      {{QStringLiteral("Play"), true, {}}, QFileDialog::ExistingFiles, all},
-      {{QStringLiteral("Add to Queue"), true, {}}, QFileDialog::ExistingFiles, all},
-      {{QStringLiteral("Add Subtitle"), false, {QStringLiteral("srt"), QStringLiteral("ass")}},
+      {{"Play", true, {}}, QFileDialog::ExistingFiles, {"All Files (*)"}},
+      {{"Add to Queue", true, {}}, QFileDialog::ExistingFiles, {"All Files (*)"}},
+      {{"Add Subtitle", false, {"srt", "ass"}},
        QFileDialog::ExistingFile,
-       {QStringLiteral("(*.srt *.SRT *.ass *.ASS)")}},
+       {"(*.srt *.SRT *.ass *.ASS)"}},
   };
   DialogFileChooser chooser;
   QList<QUrl> chosen;
@@ -46,7 +45,7 @@ TEST(DialogFileChooserTest, ShowsOneDialogForWhatIsAskedLast) {
     chooser.chooseFiles(row.request, [](const QList<QUrl>&) { FAIL() << "asked for twice"; });
     EXPECT_EQ(shownDialogs(), dialogs) << name;
   }
-  Q_EMIT shownDialogs().value(0)->filesSelected({QStringLiteral("/a.srt")});
+  Q_EMIT shownDialogs().value(0)->filesSelected({"/a.srt"});
   EXPECT_EQ(chosen, QList{fileUrlFromPath("/a.srt")});
 }
 

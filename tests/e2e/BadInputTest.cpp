@@ -24,13 +24,6 @@ TEST_F(EndToEnd, SaysWhatIsWrongWithAFileAndGoesOn) {
   EXPECT_EQ(player.quit(), 0);
 }
 
-TEST_F(EndToEnd, IgnoresAMissingLaunchFile) {
-  player.start({QStringLiteral("/no/such/film.mkv"), QStringLiteral("--unknown")});
-  ASSERT_TRUE(player.waitFor(QStringLiteral("status"), QStringLiteral("Open a video to begin")));
-  EXPECT_EQ(player.said(QStringLiteral("error")), QString());
-  EXPECT_EQ(player.quit(), 0);
-}
-
 TEST_F(EndToEnd, PlaysAPathOfStrangeBytes) {
   const QString strange = player.homePath() + QStringLiteral("/new\nline, \"quoted\" %20 'é'.mp4");
   ASSERT_TRUE(QFile::copy(clip("sample.mp4"), strange));
