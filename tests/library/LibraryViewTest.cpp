@@ -10,6 +10,7 @@
 #include "overlay/ViewTest.h"
 #include "platform/FileManager.h"
 #include "platform/ReducedMotion.h"
+#include "support/Warnings.h"
 
 namespace tromelo {
 namespace {
@@ -346,12 +347,13 @@ TEST_F(LibraryViewTest, TakesDroppedFilesAnywhereAndNothingElse) {
     EXPECT_EQ(opened(), (Sent{"loadfile /c.mkv replace", "loadfile /a .mkv append"}));
   }
   const auto share = data("text/uri-list", "smb://nas/a.mkv\r\n");
-  EXPECT_TRUE(drop(*share, {50, 300}));
+  EXPECT_TRUE(enter(*share, {50, 300}) && drop(*share, {50, 300}));
   EXPECT_TRUE(testing::waitFor(
       [this] { return playback_.errorMessage() == u"Tromelo plays local files only."; }));
 }
 
 TEST_F(LibraryViewTest, ComesUpBeforeAFileThatIsOpenedWithIt) {
+  testing::allowWarning("This plugin does not support raise()");
   Commands commands({});
   const ReducedMotion motion("0", std::nullopt);
   LibraryWindow library(engine_, playback_, player(), commands, defaults_, motion);
