@@ -3,6 +3,8 @@
 #include <QGuiApplication>
 #include <algorithm>
 
+#include "playback/PlaybackModel.h"
+
 namespace tromelo {
 
 namespace {
@@ -38,8 +40,13 @@ QSize PlayerStage::hostPixelSize() const {
 }
 
 void PlayerStage::prepareWindow(PlaybackModel& playback, PlayerWindowController& controller) {
+  if (!windows_.empty()) return;  // the engine was faster
   prepareHost();
   spareHost_->keepOverlay(overlayFactory_(spareHost_->scene(), playback, controller));
+  // It shows the model, which goes before us.
+  connect(&playback, &PlaybackModel::isShuttingDownChanged, this, [this] {
+    if (spareHost_) spareHost_->takeOverlay();
+  });
 }
 
 void PlayerStage::prepareHost() {

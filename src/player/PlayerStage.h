@@ -29,7 +29,7 @@ class PlayerStage : public WindowSystem {
   /// The size in device pixels of the newest window's host; empty without one.
   QSize hostPixelSize() const;
 
-  /// Makes the next window's host and overlay now, while the engine opens a file.
+  /// Makes the first window's host and overlay now, while the engine opens a file.
   void prepareWindow(PlaybackModel& playback, PlayerWindowController& controller);
 
   /// What the engine is told of `screen`.

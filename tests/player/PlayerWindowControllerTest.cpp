@@ -1,5 +1,7 @@
 #include "PlayerTest.h"
+#include "display/AbsentDisplay.h"
 #include "platform/FilePath.h"
+#include "player/PlayerStage.h"
 #include "support/WaitFor.h"
 
 namespace tromelo {
@@ -214,6 +216,22 @@ TEST_F(PlayerWindowControllerTest, AToastStaysForItsFullTime) {
   EXPECT_EQ(player().chrome().toast(), QStringLiteral("second"));
   clock_.advance(1ms);
   EXPECT_EQ(player().chrome().toast(), std::nullopt);
+}
+
+TEST_F(PlayerWindowControllerTest, AnOverlayThatNoWindowCameForGoesBeforeTheModel) {
+  AbsentDisplay display;
+  QQmlEngine engine;
+  const ReducedMotion motion("1", std::nullopt);
+  testing::FakeOverlay* overlay = nullptr;
+  PlayerStage stage(display, engine, motion, [&](auto&...) {
+    auto made = std::make_unique<testing::FakeOverlay>(overlay);
+    overlay = made.get();
+    return made;
+  });
+  stage.prepareWindow(playback_, player());
+  EXPECT_NE(overlay, nullptr);
+  playback_.setShuttingDown(true);
+  EXPECT_EQ(overlay, nullptr);
 }
 
 TEST_F(PlayerWindowControllerTest, AdoptsNothingOnceTheProgramQuits) {
