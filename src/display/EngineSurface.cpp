@@ -47,7 +47,9 @@ EngineSurface::EngineSurface(wlr_surface* surface, const Place& place,
                              std::function<void()> destroyed)
     : surface_(surface),
       queue_(place.queue),
-      ledger_(std::make_shared<FrameLedger>(place.loop, place.output)) {
+      ledger_(std::make_shared<FrameLedger>(place.loop, place.output, [this] {
+        if (window_) window_->remindOfHidden();
+      })) {
   surface->data = this;
   commit_.connect(surface->events.commit, [this](void*) { committed(); });
   destroy_.connect(surface->events.destroy,
@@ -58,21 +60,21 @@ EngineSurface* EngineSurface::of(wlr_surface* surface) {
   return static_cast<EngineSurface*>(surface->data);
 }
 
-void EngineSurface::setHasWindow(bool hasWindow) {
-  hasWindow_ = hasWindow;
-  if (hasWindow) return;
+void EngineSurface::setWindow(std::optional<Window> window) {
+  window_ = std::move(window);
+  if (window_) return;
   sink_.reset();
   unclaimed_.reset();
 }
 
 void EngineSurface::setSink(std::shared_ptr<VideoSink> sink) {
-  sink_ = hasWindow_ ? std::move(sink) : nullptr;
+  sink_ = window_ ? std::move(sink) : nullptr;
   if (sink_ && unclaimed_) sink_->commit(std::exchange(unclaimed_, nullptr));
 }
 
 void EngineSurface::committed() {
   const wlr_surface_state& state = surface_->current;
-  const bool hasNewPicture = hasWindow_ && (state.committed & WLR_SURFACE_STATE_BUFFER);
+  const bool hasNewPicture = window_ && (state.committed & WLR_SURFACE_STATE_BUFFER);
   if (hasNewPicture) ++sequence_;
   ledger_->committed(surface_, sequence_);
   if (!hasNewPicture) return;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "display/FrameLedger.h"
 #include "display/Listener.h"
@@ -27,8 +28,13 @@ class EngineSurface {
 
   static EngineSurface* of(wlr_surface* surface);
 
+  /// What a surface that is a window's tells that window.
+  struct Window {
+    /// The engine may have forgotten that the window is hidden.
+    std::function<void()> remindOfHidden;
+  };
   /// Surfaces without a window of their own have no sink; what they commit goes back at once.
-  void setHasWindow(bool hasWindow);
+  void setWindow(std::optional<Window> window);
   void setSink(std::shared_ptr<VideoSink> sink);
   void setHidden(bool hidden) { ledger_->setHidden(hidden); }
 
@@ -42,7 +48,7 @@ class EngineSurface {
   std::shared_ptr<FrameLedger> ledger_;  // outlived by frames that will report to it
   Listener commit_;
   Listener destroy_;
-  bool hasWindow_ = false;
+  std::optional<Window> window_;
   std::shared_ptr<VideoSink> sink_;
   std::shared_ptr<Frame> unclaimed_;  // the newest frame, while there is no sink
   std::uint64_t sequence_ = 0;

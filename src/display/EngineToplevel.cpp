@@ -9,11 +9,11 @@ EngineToplevel::EngineToplevel(wlr_xdg_toplevel* toplevel, Events events)
       engineSurface_(EngineSurface::of(toplevel->base->surface)),
       events_(std::move(events)) {
   host_.shown = true;  // nobody has hidden it yet
-  engineSurface_->setHasWindow(true);
+  engineSurface_->setWindow(EngineSurface::Window{.remindOfHidden = [this] { answer(); }});
   connect();
 }
 
-EngineToplevel::~EngineToplevel() { engineSurface_->setHasWindow(false); }
+EngineToplevel::~EngineToplevel() { engineSurface_->setWindow({}); }
 
 void EngineToplevel::connect() {
   commit_.connect(surface()->events.commit, [this](void*) { committed(); });

@@ -28,13 +28,16 @@ struct FrameLedger::Debt {
   Debt(const Debt&) = delete;
   Debt& operator=(const Debt&) = delete;
 
-  void answer(std::chrono::nanoseconds at) {
+  /// Whether there was anything to answer.
+  bool answer(std::chrono::nanoseconds at) {
+    const bool hasCallbacks = !wl_list_empty(&callbacks);
     wl_resource* resource = nullptr;
     wl_resource* next = nullptr;
     wl_resource_for_each_safe(resource, next, &callbacks) {
       if (at > 0ns) wl_callback_send_done(resource, std::uint32_t(at / 1ms));
       wl_resource_destroy(resource);
     }
+    return hasCallbacks;
   }
   /// The engine is told that the picture was never seen.
   void discard() {
@@ -47,12 +50,16 @@ struct FrameLedger::Debt {
   wlr_presentation_feedback* feedback = nullptr;
 };
 
-FrameLedger::FrameLedger(wl_event_loop* loop, wlr_output* output)
-    : output_(output), timer_(EventSource::timer(loop, [this] { timeout(); })) {}
+FrameLedger::FrameLedger(wl_event_loop* loop, wlr_output* output,
+                         std::function<void()> remindOfHidden)
+    : output_(output),
+      remindOfHidden_(std::move(remindOfHidden)),
+      timer_(EventSource::timer(loop, [this] { timeout(); })) {}
 
 FrameLedger::~FrameLedger() = default;
 
 void FrameLedger::committed(wlr_surface* surface, std::uint64_t sequence) {
+  if (std::exchange(committedSequence_, sequence) != sequence && hidden_) remindOfHidden_();
   auto debt = std::make_unique<Debt>(sequence);
   wl_list& asked = surface->current.frame_callback_list;
   wl_list_insert_list(&debt->callbacks, &asked);
@@ -67,15 +74,17 @@ void FrameLedger::committed(wlr_surface* surface, std::uint64_t sequence) {
 void FrameLedger::shown(std::uint64_t sequence, std::chrono::nanoseconds at) {
   sinkIsSilent_ = false;
   shownSequence_ = std::max(shownSequence_, sequence);
+  bool hasAnswered = false;
   for (const auto& debt : debts_) {
     if (debt->sequence > sequence) break;
-    debt->answer(at);
+    hasAnswered |= debt->answer(at);
     if (debt->sequence == sequence && debt->feedback)
       present(std::exchange(debt->feedback, nullptr), at);
     debt->discard();
   }
   std::erase_if(debts_, [](const auto& debt) { return debt->isPaid(); });
   arm();
+  if (hasAnswered && hidden_) remindOfHidden_();
 }
 
 void FrameLedger::dropped(std::uint64_t sequence) {
@@ -110,13 +119,15 @@ void FrameLedger::arm() {
 void FrameLedger::timeout() {
   const auto time = now();
   sinkIsSilent_ = true;
+  bool hasAnswered = false;
   for (const auto& debt : debts_) {
-    debt->answer(time);
+    hasAnswered |= debt->answer(time);
     // A commit without a new picture shows at once.
     if (debt->sequence <= shownSequence_ && debt->feedback)
       present(std::exchange(debt->feedback, nullptr), time);
   }
   std::erase_if(debts_, [](const auto& debt) { return debt->isPaid(); });
+  if (hasAnswered && hidden_) remindOfHidden_();
 }
 
 void FrameLedger::present(wlr_presentation_feedback* feedback, std::chrono::nanoseconds at) {

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <memory>
 
 #include "display/EventSource.h"
@@ -17,10 +18,13 @@ namespace tromelo {
 /// that is busy, hidden or gone, so the display's own timer answers instead:
 /// - a sink that is silent for two refreshes is taken to be busy, and until it is heard again every
 ///   callback is answered one refresh after its commit;
-/// - a hidden surface gets its callbacks once a second.
+/// - a hidden surface gets its callbacks once a second. An engine may take a callback, or a new
+/// size
+///   of its window, for the end of being hidden: after each answer, and when it draws, it has to be
+///   reminded.
 class FrameLedger {
  public:
-  FrameLedger(wl_event_loop* loop, wlr_output* output);
+  FrameLedger(wl_event_loop* loop, wlr_output* output, std::function<void()> remindOfHidden);
   ~FrameLedger();
 
   /// Takes over what the surface's newest commit asked for. `sequence` is that of its picture.
@@ -39,8 +43,10 @@ class FrameLedger {
   void present(wlr_presentation_feedback* feedback, std::chrono::nanoseconds at);
 
   wlr_output* output_;
+  std::function<void()> remindOfHidden_;
   EventSource timer_;
   std::deque<std::unique_ptr<Debt>> debts_;  // in order of commit
+  std::uint64_t committedSequence_ = 0;
   std::uint64_t shownSequence_ = 0;
   std::uint64_t refreshCount_ = 0;
   bool sinkIsSilent_ = false;

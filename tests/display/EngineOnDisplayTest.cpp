@@ -101,8 +101,15 @@ TEST_F(EngineOnDisplayTest, PlaysOnWhileItIsHiddenAndShowsWhenItComesBack) {
   play();
   ASSERT_TRUE(waitFor([this] { return position() > 0.5; }));
   window_.hide();
+  // The picture goes nowhere, and is counted.
+  const auto sink = std::make_shared<KeepingSink>();
+  framesOf(engineWindow_).setSink(sink);
+  constexpr int seconds = 3;
   const double hiddenAt = position();
-  EXPECT_TRUE(waitFor([&] { return position() > hiddenAt + 1.5; }));
+  EXPECT_TRUE(waitFor([&] { return position() > hiddenAt + seconds; }));
+  EXPECT_LE(sink->commits(), 2u * seconds);  // of 30 a second; the first ones were on their way
+  item_->setEngineWindow(nullptr);
+  item_->setEngineWindow(engineWindow_);
   int swaps = 0;
   QObject::connect(&window_, &QQuickWindow::frameSwapped, &window_, [&] { ++swaps; });
   window_.show();

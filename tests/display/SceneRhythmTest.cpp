@@ -1,6 +1,5 @@
 // When the scene paints, and when the engine hears of it.
 #include <atomic>
-#include <chrono>
 
 #include "SceneTest.h"
 #include "support/WaitFor.h"
@@ -31,18 +30,6 @@ TEST_F(SceneRhythmTest, PaintsOnceForEachFrameOfTheEngine) {
   const int before = swaps_;
   for (int i = 0; i < frames; ++i) show(*buffers_[std::size_t(i) % 3]);
   EXPECT_EQ(swaps_ - before, frames);
-}
-
-TEST_F(SceneRhythmTest, GivesTheTimeOfASwapThatCameAfterTheCommit) {
-  const auto committedAt = std::chrono::steady_clock::now().time_since_epoch();
-  const auto answers = toplevel_->commit(buffers_[0].get());
-  ASSERT_TRUE(wait([&] { return answers->presentation.has_value(); }));
-  const auto now = std::chrono::steady_clock::now().time_since_epoch();
-  const std::chrono::nanoseconds shownAt(answers->presentation->nanoseconds);
-  EXPECT_TRUE(answers->presentation->presented);
-  EXPECT_GT(shownAt, committedAt);
-  EXPECT_LT(shownAt, now);
-  EXPECT_GE(swaps_, 1);
 }
 
 TEST_F(SceneRhythmTest, SharedMemoryGoesBackAsSoonAsItIsCopied) {
@@ -78,17 +65,6 @@ TEST_F(SceneRhythmTest, AHiddenWindowSuspendsTheEngineAndBlocksNothing) {
   window_->show();
   EXPECT_TRUE(wait([&] { return !isSuspended(); }));
   show(*buffers_[2]);
-}
-
-TEST_F(SceneRhythmTest, AMainThreadThatIsBusyBlocksNothing) {
-  show(*buffers_[0]);
-  // No event loop runs here, as in a long call.
-  for (int i = 0; i < 20; ++i) {
-    const auto answers = toplevel_->commit(buffers_[std::size_t(i) % 3].get());
-    while (answers->frameCallbacks == 0) ASSERT_TRUE(client_->roundtrip());
-    EXPECT_FALSE(answers->presentation && answers->presentation->presented);
-  }
-  show(*buffers_[0]);
 }
 
 TEST_F(SceneRhythmTest, ASceneMayGoWithFramesOnTheWay) {
