@@ -21,7 +21,13 @@ Frame::~Frame() {
   if (report_) report_(std::nullopt);
 }
 
+void Frame::releaseBuffer() {
+  const std::scoped_lock lock(mutex_);
+  lock_.reset();
+}
+
 void Frame::markShown(std::chrono::nanoseconds at) {
+  const std::scoped_lock lock(mutex_);
   if (const Report report = std::exchange(report_, nullptr)) report(at);
 }
 

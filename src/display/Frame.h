@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <optional>
 
 #include "display/ClientBuffer.h"
@@ -30,7 +31,7 @@ class BufferLock {
   std::shared_ptr<TaskQueue> queue_;
 };
 
-/// One picture that the engine committed. Handed from thread to thread, used by one at a time.
+/// One picture that the engine committed. Any thread.
 class Frame {
  public:
   struct Content {
@@ -52,11 +53,12 @@ class Frame {
 
   const Content& content() const { return content_; }
   /// The pixels have been copied; the engine may draw there again.
-  void releaseBuffer() { lock_.reset(); }
+  void releaseBuffer();
   void markShown(std::chrono::nanoseconds at);
 
  private:
   const Content content_;
+  std::mutex mutex_;
   std::unique_ptr<BufferLock> lock_;
   Report report_;
 };

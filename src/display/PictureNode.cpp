@@ -19,6 +19,7 @@ bool drawsInSoftware(const QQuickWindow& window) {
 
 PictureNode::PictureNode(QQuickWindow* window, std::shared_ptr<SceneItemSink> sink)
     : window_(window), sink_(std::move(sink)) {
+  sink_->rewind();
   // Direct: both come on the render thread.
   connect(window, &QQuickWindow::beforeRendering, this, &PictureNode::upload, Qt::DirectConnection);
   connect(window, &QQuickWindow::frameSwapped, this, &PictureNode::swapped, Qt::DirectConnection);
@@ -38,6 +39,7 @@ void PictureNode::takePicture() {
     show(std::move(picture->frame), picture->damage);
     return;
   }
+  sink_->setShowing(nullptr);
   removeAllChildNodes();
   image_.reset();
   if (frame_) replaced_.push_back(std::exchange(frame_, nullptr));
@@ -57,6 +59,7 @@ void PictureNode::show(std::shared_ptr<Frame> frame, const QRegion& damage) {
   if (!image_->parent()) appendChildNode(image_.get());
   if (frame_) replaced_.push_back(std::move(frame_));
   frame_ = std::move(frame);
+  sink_->setShowing(frame_);
   texture_ = texture;
   damage_ += damage;
   needsUpload_ = true;

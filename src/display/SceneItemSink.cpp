@@ -34,6 +34,16 @@ std::optional<SceneItemSink::Picture> SceneItemSink::take() {
   return std::exchange(picture_, std::nullopt);
 }
 
+void SceneItemSink::setShowing(std::shared_ptr<Frame> frame) {
+  const std::scoped_lock lock(mutex_);
+  showing_.swap(frame);
+}
+
+void SceneItemSink::rewind() {
+  const std::scoped_lock lock(mutex_);
+  if (!picture_ && showing_) picture_ = Picture{showing_, {}};
+}
+
 void SceneItemSink::shown() {
   const std::scoped_lock lock(mutex_);
   if (!std::exchange(hasShown_, true)) post(callbacks_.firstShown);

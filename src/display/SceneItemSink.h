@@ -37,6 +37,10 @@ class SceneItemSink final : public VideoSink {
   bool hasPicture() const;
   /// Render thread.
   std::optional<Picture> take();
+  /// Render thread: what the scene shows from here on, which is kept; none: nothing.
+  void setShowing(std::shared_ptr<Frame> frame);
+  /// Render thread: who takes from here on shows nothing yet. What was kept waits again.
+  void rewind();
   /// Render thread: a picture was swapped to the screen.
   void shown();
 
@@ -47,6 +51,7 @@ class SceneItemSink final : public VideoSink {
   mutable std::mutex mutex_;
   QObject* receiver_;
   std::optional<Picture> picture_;
+  std::shared_ptr<Frame> showing_;
   bool hasShown_ = false;
 };
 
