@@ -56,13 +56,14 @@ MpvEngine::~MpvEngine() {
   if (handle_) api_->setWakeupCallback(handle_, nullptr, nullptr);
 }
 
-std::optional<std::string> MpvEngine::initialize(const QString& diagnosticsDirectory) {
+std::optional<std::string> MpvEngine::initialize(const QString& diagnosticsDirectory,
+                                                 const std::string& vulkanDevice) {
   if (handle_) return {};
   if (auto fault = libraryFault(api_->clientApiVersion())) return fault;
   prepareEngineEnvironment(shippedVulkanManifest());
   handle_ = api_->create();
   if (!handle_) return "Could not create the playback engine";
-  if (auto error = configure(diagnosticsDirectory)) {
+  if (auto error = configure(diagnosticsDirectory, vulkanDevice)) {
     api_->terminateDestroy(std::exchange(handle_, nullptr));
     return error;
   }
@@ -73,10 +74,12 @@ std::optional<std::string> MpvEngine::initialize(const QString& diagnosticsDirec
   return {};
 }
 
-std::optional<std::string> MpvEngine::configure(const QString& diagnosticsDirectory) {
+std::optional<std::string> MpvEngine::configure(const QString& diagnosticsDirectory,
+                                                const std::string& vulkanDevice) {
   const std::string logFile =
       QFile::encodeName(diagnosticsDirectory + QStringLiteral("/mpv.log")).toStdString();
-  for (const auto& options : {engineOptions(logFile), platformOptions(), diagnosticOptions()}) {
+  for (const auto& options :
+       {engineOptions(logFile), platformOptions(vulkanDevice), diagnosticOptions()}) {
     for (const MpvOption& option : options) {
       if (auto error = setOption(option)) return error;
     }
@@ -88,7 +91,7 @@ std::optional<std::string> MpvEngine::setOption(const MpvOption& option) {
   const int code = api_->setOptionString(handle_, option.name.c_str(), option.value.c_str());
   if (code == MPV_ERROR_OPTION_NOT_FOUND && option.mayBeUnknown) return {};
   const auto error = mpvErrorText(*api_, code);
-  if (!error) return {};
+  if (!error || option.mayBeRefused) return {};
   return option.name + ": " + *error;
 }
 

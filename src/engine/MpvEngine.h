@@ -38,8 +38,9 @@ class MpvEngine {
 
   /// Starts the engine, which writes its log to "mpv.log" in the directory. None on success and
   /// when it runs already, else one line for people; the engine then has no handle, and everything
-  /// that is sent to it is ignored.
-  std::optional<std::string> initialize(const QString& diagnosticsDirectory);
+  /// that is sent to it is ignored. `vulkanDevice` is the UUID of the one to draw with; empty: any.
+  std::optional<std::string> initialize(const QString& diagnosticsDirectory,
+                                        const std::string& vulkanDevice = {});
 
   bool hasHandle() const { return handle_ != nullptr; }
 
@@ -63,7 +64,8 @@ class MpvEngine {
   void drainEvents();
 
  private:
-  std::optional<std::string> configure(const QString& diagnosticsDirectory);
+  std::optional<std::string> configure(const QString& diagnosticsDirectory,
+                                       const std::string& vulkanDevice);
   std::optional<std::string> setOption(const MpvOption& option);
   void observe();
   void send(MpvRequest request);

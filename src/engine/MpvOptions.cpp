@@ -38,8 +38,8 @@ std::vector<MpvOption> engineOptions(const std::string& logFile) {
   };
 }
 
-std::vector<MpvOption> platformOptions() {
-  return {
+std::vector<MpvOption> platformOptions(const std::string& vulkanDevice) {
+  std::vector<MpvOption> options{
       // A machine without a GPU has software Vulkan only, which libmpv refuses unless told.
       {"gpu-sw", "yes", true},
       // The program itself keeps the screen awake.
@@ -55,6 +55,11 @@ std::vector<MpvOption> platformOptions() {
       // The clipboard would be a second client of the private display, which has none to offer.
       {"clipboard-backends", "", true},
   };
+  // The graphics card that draws the scene, where there are several: another one's pictures would
+  // have to be carried over. A card that libmpv doesn't find is no reason not to play.
+  if (!vulkanDevice.empty())
+    options.push_back({.name = "vulkan-device", .value = vulkanDevice, .mayBeRefused = true});
+  return options;
 }
 
 std::vector<MpvOption> diagnosticOptions() {

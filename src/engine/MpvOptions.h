@@ -9,13 +9,14 @@ struct MpvOption {
   std::string name;
   std::string value;
   bool mayBeUnknown = false;  // a libmpv built without it is as good
+  bool mayBeRefused = false;  // as is one that doesn't take the value
 };
 
 /// What the engine is told before it is initialised, in order. `logFile` is a path's bytes.
 std::vector<MpvOption> engineOptions(const std::string& logFile);
 
-/// What this platform adds, set after the others.
-std::vector<MpvOption> platformOptions();
+/// What this platform adds, set after the others. `vulkanDevice` is a UUID; empty: any.
+std::vector<MpvOption> platformOptions(const std::string& vulkanDevice);
 
 /// The socket for watching a running engine from outside, where the variable TROMELO_IPC names one.
 std::vector<MpvOption> diagnosticOptions();

@@ -107,6 +107,13 @@ TEST_F(EngineStart, OptionsThatALibraryMayLackAreNoFailure) {
   EXPECT_EQ(options(), kExpectedOptions);
 }
 
+TEST_F(EngineStart, DrawsWithTheDeviceOfTheSceneWhereThatCanBe) {
+  mpv.optionResults["vulkan-device"] = MPV_ERROR_OPTION_ERROR;
+  EXPECT_EQ(engine.initialize("/diagnostics", "some-uuid"), std::nullopt);
+  EXPECT_EQ(mpv.options.back(),
+            (std::pair<std::string, std::string>("vulkan-device", "some-uuid")));
+}
+
 TEST_F(EngineStart, TheDiagnosticSocketIsThePersonsChoice) {
   qputenv("TROMELO_IPC", "/socket");
   start();
