@@ -25,6 +25,7 @@ PlayerWindowController::PlayerWindowController(PlaybackModel& playback, WindowSy
   connect(&windows_, &WindowSystem::windowsChanged, this, &PlayerWindowController::scanWindows);
   connect(&playback_, &PlaybackModel::isLoadedChanged, this, [this] {
     isStopping_ = false;
+    if (!playback_.isLoaded()) endReplacing();
     Q_EMIT playsWithoutWindowChanged();
   });
   connect(this, &PlayerWindowController::windowStateChanged, this,
@@ -45,7 +46,7 @@ void PlayerWindowController::setAwaitingVideo(bool awaiting) {
 void PlayerWindowController::setVideoReady(bool ready) { videoReady_ = ready; }
 
 bool PlayerWindowController::playsWithoutWindow() const {
-  return playback_.isLoaded() && !window_ && !awaitingVideo_ && !isStopping_;
+  return playback_.isLoaded() && !window_ && !awaitingVideo_ && !isStopping_ && !isReplacing_;
 }
 
 void PlayerWindowController::stopPlayback() { playback_.engine().command({"stop"}); }
@@ -54,7 +55,7 @@ void PlayerWindowController::scanWindows() {
   if (isTerminating_) return;
   if (window_ && !isClosing_ && !window_->isVisible() && !window_->isMinimized()) {
     tearDownWindowState();
-    if (!awaitingVideo_) showLibrary();
+    if (!awaitingVideo_ && !isReplacing_) showLibrary();
   }
   for (VideoWindow* window : windows_.videoWindows()) {
     if (!window->isVisible() || !window->hasDrawingSurface()) continue;
@@ -71,6 +72,7 @@ void PlayerWindowController::adopt(VideoWindow& window) {
   isRevealed_ = false;
   isClosing_ = false;
   isFadingOut_ = false;
+  isReplacing_ = false;
   installOverlay(window);
   installKeyMonitor();
   observe(window);
@@ -115,6 +117,14 @@ void PlayerWindowController::toggleFullscreen() {
   playback_.engine().setProperty("fullscreen", flagText(!window_->isFullscreen()));
 }
 
+void PlayerWindowController::restartVideo() {
+  isReplacing_ = window_ && !isClosing_;
+  setVideoReady(false);
+  // libmpv does it for a value that differs from the one before. This one means the same: the
+  // second is for where the first doesn't work.
+  playback_.engine().setProperty("vo", "gpu-next,gpu-next");
+}
+
 void PlayerWindowController::reveal() {
   if (!window_) readoptOrShowLibrary();
   if (!window_ || isClosing_) return;
@@ -138,7 +148,13 @@ void PlayerWindowController::reveal() {
   Q_EMIT windowStateChanged();
 }
 
+/// The library, which stays away while a window goes and another comes, is needed where none does.
+void PlayerWindowController::endReplacing() {
+  if (std::exchange(isReplacing_, false) && !window_ && !awaitingVideo_) showLibrary();
+}
+
 void PlayerWindowController::readoptOrShowLibrary() {
+  if (videoReady_) endReplacing();
   if (!awaitingVideo_ || isTerminating_) return;
   // A file that is opened right after a close can come up in the window that was just given up,
   // since the engine had no time to take it down.

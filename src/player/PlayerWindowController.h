@@ -34,7 +34,8 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
 
   void setAwaitingVideo(bool awaiting) override;
   void setVideoReady(bool ready) override;
-  bool hasWindow() const override { return window_ != nullptr; }
+  /// One that stays.
+  bool hasWindow() const override { return window_ && !isReplacing_; }
   void reveal() override;
   Q_INVOKABLE void close() override;
   void showLibrary() override;
@@ -44,6 +45,8 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   void bringToFront();
   /// Asks the engine, whose window it is.
   Q_INVOKABLE void toggleFullscreen();
+  /// Has the engine make its output and its window anew, while the file goes on.
+  void restartVideo();
   void handleDroppedFiles(const QList<QUrl>& addresses);
   /// By percent points, up or down, with a toast.
   void adjustVolume(double percent);
@@ -77,6 +80,7 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   void observe(VideoWindow& window);
   void forgetWhenDestroyed(VideoWindow& window);
   void readoptOrShowLibrary();
+  void endReplacing();
   void finishClose();
   void stopAndTearDown();
   void tearDownWindowState();
@@ -124,7 +128,8 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   bool isRevealed_ = false;
   bool isClosing_ = false;
   bool isFadingOut_ = false;
-  bool isStopping_ = false;  // a file that ends has no window any more, but isn't one without
+  bool isReplacing_ = false;  // the engine's window goes, and another comes for the same file
+  bool isStopping_ = false;   // a file that ends has no window any more, but isn't one without
   bool isTerminating_ = false;
 };
 

@@ -25,6 +25,8 @@ TEST_F(PlayerWindowControllerTest, DressesANewWindowUnseenAndRevealsItWhenTheVid
   EXPECT_TRUE(window_.ordered);
   clock_.advance(319ms);
   EXPECT_TRUE(library_.visible);
+  EXPECT_EQ(window_.opacity, 0);
+  EXPECT_EQ(library_.opacity, 1);
   clock_.advance(1ms);
   EXPECT_EQ(window_.opacity, 1);
   EXPECT_EQ(library_.opacity, 0);
@@ -78,6 +80,7 @@ TEST_F(PlayerWindowControllerTest, ASecondWindowTakesTheFirstOnesPlaceForGood) {
 TEST_F(PlayerWindowControllerTest, ClosesOnceHoweverOftenItIsAsked) {
   showVideo(window_);
   await();
+  window_.hidePointer();
   player().close();
   player().close();
   EXPECT_FALSE(player().isAwaitingVideo());
@@ -89,9 +92,12 @@ TEST_F(PlayerWindowControllerTest, ClosesOnceHoweverOftenItIsAsked) {
   clock_.advance(1ms);
   EXPECT_EQ(takeSent(), Sent{"stop"});
   EXPECT_FALSE(window_.ordered);
+  EXPECT_TRUE(window_.pointerShown);
   EXPECT_EQ(window_.overlay, nullptr);
   EXPECT_FALSE(player().hasWindow());
-  clock_.advance(80ms);
+  clock_.advance(79ms);
+  EXPECT_EQ(library_.opacity, 0);
+  clock_.advance(1ms);
   EXPECT_EQ(library_.opacity, 1);
   player().close();
   EXPECT_EQ(takeSent(), Sent{});
@@ -131,6 +137,41 @@ TEST_F(PlayerWindowControllerTest, FadesOutAfterTwoSecondsWhenFullScreenNeverEnd
   EXPECT_EQ(window_.fades, 1);
   clock_.advance(1ms);
   EXPECT_EQ(window_.fades, 2);
+}
+
+TEST_F(PlayerWindowControllerTest, LooksAtTheScreenWhenItAdoptsAndRevealsAWindow) {
+  const auto shown = [this] { return playback_.display(); };
+  window_.headroom = ScreenHeadroom{4, 2};
+  await();
+  windows_.add(window_);
+  const QString adopted = shown();
+  EXPECT_TRUE(adopted.contains("now 2.0")) << adopted.toStdString();
+  window_.headroom = ScreenHeadroom{4, 3};
+  ready();
+  EXPECT_TRUE(shown().contains("now 3.0")) << shown().toStdString();
+}
+
+TEST_F(PlayerWindowControllerTest, TheLibraryStaysAwayWhileTheEnginesOutputIsMadeAnew) {
+  for (const bool comesAgain : {true, false}) {
+    SCOPED_TRACE(comesAgain);
+    FakeVideoWindow first(clock_);
+    FakeVideoWindow next(clock_);
+    showVideo(first);
+    takeSent();
+    player().restartVideo();
+    EXPECT_EQ(takeSent(), Sent{"set vo gpu-next,gpu-next"});
+    ready();  // what played before says so late
+    player().setVideoReady(false);
+    takeDown(first);
+    EXPECT_FALSE(library_.visible);
+    if (comesAgain) windows_.add(next);
+    ready();
+    EXPECT_EQ(player().isRevealed(), comesAgain);
+    EXPECT_EQ(library_.visible, !comesAgain);
+    windows_.windows.clear();
+    takeDown(next);
+    EXPECT_TRUE(library_.visible);
+  }
 }
 
 TEST_F(PlayerWindowControllerTest, ReturnsToTheLibraryWhenTheEngineTakesItsWindowDown) {
