@@ -760,6 +760,10 @@
         <source>OpenGL doesn&apos;t work here, which makes drawing slow; install the OpenGL driver of your graphics card (libgl1-mesa-dri).</source>
         <translation>OpenGL funktioniert hier nicht, daher wird langsam gezeichnet; installieren Sie den OpenGL-Treiber Ihrer Grafikkarte (libgl1-mesa-dri).</translation>
     </message>
+    <message>
+        <source>Pictures can&apos;t be shown straight from your graphics card&apos;s memory, which makes playing slower; update its driver.</source>
+        <translation>Bilder können nicht direkt aus dem Speicher Ihrer Grafikkarte gezeigt werden, daher wird langsamer wiedergegeben; aktualisieren Sie deren Treiber.</translation>
+    </message>
 </context>
 <context>
     <name>QueuePanel</name>

@@ -9,8 +9,8 @@
 #include "display/AbsentDisplay.h"
 #include "display/DmabufSupport.h"
 #include "display/EglDevice.h"
-#include "display/SceneDrawing.h"
 #include "display/SelftestLines.h"
+#include "display/VulkanDevices.h"
 #include "engine/MpvClientApi.h"
 #include "glass/GlassRendering.h"
 #include "library/LibraryWindow.h"
@@ -47,7 +47,7 @@ int Program::run() {
   keepAwake();
   delegate_->applicationDidFinishLaunching();
   // From here on the engine opens the file, if there is one, beside us.
-  chooseDrawing();
+  applyDrawing();
   followReducedMotion();
   QMetaObject::invokeMethod(
       delegate_.get(), [this] { preparePlayerWindow(); }, Qt::QueuedConnection);
@@ -63,11 +63,15 @@ void Program::preparePlayerWindow() {
     stage_->prepareWindow(delegate_->playback(), delegate_->player());
 }
 
-void Program::chooseDrawing() {
-  const bool hasOpenGl = chooseSceneDrawing();
-  const bool inSoftware = !hasOpenGl || drawsInSoftware(platformEglDisplay());
+const SceneDrawing& Program::drawing() {
+  if (!drawing_) drawing_ = SceneDrawing::choose();
+  return *drawing_;
+}
+
+void Program::applyDrawing() {
+  const bool inSoftware = !drawing().withOpenGl || drawsInSoftware(platformEglDisplay());
   setGlassRendering(chooseGlassRendering(qgetenv("TROMELO_GLASS"), inSoftware));
-  if (!hasOpenGl)
+  if (drawing().lacksOpenGl)
     delegate_->playback().tell(QCoreApplication::translate(
         "Program",
         "OpenGL doesn't work here, which makes drawing slow; install the OpenGL driver of your "
@@ -82,7 +86,9 @@ void Program::followReducedMotion() {
 }
 
 void Program::startDisplay() {
-  const auto dmabuf = DmabufSupport::query();
+  auto dmabuf = DmabufSupport::query();
+  // Only a scene that is drawn with OpenGL can show them. Without any, that is tried later.
+  if (dmabuf && !drawing().withOpenGl) dmabuf.reset();
   QString error;
   display_ = PrivateDisplay::start(PlayerStage::outputOf(*QGuiApplication::primaryScreen()), dmabuf,
                                    &error);
@@ -92,7 +98,7 @@ void Program::startDisplay() {
     display_ = std::make_unique<AbsentDisplay>();
     return;
   }
-  if (!dmabuf) DmabufSupport::presentThroughSharedMemory();
+  if (dmabuf) vulkanDevice_ = vulkanUuidForScene(dmabuf->mainDevice);
   HostEnvironment::enterPrivateDisplay(display_->socketPath());
 }
 
@@ -103,6 +109,8 @@ void Program::makeDelegate() {
         return std::make_unique<QuickPlayerOverlay>(qmlEngine_, scene, playback, player,
                                                     reducedMotion_, clock_);
       });
+  QObject::connect(stage_.get(), &PlayerStage::dmabufsWithdrawn, stage_.get(),
+                   [this] { doWithoutDmabufs(); });
   AppDelegate::Parts parts;
   parts.makePlayback = [this] {
     return std::make_unique<PlaybackModel>(PlaybackModel::Parts{
@@ -115,6 +123,7 @@ void Program::makeDelegate() {
           return std::make_unique<PlayerWindowController>(playback, *stage_, clock_);
         },
         .hasVulkanDevice = &hasVulkanDevice,
+        .vulkanDevice = vulkanDevice_,
         .engineFault = displayFault_});
   };
   parts.makeLibraryWindow = [this](PlaybackModel& playback, PlayerWindowController& player) {
@@ -132,6 +141,16 @@ void Program::makeDelegate() {
       QVariantMap{
           {QStringLiteral("settings"), QVariant::fromValue(&delegate_->playback().settings())}});
   makeCommands();
+}
+
+void Program::doWithoutDmabufs() {
+  delegate_->player().restartVideo();
+  // In the window that comes.
+  delegate_->playback().tell(
+      QCoreApplication::translate("Program",
+                                  "Pictures can't be shown straight from your graphics card's "
+                                  "memory, which makes playing slower; "
+                                  "update its driver."));
 }
 
 void Program::makeCommands() {

@@ -3,6 +3,7 @@
 #include <QQmlEngine>
 #include <memory>
 #include <optional>
+#include <string>
 
 #include "app/AppDelegate.h"
 #include "app/ApplicationService.h"
@@ -12,6 +13,7 @@
 #include "app/TerminationSignals.h"
 #include "controls/Commands.h"
 #include "display/PrivateDisplay.h"
+#include "display/SceneDrawing.h"
 #include "mpris/MprisService.h"
 #include "platform/Clock.h"
 #include "platform/IdleInhibitor.h"
@@ -36,7 +38,9 @@ class Program {
  private:
   void startDisplay();
   void preparePlayerWindow();
-  void chooseDrawing();
+  const SceneDrawing& drawing();
+  void applyDrawing();
+  void doWithoutDmabufs();
   void followReducedMotion();
   void makeDelegate();
   std::unique_ptr<HostWindow> makeLibraryWindow(PlaybackModel& playback,
@@ -62,7 +66,9 @@ class Program {
   std::unique_ptr<IdleInhibitor> idleInhibitor_;
   ApplicationService service_;
   ApplicationService::Role role_ = ApplicationService::Role::alone;
+  std::optional<SceneDrawing> drawing_;
   std::unique_ptr<PrivateDisplay> display_;
+  std::string vulkanDevice_;
   QString displayFault_;  // a sentence: why there is none
   QQmlEngine qmlEngine_;
   std::unique_ptr<PlayerStage> stage_;

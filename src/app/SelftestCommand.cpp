@@ -30,25 +30,27 @@ QString runDisplaySelftest() {
   QString decoder;
   engine.onEvent = [&decoder](const MpvEvent& received) { noteDecoder(received, decoder); };
   QDir().mkpath(diagnosticsDirectoryPath());
-  return displaySelftest({
-      .start =
-          [&engine](const QByteArray& socketPath) {
-            HostEnvironment::enterPrivateDisplay(socketPath);
-            engine.initialize(diagnosticsDirectoryPath());
-            engine.command({"loadfile", kPicture});
-          },
-      .hardwareDecoder = [&decoder] { return decoder; },
-      .stop =
-          [&engine] {
-            QEventLoop loop;
-            bool gone = false;
-            engine.terminate([&] {
-              gone = true;
-              loop.quit();
-            });
-            if (!gone) loop.exec();
-          },
-  });
+  return displaySelftest(
+      SceneDrawing::choose(),
+      {
+          .start =
+              [&engine](const QByteArray& socketPath, const std::string& vulkanDevice) {
+                HostEnvironment::enterPrivateDisplay(socketPath);
+                engine.initialize(diagnosticsDirectoryPath(), vulkanDevice);
+                engine.command({"loadfile", kPicture});
+              },
+          .hardwareDecoder = [&decoder] { return decoder; },
+          .stop =
+              [&engine] {
+                QEventLoop loop;
+                bool gone = false;
+                engine.terminate([&] {
+                  gone = true;
+                  loop.quit();
+                });
+                if (!gone) loop.exec();
+              },
+      });
 }
 
 }  // namespace tromelo

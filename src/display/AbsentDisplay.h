@@ -10,6 +10,7 @@ class AbsentDisplay final : public PrivateDisplay {
   QByteArray socketPath() const override { return {}; }
   QList<EngineWindow*> windows() const override { return {}; }
   void setOutput(const Output&) override {}
+  bool withdrawDmabufs() override { return false; }
 };
 
 }  // namespace tromelo

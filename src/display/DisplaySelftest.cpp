@@ -10,6 +10,7 @@
 #include "display/SceneItemSink.h"
 #include "display/SelftestLines.h"
 #include "display/VideoSink.h"
+#include "display/VulkanDevices.h"
 
 namespace tromelo {
 
@@ -35,7 +36,7 @@ std::shared_ptr<Frame> firstFrame(PrivateDisplay& display) {
     auto* source = dynamic_cast<FrameSource*>(window);
     if (sink || !source) return;
     sink = std::make_shared<SceneItemSink>(
-        &loop, SceneItemSink::Callbacks{.committed = take, .firstShown = [] {}});
+        &loop, SceneItemSink::Callbacks{.committed = take, .firstShown = [] {}, .refused = [] {}});
     source->setSink(sink);
   });
   QTimer::singleShot(frameLimit, &loop, &QEventLoop::quit);
@@ -44,30 +45,36 @@ std::shared_ptr<Frame> firstFrame(PrivateDisplay& display) {
   return frame;
 }
 
-QStringList engineLines(PrivateDisplay& display, const SelftestEngine& engine) {
+QStringList engineLines(PrivateDisplay& display, const std::string& vulkanDevice,
+                        const SelftestEngine& engine) {
   if (!engine.start) return {QStringLiteral("engine's frame: no engine was asked")};
-  engine.start(display.socketPath());
+  engine.start(display.socketPath(), vulkanDevice);
   const auto frame = firstFrame(display);
   const QString decoder = engine.hardwareDecoder();
-  QStringList lines{frame ? frameLine(*frame) : QStringLiteral("engine's frame: none came"),
-                    QStringLiteral("hardware decoder: ") +
-                        (decoder.isEmpty() ? QStringLiteral("none") : decoder)};
+  QStringList lines{frame ? frameLine(*frame) : QStringLiteral("engine's frame: none came")};
+  if (frame) lines += importLine(*frame);
+  lines +=
+      QStringLiteral("hardware decoder: ") + (decoder.isEmpty() ? QStringLiteral("none") : decoder);
   engine.stop();
   return lines;
 }
 
 }  // namespace
 
-QString displaySelftest(const SelftestEngine& engine) {
+QString displaySelftest(const SceneDrawing& drawing, const SelftestEngine& engine) {
   QStringList lines = hostLines() + eglLines() + vulkanLines();
-  const auto dmabuf = DmabufSupport::query();
-  if (!dmabuf) DmabufSupport::presentThroughSharedMemory();
+  const auto dmabuf = drawing.withOpenGl ? DmabufSupport::query() : std::nullopt;
+  const std::string device = dmabuf ? vulkanUuidForScene(dmabuf->mainDevice) : std::string();
   QString error;
   const auto display = PrivateDisplay::start(screenOutput(), dmabuf, &error);
   if (display) {
     lines += displayLines(display->socketPath());
-    lines += QStringLiteral("sink: an item of the scene, drawn with OpenGL");
-    lines += engineLines(*display, engine);
+    lines +=
+        QStringLiteral("sink: an item of the scene, drawn ") +
+        (drawing.withOpenGl ? QStringLiteral("with OpenGL") : QStringLiteral("by the processor"));
+    lines += QStringLiteral("engine's Vulkan device: ") +
+             (device.empty() ? QStringLiteral("its own choice") : QString::fromStdString(device));
+    lines += engineLines(*display, device, engine);
   } else {
     lines += QStringLiteral("private display: ") + error;
   }

@@ -106,6 +106,10 @@ void DisplayServer::run() {
 
 void DisplayServer::setOutput(const PrivateDisplay::Output& output) { output_->apply(output); }
 
+void DisplayServer::withdrawDmabufs() {
+  if (dmabuf_) dmabuf_->withdraw();
+}
+
 EngineToplevel* DisplayServer::window(WindowId id) {
   const auto found = windows_.find(id);
   return found == windows_.end() ? nullptr : found->second.get();

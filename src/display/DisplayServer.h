@@ -42,6 +42,7 @@ class DisplayServer {
   void quit() { quits_ = true; }
 
   void setOutput(const PrivateDisplay::Output& output);
+  void withdrawDmabufs();
   /// None when it is gone already.
   EngineToplevel* window(WindowId id);
 

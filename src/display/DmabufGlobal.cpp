@@ -17,21 +17,25 @@ DmabufGlobal::DmabufGlobal(wl_display* display, DmabufSupport support)
     : support_(std::move(support)) {
   wlr_linux_dmabuf_feedback_v1 feedback{};
   feedback.main_device = support_.mainDevice;
-  wlr_linux_dmabuf_v1* global = nullptr;
   if (auto* tranche = wlr_linux_dmabuf_feedback_add_tranche(&feedback)) {
     tranche->target_device = support_.mainDevice;
     for (const DmabufSupport::Format& format : support_.formats)
       for (const std::uint64_t modifier : format.modifiers)
         wlr_drm_format_set_add(&tranche->formats, format.fourcc, modifier);
-    global = wlr_linux_dmabuf_v1_create(display, dmabufVersion, &feedback);
+    global_ = wlr_linux_dmabuf_v1_create(display, dmabufVersion, &feedback);
   }
   wlr_linux_dmabuf_feedback_v1_finish(&feedback);
-  if (!global) return;
+  if (!global_) return;
   // Without a renderer wlroots would take any format, modifier and stride.
   const auto check = [](wlr_dmabuf_attributes* attributes, void* self) {
     return accepts(static_cast<DmabufGlobal*>(self)->support_, *attributes);
   };
-  wlr_linux_dmabuf_v1_set_check_dmabuf_callback(global, check, this);
+  wlr_linux_dmabuf_v1_set_check_dmabuf_callback(global_, check, this);
+}
+
+void DmabufGlobal::withdraw() {
+  if (wlr_linux_dmabuf_v1* global = std::exchange(global_, nullptr))
+    wl_global_remove(global->global);
 }
 
 bool DmabufGlobal::accepts(const DmabufSupport& support, const wlr_dmabuf_attributes& attributes) {

@@ -2,12 +2,10 @@
 
 #include <sys/stat.h>
 
-#include <QtEnvironmentVariables>
 #include <algorithm>
 
 #include "display/EglDevice.h"
 #include "display/PixelFormat.h"
-#include "platform/HostEnvironment.h"
 
 namespace tromelo {
 
@@ -30,19 +28,17 @@ std::vector<EGLint> importableFormats(EGLDisplay display) {
   return formats;
 }
 
-/// External-only ones are left out: they can be sampled only by a kind of texture that the scene's
-/// materials don't know.
-std::vector<std::uint64_t> sampledModifiers(EGLDisplay display, EGLint format) {
+std::vector<DmabufSupport::ListedModifier> listedModifiers(EGLDisplay display, EGLint format) {
   const auto query = eglFunction<PFNEGLQUERYDMABUFMODIFIERSEXTPROC>("eglQueryDmaBufModifiersEXT");
   EGLint count = 0;
   if (!query || !query(display, format, 0, nullptr, nullptr, &count)) return {};
   std::vector<EGLuint64KHR> modifiers(std::size_t(std::max(count, 0)));
   std::vector<EGLBoolean> externalOnly(modifiers.size());
   if (!query(display, format, count, modifiers.data(), externalOnly.data(), &count)) return {};
-  std::vector<std::uint64_t> sampled;
-  for (std::size_t i = 0; i < modifiers.size(); ++i)
-    if (!externalOnly[i]) sampled.push_back(modifiers[i]);
-  return sampled;
+  std::vector<DmabufSupport::ListedModifier> listed;
+  for (std::size_t i = 0; i < std::size_t(count); ++i)
+    listed.push_back({modifiers[i], externalOnly[i] == EGL_TRUE});
+  return listed;
 }
 
 }  // namespace
@@ -59,18 +55,23 @@ std::optional<DmabufSupport> DmabufSupport::query() {
   for (const PixelFormat& format : pixelFormats) {
     const auto fourcc = EGLint(format.fourcc);
     if (std::ranges::find(importable, fourcc) == importable.end()) continue;
-    auto modifiers = sampledModifiers(display, fourcc);
-    if (modifiers.empty()) modifiers.push_back(implicitModifier);  // a driver older than modifiers
-    if (std::ranges::find(modifiers, linearModifier) == modifiers.end())
-      modifiers.push_back(linearModifier);
-    support.formats.push_back({format.fourcc, std::move(modifiers)});
+    auto modifiers = announced(listedModifiers(display, fourcc));
+    if (!modifiers.empty()) support.formats.push_back({format.fourcc, std::move(modifiers)});
   }
   if (support.formats.empty()) return std::nullopt;
   return support;
 }
 
-void DmabufSupport::presentThroughSharedMemory() {
-  HostEnvironment::set("MESA_VK_WSI_DEBUG", "sw");
+std::vector<std::uint64_t> DmabufSupport::announced(const std::vector<ListedModifier>& listed) {
+  // A driver older than modifiers lists none.
+  if (listed.empty()) return {implicitModifier, linearModifier};
+  std::vector<std::uint64_t> modifiers;
+  for (const auto& [modifier, externalOnly] : listed)
+    if (!externalOnly) modifiers.push_back(modifier);
+  const bool listsLinear =
+      std::ranges::find(listed, linearModifier, &ListedModifier::modifier) != listed.end();
+  if (!modifiers.empty() && !listsLinear) modifiers.push_back(linearModifier);
+  return modifiers;
 }
 
 }  // namespace tromelo

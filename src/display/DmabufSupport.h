@@ -21,13 +21,17 @@ struct DmabufSupport {
 
   friend bool operator==(const DmabufSupport&, const DmabufSupport&) = default;
 
-  /// Asks the EGL display that Qt has opened. None when it can't import or has no DRM device. Main
-  /// thread, after the application object.
+  /// Asks the EGL display that Qt has opened. None when it can't import or has no DRM device. For
+  /// scenes that are drawn with OpenGL. Main thread, after the application object.
   static std::optional<DmabufSupport> query();
 
-  /// Makes Mesa's Vulkan drivers present through shared memory, where query() gave none. Before the
-  /// engine starts.
-  static void presentThroughSharedMemory();
+  /// A layout of memory as EGL lists it for one format.
+  struct ListedModifier {
+    std::uint64_t modifier = 0;
+    bool externalOnly = false;  // only for a kind of texture that the scene's materials don't know
+  };
+  /// Those that the engine may use; none where the scene can't sample the format at all.
+  static std::vector<std::uint64_t> announced(const std::vector<ListedModifier>& listed);
 };
 
 }  // namespace tromelo

@@ -1,4 +1,4 @@
-#include <QLoggingCategory>
+#include <QOpenGLContext>
 #include <QQuickWindow>
 #include <map>
 
@@ -10,8 +10,6 @@ namespace tromelo {
 
 namespace {
 
-Q_LOGGING_CATEGORY(log, "tromelo.display", QtWarningMsg)
-
 /// One import for each of the engine's buffers, kept until the engine destroys the buffer.
 class DmabufTextures final : public FrameTexture {
  public:
@@ -22,7 +20,7 @@ class DmabufTextures final : public FrameTexture {
  private:
   struct Import {
     std::weak_ptr<const ClientBuffer> buffer;
-    std::unique_ptr<GlTexture> texture;  // none: EGL refused it
+    std::unique_ptr<GlTexture> texture;  // none: it was refused
   };
 
   Import& importOf(const std::shared_ptr<const ClientBuffer>& buffer);
@@ -44,11 +42,9 @@ DmabufTextures::Import& DmabufTextures::importOf(
   const auto [entry, isNew] = imports_.try_emplace(buffer.get());
   if (isNew) {
     entry->second.buffer = buffer;
+    if (!QOpenGLContext::currentContext()) return entry->second;  // the processor draws
     auto texture = std::make_unique<GlTexture>();
-    if (importEglImage(*buffer, *texture))
-      entry->second.texture = std::move(texture);
-    else
-      qCWarning(log, "A picture in the GPU's memory can't be shown.");
+    if (importEglImage(*buffer, *texture)) entry->second.texture = std::move(texture);
   }
   return entry->second;
 }

@@ -54,6 +54,13 @@ std::vector<EGLint> importAttributes(const ClientBuffer& buffer, const DmabufPix
   return list;
 }
 
+/// What somebody else did wrong is no fault of the import's.
+void forgetErrors(QOpenGLFunctions& gl) {
+  constexpr int kinds = 8;  // a context that is lost has errors for ever
+  for (int i = 0; i < kinds && gl.glGetError() != GL_NO_ERROR; ++i) {
+  }
+}
+
 }  // namespace
 
 bool importEglImage(const ClientBuffer& buffer, const GlTexture& texture) {
@@ -68,6 +75,7 @@ bool importEglImage(const ClientBuffer& buffer, const GlTexture& texture) {
       create(display, EGL_NO_CONTEXT, EGL_LINUX_DMA_BUF_EXT, nullptr, attributes.data());
   if (image == EGL_NO_IMAGE_KHR) return false;
   QOpenGLFunctions* gl = QOpenGLContext::currentContext()->functions();
+  forgetErrors(*gl);
   texture.bind();
   target(GL_TEXTURE_2D, image);
   gl->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);

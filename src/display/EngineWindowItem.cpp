@@ -40,7 +40,8 @@ void EngineWindowItem::setEngineWindow(EngineWindow* window) {
                                              update();
                                              Q_EMIT pictureCommitted();
                                            },
-                                       .firstShown = [this] { Q_EMIT firstFrameShown(); }});
+                                       .firstShown = [this] { Q_EMIT firstFrameShown(); },
+                                       .refused = [this] { Q_EMIT pictureRefused(); }});
     if (FrameSource* frames = source()) frames->setSink(sink_);
     updateExposure();
   }

@@ -30,6 +30,8 @@ class EngineWindowItem : public QQuickItem {
  Q_SIGNALS:
   /// The first picture of the present engine window is on its way to the screen.
   void firstFrameShown();
+  /// A picture can't be shown in this scene, and no other of its kind of memory.
+  void pictureRefused();
   /// Another picture is in the next frame of the scene, or none is any more.
   void pictureCommitted();
 

@@ -49,7 +49,7 @@ void PictureNode::takePicture() {
 void PictureNode::show(std::shared_ptr<Frame> frame, const QRegion& damage) {
   FrameTexture* texture = textureFor(*frame);
   QSGTexture* handle = texture->prepare(window_, *frame);
-  if (!handle) return;  // the picture before stays
+  if (!handle) return sink_->refused();  // the picture before stays
   if (!image_) {
     image_.reset(window_->createImageNode());
     image_->setFlag(QSGNode::OwnedByParent, false);

@@ -27,7 +27,8 @@ class PrivateDisplay : public QObject {
   };
 
   /// Starts the display; on failure gives none and one sentence in `error`. Without `dmabuf`, only
-  /// shared memory is announced.
+  /// shared memory is announced, and Mesa's Vulkan drivers are told to present through it. Before
+  /// the engine starts.
   static std::unique_ptr<PrivateDisplay> start(const Output& output,
                                                const std::optional<DmabufSupport>& dmabuf,
                                                QString* error);
@@ -40,6 +41,9 @@ class PrivateDisplay : public QObject {
   virtual QList<EngineWindow*> windows() const = 0;
   /// Follows the host's screen.
   virtual void setOutput(const Output& output) = 0;
+  /// Without dmabufs from here on, for an engine that makes its output anew. False where it was so
+  /// already.
+  virtual bool withdrawDmabufs() = 0;
 
  Q_SIGNALS:
   /// Before the window's first buffer.

@@ -49,6 +49,11 @@ void SceneItemSink::shown() {
   if (!std::exchange(hasShown_, true)) post(callbacks_.firstShown);
 }
 
+void SceneItemSink::refused() {
+  const std::scoped_lock lock(mutex_);
+  post(callbacks_.refused);
+}
+
 void SceneItemSink::post(const std::function<void()>& callback) {
   if (receiver_) QMetaObject::invokeMethod(receiver_, callback, Qt::QueuedConnection);
 }

@@ -23,6 +23,7 @@ class SceneItemSink final : public VideoSink {
   struct Callbacks {
     std::function<void()> committed;
     std::function<void()> firstShown;
+    std::function<void()> refused;
   };
 
   /// Main thread. The callbacks are posted to `receiver`, on its thread.
@@ -43,6 +44,8 @@ class SceneItemSink final : public VideoSink {
   void rewind();
   /// Render thread: a picture was swapped to the screen.
   void shown();
+  /// Render thread: the scene can't show what it took.
+  void refused();
 
  private:
   void post(const std::function<void()>& callback);

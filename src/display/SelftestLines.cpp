@@ -9,6 +9,8 @@
 #include <QScreen>
 
 #include "display/EglDevice.h"
+#include "display/EglImage.h"
+#include "display/GlTexture.h"
 #include "display/PixelFormat.h"
 #include "display/ProbeClient.h"
 
@@ -24,13 +26,28 @@ QString hertzText(int millihertz) {
   return QString::number(millihertz / 1000.0, 'f', 3) + QStringLiteral(" Hz");
 }
 
+/// An OpenGL context without a window, current while this object lives.
+class CurrentContext {
+ public:
+  CurrentContext() {
+    surface_.create();
+    isCurrent_ = context_.create() && context_.makeCurrent(&surface_);
+  }
+
+  explicit operator bool() const { return isCurrent_; }
+  QOpenGLFunctions& functions() const { return *context_.functions(); }
+
+ private:
+  QOffscreenSurface surface_;
+  QOpenGLContext context_;
+  bool isCurrent_ = false;
+};
+
 QString openGlLine() {
-  QOffscreenSurface surface;
-  surface.create();
-  QOpenGLContext context;
-  if (!context.create() || !context.makeCurrent(&surface)) return QStringLiteral("OpenGL: none");
+  const CurrentContext context;
+  if (!context) return QStringLiteral("OpenGL: none");
   const auto text = [&](GLenum name) {
-    return QString::fromUtf8(reinterpret_cast<const char*>(context.functions()->glGetString(name)));
+    return QString::fromUtf8(reinterpret_cast<const char*>(context.functions().glGetString(name)));
   };
   return QStringLiteral("OpenGL: %1, %2").arg(text(GL_RENDERER), text(GL_VERSION));
 }
@@ -114,6 +131,16 @@ QString frameLine(const Frame& frame) {
                                 : QStringLiteral("shared memory");
   return QStringLiteral("engine's frame: %1, %2 in %3")
       .arg(sizeText(buffer.size), fourccText(buffer.format.fourcc), memory);
+}
+
+QString importLine(const Frame& frame) {
+  const ClientBuffer& buffer = *frame.content().buffer;
+  if (!std::holds_alternative<DmabufPixels>(buffer.pixels))
+    return QStringLiteral("import: not needed, the frame's pixels are copied");
+  const CurrentContext context;
+  const bool isImported = context && importEglImage(buffer, GlTexture());
+  return isImported ? QStringLiteral("import: the frame is a texture without a copy")
+                    : QStringLiteral("import: refused, the player falls back to shared memory");
 }
 
 }  // namespace tromelo

@@ -8,6 +8,7 @@
 #include <cstdio>
 
 #include "display/TaskQueue.h"
+#include "platform/HostEnvironment.h"
 
 namespace tromelo {
 
@@ -26,6 +27,14 @@ void logWlroots(wlr_log_importance importance, const char* format, va_list argum
 
 /// What libwayland tells of a client is the client's fault, and the client hears of it too.
 void logWayland(const char* format, va_list arguments) { logWlroots(WLR_DEBUG, format, arguments); }
+
+/// How Mesa's Vulkan drivers present. They ask whenever the engine opens a Vulkan device, perhaps
+/// while this is called: the variable stands there from the first call on, so that a later one only
+/// exchanges its value.
+void presentThroughSharedMemory(bool always) {
+  constexpr const char* variable = "MESA_VK_WSI_DEBUG";
+  HostEnvironment::set(variable, always ? QByteArray("sw") : qgetenv(variable));
+}
 
 /// Signals are for the threads that have handlers for them.
 class BlockedSignals {
@@ -53,7 +62,10 @@ std::unique_ptr<PrivateDisplay> PrivateDisplay::start(const Output& output,
   auto directory = SocketDirectory::create(error);
   if (!directory) return nullptr;
   auto display = std::make_unique<ThreadedDisplay>(output, dmabuf, std::move(directory));
-  if (display->run()) return display;
+  if (display->run()) {
+    presentThroughSharedMemory(!dmabuf);
+    return display;
+  }
   *error = QCoreApplication::translate("PrivateDisplay",
                                        "the private display did not start; install the package of "
                                        "the library wlroots again.");
@@ -63,6 +75,7 @@ std::unique_ptr<PrivateDisplay> PrivateDisplay::start(const Output& output,
 ThreadedDisplay::ThreadedDisplay(const Output& output, const std::optional<DmabufSupport>& dmabuf,
                                  std::unique_ptr<SocketDirectory> directory)
     : directory_(std::move(directory)),
+      announcesDmabufs_(dmabuf.has_value()),
       queue_(std::make_shared<TaskQueue>()),
       server_(std::make_unique<DisplayServer>(output, dmabuf, directory_->listeningFd(), queue_,
                                               static_cast<ServerObserver&>(*this))) {}
@@ -98,6 +111,15 @@ void ThreadedDisplay::setOutput(const Output& output) {
   queue_->postUnlessClosed([this, output] {
     if (server_) server_->setOutput(output);
   });
+}
+
+bool ThreadedDisplay::withdrawDmabufs() {
+  if (!std::exchange(announcesDmabufs_, false)) return false;
+  presentThroughSharedMemory(true);
+  queue_->postUnlessClosed([this] {
+    if (server_) server_->withdrawDmabufs();
+  });
+  return true;
 }
 
 void ThreadedDisplay::windowChanged(WindowId id, const WindowState& state) {

@@ -26,6 +26,7 @@ class ThreadedDisplay final : public PrivateDisplay, private ServerObserver {
   QByteArray socketPath() const override { return directory_->socketPath(); }
   QList<EngineWindow*> windows() const override;
   void setOutput(const Output& output) override;
+  bool withdrawDmabufs() override;
 
  private:
   // The display's thread calls these.
@@ -39,6 +40,7 @@ class ThreadedDisplay final : public PrivateDisplay, private ServerObserver {
   DisplayWindow::Post postTo(WindowId id);
 
   std::unique_ptr<SocketDirectory> directory_;
+  bool announcesDmabufs_;
   std::shared_ptr<TaskQueue> queue_;
   std::unique_ptr<DisplayServer> server_;  // the thread's, once that runs
   std::thread thread_;

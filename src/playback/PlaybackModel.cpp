@@ -51,7 +51,7 @@ void PlaybackModel::startEngine(const Parts& parts) {
 
 std::optional<QString> PlaybackModel::initializeEngine(const Parts& parts) {
   if (!parts.engineFault.isEmpty()) return parts.engineFault;
-  const auto error = engine_.initialize(parts.diagnosticsDirectory);
+  const auto error = engine_.initialize(parts.diagnosticsDirectory, parts.vulkanDevice);
   return error ? std::optional(engineErrorText(*error)) : std::nullopt;
 }
 

@@ -51,7 +51,8 @@ class PlaybackModel : public PlaybackState {
     LocalFiles::PathOf mountedPath = tromelo::mountedPath;
     /// Asked when a picture can't be drawn; may take a moment.
     std::function<bool()> hasVulkanDevice = [] { return true; };
-    QString engineFault = {};  // a sentence: why the engine can't be started; empty: it can
+    std::string vulkanDevice = {};  // UUID of the one that the engine draws with; empty: any
+    QString engineFault = {};       // a sentence: why the engine can't be started; empty: it can
   };
 
   /// Starts the engine; a failure shows in status and errorMessage.

@@ -64,6 +64,9 @@ void PlayerStage::add(EngineWindow& engineWindow) {
   connect(&added->host(), &QWindow::widthChanged, this, &PlayerStage::hostResized);
   connect(&added->host(), &QWindow::heightChanged, this, &PlayerStage::hostResized);
   connect(&added->host(), &QWindow::screenChanged, this, &PlayerStage::followScreen);
+  connect(&added->host().video(), &EngineWindowItem::pictureRefused, this, [this] {
+    if (display_.withdrawDmabufs()) Q_EMIT dmabufsWithdrawn();
+  });
   followScreen(added->host().screen());
   Q_EMIT windowsChanged();
 }
@@ -73,6 +76,7 @@ void PlayerStage::retire(PlayerWindow* window) {
       std::ranges::find_if(windows_, [window](const auto& held) { return held.get() == window; });
   if (found == windows_.end()) return;
   window->host().disconnect(this);
+  window->host().video().disconnect(this);
   auto host = window->takeHost();
   if (!spareHost_) spareHost_ = std::move(host);
   if (host) host.release()->deleteLater();

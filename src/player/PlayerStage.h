@@ -37,6 +37,9 @@ class PlayerStage : public WindowSystem {
 
  Q_SIGNALS:
   void hostResized();
+  /// The scene can't show the engine's pictures out of the graphics card's memory. The display has
+  /// them come through shared memory, as soon as the engine makes its output anew.
+  void dmabufsWithdrawn();
 
  private:
   void add(EngineWindow& engineWindow);

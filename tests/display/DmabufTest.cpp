@@ -4,8 +4,12 @@
 
 #include <atomic>
 
+#include <QOpenGLContext>
+#include <QOpenGLFunctions>
+
 #include "SceneTest.h"
 #include "display/PixelFormat.h"
+#include "display/SceneDrawing.h"
 #include "display/SelftestLines.h"
 #include "support/WaitFor.h"
 
@@ -14,13 +18,22 @@ namespace {
 
 constexpr std::uint64_t linear = 0;
 constexpr std::uint64_t someTiling = 0x0100000000000001;
+constexpr std::uint64_t unknownTiling = 0x0100000000000002;  // announced, but EGL doesn't know it
+
+/// Before the first window.
+TEST(SceneDrawingTest, IsAsThePersonAsked) {
+  const bool asksForSoftware = qgetenv("QT_QUICK_BACKEND") == "software";
+  const SceneDrawing drawing = SceneDrawing::choose();
+  EXPECT_EQ(drawing.withOpenGl, !asksForSoftware);
+  EXPECT_FALSE(drawing.lacksOpenGl);
+}
 
 class DmabufTest : public SceneTest {
  protected:
   std::optional<DmabufSupport> dmabuf() const override {
     DmabufSupport support{makedev(226, 128), {}};
     for (const PixelFormat& format : pixelFormats)
-      support.formats.push_back({format.fourcc, {linear}});
+      support.formats.push_back({format.fourcc, {linear, unknownTiling}});
     return support;
   }
 
@@ -77,23 +90,15 @@ TEST_F(DmabufTest, ABufferGoesBackWhenTheNextIsOnTheScreenAndNotBefore) {
   EXPECT_EQ(second.releases(), 0);
 }
 
-TEST_F(DmabufTest, TheEngineMayDestroyABufferThatIsShown) {
+TEST_F(DmabufTest, TheEngineMayDestroyABufferThatIsShownOrOnItsWay) {
   TestBuffer& first = addPlain(Qt::red);
-  show(first);
+  const auto answers = toplevel_->commit(&first);
   first.destroyBuffer();
-  client_->roundtrip();
-  EXPECT_EQ(grab().pixelColor(80, 45), QColor(Qt::red));
-  show(addPlain(Qt::green));
-  EXPECT_EQ(grab().pixelColor(80, 45), QColor(Qt::green));
-}
-
-TEST_F(DmabufTest, ABufferThatIsDestroyedOnTheWayIsShown) {
-  TestBuffer& buffer = addPlain(Qt::red);
-  const auto answers = toplevel_->commit(&buffer);
-  buffer.destroyBuffer();
   ASSERT_TRUE(wait([&] { return answers->presentation.has_value(); }));
   EXPECT_TRUE(answers->presentation->presented);
   EXPECT_EQ(grab().pixelColor(80, 45), QColor(Qt::red));
+  show(addPlain(Qt::green));
+  EXPECT_EQ(grab().pixelColor(80, 45), QColor(Qt::green));
 }
 
 TEST_F(DmabufTest, KindsOfMemoryMayChangeFromFrameToFrame) {
@@ -105,12 +110,55 @@ TEST_F(DmabufTest, KindsOfMemoryMayChangeFromFrameToFrame) {
   EXPECT_EQ(grab().pixelColor(80, 45), QColor(Qt::green));
 }
 
+TEST_F(DmabufTest, AnErrorThatSomebodyLeftRefusesNothing) {
+  QObject::connect(
+      window_.get(), &QQuickWindow::beforeSynchronizing, window_.get(),
+      [] { QOpenGLContext::currentContext()->functions()->glEnable(GL_INVALID_ENUM); },
+      Qt::DirectConnection);
+  show(addPlain(Qt::red));
+  EXPECT_EQ(grab().pixelColor(80, 45), QColor(Qt::red));
+}
+
+/// Also where the processor draws, which imports nothing.
+TEST_F(DmabufTest, WhatCannotBeImportedIsRefusedAndTheNextComeThroughSharedMemory) {
+  int refused = 0;
+  QObject::connect(item_, &EngineWindowItem::pictureRefused, item_, [&] { ++refused; });
+  TestBuffer& buffer = add({.size = sceneSize}, unknownTiling);
+  toplevel_->commit(&buffer);
+  EXPECT_TRUE(wait([&] { return refused > 0 && buffer.releases() == 1; }));
+  EXPECT_TRUE(display_->withdrawDmabufs());
+  EXPECT_FALSE(display_->withdrawDmabufs());
+  EXPECT_EQ(qgetenv("MESA_VK_WSI_DEBUG"), "sw");
+  EXPECT_TRUE(wait([&] {
+    return !TestClient(display_->socketPath()).globals().contains("zwp_linux_dmabuf_v1");
+  }));
+  const auto shared = plainBuffer(*client_, sceneSize, Qt::blue);
+  show(*shared);
+  EXPECT_EQ(grab().pixelColor(80, 45), QColor(Qt::blue));
+}
+
+TEST_F(DmabufTest, TheSelftestImportsAFrameForReal) {
+  const auto sink = std::make_shared<KeepingSink>();
+  framesOf(engineWindow_).setSink(sink);
+  const auto lineOf = [&](std::uint64_t modifier) {
+    TestBuffer& buffer = add({.size = sceneSize}, modifier);
+    toplevel_->commit(&buffer);
+    std::shared_ptr<Frame> frame;
+    EXPECT_TRUE(wait([&] { return (frame = sink->takeLast()) != nullptr; }));
+    return importLine(*frame);
+  };
+  EXPECT_EQ(lineOf(linear), "import: the frame is a texture without a copy");
+  EXPECT_EQ(lineOf(unknownTiling), "import: refused, the player falls back to shared memory");
+}
+
 TEST_F(DmabufTest, AnnouncesItsDeviceFormatsAndModifiers) {
   const QStringList lines = displayLines(display_->socketPath());
   EXPECT_TRUE(lines.contains("dmabuf main device: 226:128"));
   EXPECT_EQ(lines.filter("dmabuf format: "),
-            (QStringList{"dmabuf format: AR24 with linear", "dmabuf format: XR24 with linear",
-                         "dmabuf format: AB24 with linear", "dmabuf format: XB24 with linear"}));
+            (QStringList{"dmabuf format: AR24 with linear, 0x0100000000000002",
+                         "dmabuf format: XR24 with linear, 0x0100000000000002",
+                         "dmabuf format: AB24 with linear, 0x0100000000000002",
+                         "dmabuf format: XB24 with linear, 0x0100000000000002"}));
 }
 
 TEST_F(DmabufTest, WhatWasNotAnnouncedIsRefused) {

@@ -1,5 +1,7 @@
 // What the display tells the engine of itself.
 #include "DisplayTest.h"
+#include "display/PixelFormat.h"
+#include "display/VulkanDevices.h"
 
 namespace tromelo::testing {
 namespace {
@@ -30,6 +32,34 @@ TEST_F(GlobalsTest, TheScreenIsTheHosts) {
   display_->setOutput({QSize(3840, 2160), 143'856});
   EXPECT_TRUE(wait([&] { return client_->screen().size == QSize(3840, 2160); }));
   EXPECT_EQ(client_->screen().refresh, 143'856);
+}
+
+TEST(AnnouncedModifiers, AreThoseThatTheSceneCanSampleAndLinearOnes) {
+  constexpr std::uint64_t tiled = 0x0100000000000001;
+  constexpr std::uint64_t compressed = 0x0100000000000004;
+  const struct {
+    const char* name;
+    std::vector<DmabufSupport::ListedModifier> listed;
+    std::vector<std::uint64_t> announced;
+  } rows[] = {
+      {"a driver older than modifiers", {}, {implicitModifier, linearModifier}},
+      {"linear isn't listed", {{tiled}}, {tiled, linearModifier}},
+      {"linear is listed", {{linearModifier}, {tiled}}, {linearModifier, tiled}},
+      {"some are external-only", {{tiled}, {compressed, true}}, {tiled, linearModifier}},
+      {"linear is external-only", {{tiled}, {linearModifier, true}}, {tiled}},
+      {"all are external-only", {{tiled, true}, {compressed, true}}, {}},
+  };
+  for (const auto& row : rows)
+    EXPECT_EQ(DmabufSupport::announced(row.listed), row.announced) << row.name;
+}
+
+TEST(EngineDevice, IsTheOneThatDrawsTheScene) {
+  const std::vector<VulkanDevice> devices{{"integrated", "uuid-1", {100, 101}},
+                                          {"dedicated", "uuid-2", {102}},
+                                          {"software", "uuid-3", {}}};
+  EXPECT_EQ(vulkanUuidOf(101, devices), "uuid-1");
+  EXPECT_EQ(vulkanUuidOf(102, devices), "uuid-2");
+  EXPECT_EQ(vulkanUuidOf(103, devices), "");
 }
 
 TEST_F(GlobalsTest, TheSeatHasNothingToPressOrPoint) { EXPECT_EQ(client_->seatCapabilities(), 0u); }
