@@ -147,6 +147,7 @@ bool PlayerHostWindow::event(QEvent* event) {
     return true;
   }
   if (event->type() == QEvent::DevicePixelRatioChange) Q_EMIT devicePixelRatioChanged();
+  if (event->type() == QEvent::WindowStateChange) Q_EMIT stateReported(windowStates());
   return QQuickWindow::event(event);
 }
 

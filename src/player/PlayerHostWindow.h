@@ -53,6 +53,8 @@ class PlayerHostWindow : public QQuickWindow {
  Q_SIGNALS:
   void closeRequested();
   void devicePixelRatioChanged();
+  /// The host has told which state the window is in, which may be long after it was asked for.
+  void stateReported(Qt::WindowStates states);
 
  protected:
   bool event(QEvent* event) override;

@@ -1,6 +1,6 @@
 #include "player/PlayerWindow.h"
 
-#include <QTimer>
+#include <QGuiApplication>
 #include <cstdlib>
 #include <utility>
 
@@ -30,6 +30,7 @@ PlayerWindow::PlayerWindow(EngineWindow& engineWindow, std::unique_ptr<PlayerHos
   host_->video().setEngineWindow(&engineWindow);
   followHost();
   followEngine();
+  adoptTitle();
 }
 
 PlayerWindow::~PlayerWindow() = default;
@@ -37,6 +38,7 @@ PlayerWindow::~PlayerWindow() = default;
 void PlayerWindow::followHost() {
   connect(host_.get(), &PlayerHostWindow::closeRequested, this, &VideoWindow::closeRequested);
   connect(host_.get(), &QWindow::visibilityChanged, this, &PlayerWindow::handleVisibility);
+  connect(host_.get(), &PlayerHostWindow::stateReported, this, &PlayerWindow::handleReport);
   connect(host_.get(), &QWindow::widthChanged, this, &PlayerWindow::scheduleHostState);
   connect(host_.get(), &QWindow::heightChanged, this, &PlayerWindow::scheduleHostState);
   connect(host_.get(), &QWindow::activeChanged, this, &PlayerWindow::scheduleHostState);
@@ -53,8 +55,7 @@ void PlayerWindow::followEngine() {
   connect(engineWindow_, &EngineWindow::sizeChanged, this, &PlayerWindow::adoptEngineSize);
   connect(engineWindow_, &EngineWindow::stateChanged, this, &PlayerWindow::stateChanged);
   connect(engineWindow_, &EngineWindow::takenDown, this, &PlayerWindow::handleTakenDown);
-  connect(engineWindow_, &EngineWindow::titleChanged, this,
-          [this] { host_->setTitle(engineWindow_->title()); });
+  connect(engineWindow_, &EngineWindow::titleChanged, this, &PlayerWindow::adoptTitle);
   connect(engineWindow_, &EngineWindow::fullscreenRequested, this, [this](bool fullscreen) {
     // Never shows a window that was given up meanwhile.
     host_->setWindowState(fullscreen ? Qt::WindowFullScreen : Qt::WindowNoState);
@@ -67,7 +68,9 @@ bool PlayerWindow::isMinimized() const {
   return isVisible() && host_->visibility() == QWindow::Minimized;
 }
 
-bool PlayerWindow::isFullscreen() const { return host_->visibility() == QWindow::FullScreen; }
+bool PlayerWindow::isFullscreen() const { return asksForFullscreen() || fullscreenOnHost_; }
+
+bool PlayerWindow::asksForFullscreen() const { return host_->visibility() == QWindow::FullScreen; }
 
 bool PlayerWindow::hasDrawingSurface() const {
   return engineWindow_ && engineWindow_->hasDrawingSurface();
@@ -113,12 +116,17 @@ void PlayerWindow::hidePointer() { host_->hidePointer(); }
 
 void PlayerWindow::showPointer() { host_->showPointer(); }
 
+void PlayerWindow::adoptTitle() {
+  const QString title = engineWindow_->title();
+  host_->setTitle(title.isEmpty() ? QGuiApplication::applicationDisplayName() : title);
+}
+
 void PlayerWindow::adoptEngineSize() {
   const QSize pixels = engineWindow_ ? engineWindow_->size() : QSize();
   if (pixels.isEmpty() || answersRequest(pixels)) return;
   chosenSize_ = pixels;
   host_->setPictureAspect(pixels);
-  if (!isFullscreen()) host_->resizeToPixels(pixels);
+  if (!asksForFullscreen()) host_->resizeToPixels(pixels);
   scheduleHostState();
 }
 
@@ -142,7 +150,7 @@ void PlayerWindow::sendHostState() {
   if (!engineWindow_ || chosenSize_.isEmpty()) return;
   const QSize pixels = host_->pixelSize();
   EngineWindow::HostState state;
-  state.fullscreen = isFullscreen();
+  state.fullscreen = asksForFullscreen();
   state.size = state.fullscreen ? pixels : chosenSize_.scaled(pixels, Qt::KeepAspectRatio);
   if (nearlyEqual(state.size, chosenSize_) && !state.fullscreen) state.size = chosenSize_;
   state.activated = host_->isActive();
@@ -154,11 +162,20 @@ void PlayerWindow::sendHostState() {
   engineWindow_->setHostState(state);
 }
 
-void PlayerWindow::handleVisibility(QWindow::Visibility visibility) {
+void PlayerWindow::handleVisibility() {
   scheduleHostState();
-  const bool fullscreen = visibility == QWindow::FullScreen;
-  if (std::exchange(wasFullscreen_, fullscreen) && !fullscreen) Q_EMIT leftFullscreen();
+  updateFullscreen();
   Q_EMIT stateChanged();
+}
+
+void PlayerWindow::handleReport(Qt::WindowStates states) {
+  fullscreenOnHost_ = states.testFlag(Qt::WindowFullScreen);
+  updateFullscreen();
+}
+
+void PlayerWindow::updateFullscreen() {
+  const bool fullscreen = isFullscreen();
+  if (std::exchange(wasFullscreen_, fullscreen) && !fullscreen) Q_EMIT leftFullscreen();
 }
 
 void PlayerWindow::handleTakenDown() {

@@ -62,7 +62,11 @@ class PlayerWindow : public VideoWindow {
   bool answersRequest(QSize pixels);
   void scheduleHostState();
   void sendHostState();
-  void handleVisibility(QWindow::Visibility visibility);
+  void adoptTitle();
+  void handleVisibility();
+  void handleReport(Qt::WindowStates states);
+  void updateFullscreen();
+  bool asksForFullscreen() const;
   void handleTakenDown();
 
   QPointer<EngineWindow> engineWindow_;
@@ -72,6 +76,7 @@ class PlayerWindow : public VideoWindow {
   QSize chosenSize_;  // by the engine, device pixels; gives the aspect
   // Sizes that the engine was asked for and has not answered yet, oldest first.
   std::deque<QSize> requestedSizes_;
+  bool fullscreenOnHost_ = false;  // as the host last reported
   bool wasFullscreen_ = false;
   bool hostStateScheduled_ = false;
 };

@@ -25,6 +25,7 @@ class VideoWindow : public HostWindow {
   /// The engine wants it on the screen; false once the engine has taken it down.
   bool isVisible() const override = 0;
   virtual bool isMinimized() const = 0;
+  /// It was asked to be, or the host hasn't ended it yet.
   virtual bool isFullscreen() const = 0;
   virtual bool hasDrawingSurface() const = 0;
   /// It has the keyboard.
@@ -44,6 +45,7 @@ class VideoWindow : public HostWindow {
   virtual void showPointer() = 0;
 
  Q_SIGNALS:
+  /// The host has ended it.
   void leftFullscreen();
   /// It is on another screen, or its screen shows another range.
   void screenChanged();

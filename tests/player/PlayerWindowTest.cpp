@@ -1,0 +1,77 @@
+// An engine window in its host window, drawn by the processor on a host that isn't seen.
+#include "player/PlayerWindow.h"
+
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+#include <QQmlComponent>
+
+#include "support/WaitFor.h"
+
+namespace tromelo {
+namespace {
+
+using testing::waitFor;
+
+class FakeEngineWindow final : public EngineWindow {
+ public:
+  bool isVisible() const override { return true; }
+  bool isMinimized() const override { return false; }
+  bool hasDrawingSurface() const override { return true; }
+  bool isFullscreen() const override { return false; }
+  QString title() const override { return newTitle; }
+  QSize size() const override { return {640, 360}; }
+  void setHostState(const HostState&) override {}
+
+  QString newTitle = QStringLiteral("Sintel");
+};
+
+class PlayerWindowTest : public ::testing::Test {
+ protected:
+  PlayerHostWindow& host() { return window_.host(); }
+
+  QQmlEngine engine_;
+  const ReducedMotion moving_{"0", {}};
+  HostHeadroom headroom_;
+  const PlayerOverlayFactory noOverlay_;
+  FakeEngineWindow engineWindow_;
+  PlayerWindow window_{engineWindow_, std::make_unique<PlayerHostWindow>(engine_, moving_),
+                       noOverlay_, headroom_};
+};
+
+TEST_F(PlayerWindowTest, HasTheTitleOfTheEnginesFromTheBeginning) {
+  EXPECT_EQ(host().title(), "Sintel");
+  engineWindow_.newTitle = "Tears of Steel";
+  Q_EMIT engineWindow_.titleChanged();
+  EXPECT_EQ(host().title(), "Tears of Steel");
+  engineWindow_.newTitle.clear();
+  Q_EMIT engineWindow_.titleChanged();
+  EXPECT_EQ(host().title(), QGuiApplication::applicationDisplayName());
+}
+
+TEST_F(PlayerWindowTest, IsInFullScreenUntilTheHostHasEndedIt) {
+  int left = 0;
+  QObject::connect(&window_, &VideoWindow::leftFullscreen, &window_, [&] { ++left; });
+  window_.dress({520, 300});
+  Q_EMIT engineWindow_.fullscreenRequested(true);
+  testing::settle();
+  EXPECT_TRUE(window_.isFullscreen());
+  Q_EMIT engineWindow_.fullscreenRequested(false);
+  EXPECT_TRUE(window_.isFullscreen());
+  EXPECT_EQ(left, 0) << "it was only asked for";
+  EXPECT_TRUE(waitFor([&] { return left == 1; }));
+  EXPECT_FALSE(window_.isFullscreen());
+}
+
+TEST_F(PlayerWindowTest, ShowsThePointerAgainWhenItMoves) {
+  host().hidePointer();
+  EXPECT_EQ(host().cursor().shape(), Qt::BlankCursor);
+  const QPointF place(300, 200);
+  QMouseEvent move(QEvent::MouseMove, place, host().position() + place, Qt::NoButton, Qt::NoButton,
+                   Qt::NoModifier);
+  QCoreApplication::sendEvent(&host(), &move);
+  EXPECT_NE(host().cursor().shape(), Qt::BlankCursor);
+}
+
+}  // namespace
+}  // namespace tromelo
