@@ -3,13 +3,15 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tromelo.Player
 
-// What the player window shows: the engine's picture on black. The overlay is laid on top.
+// What the player window shows: the engine's picture on black. The overlay is laid on top. While it
+// fades, all of it is drawn first and faded as one: each by itself would let the black through.
 Item {
     id: scene
 
     readonly property EngineWindowItem video: picture
 
     objectName: "playerScene"
+    layer.enabled: opacity < 1
 
     Rectangle {
         anchors.fill: parent

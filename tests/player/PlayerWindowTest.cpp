@@ -63,6 +63,24 @@ TEST_F(PlayerWindowTest, IsInFullScreenUntilTheHostHasEndedIt) {
   EXPECT_FALSE(window_.isFullscreen());
 }
 
+TEST_F(PlayerWindowTest, FadesWhatIsComposed) {
+  QQmlComponent grey(&engine_);
+  grey.setData("import QtQuick\nRectangle { color: '#c8c8c8'; anchors.fill: parent }", {});
+  const std::unique_ptr<QQuickItem> picture(
+      qobject_cast<QQuickItem*>(grey.createWithInitialProperties(
+          {{QStringLiteral("parent"), QVariant::fromValue(&host().scene())}})));
+  ASSERT_TRUE(picture);
+  const auto shown = [this](double opacity) {
+    window_.setOpacity(opacity);
+    return host().grabWindow().pixelColor(300, 150).red();
+  };
+  host().setColor(Qt::white);  // shines through by a half: the picture's 100, and 127 of its own
+  EXPECT_NEAR(shown(0.5), 227, 1);
+  EXPECT_EQ(shown(1), 200);
+  EXPECT_FALSE(host().scene().property("layer").value<QObject*>()->property("enabled").toBool())
+      << "frames that play are drawn once";
+}
+
 TEST_F(PlayerWindowTest, ShowsThePointerAgainWhenItMoves) {
   host().hidePointer();
   EXPECT_EQ(host().cursor().shape(), Qt::BlankCursor);
