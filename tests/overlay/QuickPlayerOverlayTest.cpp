@@ -4,13 +4,13 @@
 #include <QQuickWindow>
 
 #include "player/PlayerTest.h"
+#include "support/DrivenAnimations.h"
 #include "support/WaitFor.h"
 
 namespace tromelo {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::waitFor;
 
 /// The overlay in a window that is shown, and a hand that sends what the window system would.
 class QuickPlayerOverlayTest : public testing::PlayerTest {
@@ -264,24 +264,26 @@ TEST_F(QuickPlayerOverlayTest, TellsOfARealPointerThatMoves) {
 }
 
 TEST_F(QuickPlayerOverlayTest, FadesItsChromeAsOne) {
+  testing::DrivenAnimations time;
   QQuickItem& chrome = *item("playerChrome");
   overlay_->setChromeVisible(false, true);
-  EXPECT_TRUE(chrome.isVisible());
-  EXPECT_TRUE(waitFor([&] { return chrome.opacity() < 0.7; }));
+  time.advanceBy(200ms);
   const double overtaken = chrome.opacity();
+  EXPECT_LT(overtaken, 0.7);
   overlay_->setChromeVisible(true, true);
-  double lowest = 1;
-  QObject::connect(&chrome, &QQuickItem::opacityChanged, &chrome,
-                   [&] { lowest = std::min(lowest, chrome.opacity()); });
-  EXPECT_TRUE(waitFor([&] { return chrome.opacity() == 1; }));
-  EXPECT_GE(lowest, overtaken);
-  EXPECT_TRUE(chrome.isVisible());
+  EXPECT_EQ(chrome.opacity(), overtaken);
+  time.advanceBy(179ms);
+  EXPECT_LT(chrome.opacity(), 1);
+  time.advanceBy(1ms);
+  EXPECT_EQ(chrome.opacity(), 1);
   overlay_->setChromeVisible(false, true);
-  EXPECT_TRUE(waitFor([&] { return !chrome.isVisible(); }));
+  time.advanceBy(349ms);
+  EXPECT_TRUE(chrome.isVisible());
+  time.advanceBy(1ms);
+  EXPECT_FALSE(chrome.isVisible());
   overlay_->setChromeVisible(true, true);
   EXPECT_TRUE(chrome.isVisible());
-  EXPECT_LT(chrome.opacity(), 0.1) << "it comes up from nothing";
-  EXPECT_TRUE(waitFor([&] { return chrome.opacity() == 1; }));
+  EXPECT_EQ(chrome.opacity(), 0) << "it comes up from nothing";
 }
 
 TEST_F(QuickPlayerOverlayTest, ScrollsOverVideoAndChrome) {

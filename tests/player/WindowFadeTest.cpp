@@ -22,16 +22,6 @@ class WindowFadeTest : public ::testing::Test {
   int completed_ = 0;
 };
 
-TEST_F(WindowFadeTest, GoesThroughWhatLiesBetween) {
-  WindowFade fade(root_, moving_);
-  fade.start(0, 200ms, QEasingCurve::Linear, counted());
-  EXPECT_EQ(root_.opacity(), 1);
-  EXPECT_TRUE(waitFor([this] { return root_.opacity() < 1 && root_.opacity() > 0; }));
-  EXPECT_EQ(completed_, 0);
-  EXPECT_TRUE(waitFor([this] { return completed_ == 1; }));
-  EXPECT_EQ(root_.opacity(), 0);
-}
-
 TEST_F(WindowFadeTest, IsAStepWhereNoMotionIsWanted) {
   WindowFade fade(root_, still_);
   std::vector<double> seen;
