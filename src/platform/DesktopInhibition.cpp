@@ -49,7 +49,8 @@ void ask(QDBusConnection bus, const QDBusMessage& call, const GiveBack& giveBack
          const Answer& answer) {
   // However late an answer comes, it has to be heard: it may have to be given back.
   constexpr int kForEver = std::numeric_limits<int>::max();
-  auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call, kForEver), qApp);
+  auto* watcher =
+      new QDBusPendingCallWatcher(bus.asyncCall(call, kForEver), QCoreApplication::instance());
   QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
                    [watcher, bus, giveBack, answer] {
                      const QDBusMessage reply = watcher->reply();
