@@ -35,7 +35,7 @@ machine_is_complete() {
         local tool tools=(cmake ninja c++ xdpyinfo)
         [ -z "${TROMELO_NEEDS-}" ] || tools+=(ffmpeg Xvfb openbox xrdb)
         for tool in "${tools[@]}"; do
-            command -v $tool >/dev/null || return 1
+            command -v "$tool" >/dev/null || return 1
         done
     fi
 }

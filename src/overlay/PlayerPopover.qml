@@ -6,8 +6,9 @@ import Tromelo.Theme
 
 // Shows a panel above its button in the control bar while the panel is open. It lies over the whole
 // overlay: a press on the bar is the bar's own, any other outside the panel dismisses it and does
-// nothing else, a press or scrolling on the panel stays there. The panel is made when it opens and is as large as its
-// implicit size or, where that doesn't fit, as the room above the bar. It never takes the keyboard.
+// nothing else, a press or scrolling on the panel stays there. The panel is made when it opens and is
+// as large as its implicit size or, where that doesn't fit, as the room above the bar. It never takes
+// the keyboard.
 //
 // PlayerPanels.qml has one for each panel; the bar only names its buttons.
 Item {

@@ -68,16 +68,6 @@ class Library : public EndToEnd {
   QString id;
 };
 
-TEST_F(Library, OpensARecentFileWithTheKeyboardAlone) {
-  startWith({clip("sample.mp4"), clip("short-wide.mp4")});
-  ASSERT_TRUE(showsRows(2, "library-recents"));
-  screen::press(QStringLiteral("Down"));
-  screen::press(QStringLiteral("Down"));
-  screen::press(QStringLiteral("Return"));
-  ASSERT_TRUE(player.waitUntilPlaying());
-  EXPECT_EQ(player.said(QStringLiteral("title")), QStringLiteral("short-wide"));
-}
-
 TEST_F(Library, SaysWhenARecentFileIsGoneAndForgetsItAtTheNextStart) {
   const QString gone = player.homePath() + QStringLiteral("/gone.mp4");
   ASSERT_TRUE(QFile::copy(clip("sample.mp4"), gone));

