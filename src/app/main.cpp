@@ -1,20 +1,51 @@
 #include <QApplication>
-#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QPalette>
+#include <QStringList>
 #include <QStyleHints>
+#include <QTranslator>
 #include <cstdio>
+#include <cstdlib>
+#include <mutex>
 #include <optional>
 #include <span>
 #include <utility>
 
 #include "app/CommandLine.h"
-#include "app/DisplayGuard.h"
 #include "app/Program.h"
 #include "app/SelftestCommand.h"
-#include "app/Translations.h"
 #include "platform/HostEnvironment.h"
 
 namespace {
+
+/// Put round the making of the application object: where the display can't be reached, which Qt
+/// takes for a reason to abort, the process ends with one sentence and status 1. One at a time.
+class DisplayGuard {
+ public:
+  DisplayGuard() { qInstallMessageHandler(hold); }
+  /// Passes on what Qt has said meanwhile.
+  ~DisplayGuard() {
+    qInstallMessageHandler(nullptr);
+    const std::scoped_lock lock(mutex);
+    for (const QString& line : std::exchange(held, {}))
+      std::fprintf(stderr, "%s\n", qPrintable(line));
+  }
+
+ private:
+  static void hold(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    const std::scoped_lock lock(mutex);
+    if (type != QtFatalMsg) return held.append(qFormatLogMessage(type, context, message));
+    std::fputs(
+        "Tromelo can't reach the display that QT_QPA_PLATFORM, WAYLAND_DISPLAY or DISPLAY names: "
+        "start it in a Wayland or X11 session.\n",
+        stderr);
+    std::_Exit(1);
+  }
+
+  static inline std::mutex mutex;  // messages come from any thread
+  static inline QStringList held;
+};
 
 bool hasHostDisplay() {
   for (const char* name : {"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "WAYLAND_SOCKET", "DISPLAY"})
@@ -48,6 +79,24 @@ void describe(QApplication& application) {
   application.setAttribute(Qt::AA_DontUseNativeMenuBar);
 }
 
+/// The program's texts, and those of Qt's dialogs in the same language: the first of the person's
+/// languages that there is a catalogue for.
+struct Translations {
+  Translations() {
+    // English has a catalogue too, so that whoever prefers it to German doesn't get German.
+    if (!program.load(QLocale::system(), QStringLiteral("tromelo"), QStringLiteral("_"),
+                      QStringLiteral(":/i18n")))
+      return;
+    QCoreApplication::installTranslator(&program);
+    if (qt.load(QStringLiteral("qtbase_") + program.language(),
+                QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+      QCoreApplication::installTranslator(&qt);
+  }
+
+  QTranslator program;
+  QTranslator qt;
+};
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -59,15 +108,14 @@ int main(int argc, char** argv) {
     return 1;
   }
   prepareGraphics();
-  std::optional<tromelo::DisplayGuard> guard(std::in_place);
+  std::optional<DisplayGuard> guard(std::in_place);
   QApplication application(argc, argv);
   guard.reset();
   describe(application);
   darken(application);
   if (line.displaySelftest)
     return std::fputs(qPrintable(tromelo::runDisplaySelftest()), stdout) < 0;
-  tromelo::Translations translations;
-  translations.install();
+  const Translations translations;  // before any text is made
   tromelo::Program program(line);
   return program.run();
 }

@@ -3,7 +3,7 @@
 #include <QUrl>
 #include <algorithm>
 
-#include "mpris/MprisShell.h"
+#include "mpris/MprisService.h"
 #include "mpris/MprisValues.h"
 #include "playback/PlaybackModel.h"
 #include "playback/SpeedLadder.h"

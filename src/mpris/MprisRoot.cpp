@@ -1,6 +1,6 @@
 #include "mpris/MprisRoot.h"
 
-#include "mpris/MprisShell.h"
+#include "mpris/MprisService.h"
 #include "playback/PlaybackModel.h"
 
 namespace tromelo {

@@ -3,8 +3,7 @@
 #include <QDBusConnection>
 #include <QObject>
 #include <QVariantMap>
-
-#include "mpris/MprisShell.h"
+#include <functional>
 
 class QDBusAbstractAdaptor;
 
@@ -13,6 +12,14 @@ namespace tromelo {
 class MprisPlayer;
 class MprisRoot;
 class PlaybackModel;
+
+/// What the desktop's media controls ask of the program around the model. All are set.
+struct MprisShell {
+  std::function<void()> raise;  // shows the program in front of others
+  std::function<void()> quit;
+  std::function<void()> stop;  // closes what plays
+  std::function<void()> toggleFullscreen;
+};
 
 /// The desktop's media controls: shows what plays on the bus as org.mpris.MediaPlayer2.tromelo and
 /// does what its clients ask. Waits for nothing; without a name on the bus nobody asks. `playback`

@@ -1,5 +1,3 @@
-#include "platform/DesktopInhibition.h"
-
 #include <QCoreApplication>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
@@ -7,6 +5,8 @@
 #include <QDBusPendingReply>
 #include <QVariantMap>
 #include <limits>
+
+#include "platform/IdleInhibitor.h"
 
 namespace tromelo {
 

@@ -1,14 +1,16 @@
-#include "platform/HostInhibition.h"
-
 #include <qpa/qplatformnativeinterface.h>
 #include <wayland-client.h>
 
 #include <QEvent>
 #include <QGuiApplication>
+#include <QObject>
 #include <QWindow>
 #include <cstring>
+#include <map>
+#include <memory>
 
 #include "idle-inhibit-unstable-v1-client-protocol.h"
+#include "platform/IdleInhibitor.h"
 
 namespace tromelo {
 
@@ -25,7 +27,33 @@ wl_surface* surfaceOf(QWindow& window) {
   return static_cast<wl_surface*>(host->nativeResourceForWindow("surface", &window));
 }
 
-}  // namespace
+/// Keeps the screen awake by the Wayland host's own protocol, for as long as one of our windows is
+/// seen. Main thread only.
+class HostInhibition : public QObject {
+ public:
+  /// Begins to ask the host what it offers; waits for nothing.
+  HostInhibition();
+  ~HostInhibition() override;
+
+  /// False on other hosts, and before the host has answered.
+  bool isOffered() const;
+  void hold();
+  void release();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  struct Registry;
+  struct Destroyer {
+    void operator()(zwp_idle_inhibitor_v1* inhibitor) const;
+  };
+
+  void follow(QWindow& window);
+
+  std::unique_ptr<Registry> registry_;
+  std::map<const QObject*, std::unique_ptr<zwp_idle_inhibitor_v1, Destroyer>> held_;  // by window
+};
 
 struct HostInhibition::Registry {
   explicit Registry(wl_display* display) : registry(wl_display_get_registry(display)) {
@@ -89,6 +117,8 @@ void HostInhibition::follow(QWindow& window) {
   if (wl_surface* surface = surfaceOf(window))
     held_[&window].reset(zwp_idle_inhibit_manager_v1_create_inhibitor(registry_->manager, surface));
 }
+
+}  // namespace
 
 AskForInhibition hostInhibition() {
   return [host = std::make_shared<HostInhibition>()](const auto& answer) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDBusConnection>
 #include <QObject>
 #include <functional>
 #include <memory>
@@ -40,5 +41,16 @@ class IdleInhibitor : public QObject {
   std::unique_ptr<Clock::Timer> patience_;
   ReleaseInhibition release_;  // empty: not inhibited
 };
+
+/// The desktop's portal: neither the screen nor the system goes to sleep. This and the next end by
+/// themselves when our connection to the bus does, be it by a crash.
+AskForInhibition portalInhibition(const QDBusConnection& bus);
+
+/// The older screen saver service.
+AskForInhibition screenSaverInhibition(const QDBusConnection& bus);
+
+/// The Wayland host's own protocol, for as long as one of our windows is seen. After the
+/// application object.
+AskForInhibition hostInhibition();
 
 }  // namespace tromelo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QStandardPaths>
 #include <QString>
 
 namespace tromelo {
@@ -7,8 +8,20 @@ namespace tromelo {
 /// Directories of the person who runs the program, after the XDG base directories. They may not
 /// exist yet.
 
-QString userConfigDirectory();       // $XDG_CONFIG_HOME
-QString userDataDirectory();         // $XDG_DATA_HOME
-QString diagnosticsDirectoryPath();  // $XDG_STATE_HOME/Tromelo
+/// $XDG_CONFIG_HOME
+inline QString userConfigDirectory() {
+  return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+}
+
+/// $XDG_DATA_HOME
+inline QString userDataDirectory() {
+  return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+}
+
+/// $XDG_STATE_HOME/Tromelo
+inline QString diagnosticsDirectoryPath() {
+  return QStandardPaths::writableLocation(QStandardPaths::GenericStateLocation) +
+         QStringLiteral("/Tromelo");
+}
 
 }  // namespace tromelo

@@ -7,7 +7,6 @@
 #include <QVariantMap>
 #include <optional>
 
-#include "platform/DesktopInhibition.h"
 #include "support/BusDaemon.h"
 #include "support/FakeScreenSaver.h"
 #include "support/ManualClock.h"
