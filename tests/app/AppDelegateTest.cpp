@@ -74,37 +74,24 @@ class AppDelegateTest : public ::testing::Test {
   int ready_ = 0;
 };
 
-TEST_F(AppDelegateTest, OpensTheLaunchFileAfterTheLibraryIsShown) {
-  const std::string movie = file("movie.mkv");
-  launch(fileAt(movie, 90));
-  EXPECT_EQ(libraries_, 0);
-  delegate_->applicationDidFinishLaunching();
-  EXPECT_TRUE(library_->visible);
-  EXPECT_EQ(takeLoaded(), std::vector{movie + " start=90.0"});
-}
-
-TEST_F(AppDelegateTest, IgnoresALaunchFileThatIsNotThere) {
+TEST_F(AppDelegateTest, OpensTheFirstOfTheFilesHandedOverAndNoneThatIsMissing) {
   launch(fileAt("/no/such/movie.mkv"));
-  delegate_->applicationDidFinishLaunching();
-  EXPECT_EQ(takeLoaded(), std::vector<std::string>{});
-  EXPECT_EQ(delegate_->playback().errorMessage(), QString());
-}
-
-TEST_F(AppDelegateTest, OpensTheFirstOfTheFilesHandedOver) {
-  launch({});
   delegate_->applicationDidFinishLaunching();
   delegate_->applicationOpen({});
   EXPECT_EQ(takeLoaded(), std::vector<std::string>{});
+  EXPECT_EQ(delegate_->playback().errorMessage(), QString());
   delegate_->applicationOpen({fileUrlFromPath("/a.mkv"), fileUrlFromPath("/b.mkv")});
   EXPECT_EQ(takeLoaded(), std::vector<std::string>{"/a.mkv "});
 }
 
-TEST_F(AppDelegateTest, DoesNotOpenTheLaunchFileTwice) {
+TEST_F(AppDelegateTest, OpensTheLaunchFileOnceAndAfterTheLibraryIsShown) {
   const std::string movie = file("movie.mkv");
-  launch(fileAt(movie));
-  delegate_->applicationOpen({fileUrlFromPath(movie)});
+  launch(fileAt(movie, 90));
+  EXPECT_EQ(libraries_, 0);
+  delegate_->applicationOpen({fileUrlFromPath(movie)});  // the desktop hands it over as well
   delegate_->applicationDidFinishLaunching();
-  EXPECT_EQ(takeLoaded(), std::vector{movie + " "});
+  EXPECT_TRUE(library_->visible);
+  EXPECT_EQ(takeLoaded(), std::vector{movie + " start=90.0"});
   delegate_->applicationOpen({fileUrlFromPath(movie)});
   EXPECT_EQ(takeLoaded(), std::vector{movie + " "});
 }

@@ -49,12 +49,15 @@ TEST(CommandLine, FindsTheFileAndTheStart) {
 }
 
 TEST(CommandLine, KnowsTheOptionsThatItsHelpNames) {
-  EXPECT_TRUE(parse({"--help"}).help);
-  EXPECT_TRUE(parse({"--version"}).version);
-  EXPECT_TRUE(parse({"--display-selftest"}).displaySelftest);
-  EXPECT_TRUE(parse({"--report"}).report);
-  for (const char* option : {"--help", "--version", "--display-selftest", "--report", "--start"})
+  const std::pair<const char*, bool CommandLine::*> options[] = {
+      {"--help", &CommandLine::help},
+      {"--version", &CommandLine::version},
+      {"--display-selftest", &CommandLine::displaySelftest},
+      {"--report", &CommandLine::report}};
+  for (const auto& [option, member] : options) {
+    EXPECT_TRUE(parse({option}).*member) << option;
     EXPECT_NE(CommandLine::helpText().find(option), std::string::npos) << option;
+  }
 }
 
 }  // namespace

@@ -38,15 +38,6 @@ TEST_F(DefaultsMigration, TakesEachMissingValueFromTheFirstStoreThatHasIt) {
   EXPECT_FALSE(current.contains(QStringLiteral("unrelated")));
 }
 
-TEST_F(DefaultsMigration, AsksBothOfTheFormerEditionsStoresInTheirOrder) {
-  const char* names[] = {"org.orvo.Orvo", "Orvo"};
-  for (const char* name : names)
-    UserDefaults::named(QString::fromLatin1(name)).set(QStringLiteral("name"), name);
-  const std::vector<UserDefaults> stores = storesOfOrvo();
-  ASSERT_EQ(stores.size(), std::size(names));
-  for (std::size_t i = 0; i < stores.size(); ++i) EXPECT_EQ(text(stores[i], "name"), names[i]);
-}
-
 TEST_F(DefaultsMigration, IsTriedOnceEvenWhenItFoundNothing) {
   UserDefaults current = store("current");
   migrateDefaultsFromOrvo(current, {});

@@ -3,7 +3,6 @@
 #include <QDBusPendingCall>
 #include <QDBusReply>
 #include <QDBusVariant>
-#include <QXmlStreamReader>
 
 #include "support/WaitFor.h"
 
@@ -15,25 +14,6 @@ const QString kService = QStringLiteral("org.mpris.MediaPlayer2.tromelo");
 const QString kPath = QStringLiteral("/org/mpris/MediaPlayer2");
 const QString kPlayer = QStringLiteral("org.mpris.MediaPlayer2.Player");
 const QString kProperties = QStringLiteral("org.freedesktop.DBus.Properties");
-
-QString described(QXmlStreamReader& xml) {
-  const QString kind = xml.name().toString();
-  const auto attribute = [&xml](const char* name) {
-    return xml.attributes().value(QLatin1String(name)).toString();
-  };
-  QString text = kind + u' ' + attribute("name");
-  if (kind == u"property") {
-    text += u' ' + attribute("type") + u' ' + attribute("access");
-    xml.skipCurrentElement();
-    return text;
-  }
-  QStringList arguments;
-  while (xml.readNextStartElement()) {
-    if (xml.name() == u"arg") arguments << attribute("type") + u' ' + attribute("name");
-    xml.skipCurrentElement();
-  }
-  return text + u'(' + arguments.join(u", ") + u')';
-}
 
 }  // namespace
 
@@ -78,21 +58,6 @@ QVariantMap Desktop::properties() {
 QDBusMessage Desktop::set(const QString& name, const QVariant& value) {
   return call(kProperties, QStringLiteral("Set"),
               {kPlayer, name, QVariant::fromValue(QDBusVariant(value))});
-}
-
-QStringList Desktop::members(const QString& interface) {
-  const QDBusReply<QString> description =
-      call(QStringLiteral("org.freedesktop.DBus.Introspectable"), QStringLiteral("Introspect"), {});
-  QXmlStreamReader xml(description.value());
-  QStringList found;
-  xml.readNextStartElement();
-  while (xml.readNextStartElement()) {
-    const bool wanted = xml.attributes().value(QLatin1String("name")) == interface;
-    while (wanted && xml.readNextStartElement()) found << described(xml);
-    if (!wanted) xml.skipCurrentElement();
-  }
-  found.sort();
-  return found;
 }
 
 bool Desktop::owns(const QString& name) {

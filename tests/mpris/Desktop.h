@@ -25,9 +25,6 @@ class Desktop : public QObject {
   QVariant property(const QString& name);
   QVariantMap properties();
   QDBusMessage set(const QString& name, const QVariant& value);
-  /// The members of an interface, one a line: "method Seek(x Offset)", "property Volume d
-  /// readwrite".
-  QStringList members(const QString& interface);
   bool owns(const QString& name);
 
   QList<QVariantMap> changes;  // of the player, one for each signal

@@ -112,25 +112,6 @@ class MprisOnABus : public Mpris {
   std::unique_ptr<MprisService> service_ = serve(QStringLiteral("player"));
 };
 
-TEST_F(MprisOnABus, OffersThePublishedInterfaces) {
-  EXPECT_EQ(desktop_.members(kRootInterface).join("; "),
-            "method Quit(); method Raise(); property CanQuit b read; property CanRaise b read; "
-            "property CanSetFullscreen b read; property DesktopEntry s read; "
-            "property Fullscreen b readwrite; property HasTrackList b read; "
-            "property Identity s read; property SupportedMimeTypes as read; "
-            "property SupportedUriSchemes as read");
-  EXPECT_EQ(
-      desktop_.members(kPlayerInterface).join("; "),
-      "method Next(); method OpenUri(s Uri); method Pause(); method Play(); "
-      "method PlayPause(); method Previous(); method Seek(x Offset); "
-      "method SetPosition(o TrackId, x Position); method Stop(); property CanControl b read; "
-      "property CanGoNext b read; property CanGoPrevious b read; property CanPause b read; "
-      "property CanPlay b read; property CanSeek b read; property LoopStatus s readwrite; "
-      "property MaximumRate d read; property Metadata a{sv} read; property MinimumRate d read; "
-      "property PlaybackStatus s read; property Position x read; property Rate d readwrite; "
-      "property Shuffle b readwrite; property Volume d readwrite; signal Seeked(x Position)");
-}
-
 TEST_F(MprisOnABus, DoesWhatTheViewsDo) {
   using Asked = Requests;
   for (const char* method : {"Next", "Previous", "Pause", "PlayPause", "Play", "Stop"})

@@ -11,18 +11,12 @@ TEST(LanguageName, IsInTheReadersLanguage) {
     QString code;
     QString expected;
   } rows[] = {
-      {"en_US", "en", "English"},
       {"en_US", "eng", "English"},
       {"de_DE", "en", "Englisch"},
       {"de_DE", "ger", "Deutsch"},
-      {"en_US", "chi", "Chinese"},
       {"en_US", "por_br", "Brazilian Portuguese"},
-      {"de_DE", "pt-BR", "Portugiesisch (Brasilien)"},
-      {"en_US", "en-XX", "English"},
       {"en_US", "qaa", "qaa"},
-      {"en_US", "", ""},
       {"en_US", "in plain English", "in plain English"},
-      {"en_US", QString(QChar(0xfffd)), QString(QChar(0xfffd))},
       {"en_US", QString(100000, u'a'), QString(100000, u'a')},
   };
   for (const auto& row : rows) {
@@ -41,8 +35,6 @@ TEST(PlatformWording, NamesThingsAsTheyAreCalledHere) {
       {"Show in Finder", "Show in File Manager"},
       {"Software (stream rejected by VideoToolbox)",
        "Software (stream rejected by hardware decoder)"},
-      {"Plain — words", "Plain — words"},
-      {"", ""},
   };
   for (const auto& row : rows) EXPECT_EQ(platformWording(row.text), row.expected) << row.text;
 }
