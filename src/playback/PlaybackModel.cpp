@@ -142,7 +142,7 @@ void PlaybackModel::presentSubtitleFilePanel() {
   files_.chooseFiles(
       {.prompt = tr("Add Subtitle"), .allowsSeveral = false, .extensions = subtitleExtensions()},
       [model = QPointer(this)](const QList<QUrl>& urls) {
-        if (model) model->engine_.command({"sub-add", pathFromFileUrl(urls.first()), "select"});
+        if (model) model->addSubtitle(urls.first());
       });
 }
 

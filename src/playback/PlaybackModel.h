@@ -65,7 +65,7 @@ class PlaybackModel : public PlaybackState {
 
   /// Percent of the picture's height by which subtitles are lifted above the controls.
   double subtitleLift() const { return subtitleLift_; }
-  void setSubtitleLift(double percent) { subtitleLift_ = percent; }
+  void setSubtitleLift(double percent);
 
   /// The program is quitting and the engine is being destroyed.
   bool isShuttingDown() const { return isShuttingDown_; }
@@ -92,7 +92,17 @@ class PlaybackModel : public PlaybackState {
   Q_INVOKABLE void presentSubtitleFilePanel();
 
   Q_INVOKABLE void togglePlayback();
+  /// Nothing while no file is loaded.
   void setPaused(bool paused);
+  /// A file that is still being opened, too.
+  void pauseWhatComes();
+  /// Takes the file out, and with it the engine's window.
+  void stop();
+  /// One picture back or forth, which pauses.
+  void stepFrame(int direction);
+  void setFullscreen(bool fullscreen);
+  /// Has the engine make its output anew, in the middle of a file.
+  void restartVideoOutput();
   /// By seconds, back or forth.
   Q_INVOKABLE void seekBy(double seconds);
   /// To exactly this second.
@@ -120,6 +130,8 @@ class PlaybackModel : public PlaybackState {
 
   /// By the number of the track or of the item that was last reported.
   Q_INVOKABLE void selectSubtitle(qint64 track);
+  /// From a local file, which is shown at once.
+  void addSubtitle(const QUrl& file);
   Q_INVOKABLE void turnSubtitlesOff();
   Q_INVOKABLE void selectAudio(qint64 track);
   Q_INVOKABLE void playQueueItem(qint64 item);

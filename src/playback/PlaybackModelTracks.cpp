@@ -1,4 +1,5 @@
 #include "engine/MpvValue.h"
+#include "platform/FilePath.h"
 #include "playback/PlaybackModel.h"
 #include "playback/TrackCycle.h"
 
@@ -11,6 +12,15 @@ void PlaybackModel::publishTracks(const MpvValue& list) {
 
 void PlaybackModel::selectSubtitle(qint64 track) {
   engine_.setProperty("sid", std::to_string(track));
+}
+
+void PlaybackModel::addSubtitle(const QUrl& file) {
+  engine_.command({"sub-add", pathFromFileUrl(file), "select"});
+}
+
+void PlaybackModel::setSubtitleLift(double percent) {
+  subtitleLift_ = percent;
+  engine_.setProperty("sub-pos", QString::number(100 - percent, 'f', 2).toStdString());
 }
 
 void PlaybackModel::turnSubtitlesOff() { engine_.setProperty("sid", "no"); }

@@ -23,6 +23,14 @@ void PlaybackModel::setPaused(bool paused) {
   if (isLoaded_) engine_.setProperty("pause", flagText(paused));
 }
 
+void PlaybackModel::pauseWhatComes() { engine_.setProperty("pause", flagText(true)); }
+
+void PlaybackModel::stop() { engine_.command({"stop"}); }
+
+void PlaybackModel::stepFrame(int direction) {
+  engine_.command({direction < 0 ? "frame-back-step" : "frame-step"});
+}
+
 void PlaybackModel::seek(double seconds, const char* how) {
   engine_.command({"seek", numberText(seconds), how});
 }

@@ -71,11 +71,9 @@ void normalSpeed(Player& player, PlaybackModel& playback) {
   tellSpeed(player, 1);
 }
 
-void nextFrame(Player&, PlaybackModel& playback) { playback.engine().command({"frame-step"}); }
+void nextFrame(Player&, PlaybackModel& playback) { playback.stepFrame(1); }
 
-void previousFrame(Player&, PlaybackModel& playback) {
-  playback.engine().command({"frame-back-step"});
-}
+void previousFrame(Player&, PlaybackModel& playback) { playback.stepFrame(-1); }
 
 void toggleLoop(Player& player, PlaybackModel& playback) {
   playback.toggleLoop();

@@ -1,7 +1,5 @@
 #include "player/PlayerWindowController.h"
 
-#include "platform/FilePath.h"
-#include "platform/NumberText.h"
 #include "playback/PlaybackModel.h"
 #include "player/DroppedFiles.h"
 
@@ -49,7 +47,7 @@ bool PlayerWindowController::playsWithoutWindow() const {
   return playback_.isLoaded() && !window_ && !awaitingVideo_ && !isStopping_ && !isReplacing_;
 }
 
-void PlayerWindowController::stopPlayback() { playback_.engine().command({"stop"}); }
+void PlayerWindowController::stopPlayback() { playback_.stop(); }
 
 void PlayerWindowController::scanWindows() {
   if (isTerminating_) return;
@@ -114,15 +112,13 @@ void PlayerWindowController::forgetWhenDestroyed(VideoWindow& window) {
 
 void PlayerWindowController::toggleFullscreen() {
   if (!window_) return;
-  playback_.engine().setProperty("fullscreen", flagText(!window_->isFullscreen()));
+  playback_.setFullscreen(!window_->isFullscreen());
 }
 
 void PlayerWindowController::restartVideo() {
   isReplacing_ = window_ && !isClosing_;
   setVideoReady(false);
-  // libmpv does it for a value that differs from the one before. This one means the same: the
-  // second is for where the first doesn't work.
-  playback_.engine().setProperty("vo", "gpu-next,gpu-next");
+  playback_.restartVideoOutput();
 }
 
 void PlayerWindowController::reveal() {
@@ -182,10 +178,10 @@ void PlayerWindowController::close() {
   if (!window_ || isClosing_) return;
   isClosing_ = true;
   awaitingVideo_ = false;
-  playback_.engine().setProperty("pause", flagText(true));
+  playback_.pauseWhatComes();
   hideTimer_.reset();
   if (!window_->isFullscreen()) return finishClose();
-  playback_.engine().setProperty("fullscreen", flagText(false));
+  playback_.setFullscreen(false);
   fullscreenExitFallback_ = clock_.after(kFullscreenExitFallback, [this] { finishClose(); });
 }
 
@@ -201,7 +197,7 @@ void PlayerWindowController::finishClose() {
 }
 
 void PlayerWindowController::stopAndTearDown() {
-  playback_.engine().command({"stop"});
+  playback_.stop();
   isStopping_ = true;
   tearDownWindowState();
 }
@@ -239,8 +235,7 @@ void PlayerWindowController::handleDroppedFiles(const QList<QUrl>& addresses) {
 
 void PlayerWindowController::takeDropped(const QList<QUrl>& dropped) {
   const DroppedFiles files = DroppedFiles::sort(dropped);
-  for (const QUrl& subtitle : files.subtitles)
-    playback_.engine().command({"sub-add", pathFromFileUrl(subtitle), "select"});
+  for (const QUrl& subtitle : files.subtitles) playback_.addSubtitle(subtitle);
   playback_.enqueue(files.videos);
   if (const QString toast = files.toast(); !toast.isEmpty()) showToast(toast);
 }

@@ -99,7 +99,6 @@ void PlayerWindowController::updateSubtitleLift() {
   const double lift = covered ? subtitleLift(overlay_->controlsTop(), overlay_->height()) : 0;
   if (std::abs(lift - playback_.subtitleLift()) <= kSubtitleLiftStep) return;
   playback_.setSubtitleLift(lift);
-  playback_.engine().setProperty("sub-pos", QString::number(100 - lift, 'f', 2).toStdString());
 }
 
 }  // namespace tromelo

@@ -1,6 +1,5 @@
 #include <cmath>
 
-#include "platform/NumberText.h"
 #include "playback/PlaybackModel.h"
 #include "player/CharacterKeys.h"
 #include "player/PlayerWindowController.h"
@@ -89,7 +88,7 @@ void PlayerWindowController::escape() {
   if (chrome_.showsSpeeds()) return chrome_.setShowsSpeeds(false);
   if (chrome_.panel()) return chrome_.setPanel(std::nullopt);
   if (!window_ || !window_->isFullscreen()) return close();
-  playback_.engine().setProperty("fullscreen", flagText(false));
+  playback_.setFullscreen(false);
 }
 
 void PlayerWindowController::adjustVolume(double percent) {
