@@ -490,245 +490,6 @@
     </message>
 </context>
 <context>
-    <name>PlayerShortcuts</name>
-    <message>
-        <source>Playback</source>
-        <translation>Wiedergabe</translation>
-    </message>
-    <message>
-        <source>Space</source>
-        <translation>Leertaste</translation>
-    </message>
-    <message>
-        <source>Play / pause</source>
-        <translation>Wiedergabe / Pause</translation>
-    </message>
-    <message>
-        <source>← / →</source>
-        <translation>← / →</translation>
-    </message>
-    <message>
-        <source>Back / forward 10 s</source>
-        <translation>10 s zurück / vor</translation>
-    </message>
-    <message>
-        <source>⇧← / ⇧→</source>
-        <translation>⇧← / ⇧→</translation>
-    </message>
-    <message>
-        <source>Back / forward 3 s</source>
-        <translation>3 s zurück / vor</translation>
-    </message>
-    <message>
-        <source>⌥← / ⌥→</source>
-        <translation>⌥← / ⌥→</translation>
-    </message>
-    <message>
-        <source>Back / forward 1 min</source>
-        <translation>1 min zurück / vor</translation>
-    </message>
-    <message>
-        <source>E</source>
-        <translation>E</translation>
-    </message>
-    <message>
-        <source>Next frame (pauses)</source>
-        <translation>Nächstes Einzelbild (pausiert)</translation>
-    </message>
-    <message>
-        <source>[  /  ]</source>
-        <translation>[  /  ]</translation>
-    </message>
-    <message>
-        <source>Slower / faster</source>
-        <translation>Langsamer / schneller</translation>
-    </message>
-    <message>
-        <source>=</source>
-        <translation>=</translation>
-    </message>
-    <message>
-        <source>Normal speed</source>
-        <translation>Normale Geschwindigkeit</translation>
-    </message>
-    <message>
-        <source>L</source>
-        <translation>L</translation>
-    </message>
-    <message>
-        <source>Loop current video</source>
-        <translation>Video wiederholen</translation>
-    </message>
-    <message>
-        <source>T</source>
-        <translation>T</translation>
-    </message>
-    <message>
-        <source>Show time</source>
-        <translation>Zeit anzeigen</translation>
-    </message>
-    <message>
-        <source>Queue &amp; chapters</source>
-        <translation>Warteschlange und Kapitel</translation>
-    </message>
-    <message>
-        <source>N / P</source>
-        <translation>N / P</translation>
-    </message>
-    <message>
-        <source>Next / previous in queue</source>
-        <translation>Nächstes / voriges Video</translation>
-    </message>
-    <message>
-        <source>⌘→ / ⌘←</source>
-        <translation>⌘→ / ⌘←</translation>
-    </message>
-    <message>
-        <source>⇧N / ⇧P</source>
-        <translation>⇧N / ⇧P</translation>
-    </message>
-    <message>
-        <source>Next / previous chapter</source>
-        <translation>Nächstes / voriges Kapitel</translation>
-    </message>
-    <message>
-        <source>C</source>
-        <translation>C</translation>
-    </message>
-    <message>
-        <source>Chapter list</source>
-        <translation>Kapitelliste</translation>
-    </message>
-    <message>
-        <source>Q</source>
-        <translation>Q</translation>
-    </message>
-    <message>
-        <source>Queue</source>
-        <translation>Warteschlange</translation>
-    </message>
-    <message>
-        <source>O / ⌘O</source>
-        <translation>O / ⌘O</translation>
-    </message>
-    <message>
-        <source>Open videos</source>
-        <translation>Videos öffnen</translation>
-    </message>
-    <message>
-        <source>Audio &amp; subtitles</source>
-        <translation>Ton und Untertitel</translation>
-    </message>
-    <message>
-        <source>↑ / ↓</source>
-        <translation>↑ / ↓</translation>
-    </message>
-    <message>
-        <source>Volume up / down</source>
-        <translation>Lauter / leiser</translation>
-    </message>
-    <message>
-        <source>Scroll</source>
-        <translation>Scrollen</translation>
-    </message>
-    <message>
-        <source>Volume</source>
-        <translation>Lautstärke</translation>
-    </message>
-    <message>
-        <source>M</source>
-        <translation>M</translation>
-    </message>
-    <message>
-        <source>Mute</source>
-        <translation>Stummschalten</translation>
-    </message>
-    <message>
-        <source>B</source>
-        <translation>B</translation>
-    </message>
-    <message>
-        <source>Next audio track</source>
-        <translation>Nächste Tonspur</translation>
-    </message>
-    <message>
-        <source>V</source>
-        <translation>V</translation>
-    </message>
-    <message>
-        <source>Next subtitle track (incl. off)</source>
-        <translation>Nächster Untertitel (auch aus)</translation>
-    </message>
-    <message>
-        <source>G / H</source>
-        <translation>G / H</translation>
-    </message>
-    <message>
-        <source>Subtitle delay −/+ 50 ms</source>
-        <translation>Untertitel −/+ 50 ms</translation>
-    </message>
-    <message>
-        <source>J / K</source>
-        <translation>J / K</translation>
-    </message>
-    <message>
-        <source>Audio delay −/+ 50 ms</source>
-        <translation>Ton −/+ 50 ms</translation>
-    </message>
-    <message>
-        <source>U</source>
-        <translation>U</translation>
-    </message>
-    <message>
-        <source>Subtitles &amp; audio panel</source>
-        <translation>Untertitel und Ton</translation>
-    </message>
-    <message>
-        <source>Window</source>
-        <translation>Fenster</translation>
-    </message>
-    <message>
-        <source>F, double-click</source>
-        <translation>F, Doppelklick</translation>
-    </message>
-    <message>
-        <source>Full screen</source>
-        <translation>Vollbild</translation>
-    </message>
-    <message>
-        <source>Esc</source>
-        <translation>Esc</translation>
-    </message>
-    <message>
-        <source>Close panel, leave full screen, or close player</source>
-        <translation>Leiste, Vollbild oder Player schließen</translation>
-    </message>
-    <message>
-        <source>S, ⌘W</source>
-        <translation>S, ⌘W</translation>
-    </message>
-    <message>
-        <source>Stop and close player</source>
-        <translation>Anhalten und Player schließen</translation>
-    </message>
-    <message>
-        <source>I</source>
-        <translation>I</translation>
-    </message>
-    <message>
-        <source>Playback info</source>
-        <translation>Wiedergabeinfo</translation>
-    </message>
-    <message>
-        <source>?</source>
-        <translation>?</translation>
-    </message>
-    <message>
-        <source>This list</source>
-        <translation>Diese Liste</translation>
-    </message>
-</context>
-<context>
     <name>PlayerShortcutsPanel</name>
     <message>
         <source>Keyboard Shortcuts</source>
@@ -1108,6 +869,357 @@
     </message>
 </context>
 <context>
+    <name>tromelo::PlayerActions</name>
+    <message>
+        <source>No chapters</source>
+        <translation type="unfinished">Keine Kapitel</translation>
+    </message>
+    <message>
+        <source>Speed %1</source>
+        <translation type="unfinished">Geschwindigkeit %1</translation>
+    </message>
+    <message>
+        <source>Loop on</source>
+        <translation type="unfinished">Wiederholung an</translation>
+    </message>
+    <message>
+        <source>Loop off</source>
+        <translation type="unfinished">Wiederholung aus</translation>
+    </message>
+    <message>
+        <source>Chapter: %1</source>
+        <translation type="unfinished">Kapitel: %1</translation>
+    </message>
+    <message>
+        <source>No next chapter</source>
+        <translation type="unfinished">Kein nächstes Kapitel</translation>
+    </message>
+    <message>
+        <source>No previous chapter</source>
+        <translation type="unfinished">Kein voriges Kapitel</translation>
+    </message>
+    <message>
+        <source>Muted</source>
+        <translation type="unfinished">Stummgeschaltet</translation>
+    </message>
+    <message>
+        <source>Subtitle delay %1</source>
+        <translation type="unfinished">Untertitel-Versatz %1</translation>
+    </message>
+    <message>
+        <source>Audio delay %1</source>
+        <translation type="unfinished">Ton-Versatz %1</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation type="unfinished">Wiedergabe</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation type="unfinished">Leertaste</translation>
+    </message>
+    <message>
+        <source>Play / pause</source>
+        <translation type="unfinished">Wiedergabe / Pause</translation>
+    </message>
+    <message>
+        <source>Play (Space)</source>
+        <translation type="unfinished">Wiedergabe (Leertaste)</translation>
+    </message>
+    <message>
+        <source>Pause (Space)</source>
+        <translation type="unfinished">Pause (Leertaste)</translation>
+    </message>
+    <message>
+        <source>← / →</source>
+        <translation type="unfinished">← / →</translation>
+    </message>
+    <message>
+        <source>Back / forward 10 s</source>
+        <translation type="unfinished">10 s zurück / vor</translation>
+    </message>
+    <message>
+        <source>Back 10 seconds (←)</source>
+        <translation type="unfinished">10 Sekunden zurück (←)</translation>
+    </message>
+    <message>
+        <source>Forward 10 seconds (→)</source>
+        <translation type="unfinished">10 Sekunden vor (→)</translation>
+    </message>
+    <message>
+        <source>⇧← / ⇧→</source>
+        <translation type="unfinished">⇧← / ⇧→</translation>
+    </message>
+    <message>
+        <source>Back / forward 3 s</source>
+        <translation type="unfinished">3 s zurück / vor</translation>
+    </message>
+    <message>
+        <source>⌥← / ⌥→</source>
+        <translation type="unfinished">⌥← / ⌥→</translation>
+    </message>
+    <message>
+        <source>Back / forward 1 min</source>
+        <translation type="unfinished">1 min zurück / vor</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <translation type="unfinished">E</translation>
+    </message>
+    <message>
+        <source>Next frame (pauses)</source>
+        <translation type="unfinished">Nächstes Einzelbild (pausiert)</translation>
+    </message>
+    <message>
+        <source>[  /  ]</source>
+        <translation type="unfinished">[  /  ]</translation>
+    </message>
+    <message>
+        <source>Slower / faster</source>
+        <translation type="unfinished">Langsamer / schneller</translation>
+    </message>
+    <message>
+        <source>Playback speed ([ and ])</source>
+        <translation type="unfinished">Wiedergabegeschwindigkeit ([ und ])</translation>
+    </message>
+    <message>
+        <source>=</source>
+        <translation type="unfinished">=</translation>
+    </message>
+    <message>
+        <source>Normal speed</source>
+        <translation type="unfinished">Normale Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>L</source>
+        <translation type="unfinished">L</translation>
+    </message>
+    <message>
+        <source>Loop current video</source>
+        <translation type="unfinished">Video wiederholen</translation>
+    </message>
+    <message>
+        <source>T</source>
+        <translation type="unfinished">T</translation>
+    </message>
+    <message>
+        <source>Show time</source>
+        <translation type="unfinished">Zeit anzeigen</translation>
+    </message>
+    <message>
+        <source>Queue &amp; chapters</source>
+        <translation type="unfinished">Warteschlange und Kapitel</translation>
+    </message>
+    <message>
+        <source>N / P</source>
+        <translation type="unfinished">N / P</translation>
+    </message>
+    <message>
+        <source>Next / previous in queue</source>
+        <translation type="unfinished">Nächstes / voriges Video</translation>
+    </message>
+    <message>
+        <source>Next (N)</source>
+        <translation type="unfinished">Nächstes (N)</translation>
+    </message>
+    <message>
+        <source>Previous (P)</source>
+        <translation type="unfinished">Voriges (P)</translation>
+    </message>
+    <message>
+        <source>⌘→ / ⌘←</source>
+        <translation type="unfinished">⌘→ / ⌘←</translation>
+    </message>
+    <message>
+        <source>⇧N / ⇧P</source>
+        <translation type="unfinished">⇧N / ⇧P</translation>
+    </message>
+    <message>
+        <source>Next / previous chapter</source>
+        <translation type="unfinished">Nächstes / voriges Kapitel</translation>
+    </message>
+    <message>
+        <source>C</source>
+        <translation type="unfinished">C</translation>
+    </message>
+    <message>
+        <source>Chapter list</source>
+        <translation type="unfinished">Kapitelliste</translation>
+    </message>
+    <message>
+        <source>Chapters (C)</source>
+        <translation type="unfinished">Kapitel (C)</translation>
+    </message>
+    <message>
+        <source>Q</source>
+        <translation type="unfinished">Q</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation type="unfinished">Warteschlange</translation>
+    </message>
+    <message>
+        <source>Queue (Q)</source>
+        <translation type="unfinished">Warteschlange (Q)</translation>
+    </message>
+    <message>
+        <source>O / ⌘O</source>
+        <translation type="unfinished">O / ⌘O</translation>
+    </message>
+    <message>
+        <source>Open videos</source>
+        <translation type="unfinished">Videos öffnen</translation>
+    </message>
+    <message>
+        <source>Audio &amp; subtitles</source>
+        <translation type="unfinished">Ton und Untertitel</translation>
+    </message>
+    <message>
+        <source>↑ / ↓</source>
+        <translation type="unfinished">↑ / ↓</translation>
+    </message>
+    <message>
+        <source>Volume up / down</source>
+        <translation type="unfinished">Lauter / leiser</translation>
+    </message>
+    <message>
+        <source>Scroll</source>
+        <translation type="unfinished">Scrollen</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation type="unfinished">Lautstärke</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation type="unfinished">M</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation type="unfinished">Stummschalten</translation>
+    </message>
+    <message>
+        <source>Mute (M)</source>
+        <translation type="unfinished">Stummschalten (M)</translation>
+    </message>
+    <message>
+        <source>Unmute (M)</source>
+        <translation type="unfinished">Stummschaltung aufheben (M)</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation type="unfinished">B</translation>
+    </message>
+    <message>
+        <source>Next audio track</source>
+        <translation type="unfinished">Nächste Tonspur</translation>
+    </message>
+    <message>
+        <source>V</source>
+        <translation type="unfinished">V</translation>
+    </message>
+    <message>
+        <source>Next subtitle track (incl. off)</source>
+        <translation type="unfinished">Nächster Untertitel (auch aus)</translation>
+    </message>
+    <message>
+        <source>G / H</source>
+        <translation type="unfinished">G / H</translation>
+    </message>
+    <message>
+        <source>Subtitle delay −/+ 50 ms</source>
+        <translation type="unfinished">Untertitel −/+ 50 ms</translation>
+    </message>
+    <message>
+        <source>J / K</source>
+        <translation type="unfinished">J / K</translation>
+    </message>
+    <message>
+        <source>Audio delay −/+ 50 ms</source>
+        <translation type="unfinished">Ton −/+ 50 ms</translation>
+    </message>
+    <message>
+        <source>U</source>
+        <translation type="unfinished">U</translation>
+    </message>
+    <message>
+        <source>Subtitles &amp; audio panel</source>
+        <translation type="unfinished">Untertitel und Ton</translation>
+    </message>
+    <message>
+        <source>Subtitles &amp; audio (U)</source>
+        <translation type="unfinished">Untertitel und Ton (U)</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation type="unfinished">Fenster</translation>
+    </message>
+    <message>
+        <source>F, double-click</source>
+        <translation type="unfinished">F, Doppelklick</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation type="unfinished">Vollbild</translation>
+    </message>
+    <message>
+        <source>Full screen (F)</source>
+        <translation type="unfinished">Vollbild (F)</translation>
+    </message>
+    <message>
+        <source>Exit full screen (F)</source>
+        <translation type="unfinished">Vollbild verlassen (F)</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation type="unfinished">Esc</translation>
+    </message>
+    <message>
+        <source>Close panel, leave full screen, or close player</source>
+        <translation type="unfinished">Leiste, Vollbild oder Player schließen</translation>
+    </message>
+    <message>
+        <source>Close player (Esc)</source>
+        <translation type="unfinished">Player schließen (Esc)</translation>
+    </message>
+    <message>
+        <source>Close (Esc)</source>
+        <translation type="unfinished">Schließen (Esc)</translation>
+    </message>
+    <message>
+        <source>S, ⌘W</source>
+        <translation type="unfinished">S, ⌘W</translation>
+    </message>
+    <message>
+        <source>Stop and close player</source>
+        <translation type="unfinished">Anhalten und Player schließen</translation>
+    </message>
+    <message>
+        <source>I</source>
+        <translation type="unfinished">I</translation>
+    </message>
+    <message>
+        <source>Playback info</source>
+        <translation type="unfinished">Wiedergabeinfo</translation>
+    </message>
+    <message>
+        <source>Playback info (I)</source>
+        <translation type="unfinished">Wiedergabeinfo (I)</translation>
+    </message>
+    <message>
+        <source>?</source>
+        <translation type="unfinished">?</translation>
+    </message>
+    <message>
+        <source>This list</source>
+        <translation type="unfinished">Diese Liste</translation>
+    </message>
+    <message>
+        <source>Volume %1%</source>
+        <translation type="unfinished">Lautstärke %1 %</translation>
+    </message>
+</context>
+<context>
     <name>tromelo::PlayerSettings</name>
     <message>
         <source>1 second</source>
@@ -1152,53 +1264,6 @@
     <message>
         <source>Light green</source>
         <translation>Hellgrün</translation>
-    </message>
-</context>
-<context>
-    <name>tromelo::PlayerWindowController</name>
-    <message>
-        <source>No chapters</source>
-        <translation>Keine Kapitel</translation>
-    </message>
-    <message>
-        <source>Muted</source>
-        <translation>Stummgeschaltet</translation>
-    </message>
-    <message>
-        <source>Chapter: %1</source>
-        <translation>Kapitel: %1</translation>
-    </message>
-    <message>
-        <source>No next chapter</source>
-        <translation>Kein nächstes Kapitel</translation>
-    </message>
-    <message>
-        <source>No previous chapter</source>
-        <translation>Kein voriges Kapitel</translation>
-    </message>
-    <message>
-        <source>Speed %1</source>
-        <translation>Geschwindigkeit %1</translation>
-    </message>
-    <message>
-        <source>Loop on</source>
-        <translation>Wiederholung an</translation>
-    </message>
-    <message>
-        <source>Loop off</source>
-        <translation>Wiederholung aus</translation>
-    </message>
-    <message>
-        <source>Subtitle delay %1</source>
-        <translation>Untertitel-Versatz %1</translation>
-    </message>
-    <message>
-        <source>Audio delay %1</source>
-        <translation>Ton-Versatz %1</translation>
-    </message>
-    <message>
-        <source>Volume %1%</source>
-        <translation>Lautstärke %1 %</translation>
     </message>
 </context>
 </TS>

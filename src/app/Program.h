@@ -11,7 +11,7 @@
 #include "app/DialogFileChooser.h"
 #include "app/StateReport.h"
 #include "app/TerminationSignals.h"
-#include "controls/Commands.h"
+#include "player/Commands.h"
 #include "display/PrivateDisplay.h"
 #include "display/SceneDrawing.h"
 #include "mpris/MprisService.h"

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Tromelo.Controls
+import Tromelo.Player
 
 // The program's commands, at the top of its home.
 CommandMenuBar {

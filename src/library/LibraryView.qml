@@ -20,13 +20,7 @@ FocusScope {
     onHasPlayersKeysChanged: if (hasPlayersKeys)
         content.forceActiveFocus()
 
-    Keys.enabled: hasPlayersKeys
-    Keys.onSpacePressed: playback.togglePlayback()
-    Keys.onEscapePressed: player.stopPlayback()
-    Keys.onLeftPressed: playback.seekBy(-10)
-    Keys.onRightPressed: playback.seekBy(10)
-    Keys.onUpPressed: playback.setVolume(playback.volume + 5)
-    Keys.onDownPressed: playback.setVolume(playback.volume - 5)
+    Keys.onPressed: event => event.accepted = player.handleLibraryKey(event.key, event.modifiers, event.isAutoRepeat)
 
     Item {
         id: content

@@ -5,7 +5,7 @@
 #include <QEvent>
 #include <QQmlComponent>
 
-#include "controls/Commands.h"
+#include "player/Commands.h"
 #include "playback/PlaybackModel.h"
 #include "player/PlayerWindowController.h"
 

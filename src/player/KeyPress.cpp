@@ -1,8 +1,5 @@
 #include "player/KeyPress.h"
 
-#include <QKeyEvent>
-#include <algorithm>
-
 namespace tromelo {
 
 namespace {
@@ -52,8 +49,6 @@ QString charactersOf(const QKeyEvent& event) {
 }  // namespace
 
 KeyPress KeyPress::from(const QKeyEvent& event) {
-  constexpr auto kModifiers =
-      Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
   return {Qt::Key(event.key()), event.modifiers() & kModifiers, charactersOf(event),
           event.isAutoRepeat()};
 }

@@ -6,7 +6,6 @@
 
 #include "display/EngineWindowItem.h"
 #include "player/EdgeResize.h"
-#include "player/HeldKey.h"
 #include "player/KeyPress.h"
 #include "player/PlayerOverlay.h"
 #include "player/WindowFade.h"

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QCoreApplication>
+#include <QFont>
 #include <QList>
-#include <QMetaType>
 #include <QObject>
 #include <QString>
 
@@ -34,17 +33,20 @@ class ShortcutGroup {
   friend bool operator==(const ShortcutGroup&, const ShortcutGroup&) = default;
 };
 
-/// What is told of the player's keys. It describes; what they do is decided where they are pressed.
-class PlayerShortcuts {
-  Q_DECLARE_TR_FUNCTIONS(PlayerShortcuts)
+/// What people are told of the keys in PlayerActions.
+namespace PlayerShortcuts {
 
- public:
-  PlayerShortcuts() = delete;
+/// The fixed texts.
+QList<ShortcutGroup> groups();
 
-  /// The fixed texts.
-  static const QList<ShortcutGroup> groups;
-  /// The same in the person's language, with the keys' names on this platform.
-  static QList<ShortcutGroup> shownGroups();
-};
+/// The same in the person's language, with the keys' names on this platform.
+QList<ShortcutGroup> shownGroups();
+
+/// How much of a column the keys take, the same for all groups: `least`, or more where their names
+/// are longer, but at most half of the column. Lengths in points.
+double keysWidth(const QList<ShortcutGroup>& groups, const QFont& font, double least,
+                 double column);
+
+}  // namespace PlayerShortcuts
 
 }  // namespace tromelo

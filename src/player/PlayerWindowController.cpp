@@ -1,7 +1,6 @@
 #include "player/PlayerWindowController.h"
 
 #include "playback/PlaybackModel.h"
-#include "player/DroppedFiles.h"
 
 namespace tromelo {
 
@@ -72,7 +71,7 @@ void PlayerWindowController::adopt(VideoWindow& window) {
   isFadingOut_ = false;
   isReplacing_ = false;
   installOverlay(window);
-  installKeyMonitor();
+  window.setKeyMonitor([this](const KeyPress& press) { return handleKey(press); });
   observe(window);
   updateDisplay();
   Q_EMIT windowStateChanged();
@@ -108,11 +107,6 @@ void PlayerWindowController::observe(VideoWindow& window) {
 void PlayerWindowController::forgetWhenDestroyed(VideoWindow& window) {
   connect(&window, &QObject::destroyed, this,
           [this](QObject* gone) { adoptedWindows_.remove(gone); });
-}
-
-void PlayerWindowController::toggleFullscreen() {
-  if (!window_) return;
-  playback_.setFullscreen(!window_->isFullscreen());
 }
 
 void PlayerWindowController::restartVideo() {
@@ -227,17 +221,6 @@ void PlayerWindowController::giveUp(VideoWindow& window) {
   window.setKeyMonitor({});
   window.showPointer();
   window.orderOut();
-}
-
-void PlayerWindowController::handleDroppedFiles(const QList<QUrl>& addresses) {
-  playback_.withLocalFiles(addresses, [this](const QList<QUrl>& files) { takeDropped(files); });
-}
-
-void PlayerWindowController::takeDropped(const QList<QUrl>& dropped) {
-  const DroppedFiles files = DroppedFiles::sort(dropped);
-  for (const QUrl& subtitle : files.subtitles) playback_.addSubtitle(subtitle);
-  playback_.enqueue(files.videos);
-  if (const QString toast = files.toast(); !toast.isEmpty()) showToast(toast);
 }
 
 void PlayerWindowController::prepareForTermination() {

@@ -50,11 +50,13 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   void handleDroppedFiles(const QList<QUrl>& addresses);
   /// By percent points, up or down, with a toast.
   void adjustVolume(double percent);
-  QString volumeText() const;
+  /// One step back: out of a panel, of full screen, of the player.
+  void escape();
   /// Does what the key is for, and shows the controls; false when it is not the player's.
   bool handleKey(const KeyPress& press);
-  /// The part of it for keys that are known by what they type.
-  bool handleCharacter(const QString& characters, bool isRepeat = false);
+  /// The same in the library while playsWithoutWindow, for the keys that work there. `modifiers`
+  /// are Qt::KeyboardModifiers.
+  Q_INVOKABLE bool handleLibraryKey(int key, int modifiers, bool isRepeat);
   /// Before the engine is destroyed: drops all window state and watches for no more windows.
   void prepareForTermination();
 
@@ -86,12 +88,6 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   void tearDownWindowState();
   void giveUp(VideoWindow& window);
   void takeDropped(const QList<QUrl>& dropped);
-
-  void installKeyMonitor();
-  bool handleCommandKey(const KeyPress& press);
-  bool handlePlainKey(const KeyPress& press);
-  /// One step back: out of a panel, of full screen, of the player.
-  void escape();
 
   // The controls: when they are shown, and what follows from that.
   void followState();

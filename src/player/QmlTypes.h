@@ -7,7 +7,6 @@
 #include "player/PlayerChrome.h"
 #include "player/PlayerShortcuts.h"
 #include "player/PlayerWindowController.h"
-#include "player/ShortcutKeysWidth.h"
 
 namespace tromelo {
 
@@ -94,7 +93,7 @@ class PlayerShortcutsForQml : public QObject {
   static QList<ShortcutGroup> groups() { return PlayerShortcuts::shownGroups(); }
   Q_INVOKABLE static double keysWidth(const QList<tromelo::ShortcutGroup>& groups,
                                       const QFont& font, double least, double column) {
-    return shortcutKeysWidth(groups, font, least, column);
+    return PlayerShortcuts::keysWidth(groups, font, least, column);
   }
 };
 

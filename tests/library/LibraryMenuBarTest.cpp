@@ -7,7 +7,7 @@
 #include <QTest>
 #include <utility>
 
-#include "controls/Commands.h"
+#include "player/Commands.h"
 #include "support/WaitFor.h"
 
 namespace tromelo {

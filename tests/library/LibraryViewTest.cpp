@@ -4,7 +4,7 @@
 #include <QMimeData>
 #include <semaphore>
 
-#include "controls/Commands.h"
+#include "player/Commands.h"
 #include "library/LibraryWindow.h"
 #include "library/SidebarWidth.h"
 #include "overlay/ViewTest.h"

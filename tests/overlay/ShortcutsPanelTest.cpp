@@ -50,7 +50,7 @@ TEST_F(ShortcutsPanelTest, ListsTheKeysInTwoColumns) {
             QFont::AllUppercase);
   for (const int count : {3, 2, 1}) {
     SCOPED_TRACE(count);
-    showPanel({{"groups", QVariant::fromValue(PlayerShortcuts::groups.first(count))}});
+    showPanel({{"groups", QVariant::fromValue(PlayerShortcuts::groups().first(count))}});
     EXPECT_EQ(textsOf("shortcutsTitle", "shortcutsLeft").size(), std::min(count, 2));
     EXPECT_EQ(textsOf("shortcutsTitle", "shortcutsRight").size(), std::max(count - 2, 0));
     EXPECT_EQ(item("shortcutsLeft")->width(), 284);

@@ -1,4 +1,4 @@
-#include "player/HeldKey.h"
+#include "player/KeyPress.h"
 
 #include <gtest/gtest.h>
 

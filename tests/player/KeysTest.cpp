@@ -190,7 +190,7 @@ TEST_F(KeysTest, WhateverIsListedIsAKeyOfThePlayer) {
   const QStringList others{QStringLiteral("Scroll"), QStringLiteral("double-click"),
                            QStringLiteral("⌘O")};
   static const QRegularExpression between(QStringLiteral("\\s*[/,]\\s*"));
-  for (const ShortcutGroup& group : PlayerShortcuts::groups)
+  for (const ShortcutGroup& group : PlayerShortcuts::groups())
     for (const Shortcut& shortcut : group.items)
       for (const QString& keys : shortcut.keys.split(between)) {
         if (others.contains(keys)) continue;

@@ -1,11 +1,28 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
+#include <QKeySequence>
 #include <QObject>
+#include <functional>
 
-#include "controls/Command.h"
+#include "player/PlayerActions.h"
 
 namespace tromelo {
+
+/// Something that the program as a whole does, with its key in every window.
+class Command {
+  Q_GADGET
+  QML_VALUE_TYPE(command)
+  Q_PROPERTY(QString keys READ keys CONSTANT)
+
+ public:
+  QKeySequence key;  // none for what only menus offer
+  std::function<void()> action;
+
+  /// The key as people read it.
+  QString keys() const { return key.toString(QKeySequence::NativeText); }
+  Q_INVOKABLE void run() const { action(); }
+};
 
 /// What the program as a whole can be told to do, for menus, and by its keys whichever of our
 /// windows has the keyboard. Main thread only.
@@ -35,10 +52,10 @@ class Commands : public QObject {
   /// Listens to the application object from now on.
   explicit Commands(Actions actions);
 
-  Command open() const { return {Qt::CTRL | Qt::Key_O, actions_.open}; }
-  Command quit() const { return {Qt::CTRL | Qt::Key_Q, actions_.quit}; }
-  Command settings() const { return {Qt::CTRL | Qt::Key_Comma, actions_.showSettings}; }
-  Command library() const { return {Qt::CTRL | Qt::SHIFT | Qt::Key_L, actions_.showLibrary}; }
+  Command open() const { return {key(Program::open), actions_.open}; }
+  Command quit() const { return {key(Program::quit), actions_.quit}; }
+  Command settings() const { return {key(Program::settings), actions_.showSettings}; }
+  Command library() const { return {key(Program::library), actions_.showLibrary}; }
   Command shortcuts() const { return {{}, actions_.showShortcuts}; }
   Command about() const { return {{}, actions_.showAbout}; }
 
@@ -46,6 +63,9 @@ class Commands : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  using Program = PlayerActions::Program;
+  static QKeySequence key(Program command) { return PlayerActions::programKey(command); }
+
   const Actions actions_;
 };
 

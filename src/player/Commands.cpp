@@ -1,4 +1,4 @@
-#include "controls/Commands.h"
+#include "player/Commands.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>

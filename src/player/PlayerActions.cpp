@@ -1,0 +1,363 @@
+#include "player/PlayerActions.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+
+#include "playback/PlaybackModel.h"
+#include "player/PlayerFormats.h"
+#include "player/PlayerWindowController.h"
+
+namespace tromelo {
+
+namespace {
+
+using Player = PlayerWindowController;
+using Key = PlayerActions::Key;
+using Held = PlayerActions::Held;
+using Program = PlayerActions::Program;
+
+constexpr auto kShift = Qt::ShiftModifier;
+constexpr auto kControl = Qt::ControlModifier;
+constexpr auto kAlt = Qt::AltModifier;
+
+constexpr double kShortSeek = 3;  // seconds
+constexpr double kLongSeek = 60;
+
+/// A key that types one of `characters`, capitals by themselves.
+constexpr Key typed(QStringView characters) { return {.characters = characters, .anyway = kShift}; }
+
+constexpr Key exactly(Qt::KeyboardModifiers modifiers, Qt::Key key) {
+  return {.key = key, .modifiers = modifiers};
+}
+
+/// Whether Shift or Alt is down or not.
+constexpr Key anyhow(Qt::Key key) { return {.key = key, .anyway = kShift | kAlt}; }
+
+/// A method of the model or of the controller that has no arguments; what it returns is the toast.
+template <auto method>
+QString run(Player& player, PlaybackModel& playback) {
+  const auto call = [&]() -> decltype(auto) {
+    if constexpr (std::is_invocable_v<decltype(method), PlaybackModel&>)
+      return std::invoke(method, playback);
+    else
+      return std::invoke(method, player);
+  };
+  if constexpr (std::is_same_v<decltype(call()), QString>) return call();
+  call();
+  return {};
+}
+
+template <PlayerPanel panel>
+QString toggle(Player& player, PlaybackModel&) {
+  player.chrome().toggle(panel);
+  return {};
+}
+
+QString toggleChapters(Player& player, PlaybackModel& playback) {
+  if (playback.chapters().isEmpty()) return PlayerActions::tr("No chapters");
+  return toggle<PlayerPanel::chapters>(player, playback);
+}
+
+QString toggleInfo(Player& player, PlaybackModel&) {
+  player.chrome().setShowsInfo(!player.chrome().showsInfo());
+  return {};
+}
+
+template <double seconds>
+QString seek(Player&, PlaybackModel& playback) {
+  playback.seekBy(seconds);
+  return {};
+}
+
+template <int frames>
+QString stepFrame(Player&, PlaybackModel& playback) {
+  playback.stepFrame(frames);
+  return {};
+}
+
+QString speedText(double speed) { return PlayerActions::tr("Speed %1").arg(formatSpeed(speed)); }
+
+template <int steps>
+QString stepSpeed(Player&, PlaybackModel& playback) {
+  return speedText(playback.stepSpeed(steps));
+}
+
+QString resetSpeed(Player&, PlaybackModel& playback) {
+  playback.setSpeed(1);
+  return speedText(1);
+}
+
+QString toggleLoop(Player&, PlaybackModel& playback) {
+  playback.toggleLoop();
+  return playback.isLooping() ? PlayerActions::tr("Loop on") : PlayerActions::tr("Loop off");
+}
+
+QString tellTime(Player&, PlaybackModel& playback) {
+  return formatClock(playback.elapsed()) + QStringLiteral(" / ") + formatClock(playback.duration());
+}
+
+template <int steps>
+QString stepChapter(Player&, PlaybackModel& playback) {
+  if (const auto chapter = playback.stepChapter(steps))
+    return PlayerActions::tr("Chapter: %1").arg(chapter->title);
+  return steps > 0 ? PlayerActions::tr("No next chapter")
+                   : PlayerActions::tr("No previous chapter");
+}
+
+template <int steps>
+QString stepVolume(Player&, PlaybackModel& playback) {
+  playback.setVolume(playback.volume() + steps * PlayerActions::volumeStep());
+  return PlayerActions::volumeText(playback);
+}
+
+QString toggleMute(Player&, PlaybackModel& playback) {
+  playback.toggleMute();
+  return playback.isMuted() ? PlayerActions::tr("Muted") : PlayerActions::volumeText(playback);
+}
+
+template <int steps>
+QString stepSubtitleDelay(Player&, PlaybackModel& playback) {
+  playback.setSubtitleDelay(playback.subtitleDelay() + steps * PlayerActions::delayStep());
+  return PlayerActions::tr("Subtitle delay %1").arg(formatDelay(playback.subtitleDelay()));
+}
+
+template <int steps>
+QString stepAudioDelay(Player&, PlaybackModel& playback) {
+  playback.setAudioDelay(playback.audioDelay() + steps * PlayerActions::delayStep());
+  return PlayerActions::tr("Audio delay %1").arg(formatDelay(playback.audioDelay()));
+}
+
+bool repeats(Held held, const PlaybackModel& playback) {
+  return held == Held::again || (held == Held::whenPaused && playback.isPaused());
+}
+
+const PlayerActions::Action* firstOf(const auto& isIt) {
+  for (const PlayerActions::Group& group : PlayerActions::groups)
+    for (const PlayerActions::Line& line : group.lines)
+      for (const PlayerActions::Action& action : line.actions)
+        if (isIt(action)) return &action;
+  return nullptr;
+}
+
+}  // namespace
+
+const std::vector<PlayerActions::Group> PlayerActions::groups{
+    {QT_TR_NOOP("Playback"),
+     {
+         {QT_TR_NOOP("Space"),
+          QT_TR_NOOP("Play / pause"),
+          {{.keys = {anyhow(Qt::Key_Space)},
+            .act = run<&PlaybackModel::togglePlayback>,
+            .withoutWindow = true,
+            .button = PlayPause,
+            .tip = QT_TR_NOOP("Play (Space)"),
+            .tipWhenOn = QT_TR_NOOP("Pause (Space)")}}},
+         {QT_TR_NOOP("← / →"),
+          QT_TR_NOOP("Back / forward 10 s"),
+          {{.keys = {exactly({}, Qt::Key_Left)},
+            .act = seek<-seekStep()>,
+            .held = Held::again,
+            .withoutWindow = true,
+            .button = Back,
+            .tip = QT_TR_NOOP("Back 10 seconds (←)")},
+           {.keys = {exactly({}, Qt::Key_Right)},
+            .act = seek<seekStep()>,
+            .held = Held::again,
+            .withoutWindow = true,
+            .button = Forward,
+            .tip = QT_TR_NOOP("Forward 10 seconds (→)")}}},
+         {QT_TR_NOOP("⇧← / ⇧→"),
+          QT_TR_NOOP("Back / forward 3 s"),
+          {{.keys = {exactly(kShift, Qt::Key_Left)},
+            .act = seek<-kShortSeek>,
+            .held = Held::again,
+            .withoutWindow = true},
+           {.keys = {exactly(kShift, Qt::Key_Right)},
+            .act = seek<kShortSeek>,
+            .held = Held::again,
+            .withoutWindow = true}}},
+         {QT_TR_NOOP("⌥← / ⌥→"),
+          QT_TR_NOOP("Back / forward 1 min"),
+          {{.keys = {{.key = Qt::Key_Left, .modifiers = kAlt, .anyway = kShift}},
+            .act = seek<-kLongSeek>,
+            .held = Held::again,
+            .withoutWindow = true},
+           {.keys = {{.key = Qt::Key_Right, .modifiers = kAlt, .anyway = kShift}},
+            .act = seek<kLongSeek>,
+            .held = Held::again,
+            .withoutWindow = true}}},
+         {QT_TR_NOOP("E"),
+          QT_TR_NOOP("Next frame (pauses)"),
+          {{.keys = {typed(u"e")}, .act = stepFrame<1>, .held = Held::whenPaused},
+           {.keys = {typed(u"E")}, .act = stepFrame<-1>, .held = Held::whenPaused}}},
+         {QT_TR_NOOP("[  /  ]"),
+          QT_TR_NOOP("Slower / faster"),
+          {{.keys = {typed(u"[")}, .act = stepSpeed<-1>, .held = Held::again},
+           {.keys = {typed(u"]")},
+            .act = stepSpeed<1>,
+            .held = Held::again,
+            .button = Speed,
+            .tip = QT_TR_NOOP("Playback speed ([ and ])")}}},
+         {QT_TR_NOOP("="),
+          QT_TR_NOOP("Normal speed"),
+          {{.keys = {typed(u"=")}, .act = resetSpeed}}},
+         {QT_TR_NOOP("L"),
+          QT_TR_NOOP("Loop current video"),
+          {{.keys = {typed(u"lL")}, .act = toggleLoop}}},
+         {QT_TR_NOOP("T"),
+          QT_TR_NOOP("Show time"),
+          {{.keys = {typed(u"tT")}, .act = tellTime, .held = Held::again}}},
+     }},
+    {QT_TR_NOOP("Queue & chapters"),
+     {
+         {QT_TR_NOOP("N / P"),
+          QT_TR_NOOP("Next / previous in queue"),
+          {{.keys = {typed(u"n")},
+            .act = run<&PlaybackModel::playNext>,
+            .button = Next,
+            .tip = QT_TR_NOOP("Next (N)")},
+           {.keys = {typed(u"p")},
+            .act = run<&PlaybackModel::playPrevious>,
+            .button = Previous,
+            .tip = QT_TR_NOOP("Previous (P)")}}},
+         {QT_TR_NOOP("⌘→ / ⌘←"),
+          QT_TR_NOOP("Next / previous in queue"),
+          {{.keys = {exactly(kControl, Qt::Key_Right)}, .act = run<&PlaybackModel::playNext>},
+           {.keys = {exactly(kControl, Qt::Key_Left)}, .act = run<&PlaybackModel::playPrevious>}}},
+         {QT_TR_NOOP("⇧N / ⇧P"),
+          QT_TR_NOOP("Next / previous chapter"),
+          {{.keys = {typed(u"N")}, .act = stepChapter<1>},
+           {.keys = {typed(u"P")}, .act = stepChapter<-1>}}},
+         {QT_TR_NOOP("C"),
+          QT_TR_NOOP("Chapter list"),
+          {{.keys = {typed(u"cC")},
+            .act = toggleChapters,
+            .button = Chapters,
+            .tip = QT_TR_NOOP("Chapters (C)")}}},
+         {QT_TR_NOOP("Q"),
+          QT_TR_NOOP("Queue"),
+          {{.keys = {typed(u"qQ")},
+            .act = toggle<PlayerPanel::queue>,
+            .button = Queue,
+            .tip = QT_TR_NOOP("Queue (Q)")}}},
+         {QT_TR_NOOP("O / ⌘O"),
+          QT_TR_NOOP("Open videos"),
+          {{.keys = {typed(u"oO")}, .act = run<&PlaybackModel::presentOpenPanel>},
+           {.keys = {exactly(kControl, Qt::Key_O)}, .program = Program::open}}},
+     }},
+    {QT_TR_NOOP("Audio & subtitles"),
+     {
+         {QT_TR_NOOP("↑ / ↓"),
+          QT_TR_NOOP("Volume up / down"),
+          {{.keys = {anyhow(Qt::Key_Up), exactly(kControl, Qt::Key_Up)},
+            .act = stepVolume<1>,
+            .held = Held::again,
+            .withoutWindow = true},
+           {.keys = {anyhow(Qt::Key_Down), exactly(kControl, Qt::Key_Down)},
+            .act = stepVolume<-1>,
+            .held = Held::again,
+            .withoutWindow = true}}},
+         {QT_TR_NOOP("Scroll"), QT_TR_NOOP("Volume"), {}},
+         {QT_TR_NOOP("M"),
+          QT_TR_NOOP("Mute"),
+          {{.keys = {typed(u"mM")},
+            .act = toggleMute,
+            .button = Mute,
+            .tip = QT_TR_NOOP("Mute (M)"),
+            .tipWhenOn = QT_TR_NOOP("Unmute (M)")}}},
+         {QT_TR_NOOP("B"),
+          QT_TR_NOOP("Next audio track"),
+          {{.keys = {typed(u"bB")}, .act = run<&PlaybackModel::cycleAudio>}}},
+         {QT_TR_NOOP("V"),
+          QT_TR_NOOP("Next subtitle track (incl. off)"),
+          {{.keys = {typed(u"vV")}, .act = run<&PlaybackModel::cycleSubtitle>}}},
+         {QT_TR_NOOP("G / H"),
+          QT_TR_NOOP("Subtitle delay −/+ 50 ms"),
+          {{.keys = {typed(u"gG")}, .act = stepSubtitleDelay<-1>, .held = Held::again},
+           {.keys = {typed(u"hH")}, .act = stepSubtitleDelay<1>, .held = Held::again}}},
+         {QT_TR_NOOP("J / K"),
+          QT_TR_NOOP("Audio delay −/+ 50 ms"),
+          {{.keys = {typed(u"jJ")}, .act = stepAudioDelay<-1>, .held = Held::again},
+           {.keys = {typed(u"kK")}, .act = stepAudioDelay<1>, .held = Held::again}}},
+         {QT_TR_NOOP("U"),
+          QT_TR_NOOP("Subtitles & audio panel"),
+          {{.keys = {typed(u"uU")},
+            .act = toggle<PlayerPanel::tracks>,
+            .button = Tracks,
+            .tip = QT_TR_NOOP("Subtitles & audio (U)")}}},
+     }},
+    {QT_TR_NOOP("Window"),
+     {
+         {QT_TR_NOOP("F, double-click"),
+          QT_TR_NOOP("Full screen"),
+          {{.keys = {typed(u"fF")},
+            .act = run<&Player::toggleFullscreen>,
+            .button = FullScreen,
+            .tip = QT_TR_NOOP("Full screen (F)"),
+            .tipWhenOn = QT_TR_NOOP("Exit full screen (F)")}}},
+         {QT_TR_NOOP("Esc"),
+          QT_TR_NOOP("Close panel, leave full screen, or close player"),
+          {{.keys = {anyhow(Qt::Key_Escape)},
+            .act = run<&Player::escape>,
+            .withoutWindow = true,
+            .button = Escape,
+            .tip = QT_TR_NOOP("Close player (Esc)"),
+            .tipWhenOn = QT_TR_NOOP("Close (Esc)")}}},
+         {QT_TR_NOOP("S, ⌘W"),
+          QT_TR_NOOP("Stop and close player"),
+          {{.keys = {typed(u"sS"), {.characters = u"w", .modifiers = kControl}},
+            .act = run<&Player::close>}}},
+         {QT_TR_NOOP("I"),
+          QT_TR_NOOP("Playback info"),
+          {{.keys = {typed(u"iI")},
+            .act = toggleInfo,
+            .button = Info,
+            .tip = QT_TR_NOOP("Playback info (I)")}}},
+         {QT_TR_NOOP("?"),
+          QT_TR_NOOP("This list"),
+          {{.keys = {typed(u"?/")}, .act = toggle<PlayerPanel::shortcuts>}}},
+     }},
+    // The program's, which its menus tell of.
+    {nullptr,
+     {{nullptr,
+       nullptr,
+       {{.keys = {exactly(kControl, Qt::Key_Q)}, .program = Program::quit},
+        {.keys = {exactly(kControl, Qt::Key_Comma)}, .program = Program::settings},
+        {.keys = {exactly(kControl | kShift, Qt::Key_L)}, .program = Program::library}}}}},
+};
+
+bool PlayerActions::Key::matches(const KeyPress& press) const {
+  if ((press.modifiers & ~anyway) != modifiers) return false;
+  if (key != Qt::Key_unknown) return press.key == key;
+  return press.characters.size() == 1 && characters.contains(press.characters);
+}
+
+const PlayerActions::Action* PlayerActions::find(const KeyPress& press) {
+  return firstOf([&](const Action& action) {
+    return action.act &&
+           std::ranges::any_of(action.keys, [&](const Key& key) { return key.matches(press); });
+  });
+}
+
+QString PlayerActions::perform(const Action& action, bool isRepeat, PlayerWindowController& player,
+                               PlaybackModel& playback) {
+  return isRepeat && !repeats(action.held, playback) ? QString() : action.act(player, playback);
+}
+
+QKeySequence PlayerActions::programKey(Program command) {
+  const Action* action = firstOf([&](const Action& one) { return one.program == command; });
+  const Key& key = action->keys.front();
+  return QKeyCombination(key.modifiers, key.key);
+}
+
+QString PlayerActions::tip(Button button, bool isOn) {
+  const Action* action = firstOf([&](const Action& one) { return one.button == button; });
+  return tr(isOn && action->tipWhenOn ? action->tipWhenOn : action->tip);
+}
+
+QString PlayerActions::volumeText(const PlaybackModel& playback) {
+  return tr("Volume %1%").arg(std::lround(playback.volume()));
+}
+
+}  // namespace tromelo
