@@ -6,10 +6,8 @@
 #include <cstdio>
 
 #include "app/DefaultsMigration.h"
-#include "display/AbsentDisplay.h"
-#include "display/DmabufSupport.h"
 #include "display/EglDevice.h"
-#include "display/SelftestLines.h"
+#include "display/VideoSinkKind.h"
 #include "display/VulkanDevices.h"
 #include "engine/MpvClientApi.h"
 #include "glass/GlassRendering.h"
@@ -68,7 +66,8 @@ const SceneDrawing& Program::drawing() {
 
 void Program::applyDrawing() {
   const bool inSoftware = !drawing().withOpenGl || drawsInSoftware(platformEglDisplay());
-  setGlassRendering(chooseGlassRendering(qgetenv("TROMELO_GLASS"), inSoftware));
+  setGlassRendering(
+      chooseGlassRendering(qgetenv("TROMELO_GLASS"), inSoftware || !videoCanBeSampled_));
   if (drawing().lacksOpenGl)
     delegate_->playback().tell(QCoreApplication::translate(
         "Program",
@@ -84,25 +83,23 @@ void Program::followReducedMotion() {
 }
 
 void Program::startDisplay() {
-  auto dmabuf = DmabufSupport::query();
-  // Only a scene that is drawn with OpenGL can show them. Without any, that is tried later.
-  if (dmabuf && !drawing().withOpenGl) dmabuf.reset();
-  QString error;
-  display_ = PrivateDisplay::start(PlayerStage::outputOf(*QGuiApplication::primaryScreen()), dmabuf,
-                                   &error);
-  if (!display_) {
-    displayFault_ = QCoreApplication::translate("Program", "Videos can't be shown: %1").arg(error);
+  // What the scene is drawn with is found out now only where the sink depends on it: that takes
+  // a moment, which the engine can use to open the file.
+  const VideoSinkKind sink = chooseVideoSink({[this] { return drawing().withOpenGl; }});
+  videoCanBeSampled_ = sink.canBeSampled;
+  const auto output = PlayerStage::outputOf(*QGuiApplication::primaryScreen());
+  if (const auto fault = display_.start(output, sink)) {
+    displayFault_ = QCoreApplication::translate("Program", "Videos can't be shown: %1").arg(*fault);
     std::fprintf(stderr, "%s\n", qPrintable(displayFault_));
-    display_ = std::make_unique<AbsentDisplay>();
     return;
   }
-  if (dmabuf) vulkanDevice_ = vulkanUuidForScene(dmabuf->mainDevice);
-  HostEnvironment::enterPrivateDisplay(display_->socketPath());
+  if (sink.dmabuf) vulkanDevice_ = vulkanUuidForScene(sink.dmabuf->mainDevice);
+  HostEnvironment::enterPrivateDisplay(display_.socketPath());
 }
 
 void Program::makeDelegate() {
   stage_ = std::make_unique<PlayerStage>(
-      *display_, qmlEngine_, reducedMotion_,
+      display_, qmlEngine_, reducedMotion_,
       [this](QQuickItem& scene, PlaybackModel& playback, PlayerWindowController& player) {
         return std::make_unique<QuickPlayerOverlay>(qmlEngine_, scene, playback, player,
                                                     reducedMotion_, clock_);

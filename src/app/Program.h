@@ -67,7 +67,8 @@ class Program {
   ApplicationService service_;
   ApplicationService::Role role_ = ApplicationService::Role::alone;
   std::optional<SceneDrawing> drawing_;
-  std::unique_ptr<PrivateDisplay> display_;
+  PrivateDisplay display_;
+  bool videoCanBeSampled_ = true;
   std::string vulkanDevice_;
   QString displayFault_;  // a sentence: why there is none
   QQmlEngine qmlEngine_;

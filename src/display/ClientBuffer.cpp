@@ -21,7 +21,7 @@ void destroyAttachment(wlr_addon* addon) {
   wlr_addon_finish(addon);
 }
 
-constexpr wlr_addon_interface attachmentInterface{"tromelo-client-buffer", destroyAttachment};
+constexpr wlr_addon_interface kAttachmentInterface{"tromelo-client-buffer", destroyAttachment};
 
 /// Reading beyond the file's end would kill the process.
 bool fileHolds(const wlr_shm_attributes& shm) {
@@ -31,24 +31,20 @@ bool fileHolds(const wlr_shm_attributes& shm) {
 }
 
 std::shared_ptr<const ClientBuffer> describeShm(const wlr_shm_attributes& shm) {
-  const auto format = pixelFormat(shm.format);
-  if (!format) return nullptr;
   const auto length = std::size_t(shm.stride) * std::size_t(shm.height);
   auto pixels =
       std::make_shared<const ShmPixels>(shm.fd, std::size_t(shm.offset), length, shm.stride);
   if (!pixels->data()) return nullptr;
   return std::make_shared<ClientBuffer>(
-      ClientBuffer{*format, QSize(shm.width, shm.height), std::move(pixels)});
+      ClientBuffer{shm.format, QSize(shm.width, shm.height), std::move(pixels)});
 }
 
 std::shared_ptr<const ClientBuffer> describeDmabuf(const wlr_dmabuf_attributes& dmabuf) {
-  const auto format = pixelFormat(dmabuf.format);
-  if (!format) return nullptr;
   DmabufPixels pixels{dmabuf.modifier, dmabuf.n_planes, {}};
   for (std::size_t i = 0; i < std::size_t(dmabuf.n_planes); ++i)
     pixels.planes[i] = {dmabuf.fd[i], dmabuf.offset[i], dmabuf.stride[i]};
   return std::make_shared<ClientBuffer>(
-      ClientBuffer{*format, QSize(dmabuf.width, dmabuf.height), pixels});
+      ClientBuffer{dmabuf.format, QSize(dmabuf.width, dmabuf.height), pixels});
 }
 
 std::shared_ptr<const ClientBuffer> describe(wlr_buffer* buffer) {
@@ -61,7 +57,8 @@ std::shared_ptr<const ClientBuffer> describe(wlr_buffer* buffer) {
 
 }  // namespace
 
-ShmPixels::ShmPixels(int fd, std::size_t offset, std::size_t length, int stride) : stride_(stride) {
+ShmPixels::ShmPixels(int fd, std::size_t offset, std::size_t length, int stride)
+    : fd_(fd), offset_(offset), stride_(stride) {
   const std::size_t intoPage = offset % std::size_t(sysconf(_SC_PAGESIZE));
   mappedLength_ = length + intoPage;
   mapping_ = mmap(nullptr, mappedLength_, PROT_READ, MAP_SHARED, fd, off_t(offset - intoPage));
@@ -74,7 +71,7 @@ ShmPixels::~ShmPixels() {
 
 std::shared_ptr<const ClientBuffer> ClientBuffer::of(wlr_buffer* buffer) {
   if (wlr_addon* addon =
-          wlr_addon_find(&buffer->addons, &attachmentInterface, &attachmentInterface)) {
+          wlr_addon_find(&buffer->addons, &kAttachmentInterface, &kAttachmentInterface)) {
     wlr_shm_attributes shm{};
     if (wlr_buffer_get_shm(buffer, &shm) && !fileHolds(shm)) return nullptr;
     return reinterpret_cast<Attachment*>(addon)->record;
@@ -84,8 +81,8 @@ std::shared_ptr<const ClientBuffer> ClientBuffer::of(wlr_buffer* buffer) {
   auto attachment = std::make_unique<Attachment>();
   attachment->record = record;
   // From here on the buffer owns it.
-  wlr_addon_init(&attachment.release()->addon, &buffer->addons, &attachmentInterface,
-                 &attachmentInterface);
+  wlr_addon_init(&attachment.release()->addon, &buffer->addons, &kAttachmentInterface,
+                 &kAttachmentInterface);
   return record;
 }
 

@@ -7,8 +7,6 @@
 #include <memory>
 #include <variant>
 
-#include "display/PixelFormat.h"
-
 struct wlr_buffer;
 
 namespace tromelo {
@@ -24,8 +22,13 @@ class ShmPixels {
 
   const std::byte* data() const { return data_; }
   int stride() const { return stride_; }  // bytes
+  /// For who passes the memory on. The descriptor is the buffer's and good while it is locked.
+  int fd() const { return fd_; }
+  std::size_t offset() const { return offset_; }
 
  private:
+  int fd_;
+  std::size_t offset_;
   void* mapping_;
   std::size_t mappedLength_;
   const std::byte* data_;
@@ -47,12 +50,12 @@ struct DmabufPixels {
 /// What there is to know of one of the engine's buffers, from its first commit until the engine
 /// destroys it. Two commits of one buffer share this object, so it can key a cache. Any thread.
 struct ClientBuffer {
-  PixelFormat format;
+  std::uint32_t fourcc = 0;  // one that was announced
   QSize size;
   std::variant<std::shared_ptr<const ShmPixels>, DmabufPixels> pixels;
 
-  /// Display's thread. None when the buffer has a format that wasn't announced, is of an unknown
-  /// kind, or names memory that isn't there.
+  /// Display's thread. None when the buffer is of an unknown kind, or names memory that isn't
+  /// there.
   static std::shared_ptr<const ClientBuffer> of(wlr_buffer* buffer);
 };
 

@@ -7,16 +7,15 @@
 #include <chrono>
 
 #include "display/PrivateDisplay.h"
-#include "display/SceneItemSink.h"
 #include "display/SelftestLines.h"
-#include "display/VideoSink.h"
+#include "display/VideoSinkKind.h"
 #include "display/VulkanDevices.h"
 
 namespace tromelo {
 
 namespace {
 
-constexpr std::chrono::seconds frameLimit{10};
+constexpr std::chrono::seconds kFrameLimit{10};
 
 PrivateDisplay::Output screenOutput() {
   const QScreen* screen = QGuiApplication::primaryScreen();
@@ -24,25 +23,40 @@ PrivateDisplay::Output screenOutput() {
   return {screen->size() * screen->devicePixelRatio(), qRound(screen->refreshRate() * 1000)};
 }
 
-/// The first frame of the first window that draws one; none when there is none in time.
+/// Keeps the first frame that it is given.
+class FirstFrameSink final : public VideoSink {
+ public:
+  using VideoSink::VideoSink;
+
+  void commit(std::shared_ptr<Frame> frame) override {
+    const std::scoped_lock lock(mutex_);
+    if (frame_ || !frame) return;
+    frame_ = std::move(frame);
+    tell(&Events::committed);
+  }
+  std::shared_ptr<Frame> take() {
+    const std::scoped_lock lock(mutex_);
+    return std::move(frame_);
+  }
+
+ private:
+  std::mutex mutex_;
+  std::shared_ptr<Frame> frame_;
+};
+
+/// The first frame of the first window; none when there is none in time.
 std::shared_ptr<Frame> firstFrame(PrivateDisplay& display) {
   QEventLoop loop;
-  std::shared_ptr<SceneItemSink> sink;
-  std::shared_ptr<Frame> frame;
-  const auto take = [&] {
-    if (auto picture = sink->take(); picture && (frame = picture->frame)) loop.quit();
-  };
-  QObject::connect(&display, &PrivateDisplay::windowAdded, &loop, [&](EngineWindow* window) {
-    auto* source = dynamic_cast<FrameSource*>(window);
-    if (sink || !source) return;
-    sink = std::make_shared<SceneItemSink>(
-        &loop, SceneItemSink::Callbacks{.committed = take, .firstShown = [] {}, .refused = [] {}});
-    source->setSink(sink);
-  });
-  QTimer::singleShot(frameLimit, &loop, &QEventLoop::quit);
+  const auto sink = std::make_shared<FirstFrameSink>(
+      &loop,
+      VideoSink::Events{.committed = [&loop] { loop.quit(); }, .firstShown = {}, .refused = {}});
+  QObject::connect(
+      &display, &PrivateDisplay::windowAdded, &loop,
+      [&sink](EngineWindow* window) { window->setSink(sink); }, Qt::SingleShotConnection);
+  QTimer::singleShot(kFrameLimit, &loop, &QEventLoop::quit);
   loop.exec();
-  if (sink) sink->disconnect();
-  return frame;
+  sink->disconnect();
+  return sink->take();
 }
 
 QStringList engineLines(PrivateDisplay& display, const std::string& vulkanDevice,
@@ -63,20 +77,21 @@ QStringList engineLines(PrivateDisplay& display, const std::string& vulkanDevice
 
 QString displaySelftest(const SceneDrawing& drawing, const SelftestEngine& engine) {
   QStringList lines = hostLines() + eglLines() + vulkanLines();
-  const auto dmabuf = drawing.withOpenGl ? DmabufSupport::query() : std::nullopt;
-  const std::string device = dmabuf ? vulkanUuidForScene(dmabuf->mainDevice) : std::string();
-  QString error;
-  const auto display = PrivateDisplay::start(screenOutput(), dmabuf, &error);
-  if (display) {
-    lines += displayLines(display->socketPath());
-    lines +=
-        QStringLiteral("sink: an item of the scene, drawn ") +
-        (drawing.withOpenGl ? QStringLiteral("with OpenGL") : QStringLiteral("by the processor"));
+  const VideoSinkKind kind = chooseVideoSink({[&drawing] { return drawing.withOpenGl; }});
+  const std::string device =
+      kind.dmabuf ? vulkanUuidForScene(kind.dmabuf->mainDevice) : std::string();
+  PrivateDisplay display;
+  if (const auto fault = display.start(screenOutput(), kind)) {
+    lines += QStringLiteral("private display: ") + *fault;
+  } else {
+    lines += displayLines(display.socketPath());
+    lines += QStringLiteral("sink: ") + kind.name;
+    if (kind.canBeSampled)
+      lines.last() += drawing.withOpenGl ? QStringLiteral(", drawn with OpenGL")
+                                         : QStringLiteral(", drawn by the processor");
     lines += QStringLiteral("engine's Vulkan device: ") +
              (device.empty() ? QStringLiteral("its own choice") : QString::fromStdString(device));
-    lines += engineLines(*display, device, engine);
-  } else {
-    lines += QStringLiteral("private display: ") + error;
+    lines += engineLines(display, device, engine);
   }
   return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }

@@ -3,10 +3,8 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
 
-#include "display/PixelFormat.h"
 #include "display/TaskQueue.h"
 #include "display/UniqueFd.h"
 
@@ -14,25 +12,19 @@ namespace tromelo {
 
 namespace {
 
-constexpr std::uint32_t compositorVersion = 6;
-constexpr std::uint32_t shellVersion = 6;
-constexpr std::uint32_t shmVersion = 1;
+constexpr std::uint32_t kCompositorVersion = 6;
+constexpr std::uint32_t kShellVersion = 6;
+constexpr std::uint32_t kShmVersion = 1;
 #if WLR_VERSION_NUM >= ((0 << 16) | (19 << 8))
-constexpr std::uint32_t presentationVersion = 1;
+constexpr std::uint32_t kPresentationVersion = 1;
 #endif
 
 wlr_presentation* createPresentation(wl_display* display, wlr_backend* backend) {
 #if WLR_VERSION_NUM >= ((0 << 16) | (19 << 8))
-  return wlr_presentation_create(display, backend, presentationVersion);
+  return wlr_presentation_create(display, backend, kPresentationVersion);
 #else
   return wlr_presentation_create(display, backend);
 #endif
-}
-
-wlr_shm* createShm(wl_display* display) {
-  std::array<std::uint32_t, pixelFormats.size()> formats{};
-  for (std::size_t i = 0; i < formats.size(); ++i) formats[i] = pixelFormats[i].fourcc;
-  return wlr_shm_create(display, shmVersion, formats.data(), formats.size());
 }
 
 /// The engine, Mesa, the clipboard and the hardware decoder all connect from this very process.
@@ -49,17 +41,14 @@ void DisplayServer::DisplayDeleter::operator()(wl_display* display) const {
   wl_display_destroy(display);
 }
 
-DisplayServer::DisplayServer(const PrivateDisplay::Output& output,
-                             const std::optional<DmabufSupport>& dmabuf, int listeningFd,
-                             std::shared_ptr<TaskQueue> queue, ServerObserver& observer)
+DisplayServer::DisplayServer(const PrivateDisplay::Output& output, const VideoSinkKind& sinkKind,
+                             int listeningFd, std::shared_ptr<TaskQueue> queue, EventsOf eventsOf)
     : listeningFd_(listeningFd),
       queue_(std::move(queue)),
-      observer_(observer),
+      eventsOf_(std::move(eventsOf)),
       display_(wl_display_create()) {
   if (!display_ || queue_->fd() < 0) return;
-  output_ = OutputHead::create(display_.get(), output);
-  if (!output_ || !createGlobals()) return;
-  if (dmabuf) dmabuf_ = std::make_unique<DmabufGlobal>(display_.get(), *dmabuf);
+  if (!createOutput(output) || !createGlobals(sinkKind)) return;
   wl_event_loop* loop = wl_display_get_event_loop(display_.get());
   tasks_ = EventSource::readable(loop, queue_->fd(), [this] { queue_->run(); });
   door_ = EventSource::readable(loop, listeningFd_, [this] { acceptClients(); });
@@ -75,20 +64,45 @@ DisplayServer::~DisplayServer() {
   newSurface_.disconnect();
   newToplevel_.disconnect();
   if (seat_) wlr_seat_destroy(seat_);
-  output_.reset();
+  if (backend_) wlr_backend_destroy(backend_);
 }
 
 bool DisplayServer::isValid() const { return isValid_; }
 
-bool DisplayServer::createGlobals() {
+/// A headless screen with the host screen's size and refresh rate.
+bool DisplayServer::createOutput(const PrivateDisplay::Output& output) {
+  backend_ = wlr_headless_backend_create(wl_display_get_event_loop(display_.get()));
+  if (!backend_ || !wlr_backend_start(backend_)) return false;
+  output_ = wlr_headless_add_output(backend_, unsigned(output.size.width()),
+                                    unsigned(output.size.height()));
+  if (!output_ || !setOutput(output)) return false;
+  wlr_output_create_global(output_, display_.get());
+  return true;
+}
+
+bool DisplayServer::setOutput(const PrivateDisplay::Output& output) {
+  wlr_output_state state;
+  wlr_output_state_init(&state);
+  wlr_output_state_set_enabled(&state, true);
+  wlr_output_state_set_custom_mode(&state, output.size.width(), output.size.height(),
+                                   output.refreshMillihertz);
+  const bool isSet = wlr_output_commit_state(output_, &state);
+  wlr_output_state_finish(&state);
+  return isSet;
+}
+
+bool DisplayServer::createGlobals(const VideoSinkKind& sinkKind) {
   wl_display* display = display_.get();
-  wlr_compositor* compositor = wlr_compositor_create(display, compositorVersion, nullptr);
-  wlr_xdg_shell* shell = wlr_xdg_shell_create(display, shellVersion);
+  wlr_compositor* compositor = wlr_compositor_create(display, kCompositorVersion, nullptr);
+  wlr_xdg_shell* shell = wlr_xdg_shell_create(display, kShellVersion);
   seat_ = wlr_seat_create(display, "seat0");
   if (!compositor || !shell || !seat_ || !wlr_subcompositor_create(display) ||
-      !createShm(display) || !wlr_viewporter_create(display) ||
-      !createPresentation(display, output_->backend()))
+      !wlr_shm_create(display, kShmVersion, sinkKind.shmFormats.data(),
+                      sinkKind.shmFormats.size()) ||
+      !wlr_viewporter_create(display) || !createPresentation(display, backend_))
     return false;
+  if (sinkKind.dmabuf) dmabuf_ = std::make_unique<DmabufGlobal>(display, *sinkKind.dmabuf);
+  if (sinkKind.announceMore) sinkKind.announceMore(display);
   newSurface_.connect(compositor->events.new_surface,
                       [this](void* data) { addSurface(static_cast<wlr_surface*>(data)); });
   newToplevel_.connect(shell->events.new_toplevel,
@@ -103,8 +117,6 @@ void DisplayServer::run() {
     if (wl_event_loop_dispatch(loop, -1) < 0 && errno != EINTR) break;
   }
 }
-
-void DisplayServer::setOutput(const PrivateDisplay::Output& output) { output_->apply(output); }
 
 void DisplayServer::withdrawDmabufs() {
   if (dmabuf_) dmabuf_->withdraw();
@@ -122,23 +134,18 @@ void DisplayServer::acceptClients() {
 }
 
 void DisplayServer::addSurface(wlr_surface* surface) {
-  const EngineSurface::Place place{wl_display_get_event_loop(display_.get()), output_->output(),
-                                   queue_};
-  wlr_surface_send_enter(surface, output_->output());
+  const EngineSurface::Place place{wl_display_get_event_loop(display_.get()), output_, queue_};
+  wlr_surface_send_enter(surface, output_);
   surfaces_.emplace(surface, std::make_unique<EngineSurface>(
                                  surface, place, [this, surface] { surfaces_.erase(surface); }));
 }
 
 void DisplayServer::addWindow(wlr_xdg_toplevel* toplevel) {
   const WindowId id = ++lastWindow_;
-  EngineToplevel::Events events{
-      .changed = [this, id](const WindowState& state) { observer_.windowChanged(id, state); },
-      .fullscreenRequested = [this, id](bool f) { observer_.fullscreenRequested(id, f); },
-      .destroyed =
-          [this, id] {
-            observer_.windowDestroyed(id);
-            windows_.erase(id);
-          },
+  ToplevelEvents events = eventsOf_(id);
+  events.destroyed = [this, id, tell = std::move(events.destroyed)] {
+    tell();
+    windows_.erase(id);
   };
   windows_.emplace(id, std::make_unique<EngineToplevel>(toplevel, std::move(events)));
 }

@@ -1,35 +1,31 @@
 #pragma once
 
-#include <QSize>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
 
 #include "display/DmabufGlobal.h"
 #include "display/EngineToplevel.h"
-#include "display/OutputHead.h"
 #include "display/PrivateDisplay.h"
+#include "display/WaylandEvents.h"
+#include "display/Wlroots.h"
 
 namespace tromelo {
-
-using WindowId = std::uint64_t;
-
-/// What the display's thread reports; called on that thread.
-class ServerObserver {
- public:
-  virtual ~ServerObserver() = default;
-  virtual void windowChanged(WindowId window, const WindowState& state) = 0;
-  virtual void fullscreenRequested(WindowId window, bool fullscreen) = 0;
-  virtual void windowDestroyed(WindowId window) = 0;
-};
 
 /// The Wayland display's globals and objects. Made on any thread, then used by one only.
 class DisplayServer {
  public:
-  /// `listeningFd` and `observer` must outlive the server.
-  DisplayServer(const PrivateDisplay::Output& output, const std::optional<DmabufSupport>& dmabuf,
-                int listeningFd, std::shared_ptr<TaskQueue> queue, ServerObserver& observer);
+  /// Numbers rise, and are never used again.
+  using WindowId = std::uint64_t;
+  /// Gives what is to be called for a new window.
+  using EventsOf = std::function<ToplevelEvents(WindowId)>;
+
+  /// `listeningFd` must outlive the server. The screen has a mode from the beginning: without one
+  /// the engine divides by zero.
+  DisplayServer(const PrivateDisplay::Output& output, const VideoSinkKind& sinkKind,
+                int listeningFd, std::shared_ptr<TaskQueue> queue, EventsOf eventsOf);
   ~DisplayServer();
   DisplayServer(const DisplayServer&) = delete;
   DisplayServer& operator=(const DisplayServer&) = delete;
@@ -41,7 +37,8 @@ class DisplayServer {
   void run();
   void quit() { quits_ = true; }
 
-  void setOutput(const PrivateDisplay::Output& output);
+  /// False where wlroots refuses.
+  bool setOutput(const PrivateDisplay::Output& output);
   void withdrawDmabufs();
   /// None when it is gone already.
   EngineToplevel* window(WindowId id);
@@ -51,16 +48,18 @@ class DisplayServer {
     void operator()(wl_display* display) const;
   };
 
-  bool createGlobals();
+  bool createOutput(const PrivateDisplay::Output& output);
+  bool createGlobals(const VideoSinkKind& sinkKind);
   void acceptClients();
   void addSurface(wlr_surface* surface);
   void addWindow(wlr_xdg_toplevel* toplevel);
 
   int listeningFd_;
   std::shared_ptr<TaskQueue> queue_;
-  ServerObserver& observer_;
+  EventsOf eventsOf_;
   std::unique_ptr<wl_display, DisplayDeleter> display_;
-  std::unique_ptr<OutputHead> output_;
+  wlr_backend* backend_ = nullptr;
+  wlr_output* output_ = nullptr;  // the backend's
   std::optional<EventSource> tasks_;
   std::optional<EventSource> door_;
   std::unique_ptr<DmabufGlobal> dmabuf_;

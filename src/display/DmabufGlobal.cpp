@@ -9,7 +9,39 @@ namespace tromelo {
 
 namespace {
 
-constexpr std::uint32_t dmabufVersion = 4;
+constexpr std::uint32_t kDmabufVersion = 4;
+
+bool announces(const DmabufSupport& support, const wlr_dmabuf_attributes& attributes) {
+  for (const DmabufSupport::Tranche& tranche : support.tranches)
+    for (const auto& [fourcc, modifiers] : tranche.formats)
+      if (fourcc == attributes.format &&
+          // Clients that know no modifiers use it wherever there is the format.
+          (attributes.modifier == kImplicitModifier ||
+           std::ranges::find(modifiers, attributes.modifier) != modifiers.end()))
+        return true;
+  return false;
+}
+
+/// The layout of the memory is what was announced, as far as that can be told from outside.
+bool accepts(const DmabufSupport& support, const wlr_dmabuf_attributes& attributes) {
+  if (!announces(support, attributes)) return false;
+  // Of other formats than the scene's, the host knows more than we do.
+  if (!pixelFormat(attributes.format)) return true;
+  if (attributes.modifier == kImplicitModifier) return attributes.n_planes == 1;
+  const bool hasWholeLines =
+      attributes.stride[0] / kBytesPerPixel >= std::uint32_t(attributes.width);
+  return attributes.modifier != kLinearModifier || (attributes.n_planes == 1 && hasWholeLines);
+}
+
+void addTranche(wlr_linux_dmabuf_feedback_v1& feedback, const DmabufSupport::Tranche& announced) {
+  auto* tranche = wlr_linux_dmabuf_feedback_add_tranche(&feedback);
+  if (!tranche) return;
+  tranche->target_device = announced.device;
+  tranche->flags = announced.flags;
+  for (const DmabufSupport::Format& format : announced.formats)
+    for (const std::uint64_t modifier : format.modifiers)
+      wlr_drm_format_set_add(&tranche->formats, format.fourcc, modifier);
+}
 
 }  // namespace
 
@@ -17,13 +49,8 @@ DmabufGlobal::DmabufGlobal(wl_display* display, DmabufSupport support)
     : support_(std::move(support)) {
   wlr_linux_dmabuf_feedback_v1 feedback{};
   feedback.main_device = support_.mainDevice;
-  if (auto* tranche = wlr_linux_dmabuf_feedback_add_tranche(&feedback)) {
-    tranche->target_device = support_.mainDevice;
-    for (const DmabufSupport::Format& format : support_.formats)
-      for (const std::uint64_t modifier : format.modifiers)
-        wlr_drm_format_set_add(&tranche->formats, format.fourcc, modifier);
-    global_ = wlr_linux_dmabuf_v1_create(display, dmabufVersion, &feedback);
-  }
+  for (const DmabufSupport::Tranche& tranche : support_.tranches) addTranche(feedback, tranche);
+  global_ = wlr_linux_dmabuf_v1_create(display, kDmabufVersion, &feedback);
   wlr_linux_dmabuf_feedback_v1_finish(&feedback);
   if (!global_) return;
   // Without a renderer wlroots would take any format, modifier and stride.
@@ -36,18 +63,6 @@ DmabufGlobal::DmabufGlobal(wl_display* display, DmabufSupport support)
 void DmabufGlobal::withdraw() {
   if (wlr_linux_dmabuf_v1* global = std::exchange(global_, nullptr))
     wl_global_remove(global->global);
-}
-
-bool DmabufGlobal::accepts(const DmabufSupport& support, const wlr_dmabuf_attributes& attributes) {
-  const auto format =
-      std::ranges::find(support.formats, attributes.format, &DmabufSupport::Format::fourcc);
-  if (format == support.formats.end()) return false;
-  if (attributes.modifier == implicitModifier) return attributes.n_planes == 1;
-  if (std::ranges::find(format->modifiers, attributes.modifier) == format->modifiers.end())
-    return false;
-  const bool hasWholeLines =
-      attributes.stride[0] / bytesPerPixel >= std::uint32_t(attributes.width);
-  return attributes.modifier != linearModifier || (attributes.n_planes == 1 && hasWholeLines);
 }
 
 }  // namespace tromelo

@@ -17,9 +17,6 @@ class DmabufGlobal {
   /// Clients that connect from now on are not told of it.
   void withdraw();
 
-  /// The layout of the memory is what was announced, as far as that can be told from outside.
-  static bool accepts(const DmabufSupport& support, const wlr_dmabuf_attributes& attributes);
-
  private:
   DmabufSupport support_;
   wlr_linux_dmabuf_v1* global_ = nullptr;  // the display's

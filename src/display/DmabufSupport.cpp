@@ -50,27 +50,27 @@ std::optional<DmabufSupport> DmabufSupport::query() {
     return std::nullopt;
   const auto device = deviceOf(display);
   if (!device) return std::nullopt;
-  DmabufSupport support{*device, {}};
+  DmabufSupport::Tranche tranche{*device, 0, {}};
   const auto importable = importableFormats(display);
-  for (const PixelFormat& format : pixelFormats) {
+  for (const PixelFormat& format : kPixelFormats) {
     const auto fourcc = EGLint(format.fourcc);
     if (std::ranges::find(importable, fourcc) == importable.end()) continue;
     auto modifiers = announced(listedModifiers(display, fourcc));
-    if (!modifiers.empty()) support.formats.push_back({format.fourcc, std::move(modifiers)});
+    if (!modifiers.empty()) tranche.formats.push_back({format.fourcc, std::move(modifiers)});
   }
-  if (support.formats.empty()) return std::nullopt;
-  return support;
+  if (tranche.formats.empty()) return std::nullopt;
+  return DmabufSupport{*device, {std::move(tranche)}};
 }
 
 std::vector<std::uint64_t> DmabufSupport::announced(const std::vector<ListedModifier>& listed) {
   // A driver older than modifiers lists none.
-  if (listed.empty()) return {implicitModifier, linearModifier};
+  if (listed.empty()) return {kImplicitModifier, kLinearModifier};
   std::vector<std::uint64_t> modifiers;
   for (const auto& [modifier, externalOnly] : listed)
     if (!externalOnly) modifiers.push_back(modifier);
   const bool listsLinear =
-      std::ranges::find(listed, linearModifier, &ListedModifier::modifier) != listed.end();
-  if (!modifiers.empty() && !listsLinear) modifiers.push_back(linearModifier);
+      std::ranges::find(listed, kLinearModifier, &ListedModifier::modifier) != listed.end();
+  if (!modifiers.empty() && !listsLinear) modifiers.push_back(kLinearModifier);
   return modifiers;
 }
 

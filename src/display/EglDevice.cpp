@@ -39,7 +39,7 @@ class Device {
 }  // namespace
 
 EGLDisplay platformEglDisplay() {
-  if (!qGuiApp) return EGL_NO_DISPLAY;
+  if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) return EGL_NO_DISPLAY;
   // Asking makes the X11 platform load its OpenGL integration, which alone knows the display.
   if (!QGuiApplicationPrivate::platformIntegration()->hasCapability(QPlatformIntegration::OpenGL))
     return EGL_NO_DISPLAY;

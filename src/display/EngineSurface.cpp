@@ -28,19 +28,6 @@ QRectF sourceOf(wlr_surface* surface) {
   return {box.x, box.y, box.width, box.height};
 }
 
-Frame::Report reportTo(const std::shared_ptr<TaskQueue>& queue,
-                       const std::shared_ptr<FrameLedger>& ledger, std::uint64_t sequence) {
-  return [queue, sequence, ledger = std::weak_ptr(ledger)](auto shownAt) {
-    queue->postUnlessClosed([ledger, sequence, shownAt] {
-      const auto open = ledger.lock();
-      if (open && shownAt)
-        open->shown(sequence, *shownAt);
-      else if (open)
-        open->dropped(sequence);
-    });
-  };
-}
-
 }  // namespace
 
 EngineSurface::EngineSurface(wlr_surface* surface, const Place& place,
@@ -83,7 +70,7 @@ void EngineSurface::committed() {
   } else if (auto frame = makeFrame()) {
     deliver(std::move(frame));
   } else {
-    ledger_->dropped(sequence_);
+    ledger_->discarded(sequence_);
     wl_client_post_implementation_error(wl_resource_get_client(surface_->resource),
                                         "the buffer's memory can't be read");
   }
@@ -98,10 +85,10 @@ std::shared_ptr<Frame> EngineSurface::makeFrame() {
       .size = QSize(surface_->current.width, surface_->current.height),
       .damage = toRegion(surface_->buffer_damage),
       .opaque = coversSurface(surface_->opaque_region, *surface_),
+      .surface = surface_,
   };
   if (!content.buffer) return nullptr;
-  return std::make_shared<Frame>(std::move(content), std::make_unique<BufferLock>(buffer, queue_),
-                                 reportTo(queue_, ledger_, sequence_));
+  return std::make_shared<Frame>(std::move(content), buffer, queue_, ledger_);
 }
 
 void EngineSurface::deliver(std::shared_ptr<Frame> frame) {

@@ -6,8 +6,8 @@
 #include <optional>
 
 #include "display/FrameLedger.h"
-#include "display/Listener.h"
 #include "display/VideoSink.h"
+#include "display/WaylandEvents.h"
 
 namespace tromelo {
 

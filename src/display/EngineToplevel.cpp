@@ -4,7 +4,7 @@
 
 namespace tromelo {
 
-EngineToplevel::EngineToplevel(wlr_xdg_toplevel* toplevel, Events events)
+EngineToplevel::EngineToplevel(wlr_xdg_toplevel* toplevel, ToplevelEvents events)
     : toplevel_(toplevel),
       engineSurface_(EngineSurface::of(toplevel->base->surface)),
       events_(std::move(events)) {

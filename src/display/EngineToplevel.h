@@ -5,22 +5,22 @@
 
 #include "display/EngineSurface.h"
 #include "display/EngineWindow.h"
-#include "display/WindowState.h"
 
 namespace tromelo {
+
+/// What one of the engine's windows tells of itself; called on the display's thread.
+struct ToplevelEvents {
+  /// The window is about to be drawn first, or something of its state is new.
+  std::function<void(const EngineWindow::State&)> changed;
+  std::function<void(bool)> fullscreenRequested;
+  /// The engine has destroyed the window. May destroy the EngineToplevel.
+  std::function<void()> destroyed;
+};
 
 /// The display's side of one of the engine's windows. Display's thread.
 class EngineToplevel {
  public:
-  struct Events {
-    /// The window is about to be drawn first, or something of its state is new.
-    std::function<void(const WindowState&)> changed;
-    std::function<void(bool)> fullscreenRequested;
-    /// The engine has destroyed the window. May destroy this object.
-    std::function<void()> destroyed;
-  };
-
-  EngineToplevel(wlr_xdg_toplevel* toplevel, Events events);
+  EngineToplevel(wlr_xdg_toplevel* toplevel, ToplevelEvents events);
   ~EngineToplevel();
   EngineToplevel(const EngineToplevel&) = delete;
   EngineToplevel& operator=(const EngineToplevel&) = delete;
@@ -39,9 +39,9 @@ class EngineToplevel {
 
   wlr_xdg_toplevel* toplevel_;
   EngineSurface* engineSurface_;  // outlives the toplevel
-  Events events_;
-  WindowState state_;
-  std::optional<WindowState> published_;
+  ToplevelEvents events_;
+  EngineWindow::State state_;
+  std::optional<EngineWindow::State> published_;
   EngineWindow::HostState host_;
   bool exposed_ = true;
   Listener commit_, unmap_, destroy_, title_, fullscreen_, maximize_, minimize_;

@@ -3,27 +3,47 @@
 #include <QObject>
 #include <QSize>
 #include <QString>
+#include <functional>
+#include <memory>
+
+#include "display/VideoSinkKind.h"
 
 namespace tromelo {
 
-/// One window that the engine has put on the private display. Lives on the main thread, owned by
-/// PrivateDisplay, and is gone soon after its takenDown(). Sizes are device pixels.
-class EngineWindow : public QObject {
+class EngineToplevel;
+
+/// One window that the engine has put on the private display: the newest state that the display's
+/// thread has told, and a way back. Lives on the main thread, owned by PrivateDisplay, and is gone
+/// soon after its takenDown(). Sizes are device pixels.
+class EngineWindow final : public QObject {
   Q_OBJECT
 
  public:
-  using QObject::QObject;
+  struct State {
+    bool visible = false;
+    bool minimized = false;
+    bool fullscreen = false;
+    QString title;
+    QSize size;
+    friend bool operator==(const State&, const State&) = default;
+  };
+  /// Runs on the display's thread with its side of the window, or not at all once that is gone.
+  using Task = std::function<void(EngineToplevel&)>;
+  using Post = std::function<void(Task)>;
+
+  /// `sinkKind` outlives it.
+  EngineWindow(Post post, const VideoSinkKind& sinkKind, QObject* parent = nullptr);
 
   /// From the engine's first commit, before any buffer, until it takes the window down.
-  virtual bool isVisible() const = 0;
-  virtual bool isMinimized() const = 0;
-  /// The engine draws its video here, as opposed to a helper's window without a surface to draw on.
-  virtual bool hasDrawingSurface() const = 0;
+  bool isVisible() const { return state_.visible; }
+  bool isMinimized() const { return state_.minimized; }
+  /// The engine draws its video here: until it has taken the window down.
+  bool hasDrawingSurface() const { return exists_; }
   /// What the engine last asked for, or was told since.
-  virtual bool isFullscreen() const = 0;
-  virtual QString title() const = 0;
+  bool isFullscreen() const { return state_.fullscreen; }
+  QString title() const { return state_.title; }
   /// The size that the engine chose for itself and last committed; empty before its first buffer.
-  virtual QSize size() const = 0;
+  QSize size() const { return state_.size; }
 
   struct HostState {
     QSize size;  // empty: the engine chooses
@@ -33,7 +53,20 @@ class EngineWindow : public QObject {
     friend bool operator==(const HostState&, const HostState&) = default;
   };
   /// Tells the engine what its window looks like on the host; returns at once.
-  virtual void setHostState(const HostState& state) = 0;
+  void setHostState(const HostState& state);
+
+  /// What the display has announced its formats for.
+  const VideoSinkKind& sinkKind() const { return sinkKind_; }
+  /// Where the window's frames go. Replaces the sink before; none takes it away. The newest frame
+  /// that no sink has taken is handed over at once.
+  void setSink(std::shared_ptr<VideoSink> sink);
+  /// Whether what the sink shows can be seen on the host. While it can't, the engine is told
+  /// "suspended".
+  void setExposed(bool exposed);
+
+  /// What the display's thread has told.
+  void update(const State& state);
+  void takeDown();
 
  Q_SIGNALS:
   /// Visibility, minimised or drawing state changed.
@@ -43,6 +76,12 @@ class EngineWindow : public QObject {
   void fullscreenRequested(bool fullscreen);
   /// No longer visible, for good.
   void takenDown();
+
+ private:
+  const Post post_;
+  const VideoSinkKind& sinkKind_;
+  State state_;
+  bool exists_ = true;
 };
 
 }  // namespace tromelo

@@ -2,23 +2,10 @@
 
 #include <QEvent>
 #include <QQuickWindow>
-#include <QSGRendererInterface>
+#include <QSGNode>
 #include <utility>
 
-#include "display/PictureNode.h"
-#include "display/SceneItemSink.h"
-#include "display/VideoSink.h"
-
 namespace tromelo {
-
-namespace {
-
-bool canShowPictures(const QQuickWindow& window) {
-  const auto api = window.rendererInterface()->graphicsApi();
-  return api == QSGRendererInterface::OpenGL || api == QSGRendererInterface::Software;
-}
-
-}  // namespace
 
 EngineWindowItem::EngineWindowItem(QQuickItem* parent) : QQuickItem(parent) {
   setFlag(ItemHasContents);
@@ -34,41 +21,30 @@ void EngineWindowItem::setEngineWindow(EngineWindow* window) {
   detach();
   engineWindow_ = window;
   if (window) {
-    sink_ = std::make_shared<SceneItemSink>(
-        this, SceneItemSink::Callbacks{.committed =
-                                           [this] {
-                                             update();
-                                             Q_EMIT pictureCommitted();
-                                           },
-                                       .firstShown = [this] { Q_EMIT firstFrameShown(); },
-                                       .refused = [this] { Q_EMIT pictureRefused(); }});
-    if (FrameSource* frames = source()) frames->setSink(sink_);
+    sink_ = window->sinkKind().create(this, {.committed =
+                                                 [this] {
+                                                   update();
+                                                   Q_EMIT pictureCommitted();
+                                                 },
+                                             .firstShown = [this] { Q_EMIT firstFrameShown(); },
+                                             .refused = [this] { Q_EMIT pictureRefused(); }});
+    window->setSink(sink_);
     updateExposure();
   }
   update();
 }
 
-FrameSource* EngineWindowItem::source() const {
-  return dynamic_cast<FrameSource*>(engineWindow_.data());
-}
-
 void EngineWindowItem::detach() {
   if (sink_) sink_->disconnect();
   sink_.reset();
+  nodeIsOfAnotherSink_ = true;
   wasExposed_ = false;
-  if (FrameSource* frames = source()) frames->setSink(nullptr);
+  if (engineWindow_) engineWindow_->setSink(nullptr);
 }
 
 QSGNode* EngineWindowItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {
-  auto* picture = static_cast<PictureNode*>(node);
-  if (picture && picture->sink() != sink_.get()) delete std::exchange(picture, nullptr);
-  if (!sink_ || !canShowPictures(*window())) {
-    delete picture;
-    return nullptr;
-  }
-  if (!picture) picture = new PictureNode(window(), sink_);  // the scene graph owns it
-  picture->synchronize(size());
-  return picture;
+  if (std::exchange(nodeIsOfAnotherSink_, false)) delete std::exchange(node, nullptr);
+  return sink_ ? sink_->updateNode(node, *this) : nullptr;
 }
 
 void EngineWindowItem::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
@@ -101,8 +77,7 @@ void EngineWindowItem::watch(QQuickWindow* window) {
 void EngineWindowItem::updateExposure() {
   const bool isExposed = watched_ && watched_->isExposed() && isVisible();
   wasExposed_ = wasExposed_ || isExposed;
-  FrameSource* frames = source();
-  if (frames && wasExposed_) frames->setExposed(isExposed);
+  if (engineWindow_ && wasExposed_) engineWindow_->setExposed(isExposed);
 }
 
 }  // namespace tromelo

@@ -8,13 +8,9 @@
 
 namespace tromelo {
 
-class FrameSource;
-class SceneItemSink;
-
 /// Shows an engine window's picture in a Qt Quick scene: one to one where item and picture have the
 /// same size in device pixels, else fitted with the aspect kept. Repaints when the engine commits a
-/// frame and never otherwise. While it can't be seen, the engine is told "suspended". Shows nothing
-/// in a scene that is drawn neither with OpenGL nor by the processor.
+/// frame and never otherwise. While it can't be seen, the engine is told "suspended".
 class EngineWindowItem : public QQuickItem {
   Q_OBJECT
 
@@ -42,13 +38,13 @@ class EngineWindowItem : public QQuickItem {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  FrameSource* source() const;
   void detach();
   void watch(QQuickWindow* window);
   void updateExposure();
 
   QPointer<EngineWindow> engineWindow_;
-  std::shared_ptr<SceneItemSink> sink_;
+  std::shared_ptr<VideoSink> sink_;
+  bool nodeIsOfAnotherSink_ = false;
   QPointer<QQuickWindow> watched_;
   bool wasExposed_ = false;  // with the present engine window
 };

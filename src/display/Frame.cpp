@@ -2,33 +2,53 @@
 
 #include <utility>
 
+#include "display/FrameLedger.h"
 #include "display/TaskQueue.h"
 #include "display/Wlroots.h"
 
 namespace tromelo {
 
-BufferLock::BufferLock(wlr_buffer* buffer, std::shared_ptr<TaskQueue> queue)
-    : buffer_(wlr_buffer_lock(buffer)), queue_(std::move(queue)) {}
-
-BufferLock::~BufferLock() {
-  queue_->post([buffer = buffer_] { wlr_buffer_unlock(buffer); });
-}
-
-Frame::Frame(Content content, std::unique_ptr<BufferLock> lock, Report report)
-    : content_(std::move(content)), lock_(std::move(lock)), report_(std::move(report)) {}
+Frame::Frame(Content content, wlr_buffer* buffer, std::shared_ptr<TaskQueue> queue,
+             std::weak_ptr<FrameLedger> ledger)
+    : content_(std::move(content)),
+      queue_(std::move(queue)),
+      ledger_(std::move(ledger)),
+      buffer_(wlr_buffer_lock(buffer)) {}
 
 Frame::~Frame() {
-  if (report_) report_(std::nullopt);
+  releaseBuffer();
+  markDiscarded();
 }
 
 void Frame::releaseBuffer() {
   const std::scoped_lock lock(mutex_);
-  lock_.reset();
+  if (wlr_buffer* buffer = std::exchange(buffer_, nullptr))
+    queue_->post([buffer] { wlr_buffer_unlock(buffer); });
 }
 
-void Frame::markShown(std::chrono::nanoseconds at) {
+void Frame::answerCallbacks(std::chrono::nanoseconds at) {
+  post([sequence = content_.sequence, at](FrameLedger& ledger) { ledger.called(sequence, at); });
+}
+
+void Frame::markShown(const Presentation& presentation) {
   const std::scoped_lock lock(mutex_);
-  if (const Report report = std::exchange(report_, nullptr)) report(at);
+  if (std::exchange(isSettled_, true)) return;
+  post([sequence = content_.sequence, presentation](FrameLedger& ledger) {
+    ledger.shown(sequence, presentation);
+  });
+}
+
+void Frame::markDiscarded() {
+  const std::scoped_lock lock(mutex_);
+  if (std::exchange(isSettled_, true)) return;
+  post([sequence = content_.sequence](FrameLedger& ledger) { ledger.discarded(sequence); });
+}
+
+template <typename Task>
+void Frame::post(Task task) {
+  queue_->postUnlessClosed([ledger = ledger_, task] {
+    if (const auto open = ledger.lock()) task(*open);
+  });
 }
 
 }  // namespace tromelo

@@ -5,33 +5,35 @@
 #include <QSize>
 #include <chrono>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
 
 #include "display/ClientBuffer.h"
 
+struct wlr_surface;
+
 namespace tromelo {
 
+class FrameLedger;
 class TaskQueue;
 
-/// Keeps the engine from drawing into a buffer. Released on the display's thread, whichever thread
-/// drops it.
-class BufferLock {
- public:
-  /// Display's thread.
-  BufferLock(wlr_buffer* buffer, std::shared_ptr<TaskQueue> queue);
-  ~BufferLock();
-  BufferLock(const BufferLock&) = delete;
-  BufferLock& operator=(const BufferLock&) = delete;
+/// How a frame came to the screen.
+struct Presentation {
+  /// What a host tells of it, to be passed on as it is.
+  struct Retrace {
+    std::chrono::nanoseconds refresh{};  // 0: not known
+    std::uint64_t sequence = 0;
+    std::uint32_t flags = 0;  // wp_presentation_feedback.kind
+  };
 
- private:
-  wlr_buffer* buffer_;
-  std::shared_ptr<TaskQueue> queue_;
+  std::chrono::nanoseconds time{};  // steady clock
+  std::optional<Retrace> retrace;   // none: the display counts retraces of its own screen
 };
 
-/// One picture that the engine committed. Any thread.
+/// One committed picture of the engine's, which may not draw into the buffer meanwhile. A sink
+/// says here what became of it, from any thread; nothing of that blocks. A frame may outlive its
+/// window and its display.
 class Frame {
  public:
   struct Content {
@@ -41,26 +43,41 @@ class Frame {
     QSize size;      // what it is to be shown as, in device pixels
     QRegion damage;  // against the picture before, in pixels of the buffer
     bool opaque = false;
+    /// Display's thread, while the frame is committed to a sink: for what globals of the sink's own
+    /// (see VideoSinkKind) know of the surface.
+    wlr_surface* surface = nullptr;
   };
-  /// Called once, on any thread: the time of the swap that showed the frame (steady clock), or
-  /// nothing when it was never shown.
-  using Report = std::function<void(std::optional<std::chrono::nanoseconds> shownAt)>;
 
-  Frame(Content content, std::unique_ptr<BufferLock> lock, Report report);
+  /// Display's thread. Locks `buffer`, and unlocks it on that thread, whichever drops the frame.
+  Frame(Content content, wlr_buffer* buffer, std::shared_ptr<TaskQueue> queue,
+        std::weak_ptr<FrameLedger> ledger);
+  /// Releases the buffer, and discards the frame if it wasn't shown.
   ~Frame();
   Frame(const Frame&) = delete;
   Frame& operator=(const Frame&) = delete;
 
   const Content& content() const { return content_; }
-  /// The pixels have been copied; the engine may draw there again.
+
+  /// Nobody reads the buffer any more; the engine may draw there again.
   void releaseBuffer();
-  void markShown(std::chrono::nanoseconds at);
+  /// The engine may draw its next picture: answers the frame callbacks of this commit and of those
+  /// before it. For sinks whose host asks for pictures; the others leave it to markShown().
+  void answerCallbacks(std::chrono::nanoseconds at);
+  /// Answers the frame callbacks too. Only the first of this and markDiscarded() counts.
+  void markShown(const Presentation& presentation);
+  /// It will never be seen.
+  void markDiscarded();
 
  private:
+  template <typename Task>
+  void post(Task task);
+
   const Content content_;
+  const std::shared_ptr<TaskQueue> queue_;
+  const std::weak_ptr<FrameLedger> ledger_;
   std::mutex mutex_;
-  std::unique_ptr<BufferLock> lock_;
-  Report report_;
+  wlr_buffer* buffer_;  // locked; none: released
+  bool isSettled_ = false;
 };
 
 }  // namespace tromelo

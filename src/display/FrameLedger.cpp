@@ -9,8 +9,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto hiddenInterval = 1s;
-constexpr int silentRefreshes = 2;
+constexpr auto kHiddenInterval = 1s;
+constexpr int kSilentRefreshes = 2;
 
 std::chrono::nanoseconds now() {
   // The steady clock is the monotonic one that presentation feedback counts in.
@@ -39,7 +39,7 @@ struct FrameLedger::Debt {
     }
     return hasCallbacks;
   }
-  /// The engine is told that the picture was never seen.
+  /// Unless it was told that the picture was shown, the engine hears that it was never seen.
   void discard() {
     if (feedback) wlr_presentation_feedback_destroy(std::exchange(feedback, nullptr));
   }
@@ -71,23 +71,24 @@ void FrameLedger::committed(wlr_surface* surface, std::uint64_t sequence) {
   if (!isWaiting) arm();  // a client that commits faster doesn't push the timer away
 }
 
-void FrameLedger::shown(std::uint64_t sequence, std::chrono::nanoseconds at) {
+void FrameLedger::called(std::uint64_t sequence, std::chrono::nanoseconds at) {
   sinkIsSilent_ = false;
-  shownSequence_ = std::max(shownSequence_, sequence);
-  bool hasAnswered = false;
-  for (const auto& debt : debts_) {
-    if (debt->sequence > sequence) break;
-    hasAnswered |= debt->answer(at);
-    if (debt->sequence == sequence && debt->feedback)
-      present(std::exchange(debt->feedback, nullptr), at);
-    debt->discard();
-  }
-  std::erase_if(debts_, [](const auto& debt) { return debt->isPaid(); });
-  arm();
-  if (hasAnswered && hidden_) remindOfHidden_();
+  settle(answer(sequence, at));
 }
 
-void FrameLedger::dropped(std::uint64_t sequence) {
+void FrameLedger::shown(std::uint64_t sequence, const Presentation& presentation) {
+  sinkIsSilent_ = false;
+  shownSequence_ = std::max(shownSequence_, sequence);
+  const bool hasAnswered = answer(sequence, presentation.time);
+  for (const auto& debt : debts_) {
+    if (debt->sequence > sequence) break;
+    if (debt->sequence == sequence) present(*debt, presentation);
+    debt->discard();
+  }
+  settle(hasAnswered);
+}
+
+void FrameLedger::discarded(std::uint64_t sequence) {
   for (const auto& debt : debts_)
     if (debt->sequence == sequence) debt->discard();
   std::erase_if(debts_, [](const auto& debt) { return debt->isPaid(); });
@@ -111,38 +112,52 @@ void FrameLedger::arm() {
   if (!owesCallbacks())
     timer_.stop();
   else if (hidden_)
-    timer_.fireAfter(hiddenInterval);
+    timer_.fireAfter(kHiddenInterval);
   else
-    timer_.fireAfter(refresh() * (sinkIsSilent_ ? 1 : silentRefreshes));
+    timer_.fireAfter(refresh() * (sinkIsSilent_ ? 1 : kSilentRefreshes));
 }
 
 void FrameLedger::timeout() {
   const auto time = now();
   sinkIsSilent_ = true;
-  bool hasAnswered = false;
-  for (const auto& debt : debts_) {
-    hasAnswered |= debt->answer(time);
-    // A commit without a new picture shows at once.
-    if (debt->sequence <= shownSequence_ && debt->feedback)
-      present(std::exchange(debt->feedback, nullptr), time);
-  }
-  std::erase_if(debts_, [](const auto& debt) { return debt->isPaid(); });
-  if (hasAnswered && hidden_) remindOfHidden_();
+  const bool hasAnswered = answer(committedSequence_, time);
+  // A commit without a new picture shows at once.
+  for (const auto& debt : debts_)
+    if (debt->sequence <= shownSequence_) present(*debt, {time, {}});
+  settle(hasAnswered);
 }
 
-void FrameLedger::present(wlr_presentation_feedback* feedback, std::chrono::nanoseconds at) {
-  const auto interval = refresh();
-  refreshCount_ = std::max(refreshCount_ + 1, std::uint64_t(at / interval));
+/// Whether there was a callback to answer.
+bool FrameLedger::answer(std::uint64_t sequence, std::chrono::nanoseconds at) {
+  bool hasAnswered = false;
+  for (const auto& debt : debts_)
+    if (debt->sequence <= sequence) hasAnswered |= debt->answer(at);
+  return hasAnswered;
+}
+
+void FrameLedger::present(Debt& debt, const Presentation& presentation) {
+  if (!debt.feedback) return;
+  const auto time = presentation.time;
+  // The time of a swap says nothing of a retrace.
+  const auto retrace = presentation.retrace.value_or(Presentation::Retrace{
+      refresh(), std::max(retraceCount_ + 1, std::uint64_t(time / refresh())), 0});
+  retraceCount_ = retrace.sequence;
   const wlr_presentation_event event{
       .output = output_,
-      .tv_sec = std::uint64_t(at / 1s),
-      .tv_nsec = std::uint32_t((at % 1s).count()),
-      .refresh = std::uint32_t(interval.count()),
-      .seq = refreshCount_,
-      .flags = 0,  // the time of a swap says nothing of a retrace
+      .tv_sec = std::uint64_t(time / 1s),
+      .tv_nsec = std::uint32_t((time % 1s).count()),
+      .refresh = std::uint32_t(retrace.refresh.count()),
+      .seq = retrace.sequence,
+      .flags = retrace.flags,
   };
-  wlr_presentation_feedback_send_presented(feedback, &event);
-  wlr_presentation_feedback_destroy(feedback);
+  wlr_presentation_feedback_send_presented(debt.feedback, &event);
+  debt.discard();
+}
+
+void FrameLedger::settle(bool hasAnswered) {
+  std::erase_if(debts_, [](const auto& debt) { return debt->isPaid(); });
+  arm();
+  if (hasAnswered && hidden_) remindOfHidden_();
 }
 
 }  // namespace tromelo

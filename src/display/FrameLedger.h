@@ -6,7 +6,8 @@
 #include <functional>
 #include <memory>
 
-#include "display/EventSource.h"
+#include "display/Frame.h"
+#include "display/WaylandEvents.h"
 #include "display/Wlroots.h"
 
 namespace tromelo {
@@ -14,13 +15,12 @@ namespace tromelo {
 /// What one surface of the engine's is still owed for its commits: frame callbacks and presentation
 /// feedback. Display's thread.
 ///
-/// Callbacks go out when the sink has shown the picture. The engine must never wait for a scene
-/// that is busy, hidden or gone, so the display's own timer answers instead:
+/// Callbacks go out when the sink asks for the next picture or has shown this one. The engine must
+/// never wait for a sink that is busy, hidden or gone, so the display's own timer answers instead:
 /// - a sink that is silent for two refreshes is taken to be busy, and until it is heard again every
 ///   callback is answered one refresh after its commit;
 /// - a hidden surface gets its callbacks once a second. An engine may take a callback, or a new
-/// size
-///   of its window, for the end of being hidden: after each answer, and when it draws, it has to be
+///   size of its window, for the end of being hidden: after each answer, and when it draws, it is
 ///   reminded.
 class FrameLedger {
  public:
@@ -29,8 +29,9 @@ class FrameLedger {
 
   /// Takes over what the surface's newest commit asked for. `sequence` is that of its picture.
   void committed(wlr_surface* surface, std::uint64_t sequence);
-  void shown(std::uint64_t sequence, std::chrono::nanoseconds at);
-  void dropped(std::uint64_t sequence);
+  void called(std::uint64_t sequence, std::chrono::nanoseconds at);
+  void shown(std::uint64_t sequence, const Presentation& presentation);
+  void discarded(std::uint64_t sequence);
   void setHidden(bool hidden);
 
  private:
@@ -40,7 +41,9 @@ class FrameLedger {
   bool owesCallbacks() const;
   void arm();
   void timeout();
-  void present(wlr_presentation_feedback* feedback, std::chrono::nanoseconds at);
+  bool answer(std::uint64_t sequence, std::chrono::nanoseconds at);
+  void present(Debt& debt, const Presentation& presentation);
+  void settle(bool hasAnswered);
 
   wlr_output* output_;
   std::function<void()> remindOfHidden_;
@@ -48,7 +51,7 @@ class FrameLedger {
   std::deque<std::unique_ptr<Debt>> debts_;  // in order of commit
   std::uint64_t committedSequence_ = 0;
   std::uint64_t shownSequence_ = 0;
-  std::uint64_t refreshCount_ = 0;
+  std::uint64_t retraceCount_ = 0;
   bool sinkIsSilent_ = false;
   bool hidden_ = false;
 };

@@ -23,9 +23,11 @@ class FrameTexture {
   virtual void update(Frame& frame, const QRegion& damage) = 0;
 };
 
-std::unique_ptr<FrameTexture> createShmTexture();
+/// For buffers in the GPU's memory.
 std::unique_ptr<FrameTexture> createDmabufTextures();
-/// For shared memory in a scene without OpenGL.
+/// For shared memory in a scene that is drawn with OpenGL.
+std::unique_ptr<FrameTexture> createShmTexture();
+/// For shared memory in any other.
 std::unique_ptr<FrameTexture> createImageTexture();
 
 }  // namespace tromelo

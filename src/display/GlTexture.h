@@ -8,6 +8,8 @@ class QSGTexture;
 
 namespace tromelo {
 
+struct ClientBuffer;
+
 /// An OpenGL texture of our own with the scene's handle for it. Render thread, with the scene's
 /// context current.
 class GlTexture {
@@ -18,6 +20,9 @@ class GlTexture {
   GlTexture& operator=(const GlTexture&) = delete;
 
   void bind() const;
+  /// Shows the pixels of a buffer in the GPU's memory from here on, without a copy. False when EGL
+  /// refuses.
+  bool import(const ClientBuffer& buffer);
   /// The scene's handle; made anew when size or kind differ from the last.
   QSGTexture* handle(QQuickWindow* window, QSize size, bool hasAlpha);
 

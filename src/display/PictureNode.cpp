@@ -2,10 +2,10 @@
 
 #include <QQuickWindow>
 #include <QSGRendererInterface>
+#include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <utility>
-
-#include "display/PicturePlacement.h"
 
 namespace tromelo {
 
@@ -16,6 +16,19 @@ bool drawsInSoftware(const QQuickWindow& window) {
 }
 
 }  // namespace
+
+PicturePlacement placePicture(QSize picture, QSizeF item, qreal devicePixelRatio) {
+  const QSizeF available(std::round(item.width() * devicePixelRatio),
+                         std::round(item.height() * devicePixelRatio));
+  if (picture.isEmpty() || available.isEmpty()) return {};
+  const QSizeF fitted = QSizeF(picture).scaled(available, Qt::KeepAspectRatio);
+  const bool isExact = std::abs(fitted.width() - picture.width()) < 0.5 &&
+                       std::abs(fitted.height() - picture.height()) < 0.5;
+  const QSizeF size = isExact ? QSizeF(picture) : fitted;
+  QPointF corner((available.width() - size.width()) / 2, (available.height() - size.height()) / 2);
+  if (isExact) corner = QPointF(std::floor(corner.x()), std::floor(corner.y()));
+  return {QRectF(corner / devicePixelRatio, size / devicePixelRatio), isExact};
+}
 
 PictureNode::PictureNode(QQuickWindow* window, std::shared_ptr<SceneItemSink> sink)
     : window_(window), sink_(std::move(sink)) {
@@ -96,7 +109,7 @@ void PictureNode::upload() {
 void PictureNode::swapped() {
   replaced_.clear();
   if (!frame_ || !std::exchange(awaitsSwap_, false)) return;
-  frame_->markShown(std::chrono::steady_clock::now().time_since_epoch());
+  frame_->markShown({std::chrono::steady_clock::now().time_since_epoch(), {}});
   sink_->shown();
 }
 

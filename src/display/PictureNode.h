@@ -14,6 +14,17 @@ class QQuickWindow;
 
 namespace tromelo {
 
+struct PicturePlacement {
+  QRectF rect;           // in the item, in its units
+  bool isExact = false;  // a pixel of the picture is a pixel of the screen
+
+  friend bool operator==(const PicturePlacement&, const PicturePlacement&) = default;
+};
+
+/// Where a picture of `picture` device pixels goes in an item of `item` units: centred, and as
+/// large as fits with its aspect.
+PicturePlacement placePicture(QSize picture, QSizeF item, qreal devicePixelRatio);
+
 /// The scene graph's side of an EngineWindowItem: takes pictures from the sink, brings them to the
 /// GPU and says when they were swapped to the screen. Render thread.
 class PictureNode final : public QObject, public QSGNode {
@@ -22,8 +33,6 @@ class PictureNode final : public QObject, public QSGNode {
  public:
   PictureNode(QQuickWindow* window, std::shared_ptr<SceneItemSink> sink);
   ~PictureNode() override;
-
-  const SceneItemSink* sink() const { return sink_.get(); }
 
   /// While the main thread waits. `size` in units of the item.
   void synchronize(QSizeF size);

@@ -5,13 +5,21 @@
 #include <QObject>
 #include <QSize>
 #include <QString>
+#include <cstdint>
+#include <map>
 #include <memory>
 #include <optional>
+#include <thread>
 
-#include "display/DmabufSupport.h"
 #include "display/EngineWindow.h"
+#include "display/VideoSinkKind.h"
 
 namespace tromelo {
+
+class DisplayServer;
+class SocketDirectory;
+class TaskQueue;
+struct ToplevelEvents;
 
 /// The Wayland display that the engine, and nobody else, draws to. Its protocol work is done on a
 /// thread of its own; this object and its windows live on the main thread.
@@ -26,28 +34,46 @@ class PrivateDisplay : public QObject {
     friend bool operator==(const Output&, const Output&) = default;
   };
 
-  /// Starts the display; on failure gives none and one sentence in `error`. Without `dmabuf`, only
-  /// shared memory is announced, and Mesa's Vulkan drivers are told to present through it. Before
-  /// the engine starts.
-  static std::unique_ptr<PrivateDisplay> start(const Output& output,
-                                               const std::optional<DmabufSupport>& dmabuf,
-                                               QString* error);
-
+  /// Until it is started it has no windows, and never gets any.
+  PrivateDisplay();
   /// Ends the thread and removes the socket. The engine must be gone by then.
-  ~PrivateDisplay() override = default;
+  ~PrivateDisplay() override;
 
-  /// Absolute; what WAYLAND_DISPLAY has to say.
-  virtual QByteArray socketPath() const = 0;
-  virtual QList<EngineWindow*> windows() const = 0;
+  /// Announces what sinks of `sinkKind` take. Without dmabufs among that, Mesa's Vulkan drivers are
+  /// told to present through shared memory. Once, before the engine starts; gives one sentence
+  /// where it fails.
+  [[nodiscard]] std::optional<QString> start(const Output& output, VideoSinkKind sinkKind);
+
+  /// Absolute; what WAYLAND_DISPLAY has to say. Empty before the start.
+  QByteArray socketPath() const;
+  /// In the order in which they came.
+  QList<EngineWindow*> windows() const;
   /// Follows the host's screen.
-  virtual void setOutput(const Output& output) = 0;
+  void setOutput(const Output& output);
   /// Without dmabufs from here on, for an engine that makes its output anew. False where it was so
   /// already.
-  virtual bool withdrawDmabufs() = 0;
+  bool withdrawDmabufs();
 
  Q_SIGNALS:
   /// Before the window's first buffer.
   void windowAdded(EngineWindow* window);
+
+ private:
+  using WindowId = std::uint64_t;
+
+  void serve();
+  void post(std::function<void(DisplayServer&)> task);
+  ToplevelEvents eventsOf(WindowId id);
+  EngineWindow::Post postTo(WindowId id);
+  void updateWindow(WindowId id, const EngineWindow::State& state);
+  void removeWindow(WindowId id);
+
+  VideoSinkKind sinkKind_;
+  std::unique_ptr<SocketDirectory> directory_;
+  std::shared_ptr<TaskQueue> queue_;
+  std::unique_ptr<DisplayServer> server_;  // the thread's, once that runs
+  std::thread thread_;
+  std::map<WindowId, EngineWindow*> windows_;  // children of this object
 };
 
 }  // namespace tromelo

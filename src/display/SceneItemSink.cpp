@@ -1,17 +1,40 @@
 #include "display/SceneItemSink.h"
 
-#include <QMetaObject>
-#include <QObject>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSGRendererInterface>
 #include <utility>
+
+#include "display/PictureNode.h"
+#include "display/PixelFormat.h"
+#include "display/VideoSinkKind.h"
 
 namespace tromelo {
 
-SceneItemSink::SceneItemSink(QObject* receiver, Callbacks callbacks)
-    : callbacks_(std::move(callbacks)), receiver_(receiver) {}
+namespace {
 
-void SceneItemSink::disconnect() {
-  const std::scoped_lock lock(mutex_);
-  receiver_ = nullptr;
+bool canShowPictures(const QQuickWindow& window) {
+  const auto api = window.rendererInterface()->graphicsApi();
+  return api == QSGRendererInterface::OpenGL || api == QSGRendererInterface::Software;
+}
+
+}  // namespace
+
+/// A host needs nothing for it; dmabufs take a scene that is drawn with OpenGL.
+std::optional<VideoSinkKind> sceneItemSink(const VideoSinkHost& host) {
+  VideoSinkKind kind{
+      .name = QStringLiteral("an item of the scene"),
+      .canBeSampled = true,
+      .shmFormats = {},
+      .dmabuf = DmabufSupport::query(),
+      .announceMore = {},
+      .create = [](QObject* receiver, VideoSink::Events events) -> std::shared_ptr<VideoSink> {
+        return std::make_shared<SceneItemSink>(receiver, std::move(events));
+      },
+  };
+  for (const PixelFormat& format : kPixelFormats) kind.shmFormats.push_back(format.fourcc);
+  if (kind.dmabuf && !host.drawsWithOpenGl()) kind.dmabuf.reset();
+  return kind;
 }
 
 void SceneItemSink::commit(std::shared_ptr<Frame> frame) {
@@ -21,12 +44,16 @@ void SceneItemSink::commit(std::shared_ptr<Frame> frame) {
   Picture picture{std::move(frame), damage};
   if (isWaiting) picture.damage += picture_->damage;
   picture_ = std::move(picture);
-  if (!isWaiting) post(callbacks_.committed);
+  if (!isWaiting) tell(&Events::committed);
 }
 
-bool SceneItemSink::hasPicture() const {
-  const std::scoped_lock lock(mutex_);
-  return picture_.has_value();
+QSGNode* SceneItemSink::updateNode(QSGNode* node, QQuickItem& item) {
+  if (!canShowPictures(*item.window())) return VideoSink::updateNode(node, item);
+  auto* picture = static_cast<PictureNode*>(node);
+  // The scene graph owns it.
+  if (!picture) picture = new PictureNode(item.window(), shared_from_this());
+  picture->synchronize(item.size());
+  return picture;
 }
 
 std::optional<SceneItemSink::Picture> SceneItemSink::take() {
@@ -45,17 +72,9 @@ void SceneItemSink::rewind() {
 }
 
 void SceneItemSink::shown() {
-  const std::scoped_lock lock(mutex_);
-  if (!std::exchange(hasShown_, true)) post(callbacks_.firstShown);
+  if (!std::exchange(hasShown_, true)) tell(&Events::firstShown);
 }
 
-void SceneItemSink::refused() {
-  const std::scoped_lock lock(mutex_);
-  post(callbacks_.refused);
-}
-
-void SceneItemSink::post(const std::function<void()>& callback) {
-  if (receiver_) QMetaObject::invokeMethod(receiver_, callback, Qt::QueuedConnection);
-}
+void SceneItemSink::refused() { tell(&Events::refused); }
 
 }  // namespace tromelo

@@ -1,41 +1,28 @@
 #pragma once
 
 #include <QRegion>
-#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
 
 #include "display/VideoSink.h"
 
-class QObject;
-
 namespace tromelo {
 
-/// Hands the engine's newest picture to an item of a Qt Quick scene. What the scene has not taken
-/// when the next one comes is dropped.
-class SceneItemSink final : public VideoSink {
+/// Makes the engine's newest picture a node of a Qt Quick scene, on any host. What the scene has
+/// not taken when the next one comes is dropped. Shows nothing in a scene that is drawn neither
+/// with OpenGL nor by the processor.
+class SceneItemSink final : public VideoSink, public std::enable_shared_from_this<SceneItemSink> {
  public:
   struct Picture {
     std::shared_ptr<Frame> frame;  // none: the engine took its picture away
     QRegion damage;                // against the picture taken before
   };
-  struct Callbacks {
-    std::function<void()> committed;
-    std::function<void()> firstShown;
-    std::function<void()> refused;
-  };
-
-  /// Main thread. The callbacks are posted to `receiver`, on its thread.
-  SceneItemSink(QObject* receiver, Callbacks callbacks);
-
-  /// Main thread. No callback comes any more.
-  void disconnect();
+  using VideoSink::VideoSink;
 
   void commit(std::shared_ptr<Frame> frame) override;
+  QSGNode* updateNode(QSGNode* node, QQuickItem& item) override;
 
-  /// Any thread: something waits to be taken.
-  bool hasPicture() const;
   /// Render thread.
   std::optional<Picture> take();
   /// Render thread: what the scene shows from here on, which is kept; none: nothing.
@@ -48,14 +35,10 @@ class SceneItemSink final : public VideoSink {
   void refused();
 
  private:
-  void post(const std::function<void()>& callback);
-
-  const Callbacks callbacks_;
-  mutable std::mutex mutex_;
-  QObject* receiver_;
+  std::mutex mutex_;
   std::optional<Picture> picture_;
   std::shared_ptr<Frame> showing_;
-  bool hasShown_ = false;
+  bool hasShown_ = false;  // render thread
 };
 
 }  // namespace tromelo

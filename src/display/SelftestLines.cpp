@@ -9,7 +9,6 @@
 #include <QScreen>
 
 #include "display/EglDevice.h"
-#include "display/EglImage.h"
 #include "display/GlTexture.h"
 #include "display/PixelFormat.h"
 #include "display/ProbeClient.h"
@@ -20,6 +19,17 @@ namespace {
 
 QString sizeText(QSize size) {
   return QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
+}
+
+QString fourccText(std::uint32_t fourcc) {
+  const char letters[] = {char(fourcc), char(fourcc >> 8), char(fourcc >> 16), char(fourcc >> 24)};
+  return QString::fromLatin1(letters, sizeof letters);
+}
+
+QString modifierText(std::uint64_t modifier) {
+  if (modifier == kLinearModifier) return QStringLiteral("linear");
+  if (modifier == kImplicitModifier) return QStringLiteral("implicit");
+  return QStringLiteral("0x%1").arg(modifier, 16, 16, QLatin1Char('0'));
 }
 
 QString hertzText(int millihertz) {
@@ -60,7 +70,7 @@ QStringList dmabufLines(const std::optional<DisplayFacts::Dmabuf>& dmabuf) {
                         .arg(gnu_dev_major(dmabuf->mainDevice))
                         .arg(gnu_dev_minor(dmabuf->mainDevice)),
                     QStringLiteral("synchronisation: implicit, by the fences of each buffer")};
-  for (const PixelFormat& format : pixelFormats) {
+  for (const PixelFormat& format : kPixelFormats) {
     QStringList modifiers;
     for (const auto& announced : dmabuf->formats)
       if (announced.fourcc == format.fourcc) modifiers += modifierText(announced.modifier);
@@ -72,17 +82,6 @@ QStringList dmabufLines(const std::optional<DisplayFacts::Dmabuf>& dmabuf) {
 }
 
 }  // namespace
-
-QString fourccText(std::uint32_t fourcc) {
-  const char letters[] = {char(fourcc), char(fourcc >> 8), char(fourcc >> 16), char(fourcc >> 24)};
-  return QString::fromLatin1(letters, sizeof letters);
-}
-
-QString modifierText(std::uint64_t modifier) {
-  if (modifier == linearModifier) return QStringLiteral("linear");
-  if (modifier == implicitModifier) return QStringLiteral("implicit");
-  return QStringLiteral("0x%1").arg(modifier, 16, 16, QLatin1Char('0'));
-}
 
 QStringList hostLines() {
   QStringList lines{QStringLiteral("host: ") + QGuiApplication::platformName()};
@@ -130,7 +129,7 @@ QString frameLine(const Frame& frame) {
   const QString memory = dmabuf ? QStringLiteral("dmabuf with ") + modifierText(dmabuf->modifier)
                                 : QStringLiteral("shared memory");
   return QStringLiteral("engine's frame: %1, %2 in %3")
-      .arg(sizeText(buffer.size), fourccText(buffer.format.fourcc), memory);
+      .arg(sizeText(buffer.size), fourccText(buffer.fourcc), memory);
 }
 
 QString importLine(const Frame& frame) {
@@ -138,7 +137,7 @@ QString importLine(const Frame& frame) {
   if (!std::holds_alternative<DmabufPixels>(buffer.pixels))
     return QStringLiteral("import: not needed, the frame's pixels are copied");
   const CurrentContext context;
-  const bool isImported = context && importEglImage(buffer, GlTexture());
+  const bool isImported = context && GlTexture().import(buffer);
   return isImported ? QStringLiteral("import: the frame is a texture without a copy")
                     : QStringLiteral("import: refused, the player falls back to shared memory");
 }

@@ -5,21 +5,22 @@
 
 #include "display/FrameTexture.h"
 #include "display/GlTexture.h"
+#include "display/PixelFormat.h"
 
 namespace tromelo {
 
 namespace {
 
 // Beyond this, one upload of everything is cheaper than many of parts.
-constexpr int maximumRectangles = 8;
-constexpr double worthwhileShare = 0.75;
+constexpr int kMaximumRectangles = 8;
+constexpr double kWorthwhileShare = 0.75;
 
 // From desktop OpenGL and OpenGL ES 3, where GLES2's header doesn't have them.
-constexpr GLenum unpackRowLength = 0x0CF2;
-constexpr GLenum swizzleRed = 0x8E42;
-constexpr GLenum swizzleBlue = 0x8E44;
-constexpr GLenum red = 0x1903;
-constexpr GLenum blue = 0x1905;
+constexpr GLenum kUnpackRowLength = 0x0CF2;
+constexpr GLenum kSwizzleRed = 0x8E42;
+constexpr GLenum kSwizzleBlue = 0x8E44;
+constexpr GLenum kRed = 0x1903;
+constexpr GLenum kBlue = 0x1905;
 
 double area(const QRegion& region) {
   double sum = 0;
@@ -30,8 +31,8 @@ double area(const QRegion& region) {
 QRegion worthUploading(const QRegion& damage, QSize size) {
   const QRect whole(QPoint(), size);
   const QRegion region = damage & whole;
-  const bool isWorthwhile = region.rectCount() <= maximumRectangles &&
-                            area(region) < worthwhileShare * size.width() * size.height();
+  const bool isWorthwhile = region.rectCount() <= kMaximumRectangles &&
+                            area(region) < kWorthwhileShare * size.width() * size.height();
   return isWorthwhile ? region : QRegion(whole);
 }
 
@@ -54,8 +55,8 @@ class ShmTexture final : public FrameTexture {
 
 QSGTexture* ShmTexture::prepare(QQuickWindow* window, const Frame& frame) {
   const ClientBuffer& buffer = *frame.content().buffer;
-  if (!texture_ || size_ != buffer.size || format_ != buffer.format)
-    allocate(buffer.size, buffer.format);
+  const PixelFormat format = *pixelFormat(buffer.fourcc);
+  if (!texture_ || size_ != buffer.size || format_ != format) allocate(buffer.size, format);
   return texture_->handle(window, size_, format_.hasAlpha && !frame.content().opaque);
 }
 
@@ -72,8 +73,8 @@ void ShmTexture::allocate(QSize size, const PixelFormat& format) {
   gl->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
   gl->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
   if (format.blueFirst) {
-    gl->glTexParameteri(GL_TEXTURE_2D, swizzleRed, blue);
-    gl->glTexParameteri(GL_TEXTURE_2D, swizzleBlue, red);
+    gl->glTexParameteri(GL_TEXTURE_2D, kSwizzleRed, kBlue);
+    gl->glTexParameteri(GL_TEXTURE_2D, kSwizzleBlue, kRed);
   }
   gl->glBindTexture(GL_TEXTURE_2D, 0);
 }
@@ -91,13 +92,13 @@ void ShmTexture::update(Frame& frame, const QRegion& damage) {
 void ShmTexture::upload(const ShmPixels& pixels, const QRegion& region) {
   QOpenGLFunctions* gl = QOpenGLContext::currentContext()->functions();
   gl->glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
-  gl->glPixelStorei(unpackRowLength, pixels.stride() / bytesPerPixel);
+  gl->glPixelStorei(kUnpackRowLength, pixels.stride() / kBytesPerPixel);
   for (const QRect& rect : region) {
-    const auto offset = std::ptrdiff_t(rect.y()) * pixels.stride() + rect.x() * bytesPerPixel;
+    const auto offset = std::ptrdiff_t(rect.y()) * pixels.stride() + rect.x() * kBytesPerPixel;
     gl->glTexSubImage2D(GL_TEXTURE_2D, 0, rect.x(), rect.y(), rect.width(), rect.height(), GL_RGBA,
                         GL_UNSIGNED_BYTE, pixels.data() + offset);
   }
-  gl->glPixelStorei(unpackRowLength, 0);
+  gl->glPixelStorei(kUnpackRowLength, 0);
 }
 
 }  // namespace

@@ -130,6 +130,21 @@ std::optional<std::vector<VulkanDevice>> VulkanDevice::all() {
   return devices;
 }
 
+bool hasVulkanDevice() {
+  const auto devices = VulkanDevice::all();
+  return devices && !devices->empty();
+}
+
+QStringList vulkanLines() {
+  const auto devices = VulkanDevice::all();
+  if (!devices) return {QStringLiteral("Vulkan: no loader")};
+  QStringList lines;
+  for (const VulkanDevice& device : *devices)
+    lines += QStringLiteral("Vulkan device: ") + device.description;
+  if (lines.isEmpty()) lines += QStringLiteral("Vulkan: no device");
+  return lines;
+}
+
 std::string vulkanUuidOf(dev_t drmNode, const std::vector<VulkanDevice>& devices) {
   const auto found = std::ranges::find_if(devices, [drmNode](const VulkanDevice& device) {
     return std::ranges::find(device.drmNodes, drmNode) != device.drmNodes.end();

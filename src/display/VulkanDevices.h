@@ -3,6 +3,7 @@
 #include <sys/types.h>
 
 #include <QString>
+#include <QStringList>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,6 +19,12 @@ struct VulkanDevice {
   /// Asks through the loader that the engine uses, which takes a moment. None without a loader.
   static std::optional<std::vector<VulkanDevice>> all();
 };
+
+/// There is something for the engine to draw with.
+bool hasVulkanDevice();
+
+/// One line for each device, or one that says that there is none; for a report.
+QStringList vulkanLines();
 
 /// The UUID of the device that has this DRM node; empty where none of them says so.
 std::string vulkanUuidOf(dev_t drmNode, const std::vector<VulkanDevice>& devices);

@@ -18,9 +18,10 @@ Holdings Holdings::now() {
 
 void DisplayTest::SetUp() {
   before_ = Holdings::now();
-  QString error;
-  display_ = PrivateDisplay::start(output(), dmabuf(), &error);
-  ASSERT_TRUE(display_) << error.toStdString();
+  display_ = std::make_unique<PrivateDisplay>();
+  VideoSinkKind sinkKind = chooseVideoSink({[] { return false; }});
+  sinkKind.dmabuf = dmabuf();
+  ASSERT_EQ(display_->start(output(), sinkKind), std::nullopt);
   QObject::connect(display_.get(), &PrivateDisplay::windowAdded, display_.get(),
                    [this](EngineWindow* window) { added_.append(window); });
   connectClient();
@@ -67,7 +68,5 @@ std::shared_ptr<Frame> KeepingSink::takeLast() {
   const std::scoped_lock lock(mutex_);
   return std::exchange(last_, nullptr);
 }
-
-FrameSource& framesOf(EngineWindow* window) { return dynamic_cast<FrameSource&>(*window); }
 
 }  // namespace tromelo::testing

@@ -58,7 +58,4 @@ class KeepingSink final : public VideoSink {
   std::shared_ptr<Frame> last_;
 };
 
-/// The scene's way to the frames of a window.
-FrameSource& framesOf(EngineWindow* window);
-
 }  // namespace tromelo::testing

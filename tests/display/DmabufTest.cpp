@@ -31,10 +31,10 @@ TEST(SceneDrawingTest, IsAsThePersonAsked) {
 class DmabufTest : public SceneTest {
  protected:
   std::optional<DmabufSupport> dmabuf() const override {
-    DmabufSupport support{makedev(226, 128), {}};
-    for (const PixelFormat& format : pixelFormats)
-      support.formats.push_back({format.fourcc, {linear, unknownTiling}});
-    return support;
+    DmabufSupport::Tranche tranche{makedev(226, 128), 0, {}};
+    for (const PixelFormat& format : kPixelFormats)
+      tranche.formats.push_back({format.fourcc, {linear, unknownTiling}});
+    return DmabufSupport{tranche.device, {tranche}};
   }
 
   TestBuffer& add(TestBuffer::Layout layout, std::uint64_t modifier = linear) {
@@ -50,7 +50,7 @@ class DmabufTest : public SceneTest {
 };
 
 TEST_F(DmabufTest, EveryFormatArrivesAsItIs) {
-  for (const PixelFormat& format : pixelFormats)
+  for (const PixelFormat& format : kPixelFormats)
     for (const int padding : {0, 64}) {
       SCOPED_TRACE(::testing::Message() << std::hex << format.fourcc << " padding " << padding);
       TestBuffer& buffer = add({sceneSize, format.fourcc, padding});
@@ -139,7 +139,7 @@ TEST_F(DmabufTest, WhatCannotBeImportedIsRefusedAndTheNextComeThroughSharedMemor
 
 TEST_F(DmabufTest, TheSelftestImportsAFrameForReal) {
   const auto sink = std::make_shared<KeepingSink>();
-  framesOf(engineWindow_).setSink(sink);
+  engineWindow_->setSink(sink);
   const auto lineOf = [&](std::uint64_t modifier) {
     TestBuffer& buffer = add({.size = sceneSize}, modifier);
     toplevel_->commit(&buffer);
@@ -169,9 +169,9 @@ TEST_F(DmabufTest, WhatWasNotAnnouncedIsRefused) {
     std::uint64_t modifier;
     int padding;
   } cases[] = {
-      {"modifier", pixelFormats[0].fourcc, someTiling, 0},
+      {"modifier", kPixelFormats[0].fourcc, someTiling, 0},
       {"format", tenBit, linear, 0},
-      {"stride shorter than a line", pixelFormats[0].fourcc, linear, -sceneSize.width() * 2},
+      {"stride shorter than a line", kPixelFormats[0].fourcc, linear, -sceneSize.width() * 2},
   };
   for (const auto& row : cases) {
     SCOPED_TRACE(row.name);

@@ -24,9 +24,10 @@ class EngineOnDisplayTest : public ::testing::Test {
   using Options = std::initializer_list<std::pair<const char*, const char*>>;
 
   void SetUp() override {
-    QString error;
-    display_ = PrivateDisplay::start({screenSize, 60'000}, {}, &error);
-    ASSERT_TRUE(display_) << error.toStdString();
+    display_ = std::make_unique<PrivateDisplay>();
+    VideoSinkKind sinkKind = chooseVideoSink({[] { return true; }});
+    sinkKind.dmabuf.reset();
+    ASSERT_EQ(display_->start({screenSize, 60'000}, sinkKind), std::nullopt);
     window_.setColor(Qt::black);
     window_.resize(windowSize);
     item_ = new EngineWindowItem(window_.contentItem());
@@ -103,7 +104,7 @@ TEST_F(EngineOnDisplayTest, PlaysOnWhileItIsHiddenAndShowsWhenItComesBack) {
   window_.hide();
   // The picture goes nowhere, and is counted.
   const auto sink = std::make_shared<KeepingSink>();
-  framesOf(engineWindow_).setSink(sink);
+  engineWindow_->setSink(sink);
   constexpr int seconds = 3;
   const double hiddenAt = position();
   EXPECT_TRUE(waitFor([&] { return position() > hiddenAt + seconds; }));

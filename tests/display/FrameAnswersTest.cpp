@@ -27,7 +27,7 @@ class FrameAnswersTest : public DisplayTest {
     window_ = announcedWindow();
     ASSERT_TRUE(window_);
     sink_ = std::make_shared<KeepingSink>();
-    framesOf(window_).setSink(sink_);
+    window_->setSink(sink_);
     for (auto& buffer : buffers_) buffer = plainBuffer(*client_, pictureSize);
   }
   void TearDown() override {
@@ -56,7 +56,7 @@ TEST_F(FrameAnswersTest, TheCallbackComesWhenTheFrameWasShownAndNotBefore) {
   client_->roundtrip();
   EXPECT_EQ(answers->frameCallbacks, 0);
   EXPECT_FALSE(answers->presentation);
-  frame->markShown(now());
+  frame->markShown({now(), {}});
   EXPECT_TRUE(wait([&] { return answers->frameCallbacks == 1; }));
 }
 
@@ -64,7 +64,7 @@ TEST_F(FrameAnswersTest, ACallbackIsNotAnsweredByTheFrameBefore) {
   const auto first = toplevel_->commit(buffers_[0].get());
   const auto frame = takeFrame();
   const auto second = toplevel_->commit(buffers_[1].get());
-  frame->markShown(now());
+  frame->markShown({now(), {}});
   EXPECT_TRUE(wait([&] { return first->frameCallbacks == 1; }));
   EXPECT_EQ(second->frameCallbacks, 0);
 }
@@ -75,7 +75,7 @@ TEST_F(FrameAnswersTest, PresentationHasTheTimeOfTheSwapARisingCountAndTheRefres
     const auto answers = toplevel_->commit(buffers_[i].get());
     const auto frame = takeFrame();
     const auto shownAt = now();
-    frame->markShown(shownAt);
+    frame->markShown({shownAt, {}});
     ASSERT_TRUE(wait([&] { return answers->presentation.has_value(); }));
     EXPECT_TRUE(answers->presentation->presented);
     EXPECT_EQ(answers->presentation->nanoseconds, std::uint64_t(shownAt.count()));
@@ -91,11 +91,30 @@ TEST_F(FrameAnswersTest, ASupersededFrameIsDiscardedAndItsBufferComesBack) {
   EXPECT_TRUE(wait([&] { return first->presentation && buffers_[0]->releases() == 1; }));
   EXPECT_FALSE(first->presentation->presented);
 
-  takeFrame()->markShown(now());
+  takeFrame()->markShown({now(), {}});
   EXPECT_TRUE(wait([&] { return second->presentation.has_value(); }));
   EXPECT_TRUE(second->presentation->presented);
   EXPECT_EQ(first->frameCallbacks, 1);
   EXPECT_EQ(second->frameCallbacks, 1);
+}
+
+TEST_F(FrameAnswersTest, WhatAHostTellsIsPassedOnAsItIs) {
+  const auto first = toplevel_->commit(buffers_[0].get());
+  const auto discarded = takeFrame();
+  const auto second = toplevel_->commit(buffers_[1].get());
+  const auto frame = takeFrame();
+  discarded->markDiscarded();
+  frame->answerCallbacks(7ms);
+  EXPECT_TRUE(wait([&] { return first->presentation && second->frameCallbacks == 1; }));
+  EXPECT_FALSE(first->presentation->presented);
+  EXPECT_EQ(first->frameCallbacks, 1);
+  EXPECT_EQ(second->callbackTime, 7u);
+  EXPECT_FALSE(second->presentation);
+  EXPECT_EQ(buffers_[0]->releases(), 0) << "the host may still read it";
+  frame->markShown({12s + 34ns, Presentation::Retrace{16'666'667ns, 41, 7}});
+  EXPECT_TRUE(wait([&] { return second->presentation.has_value(); }));
+  EXPECT_EQ(*second->presentation,
+            (TestToplevel::Presentation{true, 12'000'000'034, 16'666'667, 41, 7}));
 }
 
 TEST_F(FrameAnswersTest, ABufferIsTheSinksUntilItIsGivenBack) {
@@ -114,7 +133,7 @@ TEST_F(FrameAnswersTest, ASinkThatComesLateGetsTheNewestFrame) {
   other.commit(buffers_[0].get());
   other.commit(buffers_[1].get());
   EXPECT_TRUE(wait([&] { return buffers_[0]->releases() == 1; }));
-  framesOf(added_.last()).setSink(sink_);
+  added_.last()->setSink(sink_);
   EXPECT_EQ(takeFrame()->content().sequence, 2u);
 }
 
@@ -143,7 +162,7 @@ TEST_F(FrameAnswersTest, AFrameMayOutliveWindowClientAndDisplay) {
   display_.reset();
   const auto& pixels = std::get<std::shared_ptr<const ShmPixels>>(frame->content().buffer->pixels);
   EXPECT_NE(pixels->data()[0], pixels->data()[2]);  // red, still mapped
-  frame->markShown(now());
+  frame->markShown({now(), {}});
 }
 
 class HiddenTest : public FrameAnswersTest {};

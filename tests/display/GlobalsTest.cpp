@@ -42,11 +42,11 @@ TEST(AnnouncedModifiers, AreThoseThatTheSceneCanSampleAndLinearOnes) {
     std::vector<DmabufSupport::ListedModifier> listed;
     std::vector<std::uint64_t> announced;
   } rows[] = {
-      {"a driver older than modifiers", {}, {implicitModifier, linearModifier}},
-      {"linear isn't listed", {{tiled}}, {tiled, linearModifier}},
-      {"linear is listed", {{linearModifier}, {tiled}}, {linearModifier, tiled}},
-      {"some are external-only", {{tiled}, {compressed, true}}, {tiled, linearModifier}},
-      {"linear is external-only", {{tiled}, {linearModifier, true}}, {tiled}},
+      {"a driver older than modifiers", {}, {kImplicitModifier, kLinearModifier}},
+      {"linear isn't listed", {{tiled}}, {tiled, kLinearModifier}},
+      {"linear is listed", {{kLinearModifier}, {tiled}}, {kLinearModifier, tiled}},
+      {"some are external-only", {{tiled}, {compressed, true}}, {tiled, kLinearModifier}},
+      {"linear is external-only", {{tiled}, {kLinearModifier, true}}, {tiled}},
       {"all are external-only", {{tiled, true}, {compressed, true}}, {}},
   };
   for (const auto& row : rows)

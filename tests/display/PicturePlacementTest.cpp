@@ -1,4 +1,4 @@
-#include "display/PicturePlacement.h"
+#include "display/PictureNode.h"
 
 #include <gtest/gtest.h>
 

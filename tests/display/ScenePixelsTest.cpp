@@ -10,7 +10,7 @@ using ScenePixelsTest = SceneTest;
 using Layout = TestBuffer::Layout;
 
 TEST_F(ScenePixelsTest, EveryFormatArrivesAsItIs) {
-  for (const PixelFormat& format : pixelFormats)
+  for (const PixelFormat& format : kPixelFormats)
     for (const int padding : {0, 64}) {
       SCOPED_TRACE(::testing::Message() << std::hex << format.fourcc << " padding " << padding);
       auto& buffer = buffers_.emplace_back(
@@ -25,7 +25,7 @@ TEST_F(ScenePixelsTest, EveryFormatArrivesAsItIs) {
 
 TEST_F(ScenePixelsTest, AlphaIsBlendedWithWhatIsBehind) {
   window_->setColor(QColor(0, 0, 200));
-  TestBuffer buffer({.size = sceneSize, .fourcc = pixelFormats[0].fourcc});
+  TestBuffer buffer({.size = sceneSize, .fourcc = kPixelFormats[0].fourcc});
   buffer.fill([](int, int) { return QColor(100, 0, 0); }, 0);  // adds to what is behind
   buffer.createShm(*client_);
   show(buffer);

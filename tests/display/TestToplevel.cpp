@@ -11,11 +11,12 @@ struct TestToplevel::Pending {
 
   static void presented(void* self, struct wp_presentation_feedback*, std::uint32_t secondsHigh,
                         std::uint32_t secondsLow, std::uint32_t nanoseconds, std::uint32_t refresh,
-                        std::uint32_t sequenceHigh, std::uint32_t sequenceLow, std::uint32_t) {
+                        std::uint32_t sequenceHigh, std::uint32_t sequenceLow,
+                        std::uint32_t flags) {
     const std::uint64_t seconds = std::uint64_t(secondsHigh) << 32 | secondsLow;
     static_cast<Pending*>(self)->answers->presentation =
         Presentation{true, seconds * 1'000'000'000 + nanoseconds, refresh,
-                     std::uint64_t(sequenceHigh) << 32 | sequenceLow};
+                     std::uint64_t(sequenceHigh) << 32 | sequenceLow, flags};
   }
 };
 
@@ -61,8 +62,10 @@ void TestToplevel::start() {
 std::shared_ptr<const TestToplevel::Answers> TestToplevel::commit(const TestBuffer* buffer,
                                                                   QRect damage) {
   static constexpr wl_callback_listener callbackListener{
-      .done = [](void* self, wl_callback*, std::uint32_t) {
-        ++static_cast<Pending*>(self)->answers->frameCallbacks;
+      .done = [](void* self, wl_callback*, std::uint32_t milliseconds) {
+        Answers& answers = *static_cast<Pending*>(self)->answers;
+        ++answers.frameCallbacks;
+        answers.callbackTime = milliseconds;
       }};
   static constexpr wp_presentation_feedback_listener feedbackListener{
       .sync_output = [](void*, struct wp_presentation_feedback*, wl_output*) {},

@@ -25,10 +25,13 @@ class TestToplevel {
     std::uint64_t nanoseconds = 0;
     std::uint32_t refresh = 0;
     std::uint64_t sequence = 0;
+    std::uint32_t flags = 0;
+    friend bool operator==(const Presentation&, const Presentation&) = default;
   };
   /// Answers to one commit.
   struct Answers {
     int frameCallbacks = 0;
+    std::uint32_t callbackTime = 0;  // milliseconds
     std::optional<Presentation> presentation;
   };
 

@@ -44,11 +44,11 @@ class WindowDestructionTest : public DisplayTest,
     if (until == Moment::Drawn) return;
     EngineWindow* window = announcedWindow();
     ASSERT_TRUE(window);
-    framesOf(window).setSink(sink_);
+    window->setSink(sink_);
     ASSERT_TRUE(wait([&] { return sink_->commits() == 1; }));
     if (until == Moment::WaitingForTheScene) return;
     frame_ = sink_->takeLast();
-    if (until == Moment::Shown) frame_->markShown(std::chrono::nanoseconds(1));
+    if (until == Moment::Shown) frame_->markShown({std::chrono::nanoseconds(1), {}});
   }
 
   std::unique_ptr<TestToplevel> toplevel_;
@@ -103,8 +103,8 @@ TEST_F(WindowDestructionTest, TheMainThreadsSideMayBeUsedUntilItIsGone) {
   client_->roundtrip();
   // The display's thread knows already, this one doesn't.
   window->setHostState({QSize(10, 10), true, true, true});
-  framesOf(window).setSink(sink_);
-  framesOf(window).setExposed(false);
+  window->setSink(sink_);
+  window->setExposed(false);
   EXPECT_TRUE(wait([&] { return display_->windows().isEmpty(); }));
 }
 

@@ -1,5 +1,5 @@
 #include "PlayerTest.h"
-#include "display/AbsentDisplay.h"
+#include "display/PrivateDisplay.h"
 #include "platform/FilePath.h"
 #include "player/PlayerStage.h"
 #include "support/WaitFor.h"
@@ -260,7 +260,7 @@ TEST_F(PlayerWindowControllerTest, AToastStaysForItsFullTime) {
 }
 
 TEST_F(PlayerWindowControllerTest, AnOverlayThatNoWindowCameForGoesBeforeTheModel) {
-  AbsentDisplay display;
+  PrivateDisplay display;
   QQmlEngine engine;
   const ReducedMotion motion("1", std::nullopt);
   testing::FakeOverlay* overlay = nullptr;

@@ -13,39 +13,30 @@ namespace {
 
 using testing::waitFor;
 
-class FakeEngineWindow final : public EngineWindow {
- public:
-  bool isVisible() const override { return true; }
-  bool isMinimized() const override { return false; }
-  bool hasDrawingSurface() const override { return true; }
-  bool isFullscreen() const override { return false; }
-  QString title() const override { return newTitle; }
-  QSize size() const override { return {640, 360}; }
-  void setHostState(const HostState&) override {}
-
-  QString newTitle = QStringLiteral("Sintel");
-};
-
 class PlayerWindowTest : public ::testing::Test {
  protected:
+  PlayerWindowTest() { tellTitle("Sintel"); }
+
+  void tellTitle(const char* title) {
+    engineWindow_.update({.visible = true, .title = title, .size = {640, 360}});
+  }
   PlayerHostWindow& host() { return window_.host(); }
 
   QQmlEngine engine_;
   const ReducedMotion moving_{"0", {}};
   HostHeadroom headroom_;
   const PlayerOverlayFactory noOverlay_;
-  FakeEngineWindow engineWindow_;
+  const VideoSinkKind sinkKind_ = chooseVideoSink({[] { return false; }});
+  EngineWindow engineWindow_{[](const EngineWindow::Task&) {}, sinkKind_};
   PlayerWindow window_{engineWindow_, std::make_unique<PlayerHostWindow>(engine_, moving_),
                        noOverlay_, headroom_};
 };
 
 TEST_F(PlayerWindowTest, HasTheTitleOfTheEnginesFromTheBeginning) {
   EXPECT_EQ(host().title(), "Sintel");
-  engineWindow_.newTitle = "Tears of Steel";
-  Q_EMIT engineWindow_.titleChanged();
+  tellTitle("Tears of Steel");
   EXPECT_EQ(host().title(), "Tears of Steel");
-  engineWindow_.newTitle.clear();
-  Q_EMIT engineWindow_.titleChanged();
+  tellTitle("");
   EXPECT_EQ(host().title(), QGuiApplication::applicationDisplayName());
 }
 

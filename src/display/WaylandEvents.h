@@ -3,12 +3,39 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <utility>
 
 #include "display/Wlroots.h"
 
+// Callbacks of libwayland's signals and of its event loop, which end with their objects. Display's
+// thread.
+
 namespace tromelo {
 
-/// A callback on the display's event loop, for a descriptor or for a time. Ends with this object.
+/// A connection to a wl_signal. The callback may destroy the listener that it was called through.
+class Listener {
+ public:
+  using Callback = std::function<void(void* data)>;
+
+  Listener() = default;
+  ~Listener() { disconnect(); }
+  Listener(const Listener&) = delete;
+  Listener& operator=(const Listener&) = delete;
+
+  void connect(wl_signal& signal, Callback callback);
+  void disconnect();
+
+ private:
+  struct Hook {
+    wl_listener listener{};  // first, so that a pointer to it is a pointer to the hook
+    Listener* owner = nullptr;
+  };
+
+  Hook hook_;
+  Callback callback_;
+};
+
+/// A callback for a descriptor or for a time.
 class EventSource {
  public:
   using Callback = std::function<void()>;

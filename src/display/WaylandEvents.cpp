@@ -1,8 +1,24 @@
-#include "display/EventSource.h"
+#include "display/WaylandEvents.h"
 
 #include <algorithm>
 
 namespace tromelo {
+
+void Listener::connect(wl_signal& signal, Callback callback) {
+  disconnect();
+  hook_.owner = this;
+  hook_.listener.notify = [](wl_listener* listener, void* data) {
+    const Callback called = reinterpret_cast<Hook*>(listener)->owner->callback_;
+    called(data);
+  };
+  callback_ = std::move(callback);
+  wl_signal_add(&signal, &hook_.listener);
+}
+
+void Listener::disconnect() {
+  if (!std::exchange(hook_.owner, nullptr)) return;
+  wl_list_remove(&hook_.listener.link);
+}
 
 EventSource::EventSource(Callback callback)
     : callback_(std::make_unique<Callback>(std::move(callback))) {}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "display/DmabufSupport.h"
+#include "display/VideoSink.h"
+
+struct wl_display;
+
+namespace tromelo {
+
+/// Everything that the program knows of a kind of sink before there is one. The private display
+/// announces what the kind takes, so that it is chosen first.
+struct VideoSinkKind {
+  QString name;  // for a report
+  /// A scene can draw with the picture, to blur it behind glass for example. Nothing above the sink
+  /// may assume so.
+  bool canBeSampled = false;
+
+  std::vector<std::uint32_t> shmFormats;  // DRM FourCCs; AR24 and XR24 at least
+  std::optional<DmabufSupport> dmabuf;    // none: the engine presents through shared memory
+
+  /// Adds what else the sink serves, colour management for example, to a display that has no client
+  /// yet. Display's thread, or the one that makes the display, before there is that. May be empty.
+  std::function<void(wl_display*)> announceMore;
+
+  /// Makes a sink for one engine window; see VideoSink. Main thread.
+  std::function<std::shared_ptr<VideoSink>(QObject* receiver, VideoSink::Events events)> create;
+};
+
+/// What a kind may ask about when it looks whether this host has what it needs.
+struct VideoSinkHost {
+  /// Qt draws its scenes with OpenGL. Finding out takes a moment.
+  std::function<bool()> drawsWithOpenGl;
+};
+
+/// The best kind that this host can show. Main thread, after the application object and before the
+/// private display.
+VideoSinkKind chooseVideoSink(const VideoSinkHost& host);
+
+}  // namespace tromelo
