@@ -111,10 +111,6 @@
         <source>Open Videos…</source>
         <translation>Videos öffnen …</translation>
     </message>
-    <message>
-        <source>Open videos (⌘O)</source>
-        <translation>Videos öffnen (⌘O)</translation>
-    </message>
 </context>
 <context>
     <name>EngineErrorText</name>
@@ -233,10 +229,6 @@
         <source>Open Other…</source>
         <translation>Anderes öffnen …</translation>
     </message>
-    <message>
-        <source>Open videos (⌘O)</source>
-        <translation>Videos öffnen (⌘O)</translation>
-    </message>
 </context>
 <context>
     <name>LibraryDetail</name>
@@ -254,10 +246,6 @@
     <message>
         <source>Open</source>
         <translation>Öffnen</translation>
-    </message>
-    <message>
-        <source>Open a video (⌘O)</source>
-        <translation>Video öffnen (⌘O)</translation>
     </message>
 </context>
 <context>
@@ -338,33 +326,6 @@
     </message>
 </context>
 <context>
-    <name>OptionButtons</name>
-    <message>
-        <source>Chapters (C)</source>
-        <translation>Kapitel (C)</translation>
-    </message>
-    <message>
-        <source>Subtitles &amp; audio (U)</source>
-        <translation>Untertitel und Ton (U)</translation>
-    </message>
-    <message>
-        <source>Queue (Q)</source>
-        <translation>Warteschlange (Q)</translation>
-    </message>
-    <message>
-        <source>Playback info (I)</source>
-        <translation>Wiedergabeinfo (I)</translation>
-    </message>
-    <message>
-        <source>Exit full screen (F)</source>
-        <translation>Vollbild verlassen (F)</translation>
-    </message>
-    <message>
-        <source>Full screen (F)</source>
-        <translation>Vollbild (F)</translation>
-    </message>
-</context>
-<context>
     <name>OutputFaults</name>
     <message>
         <source>The picture can&apos;t be drawn with the Vulkan driver of your graphics card; update it to play videos.</source>
@@ -403,25 +364,10 @@
     </message>
 </context>
 <context>
-    <name>PlayPauseButton</name>
-    <message>
-        <source>Play (Space)</source>
-        <translation>Wiedergabe (Leertaste)</translation>
-    </message>
-    <message>
-        <source>Pause (Space)</source>
-        <translation>Pause (Leertaste)</translation>
-    </message>
-</context>
-<context>
     <name>PlayerCloseButton</name>
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
-    </message>
-    <message>
-        <source>Close player (Esc)</source>
-        <translation>Player schließen (Esc)</translation>
     </message>
 </context>
 <context>
@@ -494,10 +440,6 @@
     <message>
         <source>Keyboard Shortcuts</source>
         <translation>Tastenkürzel</translation>
-    </message>
-    <message>
-        <source>Close (Esc)</source>
-        <translation>Schließen (Esc)</translation>
     </message>
 </context>
 <context>
@@ -638,13 +580,6 @@
     </message>
 </context>
 <context>
-    <name>SpeedMenu</name>
-    <message>
-        <source>Playback speed ([ and ])</source>
-        <translation>Wiedergabegeschwindigkeit ([ und ])</translation>
-    </message>
-</context>
-<context>
     <name>SubtitleBorderStyle</name>
     <message>
         <source>Outline</source>
@@ -770,34 +705,7 @@
     </message>
 </context>
 <context>
-    <name>TransportButtons</name>
-    <message>
-        <source>Previous (P)</source>
-        <translation>Voriges (P)</translation>
-    </message>
-    <message>
-        <source>Back 10 seconds (←)</source>
-        <translation>10 Sekunden zurück (←)</translation>
-    </message>
-    <message>
-        <source>Forward 10 seconds (→)</source>
-        <translation>10 Sekunden vor (→)</translation>
-    </message>
-    <message>
-        <source>Next (N)</source>
-        <translation>Nächstes (N)</translation>
-    </message>
-</context>
-<context>
     <name>VolumeControls</name>
-    <message>
-        <source>Unmute (M)</source>
-        <translation>Stummschaltung aufheben (M)</translation>
-    </message>
-    <message>
-        <source>Mute (M)</source>
-        <translation>Stummschalten (M)</translation>
-    </message>
     <message>
         <source>Volume</source>
         <translation>Lautstärke</translation>
@@ -1217,6 +1125,14 @@
     <message>
         <source>Volume %1%</source>
         <translation type="unfinished">Lautstärke %1 %</translation>
+    </message>
+    <message>
+        <source>Open a video (⌘O)</source>
+        <translation type="unfinished">Video öffnen (⌘O)</translation>
+    </message>
+    <message>
+        <source>Open videos (⌘O)</source>
+        <translation type="unfinished">Videos öffnen (⌘O)</translation>
     </message>
 </context>
 <context>

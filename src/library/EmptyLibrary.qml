@@ -59,7 +59,7 @@ Column {
 
         HoverTip {
             control: openVideos
-            tip: Wording.shown(qsTr("Open videos (⌘O)"))
+            tip: PlayerActions.tip(PlayerActions.OpenVideos)
         }
     }
 }

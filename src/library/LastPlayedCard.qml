@@ -119,7 +119,7 @@ GlassSurface {
 
                 HoverTip {
                     control: openOther
-                    tip: Wording.shown(qsTr("Open videos (⌘O)"))
+                    tip: PlayerActions.tip(PlayerActions.OpenVideos)
                 }
             }
         }

@@ -58,7 +58,7 @@ Item {
 
         HoverTip {
             control: open
-            tip: Wording.shown(qsTr("Open a video (⌘O)"))
+            tip: PlayerActions.tip(PlayerActions.OpenVideo)
             below: true
         }
     }

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
+import Tromelo.Player
 import Tromelo.Theme
 
 // How much later something comes than it would, and the way to change that in steps.
@@ -28,7 +29,7 @@ RowLayout {
         objectName: "earlier"
         symbol: "minus"
         Accessible.name: qsTr("Earlier")
-        onClicked: row.chosen(row.delay - 0.05)
+        onClicked: row.chosen(row.delay - PlayerActions.delayStep)
     }
 
     Text {
@@ -46,7 +47,7 @@ RowLayout {
         objectName: "later"
         symbol: "plus"
         Accessible.name: qsTr("Later")
-        onClicked: row.chosen(row.delay + 0.05)
+        onClicked: row.chosen(row.delay + PlayerActions.delayStep)
     }
 
     PanelButton {

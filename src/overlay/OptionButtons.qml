@@ -42,7 +42,7 @@ Row {
         objectName: "chaptersButton"
         visible: options.playback.chapters.length > 0
         symbol: "list.bullet.rectangle"
-        tip: qsTr("Chapters (C)")
+        tip: PlayerActions.tip(PlayerActions.Chapters)
         active: options.chrome.showsChapters
         onClicked: options.chrome.showsChapters = !options.chrome.showsChapters
     }
@@ -52,7 +52,7 @@ Row {
 
         objectName: "tracksButton"
         symbol: "captions.bubble"
-        tip: qsTr("Subtitles & audio (U)")
+        tip: PlayerActions.tip(PlayerActions.Tracks)
         active: options.chrome.showsTracks
         onClicked: options.chrome.showsTracks = !options.chrome.showsTracks
     }
@@ -62,7 +62,7 @@ Row {
 
         objectName: "queueButton"
         symbol: "list.and.film"
-        tip: qsTr("Queue (Q)")
+        tip: PlayerActions.tip(PlayerActions.Queue)
         active: options.chrome.showsQueue
         onClicked: options.chrome.showsQueue = !options.chrome.showsQueue
     }
@@ -70,7 +70,7 @@ Row {
     Opener {
         objectName: "infoButton"
         symbol: "info.circle"
-        tip: qsTr("Playback info (I)")
+        tip: PlayerActions.tip(PlayerActions.Info)
         active: options.chrome.showsInfo
         onClicked: options.chrome.showsInfo = !options.chrome.showsInfo
     }
@@ -78,7 +78,7 @@ Row {
     IconButton {
         objectName: "fullscreenButton"
         symbol: options.playback.isFullscreen ? "arrow.down.right.and.arrow.up.left" : "arrow.up.left.and.arrow.down.right"
-        tip: options.playback.isFullscreen ? qsTr("Exit full screen (F)") : qsTr("Full screen (F)")
+        tip: PlayerActions.tip(options.playback.isFullscreen ? PlayerActions.ExitFullScreen : PlayerActions.EnterFullScreen)
         onClicked: options.fullscreenToggled()
     }
 }

@@ -13,7 +13,7 @@ PlainButton {
     objectName: "playerPlayPause"
     implicitWidth: Theme.playButtonWidth
     implicitHeight: Theme.playButtonHeight
-    tip: playback.isPaused ? qsTr("Play (Space)") : qsTr("Pause (Space)")
+    tip: PlayerActions.tip(playback.isPaused ? PlayerActions.Play : PlayerActions.Pause)
     onClicked: playback.togglePlayback()
 
     contentItem: Symbol {

@@ -4,6 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Tromelo.Controls
 import Tromelo.Glass
+import Tromelo.Player
 import Tromelo.Theme
 
 // Ends the player and goes back to the library.
@@ -61,7 +62,7 @@ T.Button {
         id: tip
 
         control: button
-        tip: qsTr("Close player (Esc)")
+        tip: PlayerActions.tip(PlayerActions.ClosePlayer)
         below: true
     }
 }

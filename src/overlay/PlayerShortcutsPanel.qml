@@ -60,7 +60,7 @@ OverlaySurface {
         anchors.rightMargin: Theme.shortcutsPadding - (width - Theme.symbolSize) / 2
         y: Theme.shortcutsPadding - (height - title.height) / 2
         symbol: "xmark"
-        tip: qsTr("Close (Esc)")
+        tip: PlayerActions.tip(PlayerActions.ClosePanel)
         onClicked: panel.chrome.showsShortcuts = false
     }
 

@@ -20,7 +20,7 @@ PlainButton {
     leftPadding: Theme.speedPadding
     rightPadding: Theme.speedPadding
     text: Format.speed(playback.speed)
-    tip: qsTr("Playback speed ([ and ])")
+    tip: PlayerActions.tip(PlayerActions.Speed)
     active: isOpen || !Format.isSameSpeed(playback.speed, 1)
     Accessible.role: Accessible.ButtonMenu
     Accessible.description: text

@@ -46,7 +46,7 @@ Item {
         name: qsTr("Position")
         shown: row.shownTime
         maximumValue: Math.max(row.playback.duration, 1)
-        stepSize: 10
+        stepSize: PlayerActions.seekStep
         onBegun: row.playback.beginScrubbing()
         onMoved: value => row.playback.scrubTo(value)
         onEnded: row.playback.endScrubbing()

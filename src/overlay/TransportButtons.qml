@@ -20,15 +20,15 @@ Row {
         enabled: transport.playback.hasPrevious
         symbol: "backward.end.fill"
         size: Theme.skipSymbolSize
-        tip: qsTr("Previous (P)")
+        tip: PlayerActions.tip(PlayerActions.Previous)
         onClicked: transport.playback.playPrevious()
     }
 
     Step {
         objectName: "backButton"
         symbol: "gobackward.10"
-        tip: qsTr("Back 10 seconds (←)")
-        onClicked: transport.playback.seekBy(-10)
+        tip: PlayerActions.tip(PlayerActions.Back)
+        onClicked: transport.playback.seekBy(-PlayerActions.seekStep)
     }
 
     PlayPauseButton {
@@ -38,8 +38,8 @@ Row {
     Step {
         objectName: "forwardButton"
         symbol: "goforward.10"
-        tip: qsTr("Forward 10 seconds (→)")
-        onClicked: transport.playback.seekBy(10)
+        tip: PlayerActions.tip(PlayerActions.Forward)
+        onClicked: transport.playback.seekBy(PlayerActions.seekStep)
     }
 
     Step {
@@ -48,7 +48,7 @@ Row {
         enabled: transport.playback.hasNext
         symbol: "forward.end.fill"
         size: Theme.skipSymbolSize
-        tip: qsTr("Next (N)")
+        tip: PlayerActions.tip(PlayerActions.Next)
         onClicked: transport.playback.playNext()
     }
 }

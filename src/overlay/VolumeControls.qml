@@ -20,7 +20,7 @@ Row {
         objectName: "muteButton"
         implicitWidth: Theme.muteWidth
         implicitHeight: Theme.muteHeight
-        tip: controls.playback.isMuted ? qsTr("Unmute (M)") : qsTr("Mute (M)")
+        tip: PlayerActions.tip(controls.playback.isMuted ? PlayerActions.Unmute : PlayerActions.Mute)
         onClicked: controls.playback.toggleMute()
 
         contentItem: Symbol {
@@ -39,7 +39,7 @@ Row {
         name: qsTr("Volume")
         shown: controls.playback.volume
         maximumValue: 100
-        stepSize: 5
+        stepSize: PlayerActions.volumeStep
         onMoved: value => controls.playback.setVolume(value)
     }
 }

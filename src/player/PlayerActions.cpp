@@ -4,6 +4,7 @@
 #include <cmath>
 #include <functional>
 
+#include "platform/PlatformWording.h"
 #include "playback/PlaybackModel.h"
 #include "player/PlayerFormats.h"
 #include "player/PlayerWindowController.h"
@@ -150,23 +151,19 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
           {{.keys = {anyhow(Qt::Key_Space)},
             .act = run<&PlaybackModel::togglePlayback>,
             .withoutWindow = true,
-            .button = PlayPause,
-            .tip = QT_TR_NOOP("Play (Space)"),
-            .tipWhenOn = QT_TR_NOOP("Pause (Space)")}}},
+            .tips = {{Play, QT_TR_NOOP("Play (Space)")}, {Pause, QT_TR_NOOP("Pause (Space)")}}}}},
          {QT_TR_NOOP("← / →"),
           QT_TR_NOOP("Back / forward 10 s"),
           {{.keys = {exactly({}, Qt::Key_Left)},
             .act = seek<-seekStep()>,
             .held = Held::again,
             .withoutWindow = true,
-            .button = Back,
-            .tip = QT_TR_NOOP("Back 10 seconds (←)")},
+            .tips = {{Back, QT_TR_NOOP("Back 10 seconds (←)")}}},
            {.keys = {exactly({}, Qt::Key_Right)},
             .act = seek<seekStep()>,
             .held = Held::again,
             .withoutWindow = true,
-            .button = Forward,
-            .tip = QT_TR_NOOP("Forward 10 seconds (→)")}}},
+            .tips = {{Forward, QT_TR_NOOP("Forward 10 seconds (→)")}}}}},
          {QT_TR_NOOP("⇧← / ⇧→"),
           QT_TR_NOOP("Back / forward 3 s"),
           {{.keys = {exactly(kShift, Qt::Key_Left)},
@@ -197,8 +194,7 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
            {.keys = {typed(u"]")},
             .act = stepSpeed<1>,
             .held = Held::again,
-            .button = Speed,
-            .tip = QT_TR_NOOP("Playback speed ([ and ])")}}},
+            .tips = {{Speed, QT_TR_NOOP("Playback speed ([ and ])")}}}}},
          {QT_TR_NOOP("="),
           QT_TR_NOOP("Normal speed"),
           {{.keys = {typed(u"=")}, .act = resetSpeed}}},
@@ -215,12 +211,10 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
           QT_TR_NOOP("Next / previous in queue"),
           {{.keys = {typed(u"n")},
             .act = run<&PlaybackModel::playNext>,
-            .button = Next,
-            .tip = QT_TR_NOOP("Next (N)")},
+            .tips = {{Next, QT_TR_NOOP("Next (N)")}}},
            {.keys = {typed(u"p")},
             .act = run<&PlaybackModel::playPrevious>,
-            .button = Previous,
-            .tip = QT_TR_NOOP("Previous (P)")}}},
+            .tips = {{Previous, QT_TR_NOOP("Previous (P)")}}}}},
          {QT_TR_NOOP("⌘→ / ⌘←"),
           QT_TR_NOOP("Next / previous in queue"),
           {{.keys = {exactly(kControl, Qt::Key_Right)}, .act = run<&PlaybackModel::playNext>},
@@ -233,18 +227,19 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
           QT_TR_NOOP("Chapter list"),
           {{.keys = {typed(u"cC")},
             .act = toggleChapters,
-            .button = Chapters,
-            .tip = QT_TR_NOOP("Chapters (C)")}}},
+            .tips = {{Chapters, QT_TR_NOOP("Chapters (C)")}}}}},
          {QT_TR_NOOP("Q"),
           QT_TR_NOOP("Queue"),
           {{.keys = {typed(u"qQ")},
             .act = toggle<PlayerPanel::queue>,
-            .button = Queue,
-            .tip = QT_TR_NOOP("Queue (Q)")}}},
+            .tips = {{Queue, QT_TR_NOOP("Queue (Q)")}}}}},
          {QT_TR_NOOP("O / ⌘O"),
           QT_TR_NOOP("Open videos"),
           {{.keys = {typed(u"oO")}, .act = run<&PlaybackModel::presentOpenPanel>},
-           {.keys = {exactly(kControl, Qt::Key_O)}, .program = Program::open}}},
+           {.keys = {exactly(kControl, Qt::Key_O)},
+            .program = Program::open,
+            .tips = {{OpenVideo, QT_TR_NOOP("Open a video (⌘O)")},
+                     {OpenVideos, QT_TR_NOOP("Open videos (⌘O)")}}}}},
      }},
     {QT_TR_NOOP("Audio & subtitles"),
      {
@@ -263,9 +258,7 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
           QT_TR_NOOP("Mute"),
           {{.keys = {typed(u"mM")},
             .act = toggleMute,
-            .button = Mute,
-            .tip = QT_TR_NOOP("Mute (M)"),
-            .tipWhenOn = QT_TR_NOOP("Unmute (M)")}}},
+            .tips = {{Mute, QT_TR_NOOP("Mute (M)")}, {Unmute, QT_TR_NOOP("Unmute (M)")}}}}},
          {QT_TR_NOOP("B"),
           QT_TR_NOOP("Next audio track"),
           {{.keys = {typed(u"bB")}, .act = run<&PlaybackModel::cycleAudio>}}},
@@ -284,8 +277,7 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
           QT_TR_NOOP("Subtitles & audio panel"),
           {{.keys = {typed(u"uU")},
             .act = toggle<PlayerPanel::tracks>,
-            .button = Tracks,
-            .tip = QT_TR_NOOP("Subtitles & audio (U)")}}},
+            .tips = {{Tracks, QT_TR_NOOP("Subtitles & audio (U)")}}}}},
      }},
     {QT_TR_NOOP("Window"),
      {
@@ -293,17 +285,15 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
           QT_TR_NOOP("Full screen"),
           {{.keys = {typed(u"fF")},
             .act = run<&Player::toggleFullscreen>,
-            .button = FullScreen,
-            .tip = QT_TR_NOOP("Full screen (F)"),
-            .tipWhenOn = QT_TR_NOOP("Exit full screen (F)")}}},
+            .tips = {{EnterFullScreen, QT_TR_NOOP("Full screen (F)")},
+                     {ExitFullScreen, QT_TR_NOOP("Exit full screen (F)")}}}}},
          {QT_TR_NOOP("Esc"),
           QT_TR_NOOP("Close panel, leave full screen, or close player"),
           {{.keys = {anyhow(Qt::Key_Escape)},
             .act = run<&Player::escape>,
             .withoutWindow = true,
-            .button = Escape,
-            .tip = QT_TR_NOOP("Close player (Esc)"),
-            .tipWhenOn = QT_TR_NOOP("Close (Esc)")}}},
+            .tips = {{ClosePlayer, QT_TR_NOOP("Close player (Esc)")},
+                     {ClosePanel, QT_TR_NOOP("Close (Esc)")}}}}},
          {QT_TR_NOOP("S, ⌘W"),
           QT_TR_NOOP("Stop and close player"),
           {{.keys = {typed(u"sS"), {.characters = u"w", .modifiers = kControl}},
@@ -312,8 +302,7 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
           QT_TR_NOOP("Playback info"),
           {{.keys = {typed(u"iI")},
             .act = toggleInfo,
-            .button = Info,
-            .tip = QT_TR_NOOP("Playback info (I)")}}},
+            .tips = {{Info, QT_TR_NOOP("Playback info (I)")}}}}},
          {QT_TR_NOOP("?"),
           QT_TR_NOOP("This list"),
           {{.keys = {typed(u"?/")}, .act = toggle<PlayerPanel::shortcuts>}}},
@@ -351,9 +340,14 @@ QKeySequence PlayerActions::programKey(Program command) {
   return QKeyCombination(key.modifiers, key.key);
 }
 
-QString PlayerActions::tip(Button button, bool isOn) {
-  const Action* action = firstOf([&](const Action& one) { return one.button == button; });
-  return tr(isOn && action->tipWhenOn ? action->tipWhenOn : action->tip);
+QString PlayerActions::tip(Tip tip) {
+  const char* text = nullptr;
+  firstOf([&](const Action& action) {
+    const auto told = std::ranges::find(action.tips, tip, &std::pair<Tip, const char*>::first);
+    if (told != action.tips.end()) text = told->second;
+    return text != nullptr;
+  });
+  return platformWording(tr(text));
 }
 
 QString PlayerActions::volumeText(const PlaybackModel& playback) {

@@ -3,6 +3,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QKeySequence>
 #include <QObject>
+#include <utility>
 #include <vector>
 
 #include "player/KeyPress.h"
@@ -29,10 +30,10 @@ class PlayerActions : public QObject {
   static constexpr double volumeStep() { return 5; }    // percent
   static constexpr double delayStep() { return 0.05; }  // seconds
 
-  /// What has a button besides its key.
-  enum Button {
-    NoButton,
-    PlayPause,
+  /// What a button that does the same as a key tells where the pointer rests on it.
+  enum Tip {
+    Play,
+    Pause,
     Back,
     Forward,
     Speed,
@@ -40,13 +41,18 @@ class PlayerActions : public QObject {
     Previous,
     Chapters,
     Queue,
+    OpenVideo,
+    OpenVideos,
     Mute,
+    Unmute,
     Tracks,
-    FullScreen,
-    Escape,
+    EnterFullScreen,
+    ExitFullScreen,
+    ClosePlayer,
+    ClosePanel,
     Info,
   };
-  Q_ENUM(Button)
+  Q_ENUM(Tip)
 
   /// What the program as a whole does, whichever of its windows has the keyboard; see Commands.
   enum class Program { no, open, quit, settings, library };
@@ -80,9 +86,7 @@ class PlayerActions : public QObject {
     Held held = Held::once;
     bool withoutWindow = false;  // also for a file that has no window, in the library
     Program program = Program::no;
-    Button button = NoButton;
-    const char* tip = nullptr;        // that button's tooltip,
-    const char* tipWhenOn = nullptr;  // and what it is while pressing it undoes something
+    std::vector<std::pair<Tip, const char*>> tips = {};
   };
 
   /// A line in the list of keys, with the actions that it stands for; none where it is the hand's.
@@ -105,8 +109,8 @@ class PlayerActions : public QObject {
   static QString perform(const Action& action, bool isRepeat, PlayerWindowController& player,
                          PlaybackModel& playback);
   static QKeySequence programKey(Program command);
-  /// "Mute (M)", in the person's language.
-  Q_INVOKABLE static QString tip(tromelo::PlayerActions::Button button, bool isOn = false);
+  /// "Mute (M)", as people read it.
+  Q_INVOKABLE static QString tip(tromelo::PlayerActions::Tip tip);
   static QString volumeText(const PlaybackModel& playback);
 };
 
