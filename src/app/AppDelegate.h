@@ -11,7 +11,7 @@
 #include "app/CommandLine.h"
 #include "platform/UserDefaults.h"
 #include "playback/PlaybackModel.h"
-#include "player/HostWindow.h"
+#include "player/ControlledWindow.h"
 #include "player/PlayerWindowController.h"
 
 namespace tromelo {
@@ -27,7 +27,7 @@ class AppDelegate : public QObject {
   /// What the delegate makes its objects with. The model's player must be a PlayerWindowController.
   struct Parts {
     std::function<std::unique_ptr<PlaybackModel>()> makePlayback;
-    std::function<std::unique_ptr<HostWindow>(PlaybackModel&, PlayerWindowController&)>
+    std::function<std::unique_ptr<ControlledWindow>(PlaybackModel&, PlayerWindowController&)>
         makeLibraryWindow;
   };
 
@@ -62,7 +62,7 @@ class AppDelegate : public QObject {
   bool didFinishLaunching_ = false;
   const CommandLine commandLine_;
   std::unique_ptr<PlaybackModel> playback_;
-  std::unique_ptr<HostWindow> libraryWindow_;
+  std::unique_ptr<ControlledWindow> libraryWindow_;
 };
 
 }  // namespace tromelo

@@ -170,8 +170,8 @@ void Program::showAbout() {
   aboutWindow_->show();
 }
 
-std::unique_ptr<HostWindow> Program::makeLibraryWindow(PlaybackModel& playback,
-                                                       PlayerWindowController& player) {
+std::unique_ptr<ControlledWindow> Program::makeLibraryWindow(PlaybackModel& playback,
+                                                             PlayerWindowController& player) {
   auto library = std::make_unique<LibraryWindow>(qmlEngine_, playback, player, *commands_,
                                                  defaults_, reducedMotion_);
   QObject::connect(library.get(), &LibraryWindow::closed, delegate_.get(),

@@ -11,7 +11,6 @@
 #include "app/DialogFileChooser.h"
 #include "app/StateReport.h"
 #include "app/TerminationSignals.h"
-#include "player/Commands.h"
 #include "display/PrivateDisplay.h"
 #include "display/SceneDrawing.h"
 #include "mpris/MprisService.h"
@@ -19,6 +18,7 @@
 #include "platform/IdleInhibitor.h"
 #include "platform/ReducedMotion.h"
 #include "platform/UserDefaults.h"
+#include "player/Commands.h"
 #include "player/PlayerStage.h"
 #include "windows/AboutFacts.h"
 #include "windows/ProgramWindow.h"
@@ -43,8 +43,8 @@ class Program {
   void doWithoutDmabufs();
   void followReducedMotion();
   void makeDelegate();
-  std::unique_ptr<HostWindow> makeLibraryWindow(PlaybackModel& playback,
-                                                PlayerWindowController& player);
+  std::unique_ptr<ControlledWindow> makeLibraryWindow(PlaybackModel& playback,
+                                                      PlayerWindowController& player);
   void makeCommands();
   void showAbout();
   void connectService();

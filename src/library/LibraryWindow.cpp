@@ -5,8 +5,8 @@
 #include <QEvent>
 #include <QQmlComponent>
 
-#include "player/Commands.h"
 #include "playback/PlaybackModel.h"
+#include "player/Commands.h"
 #include "player/PlayerWindowController.h"
 
 namespace tromelo {
@@ -123,7 +123,7 @@ void LibraryWindow::saveFrame() {
 
 bool LibraryWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched != window_.get() || event->type() != QEvent::Close)
-    return HostWindow::eventFilter(watched, event);
+    return ControlledWindow::eventFilter(watched, event);
   event->ignore();
   orderOut();
   Q_EMIT closed();

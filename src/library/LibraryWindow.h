@@ -8,7 +8,7 @@
 #include "library/SidebarWidth.h"
 #include "library/WindowFrame.h"
 #include "platform/FileManager.h"
-#include "player/HostWindow.h"
+#include "player/ControlledWindow.h"
 #include "player/WindowFade.h"
 
 namespace tromelo {
@@ -20,7 +20,7 @@ class PlayerWindowController;
 /// The program's home. Closing it only hides it. The first time it comes on the screen when the
 /// event loop runs: a file that is opened together with it is with the engine by then. Main thread
 /// only.
-class LibraryWindow : public HostWindow {
+class LibraryWindow : public ControlledWindow {
   Q_OBJECT
 
  public:

@@ -5,7 +5,7 @@
 #include <QStyleHints>
 
 #include "player/DraggedFiles.h"
-#include "player/WindowPlacement.h"
+#include "player/EdgeResize.h"
 
 namespace tromelo {
 

@@ -9,7 +9,6 @@
 #include "display/PrivateDisplay.h"
 #include "platform/HostHeadroom.h"
 #include "player/PlayerWindow.h"
-#include "player/WindowSystem.h"
 
 namespace tromelo {
 

@@ -12,7 +12,7 @@
 #include "player/KeyPress.h"
 #include "player/PlayerChrome.h"
 #include "player/PlayerOverlay.h"
-#include "player/WindowSystem.h"
+#include "player/VideoWindow.h"
 
 namespace tromelo {
 
@@ -28,7 +28,7 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   PlayerWindowController(PlaybackModel& playback, WindowSystem& windows, Clock& clock);
   ~PlayerWindowController() override;
 
-  void setLibraryWindow(HostWindow* library) { libraryWindow_ = library; }
+  void setLibraryWindow(ControlledWindow* library) { libraryWindow_ = library; }
   PlayerChrome& chrome() { return chrome_; }
   const PlayerChrome& chrome() const { return chrome_; }
 
@@ -106,7 +106,7 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   Clock& clock_;
   PlayerChrome chrome_;
 
-  QPointer<HostWindow> libraryWindow_;
+  QPointer<ControlledWindow> libraryWindow_;
   QPointer<VideoWindow> window_;
   std::unique_ptr<PlayerOverlay> overlay_;
   // By identity only, never dereferenced; a window leaves the set when it dies.

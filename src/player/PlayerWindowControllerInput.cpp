@@ -1,5 +1,5 @@
 #include "playback/PlaybackModel.h"
-#include "player/DroppedFiles.h"
+#include "player/DraggedFiles.h"
 #include "player/PlayerActions.h"
 #include "player/PlayerWindowController.h"
 

@@ -1,11 +1,12 @@
 #pragma once
 
+#include <QList>
 #include <QSize>
 #include <memory>
 #include <optional>
 
 #include "platform/ScreenHeadroom.h"
-#include "player/HostWindow.h"
+#include "player/ControlledWindow.h"
 #include "player/KeyPress.h"
 #include "player/PlayerOverlay.h"
 
@@ -14,13 +15,14 @@ namespace tromelo {
 class PlaybackModel;
 class PlayerWindowController;
 
-/// A window that the engine has opened, with the host window that shows it. It begins transparent
-/// and off the screen, and stays alive until the engine has taken it down and it is ordered out.
-class VideoWindow : public HostWindow {
+/// A window that the engine has opened, with the host's window that shows it, as the controller
+/// sees the two. It begins transparent and off the screen, and stays alive until the engine has
+/// taken it down and it is ordered out.
+class VideoWindow : public ControlledWindow {
   Q_OBJECT
 
  public:
-  using HostWindow::HostWindow;
+  using ControlledWindow::ControlledWindow;
 
   /// The engine wants it on the screen; false once the engine has taken it down.
   bool isVisible() const override = 0;
@@ -51,6 +53,20 @@ class VideoWindow : public HostWindow {
   void screenChanged();
   /// The person asked the window manager to close it.
   void closeRequested();
+};
+
+/// All of them, in the order in which they came. Main thread only.
+class WindowSystem : public QObject {
+  Q_OBJECT
+
+ public:
+  using QObject::QObject;
+
+  virtual QList<VideoWindow*> videoWindows() const = 0;
+
+ Q_SIGNALS:
+  /// A window came or went, or one of them became visible, hidden or minimised.
+  void windowsChanged();
 };
 
 }  // namespace tromelo

@@ -2,11 +2,10 @@
 
 #include "platform/Clock.h"
 #include "player/VideoWindow.h"
-#include "player/WindowSystem.h"
 
 namespace tromelo::testing {
 
-/// Fades on a driven clock. `Base` is HostWindow or VideoWindow.
+/// Fades on a driven clock. `Base` is ControlledWindow or VideoWindow.
 template <typename Base>
 class FakeWindow : public Base {
  public:
@@ -41,7 +40,7 @@ class FakeWindow : public Base {
   std::unique_ptr<Clock::Timer> fade_;
 };
 
-class FakeLibraryWindow final : public FakeWindow<HostWindow> {
+class FakeLibraryWindow final : public FakeWindow<ControlledWindow> {
  public:
   using FakeWindow::FakeWindow;
   void orderOut() override { visible = ordered = false; }

@@ -1,11 +1,11 @@
-#include "player/WindowEdges.h"
+#include "player/EdgeResize.h"
 
 #include <gtest/gtest.h>
 
 namespace tromelo {
 namespace {
 
-TEST(WindowEdgesTest, CanBeTakenHoldOfInANarrowFrame) {
+TEST(EdgeResizeTest, CanBeTakenHoldOfInANarrowFrame) {
   struct Row {
     QPointF place;
     Qt::Edges edges;
@@ -29,7 +29,7 @@ TEST(WindowEdgesTest, CanBeTakenHoldOfInANarrowFrame) {
   }
 }
 
-TEST(WindowEdgesTest, DraggedKeepTheAspectAndTheOppositeEdges) {
+TEST(EdgeResizeTest, DraggedKeepTheAspectAndTheOppositeEdges) {
   const QRect start(100, 100, 1024, 576);
   const WindowShape film{{520, 300}, {1920, 1080}};
   const WindowShape any{{520, 300}, {}};

@@ -7,8 +7,8 @@
 
 namespace tromelo {
 
-/// A top-level window of ours as the player's rules see it. Main thread only.
-class HostWindow : public QObject {
+/// A top-level window of ours as the player window's controller sees it. Main thread only.
+class ControlledWindow : public QObject {
   Q_OBJECT
 
  public:
