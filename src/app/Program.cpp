@@ -17,7 +17,6 @@
 #include "platform/HostEnvironment.h"
 #include "platform/SessionBus.h"
 #include "platform/UserPaths.h"
-#include "playback/ScreenAwake.h"
 
 namespace tromelo {
 
@@ -231,7 +230,7 @@ void Program::keepAwake() {
   idleInhibitor_ = std::make_unique<IdleInhibitor>(std::move(ways), clock_);
   PlaybackModel& playback = delegate_->playback();
   const auto decide = [this, &playback] {
-    idleInhibitor_->setInhibited(keepsScreenAwake(playback));
+    idleInhibitor_->setInhibited(playback.keepsScreenAwake());
   };
   for (const auto changed : {&PlaybackState::isLoadedChanged, &PlaybackState::isPausedChanged,
                              &PlaybackState::videoSizeChanged})

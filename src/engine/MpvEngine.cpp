@@ -7,16 +7,19 @@
 
 #include "engine/EngineEnvironment.h"
 #include "engine/MpvClientApi.h"
-#include "engine/MpvErrorText.h"
 #include "engine/MpvOptions.h"
 #include "engine/MpvTranslation.h"
-#include "engine/UncheckedHandle.h"
 #include "engine/WakeupTarget.h"
 #include "platform/MainThread.h"
 
 namespace tromelo {
 
 namespace {
+
+/// Carries a handle that nobody else uses any more to the thread that destroys it.
+struct UncheckedHandle {
+  mpv_handle* pointer = nullptr;
+};
 
 constexpr unsigned long kOldestClientApi = MPV_MAKE_VERSION(2, 3);
 

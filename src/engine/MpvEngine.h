@@ -7,10 +7,10 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "engine/MpvEvent.h"
-#include "engine/MpvRequest.h"
 
 struct mpv_event;
 struct mpv_handle;
@@ -20,6 +20,20 @@ namespace tromelo {
 struct MpvClientApi;
 struct MpvOption;
 class WakeupTarget;
+
+/// What is sent to the engine, in the order in which it was asked for.
+struct MpvCommand {
+  std::vector<std::string> arguments;  // the first is the command's name
+};
+struct MpvPropertyWrite {
+  std::string name;
+  std::string value;
+};
+struct MpvPropertyRead {
+  std::string name;
+  std::uint64_t reply;  // that the answer comes back with
+};
+using MpvRequest = std::variant<MpvCommand, MpvPropertyWrite, MpvPropertyRead>;
 
 /// The one playback engine of the process: a libmpv handle, its events and what is sent to it. Main
 /// thread only; nothing here waits for the engine but initialize(). Text is bytes, since paths need

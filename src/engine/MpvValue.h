@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QString>
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -31,6 +33,13 @@ template <typename T>
 const T* mpvEntry(const MpvMap& map, std::string_view key) {
   const auto found = map.find(key);
   return found == map.end() ? nullptr : found->second.template as<T>();
+}
+
+/// The text under `key`; none where there is none or it is of another kind. Undecodable bytes show
+/// as U+FFFD.
+inline std::optional<QString> nodeText(const MpvMap& map, std::string_view key) {
+  const auto* bytes = mpvEntry<std::string>(map, key);
+  return bytes ? std::optional(QString::fromUtf8(*bytes)) : std::nullopt;
 }
 
 /// What a property change carries.

@@ -13,7 +13,7 @@ Item {
     required property bool isTargeted
 
     readonly property bool hasError: playback.errorMessage !== ""
-    readonly property bool isDescribed: LibraryTexts.isDescribed(playback.lastURL, playback.codec)
+    readonly property bool isDescribed: LibraryTexts.isDescribed(playback.lastURL, playback.hasVideo)
 
     Backdrop {
         id: backdrop

@@ -19,8 +19,8 @@ class LibraryTexts : public QObject {
   using QObject::QObject;
 
   /// There is something to say about the file that was played last.
-  Q_INVOKABLE static bool isDescribed(const QUrl& file, const QString& codec) {
-    return !file.isEmpty() && codec != PlaybackState::kUnknown;
+  Q_INVOKABLE static bool isDescribed(const QUrl& file, bool hasVideo) {
+    return hasVideo && !file.isEmpty();
   }
   /// The video shows more than an ordinary screen can.
   Q_INVOKABLE static bool isHighDynamicRange(const tromelo::DynamicRange& range) {

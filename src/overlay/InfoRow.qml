@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tromelo.Theme
 
-// A label and its value on one line.
+// A label and its value on one line; without a label a line that divides.
 Item {
     id: row
 
@@ -11,9 +11,15 @@ Item {
     required property string value
 
     width: parent.width
-    implicitHeight: Math.ceil(text.implicitHeight)
-    Accessible.role: Accessible.StaticText
-    Accessible.name: label + ": " + value
+    implicitHeight: label ? Math.ceil(text.implicitHeight) : Theme.hairline
+    Accessible.role: label ? Accessible.StaticText : Accessible.Separator
+    Accessible.name: label ? label + ": " + value : ""
+
+    Rectangle {
+        anchors.fill: parent
+        visible: !row.label
+        color: Theme.infoDivider
+    }
 
     Text {
         anchors.baseline: text.baseline

@@ -33,50 +33,17 @@ OverlaySurface {
             width: parent.width
             spacing: Theme.infoSpacing
 
-            InfoRow {
-                objectName: "infoSignal"
-                label: qsTr("Signal")
-                value: panel.playback.dynamicRange.label
-            }
-            InfoRow {
-                objectName: "infoOutput"
-                label: qsTr("Output")
-                value: panel.playback.output
-            }
-            InfoRow {
-                objectName: "infoDisplay"
-                label: qsTr("Display")
-                value: panel.playback.display
-            }
-            Rectangle {
-                width: parent.width
-                height: Theme.hairline
-                color: Theme.infoDivider
-            }
-            InfoRow {
-                objectName: "infoVideo"
-                label: qsTr("Video")
-                value: panel.playback.videoSize + " · " + panel.playback.frameRate
-            }
-            InfoRow {
-                objectName: "infoCodec"
-                label: qsTr("Codec")
-                value: panel.playback.codec
-            }
-            InfoRow {
-                objectName: "infoDecoder"
-                label: qsTr("Decoder")
-                value: Wording.shown(panel.playback.decoder)
-            }
-            InfoRow {
-                objectName: "infoContainer"
-                label: qsTr("Container")
-                value: panel.playback.container
-            }
-            InfoRow {
-                objectName: "infoDropped"
-                label: qsTr("Dropped")
-                value: qsTr("%1 decode · %2 output").arg(panel.playback.decoderFrameDrops).arg(panel.playback.outputFrameDrops)
+            Repeater {
+                model: panel.playback.infoLabels
+
+                InfoRow {
+                    required property int index
+                    required property string modelData
+
+                    objectName: panel.playback.infoNames[index]
+                    label: modelData
+                    value: panel.visible ? panel.playback.infoValues[index] : ""
+                }
             }
         }
     }

@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 
-#include "playback/NodeText.h"
+#include "engine/MpvValue.h"
 
 namespace tromelo {
 

@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 
-#include "playback/SignalInputs.h"
+#include "playback/FileFacts.h"
 
 namespace tromelo {
 
@@ -21,13 +21,13 @@ QString DynamicRange::label() const {
   return QCoreApplication::translate("DynamicRange", "Dolby Vision · Profile %1").arg(*profile);
 }
 
-DynamicRange dynamicRangeOf(const SignalInputs& inputs) {
+DynamicRange dynamicRangeOf(const FileFacts& facts) {
   using Kind = DynamicRange::Kind;
-  if (inputs.colormatrix == "dolbyvision" || inputs.dolbyVisionProfile.value_or(0) >= 1) {
-    return {Kind::dolbyVision, inputs.dolbyVisionProfile};
+  if (facts.colormatrix == "dolbyvision" || facts.dolbyVisionProfile.value_or(0) >= 1) {
+    return {Kind::dolbyVision, facts.dolbyVisionProfile};
   }
-  if (inputs.gamma == "pq") return {Kind::hdr10, {}};
-  if (inputs.gamma == "hlg") return {Kind::hlg, {}};
+  if (facts.gamma == "pq") return {Kind::hdr10, {}};
+  if (facts.gamma == "hlg") return {Kind::hlg, {}};
   return {};
 }
 

@@ -7,7 +7,7 @@
 
 namespace tromelo {
 
-struct SignalInputs;
+struct FileFacts;
 
 /// What kind of signal the current video carries.
 class DynamicRange {
@@ -29,6 +29,6 @@ class DynamicRange {
 };
 
 /// Of the video that the engine describes; Dolby Vision goes before what it is built on.
-DynamicRange dynamicRangeOf(const SignalInputs& inputs);
+DynamicRange dynamicRangeOf(const FileFacts& facts);
 
 }  // namespace tromelo

@@ -23,4 +23,11 @@ class FileChooser {
   virtual void chooseFiles(const Request& request, Callback chosen) = 0;
 };
 
+/// File-name extensions of subtitle files, lower case, without dot.
+inline QStringList subtitleExtensions() {
+  return {QStringLiteral("srt"), QStringLiteral("ass"), QStringLiteral("ssa"),
+          QStringLiteral("vtt"), QStringLiteral("sub"), QStringLiteral("sup"),
+          QStringLiteral("idx"), QStringLiteral("smi")};
+}
+
 }  // namespace tromelo

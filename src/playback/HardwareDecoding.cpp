@@ -1,6 +1,10 @@
 #include "playback/HardwareDecoding.h"
 
 #include <QCoreApplication>
+#include <QJsonArray>
+
+#include "platform/FilePath.h"
+#include "platform/UserDefaults.h"
 
 namespace tromelo {
 
@@ -11,7 +15,23 @@ constexpr double kBurst = 1;
 /// For so many seconds after loading or seeking one burst is forgiven.
 constexpr double kForgiving = 1;
 
+const QString kKey = QStringLiteral("softwareDecodeFiles");
+
 }  // namespace
+
+SoftwareDecodePaths storedSoftwareDecodePaths(const UserDefaults& defaults) {
+  SoftwareDecodePaths paths;
+  for (const auto& stored : defaults.value(kKey).toArray()) {
+    if (auto path = pathFromStored(stored.toString()); !path.empty()) paths.insert(std::move(path));
+  }
+  return paths;
+}
+
+void store(const SoftwareDecodePaths& paths, UserDefaults& defaults) {
+  QJsonArray stored;
+  for (const std::string& path : paths) stored.append(storedPath(path));
+  defaults.set(kKey, stored);
+}
 
 void HardwareDecoding::fileStarted() {
   errorBursts = 0;

@@ -2,11 +2,20 @@
 
 #include <QString>
 #include <optional>
+#include <set>
 #include <string>
 
-#include "playback/SoftwareDecodePaths.h"
-
 namespace tromelo {
+
+class UserDefaults;
+
+/// Paths of the files that are always decoded in software, as bytes.
+using SoftwareDecodePaths = std::set<std::string, std::less<>>;
+
+/// What can't be read counts as absent.
+SoftwareDecodePaths storedSoftwareDecodePaths(const UserDefaults& defaults);
+
+void store(const SoftwareDecodePaths& paths, UserDefaults& defaults);
 
 /// Whether a file is decoded in hardware, and when that is given up. Errors that follow each other
 /// closely are one burst; a single burst just after loading or seeking is forgiven. Times are

@@ -3,9 +3,10 @@
 #include <QCoreApplication>
 #include <QLocale>
 #include <QStringList>
+#include <algorithm>
 
+#include "engine/MpvValue.h"
 #include "platform/LanguageName.h"
-#include "playback/NodeText.h"
 
 namespace tromelo {
 
@@ -62,6 +63,12 @@ bool containsWithoutCase(const QString& text, const QString& part) {
   return reader.toLower(text).contains(reader.toLower(part));
 }
 
+/// The position behind the first selected track; the first where none is selected.
+qsizetype behindSelected(const QList<MediaTrack>& tracks) {
+  const auto selected = std::ranges::find_if(tracks, &MediaTrack::isSelected);
+  return selected == tracks.end() ? 0 : selected - tracks.begin() + 1;
+}
+
 }  // namespace
 
 QString MediaTrack::name() const {
@@ -90,6 +97,16 @@ QList<MediaTrack> mediaTracks(const MpvValue& list, MediaTrack::Kind kind) {
     if (id && type && *type == engineName(kind)) tracks.append(mediaTrack(*entry, *id, kind));
   }
   return tracks;
+}
+
+const MediaTrack* nextSubtitle(const QList<MediaTrack>& tracks) {
+  const qsizetype next = behindSelected(tracks);
+  return next < tracks.size() ? &tracks[next] : nullptr;
+}
+
+const MediaTrack* nextAudio(const QList<MediaTrack>& tracks) {
+  if (tracks.isEmpty()) return nullptr;
+  return &tracks[behindSelected(tracks) % tracks.size()];
 }
 
 }  // namespace tromelo

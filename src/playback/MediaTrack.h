@@ -46,4 +46,13 @@ class MediaTrack {
 /// left out, and what is not a list gives none.
 QList<MediaTrack> mediaTracks(const MpvValue& list, MediaTrack::Kind kind);
 
+// Which track comes next when a person goes through them one after the other. Null where none does;
+// the pointers live as long as the list.
+
+/// After the last subtitle track come none, and after that the first.
+const MediaTrack* nextSubtitle(const QList<MediaTrack>& tracks);
+
+/// After the last audio track comes the first.
+const MediaTrack* nextAudio(const QList<MediaTrack>& tracks);
+
 }  // namespace tromelo

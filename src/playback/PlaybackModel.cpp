@@ -7,12 +7,24 @@
 
 #include "engine/MpvClientApi.h"
 #include "platform/FilePath.h"
-#include "playback/EngineErrorText.h"
+#include "platform/NumberText.h"
+#include "playback/EngineErrors.h"
 #include "playback/FileChooser.h"
-#include "playback/FileOptions.h"
-#include "playback/SubtitleExtensions.h"
 
 namespace tromelo {
+
+namespace {
+
+/// The options that go with one file when it is loaded, as the engine reads them. `start` is in
+/// seconds.
+std::string fileOptions(std::optional<double> start, bool decodesInSoftware) {
+  std::string options;
+  if (start) options = "start=" + numberText(*start);
+  if (decodesInSoftware) options += options.empty() ? "hwdec=no" : ",hwdec=no";
+  return options;
+}
+
+}  // namespace
 
 PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
     : PlaybackState(parent),
@@ -159,7 +171,7 @@ void PlaybackModel::showWaitingToast() {
 void PlaybackModel::reportPlaybackError(const QString& message) {
   errorMessage_ = message;
   status_ = message;
-  buffering_ = QStringLiteral("Unavailable");
+  buffering_ = Buffering::unavailable;
 }
 
 }  // namespace tromelo

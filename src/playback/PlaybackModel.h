@@ -18,7 +18,6 @@
 #include "playback/PlayerPresenting.h"
 #include "playback/QueueProgress.h"
 #include "playback/RecentFiles.h"
-#include "playback/SignalInputs.h"
 #include "settings/PlayerSettings.h"
 
 namespace tromelo {
@@ -66,6 +65,12 @@ class PlaybackModel : public PlaybackState {
   /// Percent of the picture's height by which subtitles are lifted above the controls.
   double subtitleLift() const { return subtitleLift_; }
   void setSubtitleLift(double percent);
+
+  /// A picture plays and isn't paused: neither the screen nor the system is to go to sleep. Seeking
+  /// and filling the cache don't interrupt that.
+  bool keepsScreenAwake() const {
+    return isLoaded_ && !isPaused_ && facts_.hasPicture() && !isShuttingDown_;
+  }
 
   /// The program is quitting and the engine is being destroyed.
   bool isShuttingDown() const { return isShuttingDown_; }
@@ -195,8 +200,6 @@ class PlaybackModel : public PlaybackState {
   void showWaitingToast();
   void resetForNewFile();
   void updateStatus();
-  void describeSignal();
-  void describeOutput();
   void showVideoReady();
   void noteRestart();
   void checkRestart();
@@ -223,7 +226,6 @@ class PlaybackModel : public PlaybackState {
   std::function<bool()> hasVulkanDevice_;
   MpvEngine engine_;
   PlayerSettings settings_;
-  SignalInputs inputs_;
   HardwareDecoding hardware_;
   QueueProgress progress_;
   RecentFiles recentFiles_;

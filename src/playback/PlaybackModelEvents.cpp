@@ -3,8 +3,7 @@
 
 #include "engine/MpvValue.h"
 #include "platform/Clock.h"
-#include "playback/EngineErrorText.h"
-#include "playback/OutputFaults.h"
+#include "playback/EngineErrors.h"
 #include "playback/PlaybackModel.h"
 #include "playback/PropertyMapping.h"
 
@@ -51,23 +50,16 @@ void PlaybackModel::resetForNewFile() {
   duration_ = 0;
   scrubPosition_ = 0;
   isScrubbing_ = false;
-  videoSize_ = kUnknown;
-  frameRate_ = kUnknown;
-  codec_ = kUnknown;
+  forgetFacts();
   decoder_ = tr("Selecting decoder");
-  buffering_ = QStringLiteral("Loading");
-  decoderFrameDrops_ = 0;
-  outputFrameDrops_ = 0;
-  dynamicRange_ = DynamicRange();
-  output_ = kUnknown;
+  buffering_ = Buffering::loading;
   currentChapter_ = std::nullopt;
-  inputs_ = {};
   hardware_.fileStarted();
 }
 
 void PlaybackModel::handle(const event::FileLoaded&) {
   isLoaded_ = true;
-  buffering_ = QStringLiteral("Ready");
+  buffering_ = Buffering::ready;
   if (currentPath_)
     remember(*currentPath_);
   else
@@ -80,7 +72,7 @@ void PlaybackModel::handle(const event::VideoReconfigured&) {
 }
 
 void PlaybackModel::handle(const event::PlaybackRestart&) {
-  buffering_ = QStringLiteral("Ready");
+  buffering_ = Buffering::ready;
   hardware_.lastPlaybackRestart = clock_.now();
   noteRestart();
   showVideoReady();
@@ -109,7 +101,7 @@ void PlaybackModel::handle(const event::EndFile& end) {
   // A film that was shown without its sound has been played.
   if (!end.error || (end.lacksSoundDevice && hasPicture_)) {
     status_ = QStringLiteral("Ready for a video");
-    buffering_ = kUnknown;
+    buffering_ = Buffering::unknown;
     return;
   }
   if (end.lacksSoundDevice && outputFault_.isEmpty()) outputFault_ = audioOutputFault();
@@ -157,7 +149,7 @@ void PlaybackModel::handle(const event::CommandFailed& failure) {
 void PlaybackModel::handle(const event::Shutdown&) {
   isLoaded_ = false;
   status_ = QStringLiteral("Playback engine stopped");
-  buffering_ = kUnknown;
+  buffering_ = Buffering::unknown;
 }
 
 void PlaybackModel::handle(const event::HardwareDecodeError&) {
@@ -195,7 +187,7 @@ void PlaybackModel::rememberSoftwareDecode(const std::string& path) {
 
 void PlaybackModel::updateStatus() {
   if (!isLoaded_) return;
-  if (buffering_.get() == QLatin1String("Buffering")) {
+  if (buffering_.get() == Buffering::buffering) {
     status_ = QStringLiteral("Buffering");
   } else {
     status_ = isPaused_ ? QStringLiteral("Paused") : QStringLiteral("Playing");

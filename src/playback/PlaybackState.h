@@ -3,16 +3,21 @@
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 #include <optional>
 
 #include "playback/Chapter.h"
 #include "playback/DynamicRange.h"
+#include "playback/FileFacts.h"
 #include "playback/MediaTrack.h"
 #include "playback/Published.h"
 #include "playback/QueueItem.h"
 
 namespace tromelo {
+
+/// Whether there is something to play. Without a file it is `unknown`.
+enum class Buffering { unknown, loading, buffering, ready, unavailable };
 
 /// What plays, and how: everything that views and others may read. Texts that aren't known are "—".
 /// Main thread only.
@@ -38,6 +43,11 @@ class PlaybackState : public QObject {
   Q_PROPERTY(QString decoder READ decoder NOTIFY decoderChanged)
   Q_PROPERTY(QString container READ container NOTIFY containerChanged)
   Q_PROPERTY(QString buffering READ buffering NOTIFY bufferingChanged)
+  Q_PROPERTY(bool hasVideo READ hasVideo NOTIFY codecChanged)
+  // The lines of the info panel, one in each list; a line without a label divides.
+  Q_PROPERTY(QStringList infoNames READ infoNames CONSTANT)
+  Q_PROPERTY(QStringList infoLabels READ infoLabels CONSTANT)
+  Q_PROPERTY(QStringList infoValues READ infoValues NOTIFY infoChanged)
   Q_PROPERTY(qint64 decoderFrameDrops READ decoderFrameDrops NOTIFY decoderFrameDropsChanged)
   Q_PROPERTY(qint64 outputFrameDrops READ outputFrameDrops NOTIFY outputFrameDropsChanged)
   Q_PROPERTY(tromelo::DynamicRange dynamicRange READ dynamicRange NOTIFY dynamicRangeChanged)
@@ -80,7 +90,13 @@ class PlaybackState : public QObject {
   QString codec() const { return codec_; }  // of the video
   QString decoder() const { return decoder_; }
   QString container() const { return container_; }
-  QString buffering() const { return buffering_; }
+  QString buffering() const;
+  const FileFacts& facts() const { return facts_; }
+  /// The video of the current file, or of the last one, has been described.
+  bool hasVideo() const { return facts_.videoFormat.has_value(); }
+  static QStringList infoNames();
+  static QStringList infoLabels();
+  QStringList infoValues() const;
   qint64 decoderFrameDrops() const { return decoderFrameDrops_; }
   qint64 outputFrameDrops() const { return outputFrameDrops_; }
   DynamicRange dynamicRange() const { return dynamicRange_; }
@@ -123,6 +139,7 @@ class PlaybackState : public QObject {
   void decoderChanged();
   void containerChanged();
   void bufferingChanged();
+  void infoChanged();
   void decoderFrameDropsChanged();
   void outputFrameDropsChanged();
   void dynamicRangeChanged();
@@ -140,7 +157,12 @@ class PlaybackState : public QObject {
   void lastURLChanged();
 
  protected:
-  using QObject::QObject;
+  explicit PlaybackState(QObject* parent);
+
+  /// Makes the texts of the facts.
+  void publishFacts();
+  /// No file plays any more, and another starts: nothing is known of it.
+  void forgetFacts();
 
   template <typename T>
   using Published = PublishedField<PlaybackState, T>;
@@ -165,7 +187,7 @@ class PlaybackState : public QObject {
   Published<QString> codec_{this, &PlaybackState::codecChanged, kUnknown};
   Published<QString> decoder_{this, &PlaybackState::decoderChanged, kUnknown};
   Published<QString> container_{this, &PlaybackState::containerChanged, kUnknown};
-  Published<QString> buffering_{this, &PlaybackState::bufferingChanged, kUnknown};
+  Published<Buffering> buffering_{this, &PlaybackState::bufferingChanged};
   Published<qint64> decoderFrameDrops_{this, &PlaybackState::decoderFrameDropsChanged};
   Published<qint64> outputFrameDrops_{this, &PlaybackState::outputFrameDropsChanged};
   Published<DynamicRange> dynamicRange_{this, &PlaybackState::dynamicRangeChanged};
@@ -181,6 +203,8 @@ class PlaybackState : public QObject {
   Published<QList<QUrl>> recents_{this, &PlaybackState::recentsChanged};
   Published<bool> hasNoRecents_{this, &PlaybackState::hasNoRecentsChanged, true};
   Published<QUrl> lastURL_{this, &PlaybackState::lastURLChanged};
+
+  FileFacts facts_;
 
  private:
   int currentChapterOrNone() const { return currentChapter_.get().value_or(-1); }

@@ -4,10 +4,11 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <type_traits>
 
 #include "engine/MpvValue.h"
+#include "platform/FilePath.h"
 #include "playback/PlaybackModel.h"
-#include "playback/VideoTexts.h"
 
 namespace tromelo {
 
@@ -27,59 +28,12 @@ constexpr double kPositionStep = 0.2;
 
 }  // namespace
 
+/// What becomes of each property that is "state", under its name.
 struct PropertyMapping::Actions {
-  /// Not used; the property is still observed.
-  static void none(Model&, const Value&) {}
-
-  /// Values of another kind than T leave the field as it is.
-  template <auto Field, typename T>
-  static void show(Model& m, const Value& v) {
-    if (const auto value = held<T>(v)) m.*Field = *value;
-  }
-
-  /// Values of another kind than T count as `Otherwise`.
-  template <auto Field, auto Otherwise>
-  static void showOr(Model& m, const Value& v) {
-    m.*Field = held<std::remove_const_t<decltype(Otherwise)>>(v).value_or(Otherwise);
-  }
-
-  /// Texts of which `Text` makes nothing leave the field as it is.
-  template <auto Field, std::optional<QString> (*Text)(std::string_view)>
-  static void showText(Model& m, const Value& v) {
-    const auto* bytes = v.as<std::string>();
-    if (const auto text = bytes ? Text(*bytes) : std::nullopt) m.*Field = *text;
-  }
-
-  /// Kept for what is made of it; none for values of another kind.
-  template <auto Input>
-  static void store(Model& m, const Value& v) {
-    auto& input = m.inputs_.*Input;
-    input = held<typename std::remove_cvref_t<decltype(input)>::value_type>(v);
-  }
-
-  template <auto Input>
-  static void storeSignal(Model& m, const Value& v) {
-    store<Input>(m, v);
-    m.describeSignal();
-  }
-
-  template <auto Input>
-  static void storeOutput(Model& m, const Value& v) {
-    store<Input>(m, v);
-    m.describeOutput();
-  }
-
-  template <auto Input>
-  static void storeSize(Model& m, const Value& v) {
-    store<Input>(m, v);
-    if (const auto size = videoSizeText(m.inputs_.width, m.inputs_.height)) m.videoSize_ = *size;
-  }
-
-  template <auto Input>
-  static void storeRate(Model& m, const Value& v) {
-    store<Input>(m, v);
-    const auto rate = frameRateText(m.inputs_.containerFps, m.inputs_.estimatedFps);
-    if (rate) m.frameRate_ = *rate;
+  static void mediaTitle(Model& m, const Value& v) {
+    const auto title = held<std::string>(v);
+    if (title && !title->empty())
+      m.title_ = withoutLastPathExtension(QString::fromStdString(*title));
   }
 
   static void timePos(Model& m, const Value& v) {
@@ -97,15 +51,23 @@ struct PropertyMapping::Actions {
   }
 
   static void pause(Model& m, const Value& v) {
-    showOr<&Model::isPaused_, true>(m, v);
+    m.isPaused_ = held<bool>(v).value_or(true);
     m.updateStatus();
+  }
+
+  static void volume(Model& m, const Value& v) {
+    if (const auto volume = held<double>(v)) m.volume_ = *volume;
+  }
+
+  static void fullscreen(Model& m, const Value& v) {
+    m.isFullscreen_ = held<bool>(v).value_or(false);
   }
 
   static void pausedForCache(Model& m, const Value& v) {
     if (held<bool>(v).value_or(false)) {
-      m.buffering_ = QStringLiteral("Buffering");
+      m.buffering_ = Buffering::buffering;
     } else if (m.isLoaded_) {
-      m.buffering_ = QStringLiteral("Ready");
+      m.buffering_ = Buffering::ready;
     }
     m.updateStatus();
   }
@@ -145,69 +107,44 @@ struct PropertyMapping::Actions {
     m.settleFailures();
   }
 
+  /// The queue's items say which is current.
+  static void playlistPos(Model&, const Value&) {}
+
+  static void speed(Model& m, const Value& v) {
+    if (const auto speed = held<double>(v)) m.speed_ = *speed;
+  }
+
+  static void mute(Model& m, const Value& v) { m.isMuted_ = held<bool>(v).value_or(false); }
+
+  static void subDelay(Model& m, const Value& v) { m.subtitleDelay_ = held<double>(v).value_or(0); }
+
+  static void audioDelay(Model& m, const Value& v) { m.audioDelay_ = held<double>(v).value_or(0); }
+
   /// Anything but "no" is "inf" or a number of rounds.
   static void loopFile(Model& m, const Value& v) {
     m.isLooping_ = held<std::string>(v).value_or("no") != "no";
   }
 };
 
-struct PropertyMapping::Row {
-  MpvProperty property;
-  bool ofSession;
-  void (*apply)(Model& m, const Value& v);
-};
+/// And of each that is a "fact".
+template <auto Fact>
+void PropertyMapping::keepFact(Model& m, const Value& v) {
+  auto& fact = m.facts_.*Fact;
+  const auto told = held<typename std::remove_cvref_t<decltype(fact)>::value_type>(v);
+  if (told == fact) return;
+  fact = told;
+  m.publishFacts();
+}
 
 const PropertyMapping::Row& PropertyMapping::row(MpvProperty property) {
-  using P = MpvProperty;
-  using A = Actions;
-  using I = SignalInputs;
-  constexpr bool kSession = true;
-  constexpr bool kLasting = false;
-  constexpr std::int64_t kNoDrops = 0;
-  static constexpr std::array kRows{
-      Row{P::mediaTitle, kLasting, A::showText<&Model::title_, mediaTitleText>},
-      Row{P::timePos, kLasting, A::timePos},
-      Row{P::duration, kLasting, A::duration},
-      Row{P::pause, kLasting, A::pause},
-      Row{P::volume, kLasting, A::show<&Model::volume_, double>},
-      Row{P::fullscreen, kLasting, A::showOr<&Model::isFullscreen_, false>},
-      Row{P::voConfigured, kLasting, A::voConfigured},
-      Row{P::pausedForCache, kLasting, A::pausedForCache},
-      Row{P::width, kSession, A::storeSize<&I::width>},
-      Row{P::height, kSession, A::storeSize<&I::height>},
-      Row{P::containerFps, kSession, A::storeRate<&I::containerFps>},
-      Row{P::estimatedFps, kSession, A::storeRate<&I::estimatedFps>},
-      Row{P::videoFormat, kSession, A::showText<&Model::codec_, codecText>},
-      Row{P::hwdecCurrent, kSession, A::hwdecCurrent},
-      Row{P::fileFormat, kSession, A::showText<&Model::container_, containerText>},
-      Row{P::decoderDrops, kLasting, A::showOr<&Model::decoderFrameDrops_, kNoDrops>},
-      Row{P::outputDrops, kLasting, A::showOr<&Model::outputFrameDrops_, kNoDrops>},
-      Row{P::gamma, kSession, A::storeSignal<&I::gamma>},
-      Row{P::primaries, kSession, A::none},
-      Row{P::colormatrix, kSession, A::storeSignal<&I::colormatrix>},
-      Row{P::sigPeak, kSession, A::none},
-      Row{P::dolbyVisionProfile, kSession, A::storeSignal<&I::dolbyVisionProfile>},
-      Row{P::targetGamma, kSession, A::storeOutput<&I::targetGamma>},
-      Row{P::targetPrimaries, kSession, A::storeOutput<&I::targetPrimaries>},
-      Row{P::path, kSession, A::path},
-      Row{P::trackList, kLasting, A::trackList},
-      Row{P::chapterList, kLasting, A::chapterList},
-      Row{P::chapter, kLasting, A::chapter},
-      Row{P::playlist, kLasting, A::playlist},
-      Row{P::playlistPos, kLasting, A::none},  // the queue's items say which is current
-      Row{P::speed, kLasting, A::show<&Model::speed_, double>},
-      Row{P::mute, kLasting, A::showOr<&Model::isMuted_, false>},
-      Row{P::subDelay, kLasting, A::showOr<&Model::subtitleDelay_, 0.0>},
-      Row{P::audioDelay, kLasting, A::showOr<&Model::audioDelay_, 0.0>},
-      Row{P::loopFile, kLasting, A::loopFile},
-  };
-  static_assert([] {
-    for (std::size_t i = 0; i < kRows.size(); ++i) {
-      if (static_cast<std::size_t>(kRows[i].property) != i + 1) return false;
-    }
-    return true;
-  }());
-  return kRows.at(static_cast<std::size_t>(property) - 1);
+  constexpr bool session = true;
+  constexpr bool lasting = false;
+#define TROMELO_TAKE_fact(name) &keepFact<&FileFacts::name>
+#define TROMELO_TAKE_state(name) &Actions::name
+#define TROMELO_ROW(name, engineName, format, lifetime, target) \
+  Row{lifetime, TROMELO_TAKE_##target(name)},
+  static constexpr std::array kRows{TROMELO_MPV_PROPERTIES(TROMELO_ROW)};
+  return kRows.at(std::size_t(property) - 1);
 }
 
 void PropertyMapping::apply(Model& model, MpvProperty property, const Value& value) {
@@ -215,7 +152,5 @@ void PropertyMapping::apply(Model& model, MpvProperty property, const Value& val
   if (value.isNone() && target.ofSession) return;
   target.apply(model, value);
 }
-
-bool PropertyMapping::isSessionProperty(MpvProperty property) { return row(property).ofSession; }
 
 }  // namespace tromelo

@@ -7,17 +7,18 @@ namespace tromelo {
 class MpvValue;
 class PlaybackModel;
 
-/// What becomes of the engine's properties in the model: one row for each.
+/// What becomes of the engine's properties in the model.
 struct PropertyMapping {
   static void apply(PlaybackModel& model, MpvProperty property, const MpvValue& value);
 
-  /// Belongs to the file that plays: when it becomes unavailable, what was last known stays on
-  /// show.
-  static bool isSessionProperty(MpvProperty property);
-
  private:
   struct Actions;
-  struct Row;
+  struct Row {
+    bool ofSession;
+    void (*apply)(PlaybackModel& model, const MpvValue& value);
+  };
+  template <auto Fact>
+  static void keepFact(PlaybackModel& model, const MpvValue& value);
   static const Row& row(MpvProperty property);
 };
 

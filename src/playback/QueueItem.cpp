@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "engine/MpvValue.h"
 #include "platform/FilePath.h"
-#include "playback/NodeText.h"
 
 namespace tromelo {
 

@@ -4,15 +4,15 @@
 
 namespace tromelo {
 
-std::optional<QString> outputText(const SignalInputs& inputs, const DynamicRange& range) {
-  if (!inputs.targetGamma) return {};
+std::optional<QString> outputText(const FileFacts& facts, const DynamicRange& range) {
+  if (!facts.targetGamma) return {};
   QString primaries;
-  if (inputs.targetPrimaries) {
-    primaries = QStringLiteral(" · ") + QString::fromUtf8(*inputs.targetPrimaries).toUpper();
+  if (facts.targetPrimaries) {
+    primaries = QStringLiteral(" · ") + QString::fromUtf8(*facts.targetPrimaries).toUpper();
   }
   const QString extended = primaries + QStringLiteral(" (EDR)");
-  if (*inputs.targetGamma == "pq") return QStringLiteral("HDR · PQ") + extended;
-  if (*inputs.targetGamma == "hlg") return QStringLiteral("HDR · HLG") + extended;
+  if (*facts.targetGamma == "pq") return QStringLiteral("HDR · PQ") + extended;
+  if (*facts.targetGamma == "hlg") return QStringLiteral("HDR · HLG") + extended;
   const bool toneMapped = range.kind != DynamicRange::Kind::sdr;
   return (toneMapped ? QCoreApplication::translate("SignalTexts", "Tone-mapped to SDR")
                      : QStringLiteral("SDR")) +

@@ -5,7 +5,7 @@
 
 #include "platform/ScreenHeadroom.h"
 #include "playback/DynamicRange.h"
-#include "playback/SignalInputs.h"
+#include "playback/FileFacts.h"
 
 namespace tromelo {
 
@@ -13,7 +13,7 @@ namespace tromelo {
 // locale.
 
 /// What the engine sends to the screen, "HDR · PQ · BT.2020 (EDR)"; none until it has said so.
-std::optional<QString> outputText(const SignalInputs& inputs, const DynamicRange& range);
+std::optional<QString> outputText(const FileFacts& facts, const DynamicRange& range);
 
 /// What the screen can show: "EDR · 16.0× headroom (now 4.3×)" or "SDR display".
 QString displayText(const ScreenHeadroom& screen);

@@ -6,7 +6,7 @@
 #include <QMimeData>
 
 #include "platform/FilePath.h"
-#include "playback/SubtitleExtensions.h"
+#include "playback/FileChooser.h"
 
 namespace tromelo {
 

@@ -88,12 +88,4 @@ TEST(Conversion, AListGivesItsMapsOnly) {
   }
 }
 
-TEST(Properties, NumbersOutsideTheTableAreNone) {
-  EXPECT_EQ(allMpvProperties().size(), 35u);
-  EXPECT_EQ(mpvProperty(0), std::nullopt);
-  EXPECT_EQ(mpvProperty(36), std::nullopt);
-  EXPECT_EQ(mpvProperty(1), MpvProperty::mediaTitle);
-  EXPECT_EQ(mpvProperty(35), MpvProperty::loopFile);
-}
-
 }  // namespace tromelo

@@ -44,10 +44,6 @@ struct RealEngine : ::testing::Test {
 
 }  // namespace
 
-TEST_F(RealEngine, TakesEveryOptionAndWritesItsLog) {
-  EXPECT_TRUE(QFile::exists(directory.filePath("mpv.log")));
-}
-
 TEST_F(RealEngine, PlaysAFileFromLoadToEnd) {
   engine.command({"loadfile", testing::clipPath("short-wide.mp4")});
   ASSERT_TRUE(waitFor([this] { return has(event::PlaybackRestart{}); }));
@@ -85,11 +81,6 @@ TEST_F(RealEngine, LosesNoRequestOfThousands) {
   const auto* last = mpvEntry<std::string>(*playlist.list().back(), "filename");
   ASSERT_TRUE(last);
   EXPECT_EQ(*last, "/no/such/file/" + std::to_string(kFiles - 1));
-}
-
-TEST_F(RealEngine, EndsWhileItPlays) {
-  engine.command({"loadfile", testing::clipPath("sample.mp4")});
-  ASSERT_TRUE(waitFor([this] { return has(event::PlaybackRestart{}); }));
 }
 
 }  // namespace tromelo

@@ -1,8 +1,6 @@
-#include <QDir>
-
 #include "ModelTest.h"
 #include "platform/FilePath.h"
-#include "playback/OutputFaults.h"
+#include "playback/EngineErrors.h"
 
 namespace tromelo {
 
@@ -14,31 +12,6 @@ using testing::ModelTest;
 struct Events : ModelTest {};
 
 }  // namespace
-
-TEST_F(Events, StartsWithNothingToPlay) {
-  const struct {
-    const char* field;
-    QVariant expected;
-  } rows[] = {{"title", "No video selected"},
-              {"status", "Open a video to begin"},
-              {"isLoaded", false},
-              {"isPaused", true},
-              {"isFullscreen", false},
-              {"volume", 100.0},
-              {"speed", 1.0},
-              {"errorMessage", ""},
-              {"hasNext", false},
-              {"hasPrevious", false},
-              {"currentChapter", -1},
-              {"lastURL", QUrl()}};
-  for (const auto& row : rows) EXPECT_EQ(model().property(row.field), row.expected) << row.field;
-  for (const char* field : {"videoSize", "frameRate", "codec", "decoder", "container", "buffering",
-                            "output", "display"})
-    EXPECT_EQ(model().property(field), "—") << field;
-  EXPECT_EQ(model().dynamicRange(), DynamicRange());
-  EXPECT_TRUE(QDir(directory_.filePath("state/diagnostics")).exists());
-  EXPECT_TRUE(player_.calls.isEmpty());
-}
 
 TEST_F(Events, AnEngineThatDoesNotStartLeavesItsReason) {
   mpv_.optionResults["vo"] = MPV_ERROR_OPTION_ERROR;
@@ -90,30 +63,17 @@ TEST_F(Events, ANewFileForgetsTheLastOnesState) {
   EXPECT_EQ(model().videoSize(), "—");
 }
 
-TEST_F(Events, PlaybackThatStartsIsRevealed) {
-  report(event::FileLoaded{});
-  EXPECT_TRUE(model().isLoaded());
-  EXPECT_EQ(model().buffering(), "Ready");
-  EXPECT_TRUE(player_.calls.isEmpty());
-  report(event::PlaybackRestart{});
-  EXPECT_EQ(player_.take(), (QStringList{"ready", "reveal"}));
-}
-
-TEST_F(Events, AFileThatEndsLeavesRoomForAnother) {
-  load();
-  report(event::EndFile{});
-  EXPECT_FALSE(model().isLoaded());
-  EXPECT_EQ(model().status(), "Ready for a video");
-  EXPECT_EQ(model().buffering(), "—");
-  EXPECT_EQ(model().errorMessage(), "");
-}
-
-TEST_F(Events, AnEngineThatStopsSaysSo) {
-  load();
-  report(event::Shutdown{});
-  EXPECT_FALSE(model().isLoaded());
-  EXPECT_EQ(model().status(), "Playback engine stopped");
-  EXPECT_EQ(model().buffering(), "—");
+TEST_F(Events, WhatIsOverSaysSo) {
+  const std::pair<MpvEvent, const char*> rows[] = {{event::EndFile{}, "Ready for a video"},
+                                                   {event::Shutdown{}, "Playback engine stopped"}};
+  for (const auto& [event, status] : rows) {
+    load();
+    report(event);
+    EXPECT_FALSE(model().isLoaded()) << status;
+    EXPECT_EQ(model().status(), status);
+    EXPECT_EQ(model().buffering(), "—") << status;
+    EXPECT_EQ(model().errorMessage(), "") << status;
+  }
 }
 
 TEST_F(Events, AFailedCommandMattersWhileNothingPlays) {

@@ -1,7 +1,5 @@
 #include "playback/PropertyMapping.h"
 
-#include <QMetaProperty>
-#include <algorithm>
 #include <limits>
 
 #include "ModelTest.h"
@@ -31,33 +29,22 @@ TEST_F(Mapping, EachKindOfValueChangesItsFieldOrLeavesIt) {
     QVariant expected;
   } rows[] = {
       {P::mediaTitle, {"Movie.mkv"}, "title", "Movie"},
-      {P::mediaTitle, {"Movie.mkv", ""}, "title", "Movie"},
       {P::mediaTitle, {"Movie.mkv", none, 3_i}, "title", "Movie"},
-      {P::duration, {12.5}, "duration", 12.5},
       {P::duration, {12.5, none}, "duration", 0.0},
       {P::duration, {12.5, -1.0}, "duration", 0.0},
       {P::duration, {12.5, kInfinity}, "duration", 0.0},
-      {P::pause, {false}, "isPaused", false},
       {P::pause, {false, none}, "isPaused", true},
       {P::volume, {30.0, none}, "volume", 30.0},
-      {P::fullscreen, {true}, "isFullscreen", true},
       {P::fullscreen, {true, none}, "isFullscreen", false},
       {P::videoFormat, {"h264", none}, "codec", "H264"},
-      {P::fileFormat, {"mov,mp4,m4a"}, "container", "MOV"},
       {P::fileFormat, {",,mkv"}, "container", "MKV"},
       {P::fileFormat, {"mkv", ","}, "container", "MKV"},
-      {P::decoderDrops, {3_i}, "decoderFrameDrops", 3},
       {P::decoderDrops, {3_i, none}, "decoderFrameDrops", 0},
-      {P::outputDrops, {4_i}, "outputFrameDrops", 4},
       {P::outputDrops, {4_i, none}, "outputFrameDrops", 0},
       {P::speed, {1.5, none}, "speed", 1.5},
-      {P::mute, {true}, "isMuted", true},
       {P::mute, {true, none}, "isMuted", false},
-      {P::subDelay, {0.5}, "subtitleDelay", 0.5},
       {P::subDelay, {0.5, none}, "subtitleDelay", 0.0},
-      {P::audioDelay, {-0.5}, "audioDelay", -0.5},
       {P::audioDelay, {-0.5, none}, "audioDelay", 0.0},
-      {P::loopFile, {"inf"}, "isLooping", true},
       {P::loopFile, {"5"}, "isLooping", true},
       {P::loopFile, {"inf", "no"}, "isLooping", false},
       {P::loopFile, {"inf", 5_i}, "isLooping", false},
@@ -66,8 +53,6 @@ TEST_F(Mapping, EachKindOfValueChangesItsFieldOrLeavesIt) {
       {P::containerFps, {0.0}, "frameRate", "—"},
       {P::path, {"/films/50%.mkv"}, "lastURL", QUrl("file:///films/50%25.mkv")},
       {P::path, {"/films/\xff.mkv", none}, "lastURL", QUrl("file:///films/%FF.mkv")},
-      {P::primaries, {"bt.2020"}, "output", "—"},
-      {P::playlistPos, {2_i}, "queue", QVariant::fromValue(QList<QueueItem>())},
   };
   for (const auto& row : rows) {
     remake();
@@ -76,18 +61,6 @@ TEST_F(Mapping, EachKindOfValueChangesItsFieldOrLeavesIt) {
         << mpvPropertyName(row.property) << " after " << row.reports.size()
         << " reports: " << shown(row.field).toString().toStdString();
   }
-}
-
-TEST_F(Mapping, WhatBelongsToTheFileOutlivesItsEnd) {
-  std::vector<P> session;
-  std::ranges::copy_if(allMpvProperties(), std::back_inserter(session),
-                       PropertyMapping::isSessionProperty);
-  const std::vector<P> expected{P::width,        P::height,          P::containerFps,
-                                P::estimatedFps, P::videoFormat,     P::hwdecCurrent,
-                                P::fileFormat,   P::gamma,           P::primaries,
-                                P::colormatrix,  P::sigPeak,         P::dolbyVisionProfile,
-                                P::targetGamma,  P::targetPrimaries, P::path};
-  EXPECT_EQ(session, expected);
 }
 
 TEST_F(Mapping, ThePositionIsThinnedForwardsOnly) {
@@ -107,30 +80,28 @@ TEST_F(Mapping, ThePositionIsThinnedForwardsOnly) {
   EXPECT_EQ(model().scrubPosition(), 3.0);
 }
 
-TEST_F(Mapping, TheSizeNeedsBothItsSides) {
-  report(P::width, 1920_i);
-  EXPECT_EQ(model().videoSize(), "—");
-  report(P::height, 1080_i);
-  EXPECT_EQ(model().videoSize(), "1920 × 1080");
-  report(P::height, 0_i);
-  report(P::width, {});
-  EXPECT_EQ(model().videoSize(), "1920 × 1080");
-  report(P::height, 800_i);
-  EXPECT_EQ(model().videoSize(), "1920 × 800");
-  report(P::width, "wide");
-  report(P::height, 600_i);
-  EXPECT_EQ(model().videoSize(), "1920 × 800");
-}
-
-TEST_F(Mapping, TheContainersRateGoesBeforeTheMeasuredOne) {
-  report(P::estimatedFps, 29.97);
-  EXPECT_EQ(model().frameRate(), "30 fps");
-  report(P::containerFps, 23.976);
-  EXPECT_EQ(model().frameRate(), "24 fps");
-  report(P::estimatedFps, 12.5);
-  EXPECT_EQ(model().frameRate(), "24 fps");
-  report(P::containerFps, "variable");
-  EXPECT_EQ(model().frameRate(), "12.5 fps");
+TEST_F(Mapping, WhatIsMadeOfSeveralValuesKeepsWhatWasLastSaid) {
+  const struct {
+    P property;
+    MpvValue value;
+    const char* size;
+    const char* rate;
+  } rows[] = {
+      {P::width, 1920_i, "—", "—"},
+      {P::height, 1080_i, "1920 × 1080", "—"},
+      {P::height, 0_i, "1920 × 1080", "—"},
+      {P::width, {}, "1920 × 1080", "—"},
+      {P::height, 800_i, "1920 × 800", "—"},
+      {P::estimatedFps, 29.97, "1920 × 800", "30 fps"},
+      {P::containerFps, 23.976, "1920 × 800", "24 fps"},
+      {P::estimatedFps, 12.5, "1920 × 800", "24 fps"},
+      {P::containerFps, "variable", "1920 × 800", "12.5 fps"},
+  };
+  for (const auto& row : rows) {
+    report(row.property, row.value);
+    EXPECT_EQ(model().videoSize(), row.size) << mpvPropertyName(row.property);
+    EXPECT_EQ(model().frameRate(), row.rate) << mpvPropertyName(row.property);
+  }
 }
 
 TEST_F(Mapping, BufferingShowsInTheStatus) {

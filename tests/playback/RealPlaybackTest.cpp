@@ -1,5 +1,5 @@
 #include "RealPlayback.h"
-#include "playback/OutputFaults.h"
+#include "playback/EngineErrors.h"
 
 namespace tromelo {
 

@@ -2,7 +2,7 @@
 
 #include "ModelTest.h"
 #include "platform/FilePath.h"
-#include "playback/SubtitleExtensions.h"
+#include "playback/SpeedLadder.h"
 #include "support/WaitFor.h"
 
 namespace tromelo {
@@ -117,16 +117,13 @@ TEST_F(Transport, ThePanelsAskAndDoAsTheyAreTold) {
             (Requests{{"sub-add", "/films/a.srt", "select"}}));
 }
 
-TEST_F(Transport, NothingLoadedIsNeitherPausedNorSought) {
+TEST_F(Transport, PausesAndSeeksWhatIsLoaded) {
   EXPECT_EQ(asked([this] {
               model().togglePlayback();
               model().seekBy(10);
               model().seekTo(10);
             }),
             Requests());
-}
-
-TEST_F(Transport, PausesAndSeeks) {
   load();
   report(P::pause, false);
   EXPECT_EQ(asked([this] { model().togglePlayback(); }), (Requests{{"set", "pause", "yes"}}));
@@ -214,6 +211,19 @@ TEST_F(Transport, SpeedLoopAndDelaysShowAtOnce) {
   EXPECT_EQ(asked([this] { model().setAudioDelay(-0.0625); }),
             (Requests{{"set", "audio-delay", "-0.063"}}));
   EXPECT_EQ(model().audioDelay(), -0.063);
+}
+
+TEST(SpeedLadder, ClimbsByRungsAndStaysOn) {
+  const struct {
+    double speed;
+    int steps;
+    double expected;
+  } rows[] = {{1.0, 1, 1.25},  {1.0, -1, 0.75}, {1.1, 1, 1.5},   {1.0005, 1, 1.25},
+              {2.0, 1, 3.0},   {3.0, 1, 3.0},   {3.0, -1, 2.0},  {0.25, -1, 0.25},
+              {0.1, -1, 0.25}, {8.0, -1, 2.0},  {1.0, 100, 3.0}, {1.0, -2147483647 - 1, 0.25}};
+  for (const auto& row : rows) {
+    EXPECT_EQ(steppedSpeed(row.speed, row.steps), row.expected) << row.speed << " " << row.steps;
+  }
 }
 
 }  // namespace tromelo

@@ -1,4 +1,4 @@
-#include "playback/EngineErrorText.h"
+#include "playback/EngineErrors.h"
 
 #include <QCoreApplication>
 
@@ -29,6 +29,21 @@ namespace {
 
 QString engineErrorText(const std::string& reason) {
   return QCoreApplication::translate("EngineErrorText", reason.c_str());
+}
+
+QString videoOutputFault(bool hasVulkanDevice) {
+  if (hasVulkanDevice)
+    return QCoreApplication::translate("OutputFaults",
+                                       "The picture can't be drawn with the Vulkan driver of your "
+                                       "graphics card; update it to play videos.");
+  return QCoreApplication::translate("OutputFaults",
+                                     "No Vulkan driver was found; install one for your graphics "
+                                     "card (mesa-vulkan-drivers) to play videos.");
+}
+
+QString audioOutputFault() {
+  return QCoreApplication::translate("OutputFaults",
+                                     "No sound device was found; check your sound settings.");
 }
 
 }  // namespace tromelo
