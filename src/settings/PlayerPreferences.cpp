@@ -1,20 +1,66 @@
 #include "settings/PlayerPreferences.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <optional>
+
+#include "platform/NumberText.h"
 
 namespace tromelo {
 
 namespace {
 
-const QString kAutoHideDelay = QStringLiteral("autoHideDelay");
-const QString kFont = QStringLiteral("subtitleFont");
-const QString kSize = QStringLiteral("subtitleSize");
-const QString kColor = QStringLiteral("subtitleColor");
-const QString kOutlineColor = QStringLiteral("subtitleOutlineColor");
-const QString kBorderStyle = QStringLiteral("subtitleBorderStyle");
-const QString kBold = QStringLiteral("subtitleBold");
-const QString kOverridesStyled = QStringLiteral("subtitleOverridesStyled");
+// How each type is stored; none where something else was.
+
+void read(const QJsonValue& stored, std::optional<double>& value) {
+  if (stored.isDouble()) value = stored.toDouble();
+}
+void read(const QJsonValue& stored, std::optional<QString>& value) {
+  if (stored.isString()) value = stored.toString();
+}
+void read(const QJsonValue& stored, std::optional<bool>& value) {
+  if (stored.isBool()) value = stored.toBool();
+}
+void read(const QJsonValue& stored, std::optional<RgbaColor>& value) { value = color(stored); }
+void read(const QJsonValue& stored, std::optional<SubtitleBorderStyle>& value) {
+  value = borderStyleOf(stored.toString());
+}
+
+template <typename T>
+QJsonValue written(const T& value) {
+  return value;
+}
+QJsonValue written(const RgbaColor& color) { return storedColor(color); }
+QJsonValue written(SubtitleBorderStyle style) { return rawValue(style); }
+
+// And how the engine reads it.
+
+std::string mpvText(const QString& text) { return text.toStdString(); }
+std::string mpvText(double number) { return numberText(number); }
+std::string mpvText(bool flag) { return flagText(flag); }
+std::string mpvText(const RgbaColor& color) { return mpvColor(color); }
+std::string forceOrScale(bool overrides) { return overrides ? "force" : "scale"; }
+template <typename T>
+std::string noText(const T&) {
+  return {};
+}
+
+/// What hangs on the border style: a text for each. Without one the engine keeps what it has.
+struct BorderRow {
+  const char* property;
+  std::array<const char*, 3> values;  // outline, shadow, box
+};
+
+constexpr const char* kOutlineColor = "the person's colour";
+
+constexpr std::array kBorderRows{
+    BorderRow{"sub-border-style", {"outline-and-shadow", "outline-and-shadow", "background-box"}},
+    BorderRow{"sub-outline-size", {"2.6", "0.8", "5"}},
+    BorderRow{"sub-outline-color", {kOutlineColor, kOutlineColor, nullptr}},
+    BorderRow{"sub-shadow-offset", {"0", "2.4", "0"}},
+    BorderRow{"sub-back-color", {nullptr, "0.0/0.0/0.0/0.8", "0.0/0.0/0.0/0.62"}},
+};
 
 }  // namespace
 
@@ -26,33 +72,45 @@ double keptAutoHideDelay(double seconds) {
 double keptSubtitleSize(double size) {
   constexpr double kEngineLeast = 1;
   constexpr double kEngineMost = 9000;
-  return size >= kEngineLeast ? std::min(size, kEngineMost) : SubtitleStyle().size;
+  return size >= kEngineLeast ? std::min(size, kEngineMost) : PlayerPreferences().subtitleSize;
 }
 
 PlayerPreferences preferencesOf(const QJsonObject& stored) {
-  PlayerPreferences p;
-  SubtitleStyle& s = p.subtitles;
-  p.autoHideDelay = keptAutoHideDelay(stored.value(kAutoHideDelay).toDouble(p.autoHideDelay));
-  s.font = stored.value(kFont).toString(s.font);
-  s.size = keptSubtitleSize(stored.value(kSize).toDouble(s.size));
-  s.color = color(stored.value(kColor)).value_or(s.color);
-  s.outlineColor = color(stored.value(kOutlineColor)).value_or(s.outlineColor);
-  s.borderStyle = borderStyleOf(stored.value(kBorderStyle).toString()).value_or(s.borderStyle);
-  s.bold = stored.value(kBold).toBool(s.bold);
-  s.overridesStyled = stored.value(kOverridesStyled).toBool(s.overridesStyled);
-  return p;
+  PlayerPreferences preferences;
+#define TROMELO_READ(type, name, setter, initial, limits, ...)                \
+  if (std::optional<type> value; read(stored.value(u"" #name), value), value) \
+    preferences.name = limits(*value);
+  TROMELO_PREFERENCES(TROMELO_READ)
+#undef TROMELO_READ
+  return preferences;
 }
 
 QJsonObject storedPreferences(const PlayerPreferences& preferences) {
-  const SubtitleStyle& s = preferences.subtitles;
-  return {{kAutoHideDelay, preferences.autoHideDelay},
-          {kFont, s.font},
-          {kSize, s.size},
-          {kColor, storedColor(s.color)},
-          {kOutlineColor, storedColor(s.outlineColor)},
-          {kBorderStyle, rawValue(s.borderStyle)},
-          {kBold, s.bold},
-          {kOverridesStyled, s.overridesStyled}};
+  QJsonObject stored;
+#define TROMELO_WRITE(type, name, ...) \
+  stored.insert(QStringLiteral(#name), written(preferences.name));
+  TROMELO_PREFERENCES(TROMELO_WRITE)
+#undef TROMELO_WRITE
+  return stored;
+}
+
+std::vector<EngineProperty> engineProperties(const PlayerPreferences& preferences) {
+  std::vector<EngineProperty> properties;
+  const auto add = [&properties](const char* property, std::string value) {
+    if (property) properties.push_back({property, std::move(value)});
+  };
+#define TROMELO_SEND(type, name, setter, initial, limits, signal, part, property, text) \
+  add(property, text(preferences.name));
+  TROMELO_PREFERENCES(TROMELO_SEND)
+#undef TROMELO_SEND
+  for (const BorderRow& row : kBorderRows) {
+    const char* value = row.values.at(std::size_t(preferences.subtitleBorderStyle));
+    if (value == kOutlineColor)
+      add(row.property, mpvColor(preferences.subtitleOutlineColor));
+    else if (value)
+      add(row.property, value);
+  }
+  return properties;
 }
 
 }  // namespace tromelo

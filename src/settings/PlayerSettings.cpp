@@ -64,66 +64,37 @@ QStringList PlayerSettings::colorPresetNames() {
   return {tr("White"), tr("Yellow"), tr("Light blue"), tr("Light green")};
 }
 
-void PlayerSettings::setAutoHideDelay(double seconds) {
-  const double before = values_.autoHideDelay;
-  write(values_.autoHideDelay, keptAutoHideDelay(seconds));
-  if (values_.autoHideDelay != before) Q_EMIT autoHideDelayChanged();
-}
-
-void PlayerSettings::setSubtitleFont(const QString& family) {
-  write(values_.subtitles.font, family);
-}
-
-void PlayerSettings::setSubtitleSize(double size) {
-  write(values_.subtitles.size, keptSubtitleSize(size));
-}
-
-void PlayerSettings::setSubtitleColor(const RgbaColor& color) {
-  write(values_.subtitles.color, color);
-}
-
-void PlayerSettings::setSubtitleOutlineColor(const RgbaColor& color) {
-  write(values_.subtitles.outlineColor, color);
-}
-
-void PlayerSettings::setSubtitleBorderStyle(SubtitleBorderStyle style) {
-  write(values_.subtitles.borderStyle, style);
-}
-
-void PlayerSettings::setSubtitleBold(bool bold) { write(values_.subtitles.bold, bold); }
-
-void PlayerSettings::setSubtitleOverridesStyled(bool overrides) {
-  write(values_.subtitles.overridesStyled, overrides);
-}
-
-void PlayerSettings::resetSubtitleStyle() {
-  const SubtitleStyle fresh;
-  setSubtitleFont(fresh.font);
-  setSubtitleSize(fresh.size);
-  setSubtitleColor(fresh.color);
-  setSubtitleOutlineColor(fresh.outlineColor);
-  setSubtitleBorderStyle(fresh.borderStyle);
-  setSubtitleBold(fresh.bold);
-  setSubtitleOverridesStyled(fresh.overridesStyled);
-}
-
-void PlayerSettings::apply(MpvEngine& engine) const {
-  for (EngineProperty& property : engineProperties(values_.subtitles))
-    engine.setProperty(std::move(property.name), std::move(property.value));
-}
-
 template <typename T>
-void PlayerSettings::write(T& field, T value) {
+void PlayerSettings::write(T& field, T value, void (PlayerSettings::*announce)()) {
   Q_EMIT willChange();
   const bool isOther = field != value;
   const PlayerPreferences before = values_;
   field = std::move(value);
-  save(before);
-  if (isOther) Q_EMIT changed();
+  defaults_.setFields(kKey, storedPreferences(values_), storedPreferences(before));
+  if (!isOther) return;
+  Q_EMIT changed();
+  if (announce != &PlayerSettings::changed) Q_EMIT(this->*announce)();
+}
+template void PlayerSettings::write(double&, double, void (PlayerSettings::*)());
+template void PlayerSettings::write(bool&, bool, void (PlayerSettings::*)());
+template void PlayerSettings::write(QString&, QString, void (PlayerSettings::*)());
+template void PlayerSettings::write(RgbaColor&, RgbaColor, void (PlayerSettings::*)());
+template void PlayerSettings::write(SubtitleBorderStyle&, SubtitleBorderStyle,
+                                    void (PlayerSettings::*)());
+
+void PlayerSettings::resetSubtitleStyle() {
+  constexpr bool subtitles = true;
+  constexpr bool controls = false;
+  const PlayerPreferences fresh;
+#define TROMELO_RESET(type, name, setter, initial, limits, signal, part, ...) \
+  if constexpr (part) set##setter(fresh.name);
+  TROMELO_PREFERENCES(TROMELO_RESET)
+#undef TROMELO_RESET
 }
 
-void PlayerSettings::save(const PlayerPreferences& before) {
-  defaults_.setFields(kKey, storedPreferences(values_), storedPreferences(before));
+void PlayerSettings::apply(MpvEngine& engine) const {
+  for (EngineProperty& property : engineProperties(values_))
+    engine.setProperty(std::move(property.name), std::move(property.value));
 }
 
 }  // namespace tromelo

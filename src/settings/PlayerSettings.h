@@ -1,10 +1,11 @@
 #pragma once
 
 #include <QList>
+#include <QMetaType>
 #include <QObject>
+#include <QString>
 #include <QStringList>
 
-#include "settings/AutoHideChoice.h"
 #include "settings/PlayerPreferences.h"
 
 namespace tromelo {
@@ -12,33 +13,36 @@ namespace tromelo {
 class MpvEngine;
 class UserDefaults;
 
-/// What the person prefers, loaded from the stored values and stored again at every
-/// write.
-/// Main thread only.
+/// A time after which the player's controls may hide, as it is offered.
+class AutoHideChoice {
+  Q_GADGET
+  Q_PROPERTY(QString label MEMBER label CONSTANT)
+  Q_PROPERTY(double seconds MEMBER seconds CONSTANT)
+
+ public:
+  QString label;
+  double seconds = 0;  // 0 is never
+
+  friend bool operator==(const AutoHideChoice&, const AutoHideChoice&) = default;
+};
+
+/// What the person prefers, loaded from the stored values and stored again at every write: each row
+/// of TROMELO_PREFERENCES is a property of its name. Main thread only.
 class PlayerSettings : public QObject {
   Q_OBJECT
-  Q_PROPERTY(
-      double autoHideDelay READ autoHideDelay WRITE setAutoHideDelay NOTIFY autoHideDelayChanged)
+#define TROMELO_PROPERTY(type, name, setter, initial, limits, signal, ...) \
+  Q_PROPERTY(type name READ name WRITE set##setter NOTIFY signal)
+  TROMELO_PREFERENCES(TROMELO_PROPERTY)
+#undef TROMELO_PROPERTY
   /// In autoHideLabels; -1 for a delay that isn't offered.
   Q_PROPERTY(
       int autoHideIndex READ autoHideIndex WRITE setAutoHideIndex NOTIFY autoHideDelayChanged)
   Q_PROPERTY(QString autoHideText READ autoHideText NOTIFY autoHideDelayChanged)
   Q_PROPERTY(QStringList autoHideLabels READ autoHideLabels CONSTANT)
-  Q_PROPERTY(QString subtitleFont READ subtitleFont WRITE setSubtitleFont NOTIFY changed)
-  Q_PROPERTY(double subtitleSize READ subtitleSize WRITE setSubtitleSize NOTIFY changed)
-  Q_PROPERTY(
-      tromelo::RgbaColor subtitleColor READ subtitleColor WRITE setSubtitleColor NOTIFY changed)
-  Q_PROPERTY(tromelo::RgbaColor subtitleOutlineColor READ subtitleOutlineColor WRITE
-                 setSubtitleOutlineColor NOTIFY changed)
-  Q_PROPERTY(tromelo::SubtitleBorderStyle subtitleBorderStyle READ subtitleBorderStyle WRITE
-                 setSubtitleBorderStyle NOTIFY changed)
   /// In borderStyleLabels.
   Q_PROPERTY(int subtitleBorderStyleIndex READ subtitleBorderStyleIndex WRITE
                  setSubtitleBorderStyleIndex NOTIFY changed)
   Q_PROPERTY(bool subtitlesHaveEdge READ subtitlesHaveEdge NOTIFY changed)
-  Q_PROPERTY(bool subtitleBold READ subtitleBold WRITE setSubtitleBold NOTIFY changed)
-  Q_PROPERTY(bool subtitleOverridesStyled READ subtitleOverridesStyled WRITE
-                 setSubtitleOverridesStyled NOTIFY changed)
   Q_PROPERTY(QStringList fonts READ fonts CONSTANT)
   Q_PROPERTY(QList<tromelo::AutoHideChoice> autoHideChoices READ autoHideChoices CONSTANT)
   Q_PROPERTY(QList<tromelo::RgbaColor> colorPresets READ colorPresets CONSTANT)
@@ -59,25 +63,15 @@ class PlayerSettings : public QObject {
   static QStringList autoHideLabels();
   static QStringList borderStyleLabels() { return tromelo::borderStyleLabels(); }
 
-  /// Idle seconds after which the player's controls hide; 0 means never.
-  double autoHideDelay() const { return values_.autoHideDelay; }
-  const SubtitleStyle& subtitleStyle() const { return values_.subtitles; }
-  const QString& subtitleFont() const { return values_.subtitles.font; }
-  double subtitleSize() const { return values_.subtitles.size; }
-  RgbaColor subtitleColor() const { return values_.subtitles.color; }
-  RgbaColor subtitleOutlineColor() const { return values_.subtitles.outlineColor; }
-  SubtitleBorderStyle subtitleBorderStyle() const { return values_.subtitles.borderStyle; }
-  bool subtitleBold() const { return values_.subtitles.bold; }
-  bool subtitleOverridesStyled() const { return values_.subtitles.overridesStyled; }
+  const PlayerPreferences& preferences() const { return values_; }
 
-  void setAutoHideDelay(double seconds);
-  void setSubtitleFont(const QString& family);
-  void setSubtitleSize(double size);
-  void setSubtitleColor(const RgbaColor& color);
-  void setSubtitleOutlineColor(const RgbaColor& color);
-  void setSubtitleBorderStyle(SubtitleBorderStyle style);
-  void setSubtitleBold(bool bold);
-  void setSubtitleOverridesStyled(bool overrides);
+#define TROMELO_MEMBER(type, name, setter, initial, limits, signal, ...) \
+  const type& name() const { return values_.name; }                      \
+  void set##setter(const type& value) {                                  \
+    write(values_.name, type(limits(value)), &PlayerSettings::signal);   \
+  }
+  TROMELO_PREFERENCES(TROMELO_MEMBER)
+#undef TROMELO_MEMBER
 
   /// The subtitles as they are before anyone prefers anything; the controls' delay stays.
   Q_INVOKABLE void resetSubtitleStyle();
@@ -103,8 +97,7 @@ class PlayerSettings : public QObject {
   }
   bool subtitlesHaveEdge() const { return subtitleBorderStyle() != SubtitleBorderStyle::box; }
   template <typename T>
-  void write(T& field, T value);
-  void save(const PlayerPreferences& before);
+  void write(T& field, T value, void (PlayerSettings::*announce)());
 
   UserDefaults& defaults_;
   PlayerPreferences values_;

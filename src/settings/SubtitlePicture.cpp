@@ -38,15 +38,16 @@ QImage layer(QSizeF size, double scale) {
   return image;
 }
 
-QRectF textArea(QSizeF size, const SubtitleStyle& style) {
+QRectF textArea(QSizeF size, const PlayerPreferences& style) {
   const QRectF all(QPointF(), size);
-  if (style.borderStyle != SubtitleBorderStyle::box) return all.adjusted(0, 0, 0, -kBottomPadding);
+  if (style.subtitleBorderStyle != SubtitleBorderStyle::box)
+    return all.adjusted(0, 0, 0, -kBottomPadding);
   return all.adjusted(kBoxSide, 0, -kBoxSide, -kBottomPadding - kBoxRise);
 }
 
-void drawText(QPainter& painter, QRectF area, const SubtitleStyle& style) {
+void drawText(QPainter& painter, QRectF area, const PlayerPreferences& style) {
   painter.setFont(subtitleSampleFont(style));
-  painter.setPen(style.color.toQColor());
+  painter.setPen(style.subtitleColor.toQColor());
   painter.drawText(area, kCentred, subtitleSampleText());
 }
 
@@ -97,7 +98,7 @@ QImage blurred(const QImage& text, const QColor& color, double deviation) {
   return result;
 }
 
-void drawBox(QPainter& painter, QRectF area, const SubtitleStyle& style) {
+void drawBox(QPainter& painter, QRectF area, const PlayerPreferences& style) {
   painter.setFont(subtitleSampleFont(style));
   const QRectF text = painter.boundingRect(area, kCentred, subtitleSampleText());
   painter.setPen(Qt::NoPen);
@@ -106,10 +107,10 @@ void drawBox(QPainter& painter, QRectF area, const SubtitleStyle& style) {
                           kBoxRadius);
 }
 
-std::optional<Shadow> shadowOf(const SubtitleStyle& style) {
-  switch (style.borderStyle) {
+std::optional<Shadow> shadowOf(const PlayerPreferences& style) {
+  switch (style.subtitleBorderStyle) {
     case SubtitleBorderStyle::outline:
-      return Shadow{style.outlineColor.toQColor(), 0.8, {0, 0}, 3};
+      return Shadow{style.subtitleOutlineColor.toQColor(), 0.8, {0, 0}, 3};
     case SubtitleBorderStyle::shadow:
       return Shadow{QColor::fromRgbF(0, 0, 0, 0.8F), 1, {1.5, 1.5}, 1};
     case SubtitleBorderStyle::box:
@@ -132,14 +133,14 @@ QString subtitleSampleText() {
                                      "The quick brown fox jumps over the lazy dog");
 }
 
-QFont subtitleSampleFont(const SubtitleStyle& style) {
-  QFont font(style.font);
-  font.setPointSizeF(style.size * kFontScale);
-  font.setBold(style.bold);
+QFont subtitleSampleFont(const PlayerPreferences& style) {
+  QFont font(style.subtitleFont);
+  font.setPointSizeF(style.subtitleSize * kFontScale);
+  font.setBold(style.subtitleBold);
   return font;
 }
 
-QImage subtitlePicture(QSizeF size, double scale, const SubtitleStyle& style) {
+QImage subtitlePicture(QSizeF size, double scale, const PlayerPreferences& style) {
   const QRectF area = textArea(size, style);
   QImage text = layer(size, scale);
   QPainter textPainter(&text);
@@ -150,7 +151,7 @@ QImage subtitlePicture(QSizeF size, double scale, const SubtitleStyle& style) {
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.fillRect(QRectF(QPointF(), size), backdrop(size));
-  if (style.borderStyle == SubtitleBorderStyle::box) drawBox(painter, area, style);
+  if (style.subtitleBorderStyle == SubtitleBorderStyle::box) drawBox(painter, area, style);
   if (const auto shadow = shadowOf(style)) {
     const QImage soft = blurred(text, shadow->color, shadow->radius * scale);
     for (int i = 0; i < shadow->copies; ++i) painter.drawImage(shadow->offset, soft);

@@ -3,7 +3,7 @@
 #include <QFont>
 #include <QImage>
 
-#include "settings/SubtitleStyle.h"
+#include "settings/PlayerPreferences.h"
 
 namespace tromelo {
 
@@ -11,9 +11,9 @@ namespace tromelo {
 QString subtitleSampleText();
 
 /// Of the sample, as large as subtitles are in a small picture; in points of 1/72 of an inch.
-QFont subtitleSampleFont(const SubtitleStyle& style);
+QFont subtitleSampleFont(const PlayerPreferences& style);
 
 /// The sample in this style at the bottom of a picture: `size` in points, `scale` pixels for each.
-QImage subtitlePicture(QSizeF size, double scale, const SubtitleStyle& style);
+QImage subtitlePicture(QSizeF size, double scale, const PlayerPreferences& style);
 
 }  // namespace tromelo

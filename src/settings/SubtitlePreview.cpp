@@ -24,7 +24,7 @@ void SubtitlePreview::paint(QPainter* painter) {
   if (!settings_) return;
   // Drawn by itself first: a clip with a round edge has no smooth one.
   const double scale = painter->transform().m11() * painter->device()->devicePixelRatio();
-  const QImage picture = subtitlePicture(size(), scale, settings_->subtitleStyle());
+  const QImage picture = subtitlePicture(size(), scale, settings_->preferences());
   QBrush brush(picture);
   brush.setTransform(QTransform::fromScale(1 / scale, 1 / scale));
   painter->setRenderHint(QPainter::Antialiasing);

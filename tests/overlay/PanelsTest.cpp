@@ -184,7 +184,7 @@ TEST_F(PanelsTest, SubtitleStyleIsChangedInPlace) {
   EXPECT_EQ(settings.subtitleFont(), "Georgia");
 
   clickItem(only("resetStyle"));
-  EXPECT_EQ(settings.subtitleFont(), SubtitleStyle().font);
+  EXPECT_EQ(settings.subtitleFont(), PlayerPreferences().subtitleFont);
   EXPECT_FALSE(only("subtitleBold")->property("checked").toBool());
   EXPECT_EQ(shown("subtitleSizeText"), "44");
 }

@@ -36,13 +36,59 @@ const QJsonObject& allStored() {
 
 PlayerPreferences allPreferred() {
   return {.autoHideDelay = 0,
-          .subtitles = {.font = QStringLiteral("Comic Neue"),
-                        .size = 52.5,
-                        .color = {1.0 / 3, 0.93, 0.35, 0.1},
-                        .outlineColor = {0.1, 0.2, 0.3, 0.4},
-                        .borderStyle = SubtitleBorderStyle::box,
-                        .bold = true,
-                        .overridesStyled = true}};
+          .subtitleFont = QStringLiteral("Comic Neue"),
+          .subtitleSize = 52.5,
+          .subtitleColor = {1.0 / 3, 0.93, 0.35, 0.1},
+          .subtitleOutlineColor = {0.1, 0.2, 0.3, 0.4},
+          .subtitleBorderStyle = SubtitleBorderStyle::box,
+          .subtitleBold = true,
+          .subtitleOverridesStyled = true};
+}
+
+using Lines = std::vector<std::string>;
+
+Lines lines(const PlayerPreferences& style) {
+  Lines lines;
+  for (const EngineProperty& property : engineProperties(style))
+    lines.push_back(property.name + " " + property.value);
+  return lines;
+}
+
+Lines operator+(Lines lines, const Lines& more) {
+  lines.insert(lines.end(), more.begin(), more.end());
+  return lines;
+}
+
+TEST(EnginePropertiesTest, WritesEachBorderStyleInOrder) {
+  PlayerPreferences style;
+  const Lines first{"sub-font Helvetica Neue", "sub-font-size 44.0",
+                    "sub-color 1.000/1.000/1.000/1.000", "sub-bold no", "sub-ass-override scale"};
+  EXPECT_EQ(lines(style),
+            (first + Lines{"sub-border-style outline-and-shadow", "sub-outline-size 2.6",
+                           "sub-outline-color 0.000/0.000/0.000/1.000", "sub-shadow-offset 0"}));
+  style.subtitleBorderStyle = SubtitleBorderStyle::shadow;
+  EXPECT_EQ(lines(style),
+            (first + Lines{"sub-border-style outline-and-shadow", "sub-outline-size 0.8",
+                           "sub-outline-color 0.000/0.000/0.000/1.000", "sub-shadow-offset 2.4",
+                           "sub-back-color 0.0/0.0/0.0/0.8"}));
+  style.subtitleBorderStyle = SubtitleBorderStyle::box;
+  EXPECT_EQ(lines(style),
+            (first + Lines{"sub-border-style background-box", "sub-outline-size 5",
+                           "sub-shadow-offset 0", "sub-back-color 0.0/0.0/0.0/0.62"}));
+}
+
+TEST(EnginePropertiesTest, WritesEveryPreference) {
+  const PlayerPreferences style{.subtitleFont = QStringLiteral("Noto Sans ゴシック"),
+                                .subtitleSize = 52.5,
+                                .subtitleColor = {1.0 / 3, 0.8, 0, 0.0004},
+                                .subtitleOutlineColor = {0.9999, 0.5, 1, 0.25},
+                                .subtitleBold = true,
+                                .subtitleOverridesStyled = true};
+  EXPECT_EQ(lines(style),
+            (Lines{"sub-font Noto Sans ゴシック", "sub-font-size 52.5",
+                   "sub-color 0.333/0.800/0.000/0.000", "sub-bold yes", "sub-ass-override force",
+                   "sub-border-style outline-and-shadow", "sub-outline-size 2.6",
+                   "sub-outline-color 1.000/0.500/1.000/0.250", "sub-shadow-offset 0"}));
 }
 
 class PlayerSettingsTest : public ::testing::Test {
@@ -103,8 +149,8 @@ TEST(PlayerPreferencesTest, TakesNonsenseToTheNearestSense) {
                            {"subtitleColor", QJsonArray{255, -1, 0.5, 2}}};
   const PlayerPreferences kept = preferencesOf(stored);
   EXPECT_EQ(kept.autoHideDelay, 0);
-  EXPECT_EQ(kept.subtitles.size, 9000);
-  EXPECT_EQ(kept.subtitles.color, RgbaColor(1, 0, 0.5, 1));
+  EXPECT_EQ(kept.subtitleSize, 9000);
+  EXPECT_EQ(kept.subtitleColor, RgbaColor(1, 0, 0.5, 1));
   for (const double unreadable : {-44.0, 0.0, -kInfinity, kNan})
     EXPECT_EQ(keptSubtitleSize(unreadable), 44) << unreadable;
   EXPECT_EQ(keptAutoHideDelay(kInfinity), 86'400);
@@ -121,18 +167,10 @@ TEST(RgbaColorTest, TakesColorsOfEverySpaceAsTheirSrgbComponents) {
   EXPECT_EQ(RgbaColor(0.8, 0, 0.2, 0.4).toQColor().rgba(), qRgba(204, 0, 51, 102));
 }
 
-TEST_F(PlayerSettingsTest, StoresNothingUntilSomethingIsChanged) {
-  PlayerSettings settings(defaults_);
-  EXPECT_FALSE(defaults_.contains(kKey));
-  settings.setSubtitleBold(true);
-  PlayerPreferences bold;
-  bold.subtitles.bold = true;
-  EXPECT_EQ(stored(), storedPreferences(bold));
-}
-
 TEST_F(PlayerSettingsTest, EveryWriteIsThereAfterARestart) {
   {
     PlayerSettings settings(defaults_);
+    EXPECT_FALSE(defaults_.contains(kKey));
     settings.setAutoHideDelay(0);
     settings.setSubtitleFont(QStringLiteral("Comic Neue"));
     settings.setSubtitleSize(52.5);
@@ -148,7 +186,7 @@ TEST_F(PlayerSettingsTest, EveryWriteIsThereAfterARestart) {
   PlayerSettings settings(later);
   EXPECT_EQ(settings.subtitleColor(), RgbaColor(1.0 / 3, 0.93, 0.35, 0.1));
   settings.resetSubtitleStyle();
-  EXPECT_EQ(later.value(kKey).toObject(), storedPreferences({.autoHideDelay = 0, .subtitles = {}}));
+  EXPECT_EQ(later.value(kKey).toObject(), storedPreferences({.autoHideDelay = 0}));
 }
 
 TEST_F(PlayerSettingsTest, LoadingLeavesAHandEditedEntryAsItIs) {

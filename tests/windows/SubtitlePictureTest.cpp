@@ -11,9 +11,9 @@ constexpr QSizeF kSize(480, 110);
 
 /// Of the pixels that differ from those of a picture without text.
 QRect changed(const QImage& picture) {
-  SubtitleStyle unseen;
-  unseen.color = {1, 1, 1, 0};
-  unseen.outlineColor = {0, 0, 0, 0};
+  PlayerPreferences unseen;
+  unseen.subtitleColor = {1, 1, 1, 0};
+  unseen.subtitleOutlineColor = {0, 0, 0, 0};
   const QImage plain = subtitlePicture(kSize, picture.devicePixelRatio(), unseen);
   QRect found;
   for (int y = 0; y < picture.height(); ++y)
@@ -46,10 +46,10 @@ TEST(SubtitlePictureTest, DrawsEachStyleAtTheBottom) {
   };
   for (const Row& row : rows) {
     for (const double scale : {1.0, 2.0}) {
-      SubtitleStyle style;
-      style.font = QStringLiteral("Inter");
-      style.borderStyle = row.style;
-      style.outlineColor = row.edge;
+      PlayerPreferences style;
+      style.subtitleFont = QStringLiteral("Inter");
+      style.subtitleBorderStyle = row.style;
+      style.subtitleOutlineColor = row.edge;
       const QImage picture = subtitlePicture(kSize, scale, style);
       ASSERT_EQ(picture.size(), (kSize * scale).toSize());
       const QRect text = changed(picture);
@@ -62,12 +62,12 @@ TEST(SubtitlePictureTest, DrawsEachStyleAtTheBottom) {
 }
 
 TEST(SubtitlePictureTest, IsAsLargeAndAsBoldAsSubtitles) {
-  SubtitleStyle style;
+  PlayerPreferences style;
   EXPECT_DOUBLE_EQ(subtitleSampleFont(style).pointSizeF(), 18.48);
   const int width = changed(subtitlePicture(kSize, 1, style)).width();
-  style.bold = true;
+  style.subtitleBold = true;
   EXPECT_GT(changed(subtitlePicture(kSize, 1, style)).width(), width);
-  style.size = 24;
+  style.subtitleSize = 24;
   EXPECT_LT(changed(subtitlePicture(kSize, 1, style)).width(), width);
   EXPECT_TRUE(subtitleSampleFont(style).bold());
 }
