@@ -12,7 +12,8 @@ ListView {
     id: panel
 
     required property PlaybackModel playback
-    required property PlayerChrome chrome
+
+    signal finished
 
     objectName: "chaptersPanel"
     implicitWidth: Theme.chaptersWidth
@@ -48,7 +49,7 @@ ListView {
         Accessible.selected: isCurrent
         onClicked: {
             panel.playback.seekToChapter(modelData.id);
-            panel.chrome.showsChapters = false;
+            panel.finished();
         }
 
         contentItem: RowLayout {

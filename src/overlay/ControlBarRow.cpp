@@ -6,43 +6,57 @@ namespace tromelo {
 
 namespace {
 
-constexpr double kIcon = 28;
-constexpr double kPlay = 44;
-constexpr double kMute = 18;
-constexpr double kSideSpacing = 8;  // between the mute button and the slider, and round the middle
-constexpr double kVolume = 92;
-constexpr double kLeastVolume = 32;
-
-struct Widths {
-  double transport;
-  double options;
-};
-
-Widths widths(const ControlBarContent& content, const ControlBarRow& row) {
-  const int icons = content.hasQueue ? 4 : 2;
-  const int options = content.hasChapters ? 5 : 4;
-  return {.transport = kPlay + icons * (kIcon + row.transportSpacing),
-          .options = content.speedWidth + options * (kIcon + row.optionsSpacing)};
-}
-
-/// With these gaps; a negative width of the slider says by how much they are too wide.
-ControlBarRow fit(double room, const ControlBarContent& content, ControlBarRow gaps) {
-  const auto [transport, options] = widths(content, gaps);
-  const double right = room - options - kSideSpacing - transport;
-  gaps.volumeWidth = std::min(right - kMute - 2 * kSideSpacing, kVolume);
-  gaps.transportX = std::min((room - transport) / 2, right);
-  return gaps;
+/// As a positioner sees it: what isn't shown, or has no width, takes no gap either.
+double widthOf(const QQuickItem& group, double gap) {
+  double width = -gap;
+  for (const QQuickItem* child : group.childItems())
+    if (child->isVisible() && child->width() > 0) width += child->width() + gap;
+  return std::max(width, 0.0);
 }
 
 }  // namespace
 
-ControlBarRow controlBarRow(double room, const ControlBarContent& content) {
-  ControlBarRow row = fit(room, content, {.transportSpacing = 14, .optionsSpacing = 8});
-  if (row.volumeWidth < kVolume)
-    row = fit(room, content, {.transportSpacing = 4, .optionsSpacing = 2});
-  if (row.volumeWidth < kLeastVolume) row.volumeWidth = 0;
-  row.transportX = std::max(row.transportX, kMute);
-  return row;
+void ControlBarRow::componentComplete() {
+  QQuickItem::componentComplete();
+  for (const QQuickItem* group : {transport_.get(), options_.get()}) {
+    follow(*group);
+    connect(group, &QQuickItem::childrenChanged, this, [this, group] {
+      follow(*group);
+      share();
+    });
+  }
+  connect(this, &QQuickItem::visibleChanged, this, &ControlBarRow::share);
+  share();
+}
+
+void ControlBarRow::geometryChange(const QRectF& now, const QRectF& before) {
+  QQuickItem::geometryChange(now, before);
+  if (now.width() != before.width()) share();
+}
+
+void ControlBarRow::follow(const QQuickItem& group) {
+  for (const QQuickItem* child : group.childItems())
+    for (const auto changed : {&QQuickItem::widthChanged, &QQuickItem::visibleChanged})
+      connect(child, changed, this, &ControlBarRow::share, Qt::UniqueConnection);
+}
+
+void ControlBarRow::share() {
+  // While the whole bar is hidden nothing in it tells whether it would be shown.
+  if (!isComponentComplete() || !isVisible() || !transport_ || !options_) return;
+  Shares shares = fit(wideGaps_);
+  if (shares.volumeWidth < fullVolume_) shares = fit(tightGaps_);
+  if (shares.volumeWidth < leastVolume_) shares.volumeWidth = 0;
+  shares.transportX = std::max(shares.transportX, mute_);
+  if (std::exchange(shares_, shares) != shares) Q_EMIT shared();
+}
+
+/// A negative width of the slider says by how much they are too wide.
+ControlBarRow::Shares ControlBarRow::fit(QPointF gaps) const {
+  const double transport = widthOf(*transport_, gaps.x());
+  const double right = width() - widthOf(*options_, gaps.y()) - gap_ - transport;
+  return {.gaps = gaps,
+          .transportX = std::min((width() - transport) / 2, right),
+          .volumeWidth = std::min(right - mute_ - 2 * gap_, fullVolume_)};
 }
 
 }  // namespace tromelo

@@ -3,7 +3,6 @@
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
 
-#include "overlay/ControlBarRow.h"
 #include "overlay/ControlBarValues.h"
 #include "overlay/PopoverFrame.h"
 #include "playback/Chapter.h"
@@ -11,12 +10,6 @@
 #include "player/PlayerFormats.h"
 
 namespace tromelo {
-
-struct ControlBarRowForQml {
-  Q_GADGET
-  QML_FOREIGN(tromelo::ControlBarRow)
-  QML_VALUE_TYPE(controlBarRow)
-};
 
 /// How the views show what plays.
 class Format : public QObject {
@@ -52,10 +45,6 @@ class Format : public QObject {
   }
   Q_INVOKABLE static bool isSameSpeed(double one, double other) {
     return tromelo::isSameSpeed(one, other);
-  }
-  Q_INVOKABLE static tromelo::ControlBarRow controlBarRow(double room, bool hasQueue,
-                                                          bool hasChapters, double speedWidth) {
-    return tromelo::controlBarRow(room, {hasQueue, hasChapters, speedWidth});
   }
 
  private:

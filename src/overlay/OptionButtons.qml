@@ -11,11 +11,8 @@ Row {
     required property PlayerChrome chrome
     // Holds what opens from here.
     required property Item room
-    readonly property real speedWidth: speed.width
-    // What the panels belong to.
-    readonly property Item chaptersButton: chapters
-    readonly property Item tracksButton: tracks
-    readonly property Item queueButton: queue
+    // What the panels belong to, in their order.
+    readonly property Repeater panelButtons: panels
 
     signal fullscreenToggled
 
@@ -28,43 +25,27 @@ Row {
     }
 
     SpeedMenu {
-        id: speed
-
         anchors.verticalCenter: parent.verticalCenter
         playback: options.playback
         chrome: options.chrome
         room: options.room
     }
 
-    Opener {
-        id: chapters
+    Repeater {
+        id: panels
 
-        objectName: "chaptersButton"
-        visible: options.playback.chapters.length > 0
-        symbol: "list.bullet.rectangle"
-        tip: PlayerActions.tip(PlayerActions.Chapters)
-        active: options.chrome.showsChapters
-        onClicked: options.chrome.showsChapters = !options.chrome.showsChapters
-    }
+        model: options.chrome.barPanels
 
-    Opener {
-        id: tracks
+        Opener {
+            required property barPanel modelData
 
-        objectName: "tracksButton"
-        symbol: "captions.bubble"
-        tip: PlayerActions.tip(PlayerActions.Tracks)
-        active: options.chrome.showsTracks
-        onClicked: options.chrome.showsTracks = !options.chrome.showsTracks
-    }
-
-    Opener {
-        id: queue
-
-        objectName: "queueButton"
-        symbol: "list.and.film"
-        tip: PlayerActions.tip(PlayerActions.Queue)
-        active: options.chrome.showsQueue
-        onClicked: options.chrome.showsQueue = !options.chrome.showsQueue
+            objectName: modelData.button
+            visible: !modelData.needsChapters || options.playback.chapters.length > 0
+            symbol: modelData.symbol
+            tip: modelData.tip
+            active: options.chrome.panel === modelData.panel
+            onClicked: options.chrome.toggle(modelData.panel)
+        }
     }
 
     Opener {

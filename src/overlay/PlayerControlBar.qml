@@ -11,9 +11,7 @@ OverlaySurface {
     required property PlaybackModel playback
     required property PlayerChrome chrome
 
-    readonly property Item chaptersButton: options.chaptersButton
-    readonly property Item tracksButton: options.tracksButton
-    readonly property Item queueButton: options.queueButton
+    readonly property Repeater panelButtons: optionButtons.panelButtons
 
     signal fullscreenToggled
 
@@ -32,27 +30,37 @@ OverlaySurface {
         width: bar.width - 2 * Theme.barSide
         spacing: Theme.barSpacing
 
-        Item {
+        ControlBarRow {
+            id: row
+
             width: content.width
             height: Theme.playButtonHeight
+            transport: transportButtons
+            options: optionButtons
+            mute: Theme.muteWidth
+            gap: Theme.groupSpacing
+            fullVolume: Theme.volumeWidth
+            leastVolume: Theme.volumeLeastWidth
+            wideGaps: Qt.point(Theme.transportSpacing, Theme.optionsSpacing)
+            tightGaps: Qt.point(Theme.transportTightSpacing, Theme.optionsTightSpacing)
 
             VolumeControls {
                 anchors.verticalCenter: parent.verticalCenter
                 playback: bar.playback
-                sliderWidth: options.row.volumeWidth
+                sliderWidth: row.volumeWidth
             }
 
             TransportButtons {
-                x: options.row.transportX
-                spacing: options.row.transportSpacing
+                id: transportButtons
+
+                x: row.transportX
+                spacing: row.transportSpacing
                 anchors.verticalCenter: parent.verticalCenter
                 playback: bar.playback
             }
 
             OptionButtons {
-                id: options
-
-                readonly property controlBarRow row: Format.controlBarRow(content.width, bar.playback.queue.length > 1, bar.playback.chapters.length > 0, speedWidth)
+                id: optionButtons
 
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter

@@ -75,9 +75,7 @@ Item {
         playback: overlay.playback
         chrome: overlay.chrome
         bar: controlBar
-        tracksButton: controlBar.tracksButton
-        chaptersButton: controlBar.chaptersButton
-        queueButton: controlBar.queueButton
+        buttons: controlBar.panelButtons
         backdrop: overlay.backdrop
     }
 

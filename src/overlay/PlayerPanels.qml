@@ -10,46 +10,24 @@ Item {
     required property PlaybackModel playback
     required property PlayerChrome chrome
     required property Item bar
-    // In the bar; the bar itself where it has none.
-    property Item tracksButton: bar
-    property Item chaptersButton: bar
-    property Item queueButton: bar
+    required property Repeater buttons // in the bar
     property Item backdrop: null
 
-    PlayerPopover {
-        name: qsTr("Subtitles and audio")
-        bar: panels.bar
-        button: panels.tracksButton
-        backdrop: panels.backdrop
-        isOpen: panels.chrome.showsTracks
-        onDismissed: panels.chrome.showsTracks = false
-        panel: TracksPanel {
-            playback: panels.playback
-        }
-    }
+    Repeater {
+        model: panels.chrome.barPanels
 
-    PlayerPopover {
-        name: qsTr("Chapters")
-        bar: panels.bar
-        button: panels.chaptersButton
-        backdrop: panels.backdrop
-        isOpen: panels.chrome.showsChapters
-        onDismissed: panels.chrome.showsChapters = false
-        panel: ChaptersPanel {
-            playback: panels.playback
-            chrome: panels.chrome
-        }
-    }
+        PlayerPopover {
+            required property barPanel modelData
+            required property int index
 
-    PlayerPopover {
-        name: qsTr("Queue")
-        bar: panels.bar
-        button: panels.queueButton
-        backdrop: panels.backdrop
-        isOpen: panels.chrome.showsQueue
-        onDismissed: panels.chrome.showsQueue = false
-        panel: QueuePanel {
+            name: modelData.name
+            bar: panels.bar
+            button: panels.buttons.count > index ? panels.buttons.itemAt(index) : null
+            backdrop: panels.backdrop
+            body: modelData.body
             playback: panels.playback
+            isOpen: panels.chrome.panel === modelData.panel
+            onDismissed: panels.chrome.close(modelData.panel)
         }
     }
 }

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Tromelo.Glass
+import Tromelo.Player
 import Tromelo.Theme
 
 // Shows a panel above its button in the control bar while the panel is open. It lies over the whole
@@ -9,15 +10,14 @@ import Tromelo.Theme
 // nothing else, a press or scrolling on the panel stays there. The panel is made when it opens and is
 // as large as its implicit size or, where that doesn't fit, as the room above the bar. It never takes
 // the keyboard.
-//
-// PlayerPanels.qml has one for each panel; the bar only names its buttons.
 Item {
     id: popover
 
     required property Item bar
-    required property Item button
+    required property Item button // none before the bar has it
     required property bool isOpen
-    required property Component panel
+    required property string body // the type of the panel
+    required property PlaybackModel playback
     required property string name
     property Item backdrop: null
 
@@ -46,7 +46,7 @@ Item {
 
     Loader {
         anchors.fill: parent
-        active: popover.visible
+        active: popover.visible && popover.button
 
         sourceComponent: Item {
             PopoverBody {
@@ -83,7 +83,18 @@ Item {
                     id: content
 
                     anchors.fill: parent
-                    sourceComponent: popover.panel
+                    Component.onCompleted: setSource(popover.body + ".qml", {
+                        playback: popover.playback
+                    })
+                }
+
+                Connections {
+                    target: content.item
+                    ignoreUnknownSignals: true
+
+                    function onFinished() {
+                        popover.dismissed();
+                    }
                 }
             }
         }

@@ -15,10 +15,6 @@ void PlayerChrome::setPanel(std::optional<PlayerPanel> panel) {
   Q_EMIT panelChanged();
 }
 
-void PlayerChrome::setShows(PlayerPanel panel, bool shows) {
-  shows ? setPanel(panel) : close(panel);
-}
-
 void PlayerChrome::close(PlayerPanel panel) {
   if (panel_ == panel) setPanel(std::nullopt);
 }

@@ -12,11 +12,11 @@ namespace tromelo {
 class PlayerChrome : public QObject {
   Q_OBJECT
   Q_PROPERTY(bool showsInfo READ showsInfo WRITE setShowsInfo NOTIFY showsInfoChanged)
+  // The open one's number; -1 where none is.
+  Q_PROPERTY(int panel READ panelNumber NOTIFY panelChanged)
   // Writing false leaves another panel, which may have been opened since, as it is.
-  Q_PROPERTY(bool showsTracks READ showsTracks WRITE setShowsTracks NOTIFY panelChanged)
-  Q_PROPERTY(bool showsChapters READ showsChapters WRITE setShowsChapters NOTIFY panelChanged)
-  Q_PROPERTY(bool showsQueue READ showsQueue WRITE setShowsQueue NOTIFY panelChanged)
   Q_PROPERTY(bool showsShortcuts READ showsShortcuts WRITE setShowsShortcuts NOTIFY panelChanged)
+  Q_PROPERTY(QList<tromelo::BarPanel> barPanels READ barPanels CONSTANT)
   // The list of speeds over the control bar: no panel, but open in place of one.
   Q_PROPERTY(bool showsSpeeds READ showsSpeeds WRITE setShowsSpeeds NOTIFY showsSpeedsChanged)
   Q_PROPERTY(QString toast READ toastText NOTIFY toastChanged)
@@ -31,9 +31,9 @@ class PlayerChrome : public QObject {
   std::optional<PlayerPanel> panel() const { return panel_; }
   void setPanel(std::optional<PlayerPanel> panel);
   /// Closes `panel` if it is open, else opens it in place of any other.
-  void toggle(PlayerPanel panel);
+  Q_INVOKABLE void toggle(tromelo::PlayerPanel panel);
   /// Leaves any other open.
-  void close(PlayerPanel panel);
+  Q_INVOKABLE void close(tromelo::PlayerPanel panel);
 
   bool showsSpeeds() const { return showsSpeeds_; }
   void setShowsSpeeds(bool shows);
@@ -48,15 +48,12 @@ class PlayerChrome : public QObject {
   void toastChanged();
 
  private:
-  bool showsTracks() const { return panel_ == PlayerPanel::tracks; }
-  void setShowsTracks(bool shows) { setShows(PlayerPanel::tracks, shows); }
-  bool showsChapters() const { return panel_ == PlayerPanel::chapters; }
-  void setShowsChapters(bool shows) { setShows(PlayerPanel::chapters, shows); }
-  bool showsQueue() const { return panel_ == PlayerPanel::queue; }
-  void setShowsQueue(bool shows) { setShows(PlayerPanel::queue, shows); }
+  int panelNumber() const { return panel_ ? static_cast<int>(*panel_) : -1; }
   bool showsShortcuts() const { return panel_ == PlayerPanel::shortcuts; }
-  void setShowsShortcuts(bool shows) { setShows(PlayerPanel::shortcuts, shows); }
-  void setShows(PlayerPanel panel, bool shows);
+  void setShowsShortcuts(bool shows) {
+    shows ? setPanel(PlayerPanel::shortcuts) : close(PlayerPanel::shortcuts);
+  }
+  static QList<BarPanel> barPanels() { return tromelo::barPanels(); }
   QString toastText() const { return toast_.value_or(QString()); }
 
   bool showsInfo_ = false;

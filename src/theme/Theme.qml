@@ -197,6 +197,12 @@ QtObject {
     readonly property real playSymbolSize: 20
     readonly property real muteWidth: 18
     readonly property real muteHeight: 24
+    readonly property real volumeWidth: 92
+    readonly property real volumeLeastWidth: 32
+    readonly property real transportSpacing: 14
+    readonly property real transportTightSpacing: 4
+    readonly property real optionsSpacing: 8
+    readonly property real optionsTightSpacing: 2
     readonly property real muteSymbolSize: 12
     readonly property real speedWidth: 30 // at least
     readonly property real speedHeight: 22

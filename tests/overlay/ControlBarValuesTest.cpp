@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "overlay/ControlBarRow.h"
 #include "playback/Chapter.h"
 #include "support/Warnings.h"
 #include "theme/Symbols.h"
@@ -41,28 +40,6 @@ TEST(ControlBarValuesTest, MarksOfChapters) {
   EXPECT_EQ(chapterMarks(at({0}), 100, 216), QList<double>());
   EXPECT_EQ(chapterMarks(at({0, 100}), 100, 3), QList<double>({9})) << "no room";
   EXPECT_EQ(remainingText(10, 12), "-0:00");
-}
-
-TEST(ControlBarValuesTest, SharesOutItsRow) {
-  struct Row {
-    const char* name;
-    double room;
-    ControlBarContent content;
-    ControlBarRow shared;
-  };
-  const ControlBarContent little{.speedWidth = 38};
-  const ControlBarContent all{.hasQueue = true, .hasChapters = true, .speedWidth = 38};
-  for (const Row& row : {
-           Row{"wide", 724, little, {14, 8, 298, 92}},
-           Row{"wide with everything", 724, all, {14, 8, 256, 92}},
-           Row{"moves aside", 600, all, {14, 8, 162, 92}},
-           Row{"at the least window", 444, all, {4, 2, 76, 42}},
-           Row{"at the least window, with little", 444, little, {14, 8, 126, 92}},
-           Row{"without a slider", 420, all, {4, 2, 52, 0}},
-       })
-    EXPECT_EQ(controlBarRow(row.room, row.content), row.shared)
-        << row.name << ": " << controlBarRow(row.room, row.content).transportX << ' '
-        << controlBarRow(row.room, row.content).volumeWidth;
 }
 
 }  // namespace
