@@ -8,12 +8,10 @@
 namespace tromelo::testing {
 
 Holdings Holdings::now() {
-  Holdings holdings;
-  holdings.descriptors =
-      int(QDir("/proc/self/fd").entryList(QDir::AllEntries | QDir::System).size());
   QFile maps("/proc/self/maps");
-  if (maps.open(QIODevice::ReadOnly)) holdings.mappings = int(maps.readAll().count("tromelo-test"));
-  return holdings;
+  EXPECT_TRUE(maps.open(QIODevice::ReadOnly));
+  return {QDir("/proc/self/fd").entryList(QDir::AllEntries | QDir::System).size(),
+          maps.readAll().count("tromelo-test")};
 }
 
 void DisplayTest::SetUp() {
@@ -23,22 +21,21 @@ void DisplayTest::SetUp() {
   sinkKind.dmabuf = dmabuf();
   ASSERT_EQ(display_->start(output(), sinkKind), std::nullopt);
   QObject::connect(display_.get(), &PrivateDisplay::windowAdded, display_.get(),
-                   [this](EngineWindow* window) { added_.append(window); });
-  connectClient();
+                   [this](EngineWindow* window) {
+                     window_ = window;
+                     ++announced_;
+                   });
+  client_ = std::make_unique<TestClient>(display_->socketPath());
+  ASSERT_TRUE(client_->display);
 }
 
 void DisplayTest::TearDown() {
+  toplevel_.reset();
+  buffers_.clear();
   client_.reset();
   display_.reset();
   settle();
-  const Holdings after = Holdings::now();
-  EXPECT_EQ(after.descriptors, before_.descriptors);
-  EXPECT_EQ(after.mappings, before_.mappings);
-}
-
-void DisplayTest::connectClient() {
-  client_ = std::make_unique<TestClient>(display_->socketPath());
-  ASSERT_TRUE(client_->isConnected());
+  EXPECT_EQ(Holdings::now(), before_);
 }
 
 bool DisplayTest::wait(const std::function<bool()>& condition) {
@@ -48,9 +45,19 @@ bool DisplayTest::wait(const std::function<bool()>& condition) {
   });
 }
 
-EngineWindow* DisplayTest::announcedWindow() {
-  if (!wait([this] { return !added_.isEmpty(); })) return nullptr;
-  return added_.last();
+void DisplayTest::openWindow() {
+  const int before = announced_;
+  toplevel_ = std::make_unique<TestToplevel>(*client_);
+  toplevel_->start();
+  ASSERT_TRUE(wait([&] { return announced_ > before; }));
+}
+
+TestBuffer& DisplayTest::addBuffer(QSize size, QColor color) {
+  TestBuffer& buffer =
+      *buffers_.emplace_back(std::make_unique<TestBuffer>(TestBuffer::Layout{.size = size}));
+  buffer.fill([color](int, int) { return color; });
+  buffer.createShm(*client_);
+  return buffer;
 }
 
 void KeepingSink::commit(std::shared_ptr<Frame> frame) {
@@ -59,7 +66,7 @@ void KeepingSink::commit(std::shared_ptr<Frame> frame) {
   last_ = std::move(frame);
 }
 
-std::size_t KeepingSink::commits() const {
+int KeepingSink::commits() const {
   const std::scoped_lock lock(mutex_);
   return commits_;
 }

@@ -13,8 +13,8 @@ namespace tromelo::testing {
 
 /// Descriptors and mappings of test buffers that this process has.
 struct Holdings {
-  int descriptors = 0;
-  int mappings = 0;
+  qsizetype descriptors = 0;
+  qsizetype mappings = 0;
   friend bool operator==(const Holdings&, const Holdings&) = default;
 
   static Holdings now();
@@ -24,21 +24,26 @@ struct Holdings {
 /// what it held before.
 class DisplayTest : public ::testing::Test {
  protected:
+  static constexpr QSize pictureSize{32, 18};
+
   void SetUp() override;
   void TearDown() override;
 
   virtual PrivateDisplay::Output output() const { return {QSize(1280, 800), 60'000}; }
   virtual std::optional<DmabufSupport> dmabuf() const { return std::nullopt; }
 
-  void connectClient();
   /// Reads the client's events and runs the event loop until `condition` holds.
   [[nodiscard]] bool wait(const std::function<bool()>& condition);
-  /// The newest window of the display, announced or still to be.
-  EngineWindow* announcedWindow();
+  /// A window of the client, and the main thread's side of it.
+  void openWindow();
+  TestBuffer& addBuffer(QSize size = pictureSize, QColor color = Qt::red);
 
   std::unique_ptr<PrivateDisplay> display_;
   std::unique_ptr<TestClient> client_;
-  QList<EngineWindow*> added_;
+  std::vector<std::unique_ptr<TestBuffer>> buffers_;
+  std::unique_ptr<TestToplevel> toplevel_;
+  EngineWindow* window_ = nullptr;  // the newest that was announced
+  int announced_ = 0;
 
  private:
   Holdings before_;
@@ -49,12 +54,12 @@ class KeepingSink final : public VideoSink {
  public:
   void commit(std::shared_ptr<Frame> frame) override;
 
-  std::size_t commits() const;
+  int commits() const;
   std::shared_ptr<Frame> takeLast();
 
  private:
   mutable std::mutex mutex_;
-  std::size_t commits_ = 0;
+  int commits_ = 0;
   std::shared_ptr<Frame> last_;
 };
 

@@ -2,14 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace tromelo {
-
-void PrintTo(const PicturePlacement& p, std::ostream* out) {
-  *out << p.rect.x() << ' ' << p.rect.y() << ' ' << p.rect.width() << 'x' << p.rect.height()
-       << (p.isExact ? " exact" : "");
-}
-
-namespace testing {
+namespace tromelo::testing {
 namespace {
 
 TEST(PicturePlacementTest, FitsWithTheAspectKept) {
@@ -35,11 +28,9 @@ TEST(PicturePlacementTest, FitsWithTheAspectKept) {
       {"no room", {640, 360}, {0, 360}, 1, {}},
   };
   for (const auto& row : cases) {
-    SCOPED_TRACE(row.name);
-    EXPECT_EQ(placePicture(row.picture, row.item, row.ratio), row.expected);
+    EXPECT_EQ(placePicture(row.picture, row.item, row.ratio), row.expected) << row.name;
   }
 }
 
 }  // namespace
-}  // namespace testing
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -11,59 +11,45 @@ class SceneRhythmTest : public SceneTest {
  protected:
   void SetUp() override {
     SceneTest::SetUp();
-    for (int i = 0; i < 3; ++i) buffers_.push_back(plainBuffer(*client_, sceneSize));
-    QObject::connect(
-        window_.get(), &QQuickWindow::frameSwapped, window_.get(), [this] { ++swaps_; },
-        Qt::DirectConnection);
+    for (int i = 0; i < 3; ++i) addPlain();
   }
-
-  bool isSuspended() const {
-    return toplevel_->configure()->states.contains(XDG_TOPLEVEL_STATE_SUSPENDED);
-  }
-
-  std::atomic<int> swaps_ = 0;
 };
 
 TEST_F(SceneRhythmTest, PaintsOnceForEachFrameOfTheEngine) {
   constexpr int frames = 30;
   show(*buffers_[0]);
-  const int before = swaps_;
-  for (int i = 0; i < frames; ++i) show(*buffers_[std::size_t(i) % 3]);
-  EXPECT_LE(swaps_ - before, frames + 2) << "the host may ask for one of its own";
-}
-
-TEST_F(SceneRhythmTest, SharedMemoryGoesBackAsSoonAsItIsCopied) {
-  show(*buffers_[0]);
-  EXPECT_TRUE(wait([&] { return buffers_[0]->releases() == 1; }));
-}
-
-TEST_F(SceneRhythmTest, SaysOnceThatTheFirstPictureIsThere) {
+  std::atomic<int> swaps = 0;
   int first = 0;
-  QObject::connect(item_, &EngineWindowItem::firstFrameShown, [&] { ++first; });
-  show(*buffers_[0]);
-  show(*buffers_[1]);
-  EXPECT_TRUE(wait([&] { return first == 1; }));
-  show(*buffers_[2]);
+  QObject::connect(
+      scene_.get(), &QQuickWindow::frameSwapped, scene_.get(), [&] { ++swaps; },
+      Qt::DirectConnection);
+  QObject::connect(item_, &EngineWindowItem::firstFrameShown, scene_.get(), [&] { ++first; });
+  for (int i = 0; i < frames; ++i) show(*buffers_[std::size_t(i) % 3]);
+  EXPECT_LE(swaps, frames + 2) << "the host may ask for one of its own";
   settle();
-  EXPECT_EQ(first, 1);
+  EXPECT_LE(first, 1);
+  EXPECT_GE(buffers_[1]->releases(), frames / 3) << "shared memory is copied";
 }
 
 TEST_F(SceneRhythmTest, IsReadyWhileItCannotBeSeenThrough) {
   // A player window fades in: its picture must be there before.
+  int first = 0;
+  QObject::connect(item_, &EngineWindowItem::firstFrameShown, scene_.get(), [&] { ++first; });
   item_->setOpacity(0);
   show(*buffers_[0]);
+  EXPECT_TRUE(wait([&] { return first == 1; }));
   item_->setOpacity(1);
-  EXPECT_EQ(grab().pixelColor(80, 45), QColor(Qt::red));
+  EXPECT_EQ(middle(), QColor(Qt::red));
 }
 
 TEST_F(SceneRhythmTest, AHiddenWindowSuspendsTheEngineAndBlocksNothing) {
   show(*buffers_[0]);
-  window_->hide();
-  EXPECT_TRUE(wait([&] { return isSuspended(); }));
+  scene_->hide();
+  EXPECT_TRUE(wait([&] { return toplevel_->isSuspended(); }));
   const auto answers = toplevel_->commit(buffers_[1].get());
   EXPECT_TRUE(wait([&] { return answers->frameCallbacks == 1; }));
-  window_->show();
-  EXPECT_TRUE(wait([&] { return !isSuspended(); }));
+  scene_->show();
+  EXPECT_TRUE(wait([&] { return !toplevel_->isSuspended(); }));
   show(*buffers_[2]);
 }
 
@@ -73,9 +59,9 @@ TEST_F(SceneRhythmTest, ASceneMayGoWithFramesOnTheWay) {
   const auto answers = toplevel_->commit(buffers_[1].get());
   EXPECT_TRUE(wait([&] { return answers->frameCallbacks == 1; }));
   makeScene();
-  item_->setEngineWindow(engineWindow_);
+  item_->setEngineWindow(window_);
   show(*buffers_[2]);
-  EXPECT_EQ(grab().pixelColor(80, 45), QColor(Qt::red));
+  EXPECT_EQ(middle(), QColor(Qt::red));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "SceneTest.h"
 
+#include "display/PixelFormat.h"
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
@@ -7,11 +8,8 @@ namespace tromelo::testing {
 void SceneTest::SetUp() {
   DisplayTest::SetUp();
   makeScene();
-  toplevel_ = std::make_unique<TestToplevel>(*client_);
-  toplevel_->start();
-  engineWindow_ = announcedWindow();
-  ASSERT_TRUE(engineWindow_);
-  item_->setEngineWindow(engineWindow_);
+  openWindow();
+  item_->setEngineWindow(window_);
 }
 
 void SceneTest::TearDown() {
@@ -24,19 +22,19 @@ void SceneTest::TearDown() {
 }
 
 void SceneTest::makeScene() {
-  window_ = std::make_unique<QQuickWindow>();
-  window_->setFlag(Qt::FramelessWindowHint);
-  window_->setColor(Qt::black);
-  window_->resize(sceneSize);
-  item_ = new EngineWindowItem(window_->contentItem());
+  scene_ = std::make_unique<QQuickWindow>();
+  scene_->setFlag(Qt::FramelessWindowHint);
+  scene_->setColor(Qt::black);
+  scene_->resize(sceneSize);
+  item_ = new EngineWindowItem(scene_->contentItem());
   item_->setSize(sceneSize);
-  window_->show();
-  ASSERT_TRUE(wait([this] { return window_->isExposed(); }));
+  scene_->show();
+  ASSERT_TRUE(wait([this] { return scene_->isExposed(); }));
 }
 
 void SceneTest::closeScene() {
   item_ = nullptr;
-  window_.reset();
+  scene_.reset();
   settle();
 }
 
@@ -46,21 +44,28 @@ void SceneTest::show(const TestBuffer& buffer, QRect damage) {
   ASSERT_TRUE(answers->presentation->presented);
 }
 
-QColor patternColor(int x, int y) {
-  return QColor((x * 7 + y) % 256, (y * 11) % 256, ((x + 3 * y) * 5) % 256);
+void SceneTest::expectFormats(const std::function<void(TestBuffer&)>& create) {
+  for (const PixelFormat& format : kPixelFormats)
+    for (const int padding : {0, 64}) {
+      SCOPED_TRACE(::testing::Message() << std::hex << format.fourcc << " padding " << padding);
+      TestBuffer buffer({sceneSize, format.fourcc, padding, padding * 4});
+      // The fourth byte of a format without alpha says nothing.
+      buffer.fill(patternColor, format.hasAlpha ? 255 : 17);
+      create(buffer);
+      show(buffer);
+      expectPixels(patternColor);
+    }
 }
 
-std::string firstDifference(const QImage& image, const std::function<QColor(int, int)>& expected) {
+void SceneTest::expectPixels(const std::function<QColor(int, int)>& expected) const {
+  const QImage image = grab();
   for (int y = 0; y < image.height(); ++y)
     for (int x = 0; x < image.width(); ++x)
-      if (const QColor found = image.pixelColor(x, y), wanted = expected(x, y);
-          found.rgb() != wanted.rgb())
-        return QStringLiteral("at %1, %2: %3 instead of %4")
-            .arg(x)
-            .arg(y)
-            .arg(found.name(), wanted.name())
-            .toStdString();
-  return {};
+      ASSERT_EQ(QColor(image.pixel(x, y)).name(), expected(x, y).name()) << x << ", " << y;
+}
+
+QColor patternColor(int x, int y) {
+  return QColor((x * 7 + y) % 256, (y * 11) % 256, ((x + 3 * y) * 5) % 256);
 }
 
 }  // namespace tromelo::testing

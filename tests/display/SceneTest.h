@@ -17,23 +17,21 @@ class SceneTest : public DisplayTest {
 
   void makeScene();
   void closeScene();
+  TestBuffer& addPlain(QColor color = Qt::red) { return addBuffer(sceneSize, color); }
   /// Commits, and waits until the picture is on the screen.
   void show(const TestBuffer& buffer, QRect damage = {});
   /// What the scene looks like, in device pixels.
-  QImage grab() const { return window_->grabWindow(); }
+  QImage grab() const { return scene_->grabWindow(); }
+  QColor middle() const { return grab().pixelColor(80, 45); }
+  /// Of every format and with lines of any length, once `create` has made the buffer.
+  void expectFormats(const std::function<void(TestBuffer&)>& create);
+  void expectPixels(const std::function<QColor(int, int)>& expected) const;
 
-  std::unique_ptr<QQuickWindow> window_;
+  std::unique_ptr<QQuickWindow> scene_;
   EngineWindowItem* item_ = nullptr;
-  std::unique_ptr<TestToplevel> toplevel_;
-  EngineWindow* engineWindow_ = nullptr;
-  std::vector<std::unique_ptr<TestBuffer>> buffers_;
 };
 
 /// A picture that is different wherever it is turned or mirrored, or its colours are mixed up.
 QColor patternColor(int x, int y);
-
-/// The first difference of `image` and the colours that are expected of it; empty when there is
-/// none.
-std::string firstDifference(const QImage& image, const std::function<QColor(int, int)>& expected);
 
 }  // namespace tromelo::testing

@@ -1,5 +1,6 @@
 #include "TestBuffer.h"
 
+#include <gtest/gtest.h>
 #include <sys/mman.h>
 #include <unistd.h>
 
@@ -41,7 +42,8 @@ void TestBuffer::fill(const std::function<QColor(int, int)>& color, int alpha) {
 }
 
 void TestBuffer::createShm(TestClient& client) {
-  const Proxy<wl_shm_pool> pool(wl_shm_create_pool(client.shm(), fd_.get(), int(layout_.length())));
+  const Proxy<wl_shm_pool> pool(
+      wl_shm_create_pool(client.shm.get(), fd_.get(), int(layout_.length())));
   buffer_.reset(wl_shm_pool_create_buffer(pool.get(), layout_.offset, layout_.size.width(),
                                           layout_.size.height(), layout_.stride(),
                                           shmFormat(layout_.fourcc)));
@@ -50,7 +52,7 @@ void TestBuffer::createShm(TestClient& client) {
 
 void TestBuffer::createDmabuf(TestClient& client, std::uint64_t modifier) {
   const Proxy<zwp_linux_buffer_params_v1> params(
-      zwp_linux_dmabuf_v1_create_params(client.dmabuf()));
+      zwp_linux_dmabuf_v1_create_params(client.dmabuf.get()));
   zwp_linux_buffer_params_v1_add(params.get(), fd_.get(), 0, std::uint32_t(layout_.offset),
                                  std::uint32_t(layout_.stride()), std::uint32_t(modifier >> 32),
                                  std::uint32_t(modifier));
@@ -60,17 +62,12 @@ void TestBuffer::createDmabuf(TestClient& client, std::uint64_t modifier) {
   client.roundtrip();
 }
 
+void TestBuffer::truncate() { EXPECT_EQ(ftruncate(fd_.get(), 0), 0); }
+
 void TestBuffer::watch() {
   static constexpr wl_buffer_listener listener{
       .release = [](void* self, wl_buffer*) { ++static_cast<TestBuffer*>(self)->releases_; }};
   wl_buffer_add_listener(buffer_.get(), &listener, this);
-}
-
-std::unique_ptr<TestBuffer> plainBuffer(TestClient& client, QSize size, QColor color) {
-  auto buffer = std::make_unique<TestBuffer>(TestBuffer::Layout{.size = size});
-  buffer->fill([color](int, int) { return color; });
-  buffer->createShm(client);
-  return buffer;
 }
 
 }  // namespace tromelo::testing

@@ -31,8 +31,6 @@ class TestBuffer {
   TestBuffer(const TestBuffer&) = delete;
   TestBuffer& operator=(const TestBuffer&) = delete;
 
-  const Layout& layout() const { return layout_; }
-  int fd() const { return fd_.get(); }
   /// Premultiplied; `alpha` is what the fourth byte gets, also in formats where it means nothing.
   void fill(const std::function<QColor(int x, int y)>& color, int alpha = 255);
 
@@ -42,6 +40,8 @@ class TestBuffer {
 
   wl_buffer* get() const { return buffer_.get(); }
   int releases() const { return releases_; }
+  /// As when an engine cuts off memory that it has handed over.
+  void truncate();
 
  private:
   void watch();
@@ -52,8 +52,5 @@ class TestBuffer {
   Proxy<wl_buffer> buffer_;
   int releases_ = 0;
 };
-
-/// A buffer of one colour, for tests that don't look at it.
-std::unique_ptr<TestBuffer> plainBuffer(TestClient& client, QSize size, QColor color = Qt::red);
 
 }  // namespace tromelo::testing

@@ -1,70 +1,70 @@
 #pragma once
 
-#include <QByteArray>
-#include <QSize>
-#include <cstdint>
-#include <map>
-#include <string>
-#include <vector>
+#include <wayland-client.h>
 
-#include "Proxy.h"
+#include <QByteArray>
+#include <memory>
+#include <string>
+
+#include "linux-dmabuf-v1-client-protocol.h"
+#include "presentation-time-client-protocol.h"
+#include "viewporter-client-protocol.h"
+#include "xdg-shell-client-protocol.h"
 
 namespace tromelo::testing {
 
-/// A connection to a display in this process, with what it announces. The display has a thread of
+/// Destroys a Wayland proxy with its destructor request. The requests are static functions of C
+/// headers, which no template of external linkage can be made with.
+struct ProxyDeleter {
+  void operator()(wl_display* p) const { wl_display_disconnect(p); }
+  void operator()(wl_registry* p) const { wl_registry_destroy(p); }
+  void operator()(wl_compositor* p) const { wl_compositor_destroy(p); }
+  void operator()(wl_shm* p) const { wl_shm_destroy(p); }
+  void operator()(wl_shm_pool* p) const { wl_shm_pool_destroy(p); }
+  void operator()(wl_buffer* p) const { wl_buffer_destroy(p); }
+  void operator()(wl_surface* p) const { wl_surface_destroy(p); }
+  void operator()(wl_region* p) const { wl_region_destroy(p); }
+  void operator()(wl_callback* p) const { wl_callback_destroy(p); }
+  void operator()(xdg_wm_base* p) const { xdg_wm_base_destroy(p); }
+  void operator()(xdg_surface* p) const { xdg_surface_destroy(p); }
+  void operator()(xdg_toplevel* p) const { xdg_toplevel_destroy(p); }
+  void operator()(wp_viewporter* p) const { wp_viewporter_destroy(p); }
+  void operator()(wp_viewport* p) const { wp_viewport_destroy(p); }
+  void operator()(wp_presentation* p) const { wp_presentation_destroy(p); }
+  void operator()(struct wp_presentation_feedback* p) const { wp_presentation_feedback_destroy(p); }
+  void operator()(zwp_linux_dmabuf_v1* p) const { zwp_linux_dmabuf_v1_destroy(p); }
+  void operator()(zwp_linux_buffer_params_v1* p) const { zwp_linux_buffer_params_v1_destroy(p); }
+};
+
+/// Owns a Wayland proxy.
+template <typename T>
+using Proxy = std::unique_ptr<T, ProxyDeleter>;
+
+/// A connection to a display in this process, with what it is used for. The display has a thread of
 /// its own, so waiting for it blocks nothing that it needs.
 class TestClient {
  public:
   explicit TestClient(const QByteArray& socketPath);
 
-  bool isConnected() const { return display_ != nullptr; }
   /// False when the connection is broken.
-  bool roundtrip() { return wl_display_roundtrip(display_.get()) >= 0; }
+  bool roundtrip() { return wl_display_roundtrip(display.get()) >= 0; }
   /// Reads what has come, without waiting.
   void dispatch();
-  wl_display* display() const { return display_.get(); }
-
   /// The interface whose object the display found fault with; empty without a fault.
   std::string faultyInterface() const;
-  std::uint32_t faultCode() const;
 
-  struct Screen {
-    QSize size;
-    int refresh = 0;  // millihertz
-    int scale = 0;
-  };
-  const Screen& screen() const { return screen_; }
-  std::uint32_t seatCapabilities() const { return seatCapabilities_; }
-  const std::map<std::string, std::uint32_t>& globals() const { return versions_; }
-  const std::vector<std::uint32_t>& shmFormats() const { return shmFormats_; }
-
-  wl_compositor* compositor() const { return compositor_.get(); }
-  wl_subcompositor* subcompositor() const { return subcompositor_.get(); }
-  wl_shm* shm() const { return shm_.get(); }
-  xdg_wm_base* shell() const { return shell_.get(); }
-  wp_viewporter* viewporter() const { return viewporter_.get(); }
-  wp_presentation* presentation() const { return presentation_.get(); }
-  zwp_linux_dmabuf_v1* dmabuf() const { return dmabuf_.get(); }
+  // None where the display doesn't announce it.
+  Proxy<wl_display> display;
+  Proxy<wl_registry> registry;
+  Proxy<wl_compositor> compositor;
+  Proxy<wl_shm> shm;
+  Proxy<xdg_wm_base> shell;
+  Proxy<wp_viewporter> viewporter;
+  Proxy<wp_presentation> presentation;
+  Proxy<zwp_linux_dmabuf_v1> dmabuf;
 
  private:
-  void listen();
-  void bind(wl_registry* registry, std::uint32_t name, const std::string& interface);
-
-  Proxy<wl_display> display_;
-  Proxy<wl_registry> registry_;
-  Proxy<wl_compositor> compositor_;
-  Proxy<wl_subcompositor> subcompositor_;
-  Proxy<wl_shm> shm_;
-  Proxy<wl_output> output_;
-  Proxy<wl_seat> seat_;
-  Proxy<xdg_wm_base> shell_;
-  Proxy<wp_viewporter> viewporter_;
-  Proxy<wp_presentation> presentation_;
-  Proxy<zwp_linux_dmabuf_v1> dmabuf_;
-  std::map<std::string, std::uint32_t> versions_;
-  std::vector<std::uint32_t> shmFormats_;
-  Screen screen_;
-  std::uint32_t seatCapabilities_ = ~0u;
+  void bind(std::uint32_t name, const std::string& interface);
 };
 
 }  // namespace tromelo::testing

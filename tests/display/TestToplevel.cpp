@@ -22,8 +22,8 @@ struct TestToplevel::Pending {
 
 TestToplevel::TestToplevel(TestClient& client)
     : client_(client),
-      surface_(wl_compositor_create_surface(client.compositor())),
-      xdgSurface_(xdg_wm_base_get_xdg_surface(client.shell(), surface_.get())),
+      surface_(wl_compositor_create_surface(client.compositor.get())),
+      xdgSurface_(xdg_wm_base_get_xdg_surface(client.shell.get(), surface_.get())),
       toplevel_(xdg_surface_get_toplevel(xdgSurface_.get())) {
   listen();
 }
@@ -77,7 +77,7 @@ std::shared_ptr<const TestToplevel::Answers> TestToplevel::commit(const TestBuff
   auto pending = std::make_unique<Pending>();
   pending->callback.reset(wl_surface_frame(surface_.get()));
   wl_callback_add_listener(pending->callback.get(), &callbackListener, pending.get());
-  pending->feedback.reset(wp_presentation_feedback(client_.presentation(), surface_.get()));
+  pending->feedback.reset(wp_presentation_feedback(client_.presentation.get(), surface_.get()));
   wp_presentation_feedback_add_listener(pending->feedback.get(), &feedbackListener, pending.get());
   if (damage.isNull())
     damage = QRect(0, 0, std::numeric_limits<int>::max(), std::numeric_limits<int>::max());
@@ -87,11 +87,6 @@ std::shared_ptr<const TestToplevel::Answers> TestToplevel::commit(const TestBuff
   pending_.push_back(std::move(pending));
   client_.roundtrip();
   return pending_.back()->answers;
-}
-
-void TestToplevel::destroyToplevel() {
-  toplevel_.reset();
-  client_.roundtrip();
 }
 
 }  // namespace tromelo::testing

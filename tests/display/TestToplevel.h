@@ -41,16 +41,15 @@ class TestToplevel {
   TestToplevel& operator=(const TestToplevel&) = delete;
 
   wl_surface* surface() const { return surface_.get(); }
-  xdg_surface* xdgSurface() const { return xdgSurface_.get(); }
   xdg_toplevel* toplevel() const { return toplevel_.get(); }
   const std::optional<Configure>& configure() const { return configure_; }
+  bool isSuspended() const { return configure_->states.contains(XDG_TOPLEVEL_STATE_SUSPENDED); }
   int configures() const { return configures_; }
 
   /// The commit without a buffer that asks for the first configure event, and waits for that.
   void start();
   /// Shows `buffer`, all of it damaged or just `damage`; a null one takes the picture away.
   std::shared_ptr<const Answers> commit(const TestBuffer* buffer, QRect damage = {});
-  void destroyToplevel();
 
  private:
   void listen();

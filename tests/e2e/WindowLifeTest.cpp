@@ -42,6 +42,21 @@ TEST_F(EndToEnd, GoesToFullScreenAndBackToTheSizeItHad) {
   }
 }
 
+TEST_F(EndToEnd, PlaysOnWhileItIsMinimised) {
+  if (!screen::isX11()) GTEST_SKIP() << "no one minimises windows on the headless Wayland host";
+  player.start({clip("sample.mp4")});
+  ASSERT_TRUE(player.waitUntilPlaying());
+  EngineProbe engine = probe();
+  const QString id = window("sample");
+  screen::run(QStringLiteral("xdotool"), {QStringLiteral("windowminimize"), id});
+  ASSERT_TRUE(player.waitUntil([this] { return window("sample").isEmpty(); }));
+  const auto position = [&] { return engine.get(QStringLiteral("time-pos")).toDouble(); };
+  const double hiddenAt = position();
+  EXPECT_TRUE(player.waitUntil([&] { return position() > hiddenAt + 2; }));
+  screen::run(QStringLiteral("xdotool"), {QStringLiteral("windowactivate"), id});
+  EXPECT_TRUE(screen::waitForShot(QStringLiteral("back"), showsTestPicture));
+}
+
 TEST_F(EndToEnd, ResizesThePictureWithItsAspectKept) {
   if (!screen::isX11()) GTEST_SKIP() << "no one resizes windows on the headless Wayland host";
   player.start({clip("sample.mp4")});

@@ -8,40 +8,23 @@ namespace tromelo {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::waitFor;
 
-class WindowFadeTest : public ::testing::Test {
- protected:
-  auto counted() {
-    return [this] { ++completed_; };
-  }
-
-  const ReducedMotion moving_{"0", {}};
-  const ReducedMotion still_{"1", {}};
-  QQuickItem root_;
-  int completed_ = 0;
-};
-
-TEST_F(WindowFadeTest, IsAStepWhereNoMotionIsWanted) {
-  WindowFade fade(root_, still_);
-  std::vector<double> seen;
-  QObject::connect(&root_, &QQuickItem::opacityChanged, &root_,
-                   [&] { seen.push_back(root_.opacity()); });
-  fade.start(0, 24h, QEasingCurve::Linear, counted());
-  EXPECT_EQ(root_.opacity(), 0);
-  EXPECT_EQ(completed_, 0) << "who starts a fade isn't ready for its end yet";
-  EXPECT_TRUE(waitFor([this] { return completed_ == 1; }));
-  EXPECT_EQ(seen, std::vector<double>{0});
-}
-
-TEST_F(WindowFadeTest, IsGivenUpForTheNextOne) {
-  for (const ReducedMotion* wish : {&moving_, &still_}) {
-    WindowFade fade(root_, *wish);
-    fade.start(0, 20ms, QEasingCurve::Linear, [] { ADD_FAILURE() << "given up"; });
-    fade.start(1, 20ms, QEasingCurve::Linear, counted());
-    EXPECT_TRUE(waitFor([this] { return completed_ == 1; }));
-    EXPECT_EQ(root_.opacity(), 1);
-    completed_ = 0;
+/// Also that what began a fade isn't told of its end before it is ready for that.
+TEST(WindowFadeTest, GivesUpTheOneBeforeAndIsAStepWhereNoMotionIsWanted) {
+  for (const char* still : {"0", "1"}) {
+    const ReducedMotion motion{still, {}};
+    QQuickItem root;
+    int steps = 0;
+    int completed = 0;
+    QObject::connect(&root, &QQuickItem::opacityChanged, &root, [&] { ++steps; });
+    WindowFade fade(root, motion);
+    fade.start(0, 24h, QEasingCurve::Linear, [] { ADD_FAILURE() << "given up"; });
+    EXPECT_EQ(root.opacity(), motion.isWanted() ? 0 : 1);
+    fade.start(0.5, 60ms, QEasingCurve::Linear, [&] { ++completed; });
+    EXPECT_EQ(completed, 0);
+    EXPECT_TRUE(testing::waitFor([&] { return completed == 1; }));
+    EXPECT_EQ(root.opacity(), 0.5);
+    EXPECT_EQ(motion.isWanted(), steps == 2);
   }
 }
 
