@@ -421,6 +421,21 @@
     </message>
 </context>
 <context>
+    <name>PlayerPanels</name>
+    <message>
+        <source>Subtitles and audio</source>
+        <translation>Untertitel und Ton</translation>
+    </message>
+    <message>
+        <source>Chapters</source>
+        <translation>Kapitel</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>Warteschlange</translation>
+    </message>
+</context>
+<context>
     <name>PlayerShortcutsPanel</name>
     <message>
         <source>Keyboard Shortcuts</source>

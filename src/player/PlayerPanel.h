@@ -29,48 +29,44 @@ class BarPanel {
   Q_PROPERTY(QString body MEMBER body CONSTANT)
   Q_PROPERTY(QString button MEMBER button CONSTANT)
   Q_PROPERTY(QString symbol MEMBER symbol CONSTANT)
-  Q_PROPERTY(QString name MEMBER name CONSTANT)
+  Q_PROPERTY(QString name READ shownName CONSTANT)
   Q_PROPERTY(QString tip READ buttonTip CONSTANT)
   Q_PROPERTY(bool needsChapters MEMBER needsChapters CONSTANT)
 
  public:
-  QString buttonTip() const { return tip ? PlayerActions::tip(*tip) : name; }
+  QString shownName() const { return QCoreApplication::translate("PlayerPanels", name); }
+  QString buttonTip() const { return tip ? PlayerActions::tip(*tip) : shownName(); }
 
   PlayerPanel panel = {};
   QString body;    // a view that takes the model; a signal finished() of it closes the panel
   QString button;  // the object's name
   QString symbol;
-  QString name;                           // as people read it
+  const char* name = "";                  // as people read it, to be translated
   std::optional<PlayerActions::Tip> tip;  // of the key that does the same, if there is one
   bool needsChapters = false;             // the button is there only for a file that has some
-
-  friend bool operator==(const BarPanel&, const BarPanel&) = default;
 };
 
 /// In the order of their buttons.
 inline QList<BarPanel> barPanels() {
-  const auto tr = [](const char* text) {
-    return QCoreApplication::translate("PlayerPanels", text);
-  };
   return {
       {.panel = PlayerPanel::chapters,
        .body = QStringLiteral("ChaptersPanel"),
        .button = QStringLiteral("chaptersButton"),
        .symbol = QStringLiteral("list.bullet.rectangle"),
-       .name = tr(QT_TRANSLATE_NOOP("PlayerPanels", "Chapters")),
+       .name = QT_TRANSLATE_NOOP("PlayerPanels", "Chapters"),
        .tip = PlayerActions::Chapters,
        .needsChapters = true},
       {.panel = PlayerPanel::tracks,
        .body = QStringLiteral("TracksPanel"),
        .button = QStringLiteral("tracksButton"),
        .symbol = QStringLiteral("captions.bubble"),
-       .name = tr(QT_TRANSLATE_NOOP("PlayerPanels", "Subtitles and audio")),
+       .name = QT_TRANSLATE_NOOP("PlayerPanels", "Subtitles and audio"),
        .tip = PlayerActions::Tracks},
       {.panel = PlayerPanel::queue,
        .body = QStringLiteral("QueuePanel"),
        .button = QStringLiteral("queueButton"),
        .symbol = QStringLiteral("list.and.film"),
-       .name = tr(QT_TRANSLATE_NOOP("PlayerPanels", "Queue")),
+       .name = QT_TRANSLATE_NOOP("PlayerPanels", "Queue"),
        .tip = PlayerActions::Queue},
   };
 }
