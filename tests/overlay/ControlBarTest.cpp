@@ -63,13 +63,10 @@ TEST_F(ControlBarTest, ShowsWhatThereIs) {
   EXPECT_EQ(text("elapsedTime"), "0:50");
   EXPECT_EQ(text("remainingTime"), "-0:50");
 
-  EXPECT_EQ(text("playPauseSymbol", "name"), "play.fill");
   EXPECT_EQ(text("playerPlayPause", "tip"), "Play (Space)");
   report(MpvProperty::pause, MpvValue(false));
   EXPECT_EQ(text("playPauseSymbol", "name"), "pause.fill");
   EXPECT_EQ(text("playerPlayPause", "tip"), "Pause (Space)");
-  report(MpvProperty::volume, MpvValue(50.0));
-  EXPECT_EQ(text("muteSymbol", "name"), "speaker.wave.2.fill");
   report(MpvProperty::mute, MpvValue(true));
   EXPECT_EQ(text("muteSymbol", "name"), "speaker.slash.fill");
   EXPECT_EQ(text("muteButton", "tip"), "Unmute (M)");
@@ -103,17 +100,14 @@ TEST_F(ControlBarTest, PanelButtonsTurnTheirPanelsOnAndOff) {
 }
 
 TEST_F(ControlBarTest, DragsTheVolume) {
-  const QRectF slider = frame(item("volumeSlider"));
-  const QPointF start(slider.x() + 8, slider.center().y());
-  click(start + QPointF(38, 0));
+  const QRectF slider = frame("volumeSlider");
+  click(slider.center());
   EXPECT_EQ(takeSent(), Sent{"set volume 50.0"});
-  press(start + QPointF(41, 0));  // on the knob
-  EXPECT_EQ(takeSent(), Sent());
-  drag(start + QPointF(41 + 19, 30));
-  EXPECT_EQ(takeSent(), Sent{"set volume 75.0"});
-  drag(start + QPointF(500, 0));
+  press(slider.center() + QPointF(3, 0));
+  EXPECT_EQ(takeSent(), Sent()) << "on the knob";
+  drag(slider.center() + QPointF(500, 30));
   EXPECT_EQ(takeSent(), Sent{"set volume 100.0"});
-  release(start);
+  release(slider.center());
 }
 
 TEST_F(ControlBarTest, DragsThePosition) {
@@ -159,9 +153,6 @@ TEST_F(ControlBarTest, ChoosesASpeed) {
   for (const QQuickItem* mark : items(QStringLiteral("speedCheckmark")))
     if (mark->isVisible()) checked << mark->parentItem()->parentItem()->objectName();
   EXPECT_EQ(checked, QStringList{QStringLiteral("speed1×")});
-  for (const char* name : {"speed0.25×", "speed0.5×", "speed0.75×", "speed1.25×", "speed1.5×",
-                           "speed1.75×", "speed2×", "speed3×"})
-    EXPECT_TRUE(item(name)) << name;
   click("speed1.25×");
   EXPECT_EQ(takeSent(), Sent{"set speed 1.25"});
   EXPECT_TRUE(item("speedMenu")->property("active").toBool());
@@ -178,25 +169,28 @@ TEST_F(ControlBarTest, ChoosesASpeed) {
 
 TEST_F(ControlBarTest, EverythingFitsAtTheLeastWidth) {
   load(100 * 3600);
-  reportPlaylist(3, 1);
-  reportChapters({0, 50});
   report(MpvProperty::speed, MpvValue(1.25));
-  for (const double width : {480.0, 560.0, 620.0, 700.0, 760.0}) {
-    view_->setWidth(width);
-    layOut();
-    double end = 0;
-    for (const char* name :
-         {"muteButton", "volumeSlider", "previousButton", "backButton", "playerPlayPause",
-          "forwardButton", "nextButton", "speedMenu", "chaptersButton", "tracksButton",
-          "queueButton", "infoButton", "fullscreenButton"}) {
-      const QRectF place = frame(item(name));
-      EXPECT_TRUE(isShown(name) && place.width() > 0) << name << " at " << width;
-      EXPECT_GE(place.left(), end) << name << " at " << width;
-      end = place.right();
+  for (const bool all : {false, true}) {
+    reportPlaylist(all ? 3 : 1, 0);
+    reportChapters(all ? std::vector<double>{0, 50} : std::vector<double>());
+    for (const double width : {440.0, 480.0, 560.0, 620.0, 700.0, 760.0}) {
+      SCOPED_TRACE(width);
+      view_->setWidth(width);
+      layOut();
+      double end = frame(view_.get()).left();
+      for (const char* name :
+           {"muteButton", "volumeSlider", "previousButton", "backButton", "playerPlayPause",
+            "forwardButton", "nextButton", "speedMenu", "chaptersButton", "tracksButton",
+            "queueButton", "infoButton", "fullscreenButton"}) {
+        if (!isShown(name)) continue;
+        EXPECT_GE(frame(name).left(), end) << name;
+        end = frame(name).right();
+      }
+      EXPECT_LE(end, frame("remainingTime").right());
+      EXPECT_EQ(isShown("volumeSlider"), !all || width > 440);
+      EXPECT_GE(item("remainingTime")->width(), item("remainingTime")->implicitWidth());
     }
-    EXPECT_LE(end, frame(view_.get()).right() - 18) << width;
-    EXPECT_EQ(frame(item("remainingTime")).left(), frame(item("seekSlider")).right() + 12);
-    EXPECT_GE(item("remainingTime")->width(), item("remainingTime")->implicitWidth());
+    EXPECT_EQ(frame("playerPlayPause").center().x(), frame(view_.get()).center().x());
   }
 }
 
@@ -231,7 +225,7 @@ TEST_F(ControlBarTest, IsKnownToAssistiveTechnology) {
 }
 
 TEST_F(ControlBarTest, TellsWhatAButtonIsForOnceThePointerRestsOnIt) {
-  mouse(QEvent::MouseMove, frame(item("queueButton")).center(), Qt::NoButton);
+  move(frame("queueButton").center());
   const auto tip = [this] { return item("queueButton")->findChild<QObject*>("toolTip"); };
   EXPECT_FALSE(tip());
   ASSERT_TRUE(waitFor([&] { return tip() != nullptr; }));

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <algorithm>
+#include <chrono>
+
+namespace tromelo::testing {
+
+/// A window with views, which a test finds by their names and uses as a hand would.
+class ViewDriver {
+ protected:
+  /// Those of this name that are in the window, in their order.
+  QList<QQuickItem*> items(const QString& name, const QQuickItem* within = nullptr) {
+    QList<QQuickItem*> found;
+    for (QQuickItem* child : (within ? within : host_.contentItem())->childItems()) {
+      if (child->objectName() == name) found << child;
+      found << items(name, child);
+    }
+    return found;
+  }
+  QQuickItem* item(const char* name) { return items(QString::fromUtf8(name)).value(0); }
+  bool isShown(const char* name) { return item(name) && item(name)->isVisible(); }
+  QString text(const char* name, const char* property = "text") {
+    return item(name)->property(property).toString();
+  }
+  /// Rows place what is in them when a picture is drawn.
+  void layOut() { host_.grabWindow(); }
+  QRectF frame(const QQuickItem* view) { return view->mapRectToScene({QPointF(), view->size()}); }
+  QRectF frame(const char* name) { return frame(item(name)); }
+  /// What can be seen of this name, from top to bottom and left to right.
+  QList<QQuickItem*> all(const char* name, const QQuickItem* within = nullptr) {
+    QList<QQuickItem*> found = items(QString::fromUtf8(name), within);
+    found.removeIf([](const QQuickItem* one) { return !one->isVisible(); });
+    std::ranges::stable_sort(found, {}, [this](QQuickItem* one) {
+      return std::pair(frame(one).top(), frame(one).left());
+    });
+    return found;
+  }
+  QQuickItem* only(const char* name, const QQuickItem* within = nullptr) {
+    const auto found = all(name, within);
+    return found.size() == 1 ? found.first() : nullptr;
+  }
+  static QStringList texts(const QList<QQuickItem*>& items, const char* property = "text") {
+    QStringList found;
+    for (const QQuickItem* one : items) found << one->property(property).toString();
+    return found;
+  }
+
+  void mouse(QEvent::Type type, QPointF place, Qt::MouseButtons held,
+             Qt::MouseButton button = Qt::NoButton) {
+    pointer_ = host_.position() + place;
+    QMouseEvent event(type, place, pointer_, button, held, Qt::NoModifier);
+    event.setTimestamp(static_cast<quint64>(time_.count()));
+    QCoreApplication::sendEvent(&host_, &event);
+  }
+  void move(QPointF place) { mouse(QEvent::MouseMove, place, Qt::NoButton); }
+  void drag(QPointF place) { mouse(QEvent::MouseMove, place, Qt::LeftButton); }
+  void press(QPointF place, Qt::MouseButton button = Qt::LeftButton) {
+    mouse(QEvent::MouseButtonPress, place, button, button);
+  }
+  void release(QPointF place, Qt::MouseButton button = Qt::LeftButton) {
+    mouse(QEvent::MouseButtonRelease, place, Qt::NoButton, button);
+    time_ += std::chrono::milliseconds(50);
+  }
+  void click(QPointF place, Qt::MouseButton button = Qt::LeftButton) {
+    press(place, button);
+    release(place, button);
+    EXPECT_EQ(host_.activeFocusItem(), host_.contentItem()) << "nothing took the keyboard";
+  }
+  void click(const QQuickItem* one) {
+    ASSERT_TRUE(one);
+    layOut();
+    click(frame(one).center());
+  }
+  void click(const char* name) { click(item(name)); }
+  void scroll(QPointF place) {
+    QWheelEvent event(place, place, {0, -120}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&host_, &event);
+  }
+
+  QQuickWindow host_;
+  QPointF pointer_;  // on the screen
+  std::chrono::milliseconds time_ = std::chrono::seconds(1);
+};
+
+}  // namespace tromelo::testing
