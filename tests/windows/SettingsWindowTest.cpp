@@ -95,7 +95,7 @@ TEST_F(SettingsWindowTest, EveryControlCanBeUsedByKeys) {
       {"subtitleOverridesStyled", Qt::Key_Space,
        [this] { return settings_.subtitleOverridesStyled(); }},
       {"resetSubtitleStyle", Qt::Key_Return,
-       [this] { return settings_.preferences() == PlayerPreferences(); }},
+       [this] { return settings_.preferences() == PlayerPreferences{.autoHideDelay = 0}; }},
   };
   for (const Row& row : rows) {
     tabTo(row.control);
