@@ -6,7 +6,7 @@ namespace tromelo {
 
 std::optional<QString> videoSizeText(const FileFacts& facts) {
   if (!facts.hasPicture()) return {};
-  return QStringLiteral("%1 × %2").arg(*facts.width).arg(*facts.height);
+  return QStringLiteral("%1 × %2").arg(facts.width.value_or(0)).arg(facts.height.value_or(0));
 }
 
 std::optional<QString> frameRateText(const FileFacts& facts) {

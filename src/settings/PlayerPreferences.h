@@ -63,7 +63,7 @@ double keptSubtitleSize(double size);
 
 /// Any value does.
 template <typename T>
-const T& asItIs(const T& value) {
+T asItIs(T value) {
   return value;
 }
 
