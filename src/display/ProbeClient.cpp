@@ -99,7 +99,7 @@ void Probe::askForFeedback() {
           },
       .main_device =
           [](void* self, zwp_linux_dmabuf_feedback_v1*, wl_array* device) {
-            auto& dmabuf = static_cast<Probe*>(self)->facts_.dmabuf.emplace();
+            auto& dmabuf = static_cast<Probe*>(self)->facts_.dmabuf.emplace(DisplayFacts::Dmabuf{});
             if (device->size == sizeof(dev_t))
               std::memcpy(&dmabuf.mainDevice, device->data, sizeof(dev_t));
           },
