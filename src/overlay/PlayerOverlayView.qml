@@ -5,7 +5,7 @@ import Tromelo.Player
 import Tromelo.Theme
 
 // Lies over the video, takes all input there and holds the player's floating views.
-Item {
+PlayerOverlayItem {
     id: overlay
 
     required property PlaybackModel playback
@@ -18,14 +18,20 @@ Item {
     readonly property real insetHeight: height - 2 * Theme.overlayInset
 
     objectName: "playerOverlay"
+    input: overlayInput
+    chromeItem: floating
+    controls: controlBar
 
     PlayerOverlayInput {
-        objectName: "playerInput"
+        id: overlayInput
+
         anchors.fill: parent
     }
 
     // These fade together.
     Item {
+        id: floating
+
         objectName: "playerChrome"
         anchors.fill: parent
 

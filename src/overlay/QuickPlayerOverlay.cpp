@@ -3,7 +3,7 @@
 #include <QQmlComponent>
 #include <utility>
 
-#include "overlay/PlayerOverlayInput.h"
+#include "overlay/PlayerOverlayItem.h"
 #include "playback/PlaybackModel.h"
 #include "player/PlayerWindowController.h"
 
@@ -11,23 +11,20 @@ namespace tromelo {
 
 namespace {
 
-std::unique_ptr<QQuickItem> makeView(QQmlEngine& engine, QQuickItem& scene, PlaybackModel& playback,
-                                     PlayerWindowController& player) {
+std::unique_ptr<PlayerOverlayItem> makeView(QQmlEngine& engine, QQuickItem& scene,
+                                            PlaybackModel& playback,
+                                            PlayerWindowController& player) {
   QQmlComponent component(&engine, QStringLiteral("Tromelo.Overlay"),
                           QStringLiteral("PlayerOverlayView"));
-  std::unique_ptr<QQuickItem> view(qobject_cast<QQuickItem*>(component.createWithInitialProperties(
-      {{QStringLiteral("playback"), QVariant::fromValue(&playback)},
-       {QStringLiteral("chrome"), QVariant::fromValue(&player.chrome())},
-       {QStringLiteral("player"), QVariant::fromValue(&player)},
-       {QStringLiteral("backdrop"),
-        QVariant::fromValue(scene.property("video").value<QQuickItem*>())}})));
+  std::unique_ptr<PlayerOverlayItem> view(
+      qobject_cast<PlayerOverlayItem*>(component.createWithInitialProperties(
+          {{QStringLiteral("playback"), QVariant::fromValue(&playback)},
+           {QStringLiteral("chrome"), QVariant::fromValue(&player.chrome())},
+           {QStringLiteral("player"), QVariant::fromValue(&player)},
+           {QStringLiteral("backdrop"),
+            QVariant::fromValue(scene.property("video").value<QQuickItem*>())}})));
   if (!view) qFatal("%s", qPrintable(component.errorString()));
   return view;
-}
-
-template <typename Item>
-Item& childNamed(QQuickItem& view, const char* name) {
-  return *view.findChild<Item*>(QString::fromLatin1(name));
 }
 
 }  // namespace
@@ -38,12 +35,10 @@ QuickPlayerOverlay::QuickPlayerOverlay(QQmlEngine& engine, QQuickItem& scene,
                                        PointerWatch::Place pointer)
     : scene_(scene),
       view_(makeView(engine, scene, playback, player)),
-      controls_(&childNamed<QQuickItem>(*view_, "playerControlBar")),
-      chrome_(std::make_unique<ChromeGroup>(childNamed<QQuickItem>(*view_, "playerChrome"),
-                                            reducedMotion)),
+      chrome_(std::make_unique<ChromeGroup>(view_->chromeItem(), reducedMotion)),
       pointer_(*scene.window(), clock, std::move(pointer), [this] { onActivity(); }) {
   view_->setParentItem(&scene);
-  connectInput(childNamed<PlayerOverlayInput>(*view_, "playerInput"));
+  connectInput(view_->input());
   connect(&scene, &QQuickItem::widthChanged, this, &QuickPlayerOverlay::fillScene);
   connect(&scene, &QQuickItem::heightChanged, this, &QuickPlayerOverlay::fillScene);
   fillScene();
@@ -66,11 +61,15 @@ void QuickPlayerOverlay::connectInput(PlayerOverlayInput& input) {
 }
 
 void QuickPlayerOverlay::followLayout() {
-  for (const QQuickItem* item : {view_.get(), controls_})
+  for (const QQuickItem* item : {static_cast<QQuickItem*>(view_.get()), &view_->controls()})
     for (const auto changed : {&QQuickItem::xChanged, &QQuickItem::yChanged,
                                &QQuickItem::widthChanged, &QQuickItem::heightChanged})
       connect(item, changed, this, &QuickPlayerOverlay::scheduleLayout);
 }
+
+double QuickPlayerOverlay::height() const { return view_->height(); }
+
+double QuickPlayerOverlay::controlsTop() const { return view_->height() - view_->controls().y(); }
 
 void QuickPlayerOverlay::fillScene() { view_->setSize(scene_.size()); }
 

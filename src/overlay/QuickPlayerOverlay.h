@@ -13,6 +13,7 @@ namespace tromelo {
 
 class PlaybackModel;
 class PlayerOverlayInput;
+class PlayerOverlayItem;
 class PlayerWindowController;
 class ReducedMotion;
 
@@ -30,8 +31,8 @@ class QuickPlayerOverlay : public QObject, public PlayerOverlay {
 
   bool isMouseInsideChrome() const override;
   void setChromeVisible(bool visible, bool animated) override;
-  double height() const override { return view_->height(); }
-  double controlsTop() const override { return view_->height() - controls_->y(); }
+  double height() const override;
+  double controlsTop() const override;
 
  private:
   void connectInput(PlayerOverlayInput& input);
@@ -40,8 +41,7 @@ class QuickPlayerOverlay : public QObject, public PlayerOverlay {
   void scheduleLayout();
 
   QQuickItem& scene_;
-  std::unique_ptr<QQuickItem> view_;
-  QQuickItem* controls_ = nullptr;
+  std::unique_ptr<PlayerOverlayItem> view_;
   std::unique_ptr<ChromeGroup> chrome_;
   PointerWatch pointer_;
   bool layoutScheduled_ = false;
