@@ -780,359 +780,359 @@
     <name>tromelo::PlayerActions</name>
     <message>
         <source>No chapters</source>
-        <translation type="unfinished">Keine Kapitel</translation>
+        <translation>Keine Kapitel</translation>
     </message>
     <message>
         <source>Speed %1</source>
-        <translation type="unfinished">Geschwindigkeit %1</translation>
+        <translation>Geschwindigkeit %1</translation>
     </message>
     <message>
         <source>Loop on</source>
-        <translation type="unfinished">Wiederholung an</translation>
+        <translation>Wiederholung an</translation>
     </message>
     <message>
         <source>Loop off</source>
-        <translation type="unfinished">Wiederholung aus</translation>
+        <translation>Wiederholung aus</translation>
     </message>
     <message>
         <source>Chapter: %1</source>
-        <translation type="unfinished">Kapitel: %1</translation>
+        <translation>Kapitel: %1</translation>
     </message>
     <message>
         <source>No next chapter</source>
-        <translation type="unfinished">Kein nächstes Kapitel</translation>
+        <translation>Kein nächstes Kapitel</translation>
     </message>
     <message>
         <source>No previous chapter</source>
-        <translation type="unfinished">Kein voriges Kapitel</translation>
+        <translation>Kein voriges Kapitel</translation>
     </message>
     <message>
         <source>Muted</source>
-        <translation type="unfinished">Stummgeschaltet</translation>
+        <translation>Stummgeschaltet</translation>
     </message>
     <message>
         <source>Subtitle delay %1</source>
-        <translation type="unfinished">Untertitel-Versatz %1</translation>
+        <translation>Untertitel-Versatz %1</translation>
     </message>
     <message>
         <source>Audio delay %1</source>
-        <translation type="unfinished">Ton-Versatz %1</translation>
+        <translation>Ton-Versatz %1</translation>
     </message>
     <message>
         <source>Playback</source>
-        <translation type="unfinished">Wiedergabe</translation>
+        <translation>Wiedergabe</translation>
     </message>
     <message>
         <source>Space</source>
-        <translation type="unfinished">Leertaste</translation>
+        <translation>Leertaste</translation>
     </message>
     <message>
         <source>Play / pause</source>
-        <translation type="unfinished">Wiedergabe / Pause</translation>
+        <translation>Wiedergabe / Pause</translation>
     </message>
     <message>
         <source>Play (Space)</source>
-        <translation type="unfinished">Wiedergabe (Leertaste)</translation>
+        <translation>Wiedergabe (Leertaste)</translation>
     </message>
     <message>
         <source>Pause (Space)</source>
-        <translation type="unfinished">Pause (Leertaste)</translation>
+        <translation>Pause (Leertaste)</translation>
     </message>
     <message>
         <source>← / →</source>
-        <translation type="unfinished">← / →</translation>
+        <translation>← / →</translation>
     </message>
     <message>
         <source>Back / forward 10 s</source>
-        <translation type="unfinished">10 s zurück / vor</translation>
+        <translation>10 s zurück / vor</translation>
     </message>
     <message>
         <source>Back 10 seconds (←)</source>
-        <translation type="unfinished">10 Sekunden zurück (←)</translation>
+        <translation>10 Sekunden zurück (←)</translation>
     </message>
     <message>
         <source>Forward 10 seconds (→)</source>
-        <translation type="unfinished">10 Sekunden vor (→)</translation>
+        <translation>10 Sekunden vor (→)</translation>
     </message>
     <message>
         <source>⇧← / ⇧→</source>
-        <translation type="unfinished">⇧← / ⇧→</translation>
+        <translation>⇧← / ⇧→</translation>
     </message>
     <message>
         <source>Back / forward 3 s</source>
-        <translation type="unfinished">3 s zurück / vor</translation>
+        <translation>3 s zurück / vor</translation>
     </message>
     <message>
         <source>⌥← / ⌥→</source>
-        <translation type="unfinished">⌥← / ⌥→</translation>
+        <translation>⌥← / ⌥→</translation>
     </message>
     <message>
         <source>Back / forward 1 min</source>
-        <translation type="unfinished">1 min zurück / vor</translation>
+        <translation>1 min zurück / vor</translation>
     </message>
     <message>
         <source>E</source>
-        <translation type="unfinished">E</translation>
+        <translation>E</translation>
     </message>
     <message>
         <source>Next frame (pauses)</source>
-        <translation type="unfinished">Nächstes Einzelbild (pausiert)</translation>
+        <translation>Nächstes Einzelbild (pausiert)</translation>
     </message>
     <message>
         <source>[  /  ]</source>
-        <translation type="unfinished">[  /  ]</translation>
+        <translation>[  /  ]</translation>
     </message>
     <message>
         <source>Slower / faster</source>
-        <translation type="unfinished">Langsamer / schneller</translation>
+        <translation>Langsamer / schneller</translation>
     </message>
     <message>
         <source>Playback speed ([ and ])</source>
-        <translation type="unfinished">Wiedergabegeschwindigkeit ([ und ])</translation>
+        <translation>Wiedergabegeschwindigkeit ([ und ])</translation>
     </message>
     <message>
         <source>=</source>
-        <translation type="unfinished">=</translation>
+        <translation>=</translation>
     </message>
     <message>
         <source>Normal speed</source>
-        <translation type="unfinished">Normale Geschwindigkeit</translation>
+        <translation>Normale Geschwindigkeit</translation>
     </message>
     <message>
         <source>L</source>
-        <translation type="unfinished">L</translation>
+        <translation>L</translation>
     </message>
     <message>
         <source>Loop current video</source>
-        <translation type="unfinished">Video wiederholen</translation>
+        <translation>Video wiederholen</translation>
     </message>
     <message>
         <source>T</source>
-        <translation type="unfinished">T</translation>
+        <translation>T</translation>
     </message>
     <message>
         <source>Show time</source>
-        <translation type="unfinished">Zeit anzeigen</translation>
+        <translation>Zeit anzeigen</translation>
     </message>
     <message>
         <source>Queue &amp; chapters</source>
-        <translation type="unfinished">Warteschlange und Kapitel</translation>
+        <translation>Warteschlange und Kapitel</translation>
     </message>
     <message>
         <source>N / P</source>
-        <translation type="unfinished">N / P</translation>
+        <translation>N / P</translation>
     </message>
     <message>
         <source>Next / previous in queue</source>
-        <translation type="unfinished">Nächstes / voriges Video</translation>
+        <translation>Nächstes / voriges Video</translation>
     </message>
     <message>
         <source>Next (N)</source>
-        <translation type="unfinished">Nächstes (N)</translation>
+        <translation>Nächstes (N)</translation>
     </message>
     <message>
         <source>Previous (P)</source>
-        <translation type="unfinished">Voriges (P)</translation>
+        <translation>Voriges (P)</translation>
     </message>
     <message>
         <source>⌘→ / ⌘←</source>
-        <translation type="unfinished">⌘→ / ⌘←</translation>
+        <translation>⌘→ / ⌘←</translation>
     </message>
     <message>
         <source>⇧N / ⇧P</source>
-        <translation type="unfinished">⇧N / ⇧P</translation>
+        <translation>⇧N / ⇧P</translation>
     </message>
     <message>
         <source>Next / previous chapter</source>
-        <translation type="unfinished">Nächstes / voriges Kapitel</translation>
+        <translation>Nächstes / voriges Kapitel</translation>
     </message>
     <message>
         <source>C</source>
-        <translation type="unfinished">C</translation>
+        <translation>C</translation>
     </message>
     <message>
         <source>Chapter list</source>
-        <translation type="unfinished">Kapitelliste</translation>
+        <translation>Kapitelliste</translation>
     </message>
     <message>
         <source>Chapters (C)</source>
-        <translation type="unfinished">Kapitel (C)</translation>
+        <translation>Kapitel (C)</translation>
     </message>
     <message>
         <source>Q</source>
-        <translation type="unfinished">Q</translation>
+        <translation>Q</translation>
     </message>
     <message>
         <source>Queue</source>
-        <translation type="unfinished">Warteschlange</translation>
+        <translation>Warteschlange</translation>
     </message>
     <message>
         <source>Queue (Q)</source>
-        <translation type="unfinished">Warteschlange (Q)</translation>
+        <translation>Warteschlange (Q)</translation>
     </message>
     <message>
         <source>O / ⌘O</source>
-        <translation type="unfinished">O / ⌘O</translation>
+        <translation>O / ⌘O</translation>
     </message>
     <message>
         <source>Open videos</source>
-        <translation type="unfinished">Videos öffnen</translation>
+        <translation>Videos öffnen</translation>
     </message>
     <message>
         <source>Audio &amp; subtitles</source>
-        <translation type="unfinished">Ton und Untertitel</translation>
+        <translation>Ton und Untertitel</translation>
     </message>
     <message>
         <source>↑ / ↓</source>
-        <translation type="unfinished">↑ / ↓</translation>
+        <translation>↑ / ↓</translation>
     </message>
     <message>
         <source>Volume up / down</source>
-        <translation type="unfinished">Lauter / leiser</translation>
+        <translation>Lauter / leiser</translation>
     </message>
     <message>
         <source>Scroll</source>
-        <translation type="unfinished">Scrollen</translation>
+        <translation>Scrollen</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished">Lautstärke</translation>
+        <translation>Lautstärke</translation>
     </message>
     <message>
         <source>M</source>
-        <translation type="unfinished">M</translation>
+        <translation>M</translation>
     </message>
     <message>
         <source>Mute</source>
-        <translation type="unfinished">Stummschalten</translation>
+        <translation>Stummschalten</translation>
     </message>
     <message>
         <source>Mute (M)</source>
-        <translation type="unfinished">Stummschalten (M)</translation>
+        <translation>Stummschalten (M)</translation>
     </message>
     <message>
         <source>Unmute (M)</source>
-        <translation type="unfinished">Stummschaltung aufheben (M)</translation>
+        <translation>Stummschaltung aufheben (M)</translation>
     </message>
     <message>
         <source>B</source>
-        <translation type="unfinished">B</translation>
+        <translation>B</translation>
     </message>
     <message>
         <source>Next audio track</source>
-        <translation type="unfinished">Nächste Tonspur</translation>
+        <translation>Nächste Tonspur</translation>
     </message>
     <message>
         <source>V</source>
-        <translation type="unfinished">V</translation>
+        <translation>V</translation>
     </message>
     <message>
         <source>Next subtitle track (incl. off)</source>
-        <translation type="unfinished">Nächster Untertitel (auch aus)</translation>
+        <translation>Nächster Untertitel (auch aus)</translation>
     </message>
     <message>
         <source>G / H</source>
-        <translation type="unfinished">G / H</translation>
+        <translation>G / H</translation>
     </message>
     <message>
         <source>Subtitle delay −/+ 50 ms</source>
-        <translation type="unfinished">Untertitel −/+ 50 ms</translation>
+        <translation>Untertitel −/+ 50 ms</translation>
     </message>
     <message>
         <source>J / K</source>
-        <translation type="unfinished">J / K</translation>
+        <translation>J / K</translation>
     </message>
     <message>
         <source>Audio delay −/+ 50 ms</source>
-        <translation type="unfinished">Ton −/+ 50 ms</translation>
+        <translation>Ton −/+ 50 ms</translation>
     </message>
     <message>
         <source>U</source>
-        <translation type="unfinished">U</translation>
+        <translation>U</translation>
     </message>
     <message>
         <source>Subtitles &amp; audio panel</source>
-        <translation type="unfinished">Untertitel und Ton</translation>
+        <translation>Untertitel und Ton</translation>
     </message>
     <message>
         <source>Subtitles &amp; audio (U)</source>
-        <translation type="unfinished">Untertitel und Ton (U)</translation>
+        <translation>Untertitel und Ton (U)</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished">Fenster</translation>
+        <translation>Fenster</translation>
     </message>
     <message>
         <source>F, double-click</source>
-        <translation type="unfinished">F, Doppelklick</translation>
+        <translation>F, Doppelklick</translation>
     </message>
     <message>
         <source>Full screen</source>
-        <translation type="unfinished">Vollbild</translation>
+        <translation>Vollbild</translation>
     </message>
     <message>
         <source>Full screen (F)</source>
-        <translation type="unfinished">Vollbild (F)</translation>
+        <translation>Vollbild (F)</translation>
     </message>
     <message>
         <source>Exit full screen (F)</source>
-        <translation type="unfinished">Vollbild verlassen (F)</translation>
+        <translation>Vollbild verlassen (F)</translation>
     </message>
     <message>
         <source>Esc</source>
-        <translation type="unfinished">Esc</translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>Close panel, leave full screen, or close player</source>
-        <translation type="unfinished">Leiste, Vollbild oder Player schließen</translation>
+        <translation>Leiste, Vollbild oder Player schließen</translation>
     </message>
     <message>
         <source>Close player (Esc)</source>
-        <translation type="unfinished">Player schließen (Esc)</translation>
+        <translation>Player schließen (Esc)</translation>
     </message>
     <message>
         <source>Close (Esc)</source>
-        <translation type="unfinished">Schließen (Esc)</translation>
+        <translation>Schließen (Esc)</translation>
     </message>
     <message>
         <source>S, ⌘W</source>
-        <translation type="unfinished">S, ⌘W</translation>
+        <translation>S, ⌘W</translation>
     </message>
     <message>
         <source>Stop and close player</source>
-        <translation type="unfinished">Anhalten und Player schließen</translation>
+        <translation>Anhalten und Player schließen</translation>
     </message>
     <message>
         <source>I</source>
-        <translation type="unfinished">I</translation>
+        <translation>I</translation>
     </message>
     <message>
         <source>Playback info</source>
-        <translation type="unfinished">Wiedergabeinfo</translation>
+        <translation>Wiedergabeinfo</translation>
     </message>
     <message>
         <source>Playback info (I)</source>
-        <translation type="unfinished">Wiedergabeinfo (I)</translation>
+        <translation>Wiedergabeinfo (I)</translation>
     </message>
     <message>
         <source>?</source>
-        <translation type="unfinished">?</translation>
+        <translation>?</translation>
     </message>
     <message>
         <source>This list</source>
-        <translation type="unfinished">Diese Liste</translation>
+        <translation>Diese Liste</translation>
     </message>
     <message>
         <source>Volume %1%</source>
-        <translation type="unfinished">Lautstärke %1 %</translation>
+        <translation>Lautstärke %1 %</translation>
     </message>
     <message>
         <source>Open a video (⌘O)</source>
-        <translation type="unfinished">Video öffnen (⌘O)</translation>
+        <translation>Video öffnen (⌘O)</translation>
     </message>
     <message>
         <source>Open videos (⌘O)</source>
-        <translation type="unfinished">Videos öffnen (⌘O)</translation>
+        <translation>Videos öffnen (⌘O)</translation>
     </message>
 </context>
 <context>
