@@ -1,9 +1,10 @@
-#include <QKeyEvent>
+#include <QFile>
+#include <QMetaEnum>
 #include <QRegularExpression>
 
 #include "PlayerTest.h"
 #include "engine/MpvValue.h"
-#include "player/PlayerShortcuts.h"
+#include "player/PlayerActions.h"
 
 namespace tromelo {
 namespace {
@@ -39,10 +40,6 @@ class KeysTest : public testing::PlayerTest {
  protected:
   KeysTest() { showVideo(window_); }
 
-  void report(MpvProperty property, MpvValue value) {
-    playback_.engine().onEvent(
-        MpvEvent(std::in_place_type<event::Property>, property, std::move(value)));
-  }
   void reportTracks() {
     MpvList tracks;
     for (const auto& [type, id, selected] :
@@ -98,32 +95,31 @@ class KeysTest : public testing::PlayerTest {
     if (chrome().toast()) found.push_back('"' + chrome().toast()->toStdString() + '"');
     return found;
   }
-  PlayerChrome& chrome() { return player().chrome(); }
 };
 
 struct Row {
   Stroke stroke;
   Sent effects;
+  bool goesOn = false;  // while it is held
 };
 
 TEST_F(KeysTest, EachDoesAsTheListSays) {
   const Row rows[] = {
       {{Qt::Key_Space, " "}, {"set pause yes"}},
-      {{Qt::Key_Left}, {"seek -10.0 relative"}},
-      {{Qt::Key_Right}, {"seek 10.0 relative"}},
-      {{Qt::Key_Left, {}, kShift}, {"seek -3.0 relative"}},
-      {{Qt::Key_Right, {}, kShift}, {"seek 3.0 relative"}},
-      {{Qt::Key_Left, {}, kAlt}, {"seek -60.0 relative"}},
-      {{Qt::Key_Right, {}, kShift | kAlt}, {"seek 60.0 relative"}},
-      {{Qt::Key_Right, {}, Qt::KeypadModifier}, {"seek 10.0 relative"}},
-      {{Qt::Key_Up}, {"set volume 54.6", "\"Volume 55%\""}},
-      {{Qt::Key_Down, {}, kAlt}, {"set volume 44.6", "\"Volume 45%\""}},
-      {{Qt::Key_Up, {}, kControl}, {"set volume 54.6", "\"Volume 55%\""}},
-      {{Qt::Key_Down, {}, kControl | Qt::KeypadModifier}, {"set volume 44.6", "\"Volume 45%\""}},
+      {{Qt::Key_Left}, {"seek -10.0 relative"}, true},
+      {{Qt::Key_Right}, {"seek 10.0 relative"}, true},
+      {{Qt::Key_Left, {}, kShift}, {"seek -3.0 relative"}, true},
+      {{Qt::Key_Right, {}, kShift}, {"seek 3.0 relative"}, true},
+      {{Qt::Key_Left, {}, kAlt}, {"seek -60.0 relative"}, true},
+      {{Qt::Key_Right, {}, kShift | kAlt}, {"seek 60.0 relative"}, true},
+      {{Qt::Key_Up}, {"set volume 54.6", "\"Volume 55%\""}, true},
+      {{Qt::Key_Down, {}, kAlt}, {"set volume 44.6", "\"Volume 45%\""}, true},
+      {{Qt::Key_Down, {}, kControl | Qt::KeypadModifier},
+       {"set volume 44.6", "\"Volume 45%\""},
+       true},
       {{Qt::Key_Left, {}, kControl}, {"playlist-prev"}},
       {{Qt::Key_Right, {}, kControl}, {"playlist-next"}},
       {typed("f"), {"set fullscreen yes"}},
-      {typed("F"), {"set fullscreen yes"}},
       {typed("i"), {"info"}},
       {typed("?"), {"shortcuts"}},
       {typed("/", Qt::KeypadModifier), {"shortcuts"}},
@@ -131,30 +127,29 @@ TEST_F(KeysTest, EachDoesAsTheListSays) {
       {typed("q"), {"queue"}},
       {typed("u"), {"tracks"}},
       {typed("m"), {"set mute yes", "\"Muted\""}},
-      {typed("M"), {"set mute yes", "\"Muted\""}},
       {typed("n"), {"playlist-next"}},
       {typed("p"), {"playlist-prev"}},
       {typed("N"), {"set chapter 2", "\"Chapter: At 100\""}},
       {typed("P"), {"set chapter 0", "\"Chapter: At 0\""}},
-      {typed("]"), {"set speed 1.25", "\"Speed 1.25×\""}},
-      {typed("["), {"set speed 0.75", "\"Speed 0.75×\""}},
+      {typed("]"), {"set speed 1.25", "\"Speed 1.25×\""}, true},
+      {typed("["), {"set speed 0.75", "\"Speed 0.75×\""}, true},
       {typed("="), {"set speed 1.0", "\"Speed 1×\""}},
       {typed("e"), {"frame-step"}},
       {typed("E"), {"frame-back-step"}},
       {typed("l"), {"set loop-file inf", "\"Loop on\""}},
-      {typed("t"), {"\"0:51 / 1:06:40\""}},
+      {typed("t"), {"\"0:51 / 1:06:40\""}, true},
       {typed("v"), {"set sid 2", "\"Subtitles: Track 2\""}},
       {typed("b"), {"set aid 5", "\"Audio: Track 5\""}},
-      {typed("g"), {"set sub-delay -0.05", "\"Subtitle delay -50 ms\""}},
-      {typed("H"), {"set sub-delay 0.05", "\"Subtitle delay +50 ms\""}},
-      {typed("j"), {"set audio-delay 0.05", "\"Audio delay +50 ms\""}},
-      {typed("k"), {"set audio-delay 0.15", "\"Audio delay +150 ms\""}},
+      {typed("g"), {"set sub-delay -0.05", "\"Subtitle delay -50 ms\""}, true},
+      {typed("H"), {"set sub-delay 0.05", "\"Subtitle delay +50 ms\""}, true},
+      {typed("j"), {"set audio-delay 0.05", "\"Audio delay +50 ms\""}, true},
+      {typed("k"), {"set audio-delay 0.15", "\"Audio delay +150 ms\""}, true},
 
       // What a layout types counts, wherever it has it, and Caps Lock doesn't.
       {{Qt::Key_N, "N"}, {"playlist-next"}},
       {{Qt::Key_N, "n", kShift}, {"set chapter 2", "\"Chapter: At 100\""}},
       {{0x414, "д", {}, 46}, {"set loop-file inf", "\"Loop on\""}},
-      {{0x425, "х", {}, 34}, {"set speed 0.75", "\"Speed 0.75×\""}},
+      {{0x425, "х", {}, 34}, {"set speed 0.75", "\"Speed 0.75×\""}, true},
       {{Qt::Key_Slash, "/", {}, 24}, {"shortcuts"}},
   };
   for (const Row& row : rows) {
@@ -165,14 +160,26 @@ TEST_F(KeysTest, EachDoesAsTheListSays) {
     EXPECT_EQ(effects(), row.effects);
     EXPECT_TRUE(player().chromeVisible());
     chrome().setPanel({});
+    chrome().setToast({});
     clock_.advance(1999ms);
     EXPECT_TRUE(player().chromeVisible()) << "the timer began with the key";
+
+    begin();
+    EXPECT_TRUE(press(row.stroke, true)) << "it is the player's all the same";
+    EXPECT_EQ(effects(), row.goesOn ? row.effects : Sent());
+  }
+  for (const bool isThere : {false, true}) {
+    report(MpvProperty::pause, MpvValue(isThere));
+    chrome().setToast({});
+    EXPECT_TRUE(press(typed("e"), true));
+    EXPECT_EQ(effects(), isThere ? Sent{"frame-step"} : Sent()) << "a step waits for the last one";
   }
 }
 
-/// As the list of keys writes it.
-Stroke listed(QString keys) {
+/// As the list of keys and the manual write it.
+KeyPress written(QString keys) {
   Qt::KeyboardModifiers modifiers;
+  keys.replace(QStringLiteral("Ctrl+"), QStringLiteral("⌘"));
   for (const auto& [sign, modifier] : {std::pair{u'⇧', kShift}, {u'⌥', kAlt}, {u'⌘', kControl}}) {
     modifiers.setFlag(modifier, keys.contains(sign));
     keys.remove(sign);
@@ -180,25 +187,58 @@ Stroke listed(QString keys) {
   static const QHash<QString, int> named{
       {QStringLiteral("Space"), Qt::Key_Space}, {QStringLiteral("Esc"), Qt::Key_Escape},
       {QStringLiteral("←"), Qt::Key_Left},      {QStringLiteral("→"), Qt::Key_Right},
-      {QStringLiteral("↑"), Qt::Key_Up},        {QStringLiteral("↓"), Qt::Key_Down}};
-  if (named.contains(keys)) return {named[keys], {}, modifiers};
-  return typed(modifiers & kShift ? keys : keys.toLower(), modifiers);
+      {QStringLiteral("↑"), Qt::Key_Up},        {QStringLiteral("↓"), Qt::Key_Down},
+      {QStringLiteral("Left"), Qt::Key_Left},   {QStringLiteral("Right"), Qt::Key_Right},
+      {QStringLiteral("Up"), Qt::Key_Up},       {QStringLiteral("Down"), Qt::Key_Down}};
+  if (named.contains(keys)) return Stroke{named[keys], {}, modifiers}.pressed();
+  return typed(modifiers & kShift ? keys : keys.toLower(), modifiers).pressed();
 }
 
-TEST_F(KeysTest, WhateverIsListedIsAKeyOfThePlayer) {
-  // The hand's, and the whole program's.
-  const QStringList others{QStringLiteral("Scroll"), QStringLiteral("double-click"),
-                           QStringLiteral("⌘O")};
-  static const QRegularExpression between(QStringLiteral("\\s*[/,]\\s*"));
-  for (const ShortcutGroup& group : PlayerShortcuts::groups())
-    for (const Shortcut& shortcut : group.items)
-      for (const QString& keys : shortcut.keys.split(between)) {
-        if (others.contains(keys)) continue;
-        testing::FakeVideoWindow window(clock_);
-        showVideo(window);
-        EXPECT_TRUE(window.keyMonitor(listed(keys).pressed())) << qPrintable(keys);
-        takeDown(window);
+bool areFor(const QString& keys, const std::vector<PlayerActions::Action>& actions) {
+  return std::ranges::any_of(actions, [&](const PlayerActions::Action& action) {
+    return std::ranges::any_of(action.keys,
+                               [&](const auto& key) { return key.matches(written(keys)); });
+  });
+}
+
+TEST_F(KeysTest, WhatIsWrittenOfAKeyIsSo) {
+  static const QRegularExpression between(QStringLiteral("\\s*[/,]\\s*|\\s+and\\s+"));
+  const QStringList hands{QStringLiteral("Scroll"), QStringLiteral("double-click")};
+  std::vector<PlayerActions::Action> all;
+  for (const PlayerActions::Group& group : PlayerActions::groups)
+    for (const PlayerActions::Line& line : group.lines) {
+      all.insert(all.end(), line.actions.begin(), line.actions.end());
+      for (const QString& keys : QString::fromUtf8(line.keys).split(between, Qt::SkipEmptyParts))
+        EXPECT_NE(areFor(keys, line.actions), hands.contains(keys)) << qPrintable(keys);
+      for (const PlayerActions::Action& action : line.actions) {
+        EXPECT_NE(action.act == nullptr, action.program == PlayerActions::Program::no);
+        for (const auto& [id, tip] : action.tips) {
+          const QString keys = QString::fromUtf8(tip).section(u'(', 1).chopped(1);
+          for (const QString& one : keys.split(between))
+            EXPECT_TRUE(areFor(one, line.actions)) << tip;
+        }
       }
+    }
+  const auto tips = QMetaEnum::fromType<PlayerActions::Tip>();
+  for (int i = 0; i < tips.keyCount(); ++i)
+    EXPECT_NE(PlayerActions::tip(PlayerActions::Tip(tips.value(i))), QString()) << tips.key(i);
+
+  QFile manual(QStringLiteral(MANUAL));
+  ASSERT_TRUE(manual.open(QFile::ReadOnly));
+  const QString text = QString::fromUtf8(manual.readAll());
+  const QString section =
+      text.section(QStringLiteral(".SH KEYS"), 1).section(QStringLiteral(".SH"), 0, 0);
+  static const QRegularExpression bold(QStringLiteral("^\\.BR? (.*)$"),
+                                       QRegularExpression::MultilineOption);
+  static const QRegularExpression gap(QStringLiteral("\\s*\", \"\\s*|\\s+"));
+  int found = 0;
+  for (const QRegularExpressionMatch& line : bold.globalMatch(section))
+    for (const QString& keys : line.captured(1).split(gap, Qt::SkipEmptyParts)) {
+      if (keys == u".") continue;
+      ++found;
+      EXPECT_TRUE(areFor(keys, all)) << qPrintable(keys);
+    }
+  EXPECT_GT(found, 0);
 }
 
 TEST_F(KeysTest, OthersPassAndChangeNothing) {
@@ -208,7 +248,6 @@ TEST_F(KeysTest, OthersPassAndChangeNothing) {
       typed("m", kMeta),
       typed("o", kControl),
       typed("W", kControl),
-      typed("w", kControl | kAlt),
       typed("w"),
       typed("µ"),                // AltGr and M
       {0x425, "Х", kShift, 34},  // a brace
@@ -217,7 +256,6 @@ TEST_F(KeysTest, OthersPassAndChangeNothing) {
       {Qt::Key_Left, {}, kControl | kShift},
       {Qt::Key_Up, {}, kControl | kAlt},
       {Qt::Key_Escape, "\x1b", kControl},
-      {Qt::Key_Shift, {}, kShift},
       {Qt::Key_F, "fi"},
   };
   begin();
@@ -233,7 +271,6 @@ TEST_F(KeysTest, OthersPassAndChangeNothing) {
 
 TEST_F(KeysTest, PressedAgainTheyUndoOrSayThatThereIsNoMore) {
   const Row rows[] = {
-      {typed("i"), {}},
       {typed("c"), {}},
       {typed("m"), {"set mute no", "\"Volume 50%\""}},
       {typed("l"), {"set loop-file no", "\"Loop off\""}},
@@ -265,35 +302,6 @@ TEST_F(KeysTest, PressedAgainTheyUndoOrSayThatThereIsNoMore) {
   report(MpvProperty::chapterList, MpvValue(MpvNode{MpvList()}));
   EXPECT_TRUE(press(typed("c")));
   EXPECT_EQ(effects(), Sent{"\"No chapters\""});
-}
-
-TEST_F(KeysTest, HeldDownOnlySmallStepsGoOn) {
-  QList<Stroke> goOn{
-      {Qt::Key_Left}, {Qt::Key_Right, {}, kAlt}, {Qt::Key_Up}, {Qt::Key_Down, {}, kControl}};
-  for (const QChar character : QStringLiteral("[]ghjk")) goOn << typed(character);
-  QList<Stroke> once{{Qt::Key_Space, QStringLiteral(" ")},
-                     {Qt::Key_Escape},
-                     {Qt::Key_Left, {}, kControl},
-                     {Qt::Key_Right, {}, kControl},
-                     typed("w", kControl)};
-  for (const QChar character : QStringLiteral("fi?cqousmnpNP=lvb")) once << typed(character);
-  begin();
-  chrome().setToast({});
-  for (const Stroke& stroke : goOn) {
-    EXPECT_TRUE(press(stroke, true));
-    EXPECT_EQ(takeSent().size(), 1U) << stroke.key;
-  }
-  chrome().setToast({});
-  for (const Stroke& stroke : once) {
-    EXPECT_TRUE(press(stroke, true)) << "it is the player's all the same";
-    EXPECT_EQ(effects(), Sent()) << stroke.key;
-  }
-  EXPECT_FALSE(files_.asked);
-  for (const bool isThere : {false, true}) {
-    report(MpvProperty::pause, MpvValue(isThere));
-    EXPECT_TRUE(press(typed("e"), true));
-    EXPECT_EQ(effects(), isThere ? Sent{"frame-step"} : Sent()) << "a step waits for the last one";
-  }
 }
 
 TEST_F(KeysTest, EscapeGoesBackOneStepAtATime) {
@@ -330,6 +338,23 @@ TEST_F(KeysTest, CloseAndOpen) {
     EXPECT_FALSE(window.keyMonitor);
     takeDown(window);
   }
+}
+
+TEST(HeldKeyTest, IsToldFromOneThatIsPressedAgain) {
+  HeldKey held;
+  const auto isRepeat = [&](quint32 code, quint64 time, bool isToldSo = false) {
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_F, {}, code, 0, 0, QStringLiteral("f"), isToldSo);
+    press.setTimestamp(time);
+    return held.isRepeatedBy(press);
+  };
+  EXPECT_FALSE(isRepeat(0, 0));
+  EXPECT_TRUE(isRepeat(41, 700, true));
+  QKeyEvent release(QEvent::KeyRelease, Qt::Key_F, {}, 41, 0, 0);
+  release.setTimestamp(800);
+  held.release(release);
+  EXPECT_TRUE(isRepeat(41, 800));
+  EXPECT_FALSE(isRepeat(42, 800));
+  EXPECT_FALSE(isRepeat(41, 801));
 }
 
 }  // namespace

@@ -36,6 +36,12 @@ class PlayerTest : public ::testing::Test {
     player().setVideoReady(false);
   }
 
+  void report(MpvProperty property, MpvValue value) {
+    playback_.engine().onEvent(
+        MpvEvent(std::in_place_type<event::Property>, property, std::move(value)));
+  }
+  PlayerChrome& chrome() { return player().chrome(); }
+
   /// What the engine was told since the last call, a line each.
   Sent takeSent() {
     Sent lines;

@@ -41,20 +41,19 @@ TEST_F(PlayerWindowControllerTest, DressesANewWindowUnseenAndRevealsItWhenTheVid
   EXPECT_EQ(window_.fades, 1);
 }
 
-TEST_F(PlayerWindowControllerTest, RevealsAWindowAtOnceWhenTheVideoWasReadyBefore) {
-  await();
-  player().setVideoReady(true);
-  windows_.add(window_);
-  EXPECT_TRUE(player().isRevealed());
-}
-
-TEST_F(PlayerWindowControllerTest, RevealsAWindowThatTheEngineNeverDeclaresReady) {
-  await();
-  windows_.add(window_);
-  clock_.advance(1499ms);
-  EXPECT_FALSE(player().isRevealed());
-  clock_.advance(1ms);
-  EXPECT_TRUE(player().isRevealed());
+TEST_F(PlayerWindowControllerTest, RevealsAWindowThatIsReadyAtOnceOrNeverSaysSo) {
+  for (const bool wasReady : {true, false}) {
+    FakeVideoWindow window(clock_);
+    await();
+    player().setVideoReady(wasReady);
+    windows_.add(window);
+    EXPECT_EQ(player().isRevealed(), wasReady);
+    clock_.advance(1499ms);
+    EXPECT_EQ(player().isRevealed(), wasReady);
+    clock_.advance(1ms);
+    EXPECT_TRUE(player().isRevealed());
+    takeDown(window);
+  }
 }
 
 TEST_F(PlayerWindowControllerTest, LeavesWindowsAloneThatShowNoVideo) {
@@ -114,41 +113,27 @@ TEST_F(PlayerWindowControllerTest, AFileOpenedWhileThePlayerFadesStopsTheOldOneF
   EXPECT_EQ(takeSent(), Sent{});
 }
 
-TEST_F(PlayerWindowControllerTest, LeavesFullScreenBeforeItFadesOut) {
-  showVideo(window_);
-  window_.fullscreen = true;
-  player().close();
-  EXPECT_EQ(takeSent(), (Sent{"set pause yes", "set fullscreen no"}));
-  clock_.advance(500ms);
-  EXPECT_EQ(window_.fades, 1);
-  window_.fullscreen = false;
-  Q_EMIT window_.leftFullscreen();
-  EXPECT_EQ(window_.fades, 2);
-  clock_.advance(2000ms);
-  EXPECT_EQ(window_.fades, 2);
-  EXPECT_EQ(takeSent(), Sent{"stop"});
-}
-
-TEST_F(PlayerWindowControllerTest, FadesOutAfterTwoSecondsWhenFullScreenNeverEnds) {
-  showVideo(window_);
-  window_.fullscreen = true;
-  player().close();
-  clock_.advance(1999ms);
-  EXPECT_EQ(window_.fades, 1);
-  clock_.advance(1ms);
-  EXPECT_EQ(window_.fades, 2);
-}
-
-TEST_F(PlayerWindowControllerTest, LooksAtTheScreenWhenItAdoptsAndRevealsAWindow) {
-  const auto shown = [this] { return playback_.display(); };
-  window_.headroom = ScreenHeadroom{4, 2};
-  await();
-  windows_.add(window_);
-  const QString adopted = shown();
-  EXPECT_TRUE(adopted.contains("now 2.0")) << adopted.toStdString();
-  window_.headroom = ScreenHeadroom{4, 3};
-  ready();
-  EXPECT_TRUE(shown().contains("now 3.0")) << shown().toStdString();
+TEST_F(PlayerWindowControllerTest, LeavesFullScreenBeforeItFadesOutOrWaitsTwoSeconds) {
+  for (const bool leaves : {true, false}) {
+    FakeVideoWindow window(clock_);
+    showVideo(window);
+    takeSent();
+    window.fullscreen = true;
+    player().close();
+    EXPECT_EQ(takeSent(), (Sent{"set pause yes", "set fullscreen no"}));
+    clock_.advance(1999ms);
+    EXPECT_EQ(window.fades, 1);
+    window.fullscreen = !leaves;
+    if (leaves)
+      Q_EMIT window.leftFullscreen();
+    else
+      clock_.advance(1ms);
+    EXPECT_EQ(window.fades, 2);
+    clock_.advance(2000ms);
+    EXPECT_EQ(window.fades, 2);
+    EXPECT_EQ(takeSent(), Sent{"stop"});
+    takeDown(window);
+  }
 }
 
 TEST_F(PlayerWindowControllerTest, TheLibraryStaysAwayWhileTheEnginesOutputIsMadeAnew) {
@@ -174,27 +159,23 @@ TEST_F(PlayerWindowControllerTest, TheLibraryStaysAwayWhileTheEnginesOutputIsMad
   }
 }
 
-TEST_F(PlayerWindowControllerTest, ReturnsToTheLibraryWhenTheEngineTakesItsWindowDown) {
-  showVideo(window_);
-  takeDown(window_);
-  EXPECT_FALSE(player().hasWindow());
-  EXPECT_TRUE(library_.visible);
-  clock_.advance(320ms);
-  EXPECT_EQ(library_.opacity, 1);
-}
-
-TEST_F(PlayerWindowControllerTest, KeepsAMinimisedWindow) {
-  showVideo(window_);
-  window_.minimized = true;
-  takeDown(window_);
-  EXPECT_TRUE(player().hasWindow());
-}
-
-TEST_F(PlayerWindowControllerTest, WaitsForTheNextFileWithoutTheLibrary) {
-  showVideo(window_);
-  await();
-  takeDown(window_);
-  EXPECT_FALSE(library_.visible);
+TEST_F(PlayerWindowControllerTest, AWindowThatIsTakenDownLeavesTheLibraryUnlessAnotherFileComes) {
+  struct Row {
+    bool minimized, awaits, library, window;
+  };
+  for (const auto& [minimized, awaits, library, window] :
+       {Row{false, false, true, false}, {true, false, false, true}, {false, true, false, false}}) {
+    FakeVideoWindow video(clock_);
+    showVideo(video);
+    video.minimized = minimized;
+    if (awaits) await();
+    takeDown(video);
+    EXPECT_EQ(library_.visible, library);
+    EXPECT_EQ(player().hasWindow(), window);
+    if (!awaits) continue;
+    ready();  // of a file without a picture
+    EXPECT_TRUE(library_.visible);
+  }
 }
 
 TEST_F(PlayerWindowControllerTest, ShowsAFileThatComesUpInTheWindowJustClosed) {
@@ -205,14 +186,6 @@ TEST_F(PlayerWindowControllerTest, ShowsAFileThatComesUpInTheWindowJustClosed) {
   ready();
   EXPECT_TRUE(player().isRevealed());
   EXPECT_TRUE(window_.ordered);
-}
-
-TEST_F(PlayerWindowControllerTest, ShowsTheLibraryForAFileWithoutAPicture) {
-  showVideo(window_);
-  await();
-  takeDown(window_);
-  ready();
-  EXPECT_TRUE(library_.visible);
 }
 
 TEST_F(PlayerWindowControllerTest, SortsDroppedFiles) {
