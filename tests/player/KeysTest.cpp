@@ -248,7 +248,6 @@ TEST_F(KeysTest, OthersPassAndChangeNothing) {
       typed("m", kMeta),
       typed("o", kControl),
       typed("W", kControl),
-      typed("w"),
       typed("µ"),                // AltGr and M
       {0x425, "Х", kShift, 34},  // a brace
       {0x416, "ж", {}, 47},
