@@ -41,9 +41,9 @@ class BarPanel {
   QString body;    // a view that takes the model; a signal finished() of it closes the panel
   QString button;  // the object's name
   QString symbol;
-  const char* name = "";                  // as people read it, to be translated
-  std::optional<PlayerActions::Tip> tip;  // of the key that does the same, if there is one
-  bool needsChapters = false;             // the button is there only for a file that has some
+  const char* name = "";                       // as people read it, to be translated
+  std::optional<PlayerActions::Tip> tip = {};  // of the key that does the same, if there is one
+  bool needsChapters = false;                  // the button is there only for a file that has some
 };
 
 /// In the order of their buttons.
