@@ -12,17 +12,16 @@ namespace {
 
 constexpr int kClickInterval = 450;  // ms; presses further apart are not two of one
 
-/// A person's pointer over a film on X11.
+/// A person's pointer over a film.
 class HandOnThePicture : public EndToEnd {
  protected:
   void SetUp() override {
-    if (!screen::isX11()) GTEST_SKIP() << "the headless Wayland host has no pointer";
     screen::movePointer({5, 700});
     player.start({clip("sample.mp4")});
     ASSERT_TRUE(player.waitUntilPlaying());
     ASSERT_TRUE(waitFor([this] {
       id = window("sample");
-      return !id.isEmpty() && isActive("sample");
+      return !id.isEmpty() && isActive("sample") && window("^Tromelo$").isEmpty();
     }));
   }
 
@@ -102,13 +101,24 @@ TEST_F(HandOnThePicture, DragsTheWindowExactly) {
   EXPECT_TRUE(controlsGo("hand-jitter")) << "it was a click";
   EXPECT_EQ(frame(), before);
 
-  pauseBetweenPresses();
-  screen::dragPointer({place, place + QPoint(60, 10), place + QPoint(-80, 45)});
-  EXPECT_TRUE(waitFor([&] { return frame() == before.translated(-80, 45); }));
-  const QPoint moved = place + QPoint(-80, 45);
-  pauseBetweenPresses();
-  screen::dragPointer({moved, moved + QPoint(90, -80), moved + QPoint(1, 1)});
-  EXPECT_TRUE(waitFor([&] { return frame() == before.translated(-79, 46); }));
+  const auto drag = [this](QPoint from, QPoint by, QRect expected) {
+    pauseBetweenPresses();
+    screen::dragPointer({from, from + by / 2, from + by});
+    if (screen::isX11()) {
+      EXPECT_TRUE(waitFor([&] { return frame() == expected; }));
+      return;
+    }
+    // The host moves it from where the pointer is when it hears of it.
+    EXPECT_TRUE(waitFor([&] {
+      const QPoint moved = frame().topLeft() - (expected.topLeft() - by);
+      return frame().size() == expected.size() && moved.manhattanLength() > 20 &&
+             QPoint::dotProduct(moved, by) > 0;
+    })) << frame().x()
+        << ' ' << frame().y();
+  };
+  drag(place, {-80, 44}, before.translated(-80, 44));
+  const QRect moved = frame();
+  drag(video(), {90, -80}, moved.translated(90, -80));
 }
 
 TEST_F(HandOnThePicture, DragsTheEdgesWithTheAspectKept) {
@@ -118,10 +128,11 @@ TEST_F(HandOnThePicture, DragsTheEdgesWithTheAspectKept) {
     const char* name;
     QPoint from;
     QPoint by;
-    QRect after;
+    QRect after;  // on X11
   };
   const QPoint corner(before.right() - 2, before.bottom() - 3);
   const QRect larger(before.topLeft(), QSize(800, 450));
+  EngineProbe engine = probe();
   for (const Row& row : {
            Row{"corner", corner, {160, 20}, larger},
            Row{"left edge",
@@ -134,22 +145,43 @@ TEST_F(HandOnThePicture, DragsTheEdgesWithTheAspectKept) {
                {before.left() + 160, before.top() + 60, 533, 300}},
        }) {
     screen::dragPointer({row.from, row.from + row.by / 2, row.from + row.by});
-    EXPECT_TRUE(waitFor([&] { return frame() == row.after; }))
-        << row.name << ": " << frame().width() << 'x' << frame().height();
+    EXPECT_TRUE(waitFor([&] {
+      const QRect now = frame();
+      if (screen::isX11()) return now == row.after;
+      // Where the host puts it is its business, as is how far a hand has to go first.
+      return now.width() != before.width() && std::abs(now.width() * 9 - now.height() * 16) <= 32;
+    })) << row.name
+        << ": " << frame().width() << 'x' << frame().height();
+    if (!screen::isX11()) break;
   }
-  EngineProbe engine = probe();
-  EXPECT_TRUE(waitFor(
-      [&] { return std::abs(engine.get(QStringLiteral("osd-width")).toInt() - 533) <= 2; }));
+  EXPECT_TRUE(waitFor([&] {
+    return std::abs(engine.get(QStringLiteral("osd-width")).toInt() - frame().width()) <= 2;
+  }));
   EXPECT_FALSE(engine.get(QStringLiteral("fullscreen")).toBool());
+}
+
+TEST_F(HandOnThePicture, TheWheelSetsTheVolume) {
+  screen::movePointer(video());
+  EngineProbe engine = probe();
+  for (const int button : {5, 5, 4}) {
+    screen::pressButton(button);
+    screen::releaseButton(button);
+  }
+  EXPECT_TRUE(engine.waitFor(QStringLiteral("volume"), 98));
 }
 
 TEST_F(HandOnThePicture, APointerOnTheBarKeepsTheControls) {
   EngineProbe engine = probe();
   engine.set(QStringLiteral("loop-file"), QStringLiteral("inf"));
+  ASSERT_TRUE(controlsGo("hand-away"));
+  screen::movePointer(bar() - QPoint(4, 0));
   screen::movePointer(bar());
-  QElapsedTimer resting;
-  resting.start();
-  ASSERT_TRUE(waitFor([&] { return resting.elapsed() > 4000; }));  // they hide after 3 s
+  ASSERT_TRUE(controlsCome("hand-comes"));
+  // Longer than they stay for a pointer that rests elsewhere.
+  const double start = engine.get(QStringLiteral("playback-time")).toDouble();
+  ASSERT_TRUE(waitFor([&] {
+    return std::abs(engine.get(QStringLiteral("playback-time")).toDouble() - start) > 3;
+  }));
   EXPECT_TRUE(controlsCome("hand-on-the-bar"));
   screen::movePointer(video());
   EXPECT_TRUE(controlsGo("hand-rests"));

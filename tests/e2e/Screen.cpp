@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <functional>
 
+#include "WaylandHand.h"
 #include "support/WaitFor.h"
 
 namespace tromelo::testing::screen {
@@ -25,12 +26,32 @@ void grab(const QString& directory, bool withPointer) {
                    withPointer ? QStringLiteral("1") : QStringLiteral("0"), QStringLiteral("-i"),
                    qEnvironmentVariable("DISPLAY"), QStringLiteral("-frames:v"),
                    QStringLiteral("1"), QStringLiteral("shot.png")});
+  else if (hasHand())
+    process.start(QStringLiteral("grim"), {QStringLiteral("shot.png")});
   else
     process.start(QStringLiteral("weston-screenshooter"));
   process.waitForFinished();
 }
 
+QPoint pointerPlace;  // where the hand last moved it
+
+WaylandHand& hand() {
+  static WaylandHand hand;
+  return hand;
+}
+
+void xdotool(const QStringList& arguments) { run(QStringLiteral("xdotool"), arguments); }
+
+QString folderOfShots() {
+  if (isX11()) return QStringLiteral("/x11/");
+  return hasHand() ? QStringLiteral("/labwc/") : QStringLiteral("/wayland/");
+}
+
 }  // namespace
+
+bool hasHand() {
+  return isX11() || qEnvironmentVariable("XDG_CURRENT_DESKTOP") == QStringLiteral("labwc");
+}
 
 bool isX11() { return qEnvironmentVariable("QT_QPA_PLATFORM") == QStringLiteral("xcb"); }
 
@@ -42,7 +63,15 @@ QImage shot(bool withPointer) {
   return QImage(directory.filePath(files.first())).convertToFormat(QImage::Format_RGB32);
 }
 
-bool showsPointer() { return shot(true) != shot(); }
+bool showsPointer() {
+  if (isX11()) return shot(true) != shot();
+  // labwc draws its white arrow into the picture, always.
+  const QImage arrow = shot().copy(QRect(pointerPlace, QSize(12, 18)));
+  for (int y = 0; y < arrow.height(); ++y)
+    for (int x = 0; x < arrow.width(); ++x)
+      if (arrow.pixel(x, y) == qRgb(255, 255, 255)) return true;
+  return false;
+}
 
 bool waitForShot(const QString& name, const std::function<bool(const QImage&)>& holds) {
   QImage last;
@@ -50,11 +79,20 @@ bool waitForShot(const QString& name, const std::function<bool(const QImage&)>& 
     last = shot();
     return !last.isNull() && holds(last);
   });
-  const QString folder = QStringLiteral(TROMELO_SHOTS) +
-                         (isX11() ? QStringLiteral("/x11/") : QStringLiteral("/wayland/"));
+  const QString folder = QStringLiteral(TROMELO_SHOTS) + folderOfShots();
   QDir().mkpath(folder);
   last.save(folder + name + QStringLiteral(".png"));
   return held;
+}
+
+QRect pictureIn(const QImage& image) {
+  QRect picture;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) {
+      const QColor colour = image.pixelColor(x, y);
+      if (colour.hsvSaturation() > 150 && colour.value() > 80) picture |= QRect(x, y, 1, 1);
+    }
+  return picture;
 }
 
 bool isRead(const QImage& image, QRect place) {
@@ -76,9 +114,33 @@ QString run(const QString& program, const QStringList& arguments) {
   return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
 }
 
-void press(const QString& keys) { run(QStringLiteral("xdotool"), {QStringLiteral("key"), keys}); }
+void press(const QString& keys) {
+  if (isX11()) return xdotool({QStringLiteral("key"), keys});
+  holdKeys(keys);
+  letGoOfKeys(keys);
+}
+
+void holdKeys(const QString& keys) {
+  isX11() ? xdotool({QStringLiteral("keydown"), keys}) : hand().setKeys(keys, true);
+}
+
+void letGoOfKeys(const QString& keys) {
+  isX11() ? xdotool({QStringLiteral("keyup"), keys}) : hand().setKeys(keys, false);
+}
+
+bool isActive(qint64 processId, const QString& title) {
+  if (!isX11()) return hand().hasWindow(title, true);
+  const QString id = windowOf(processId, title);
+  return !id.isEmpty() && id == run(QStringLiteral("xdotool"), {QStringLiteral("getactivewindow")});
+}
+
+void activate(qint64 processId, const QString& title) {
+  if (!isX11()) return hand().activate(title);
+  xdotool({QStringLiteral("windowactivate"), windowOf(processId, title)});
+}
 
 QString windowOf(qint64 processId, const QString& title) {
+  if (!isX11()) return hand().hasWindow(title) ? title : QString();
   QString found;
   // A window that goes while the others are looked through ends the search with an error.
   const bool searched = testing::waitFor([&] {
@@ -97,6 +159,7 @@ QString windowOf(qint64 processId, const QString& title) {
 
 QRect geometryOf(const QString& windowId) {
   if (windowId.isEmpty()) return {};  // it would ask for a click on one
+  if (!isX11()) return pictureIn(shot());
   // xdotool adds a title bar's height twice.
   const QString text = run(QStringLiteral("xwininfo"), {QStringLiteral("-id"), windowId});
   const auto number = [&text](const char* name) {
@@ -106,24 +169,28 @@ QRect geometryOf(const QString& windowId) {
           number("Height:")};
 }
 
-namespace {
-
-void xdotool(const QStringList& arguments) { run(QStringLiteral("xdotool"), arguments); }
-
-}  // namespace
-
 void movePointer(QPoint place) {
+  pointerPlace = place;
+  if (!isX11()) return hand().move(place, shot().size());
   xdotool({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y())});
 }
 
-void pressButton(int button) { xdotool({QStringLiteral("mousedown"), QString::number(button)}); }
+void pressButton(int button) {
+  isX11() ? xdotool({QStringLiteral("mousedown"), QString::number(button)})
+          : hand().setButton(button, true);
+}
 
-void releaseButton(int button) { xdotool({QStringLiteral("mouseup"), QString::number(button)}); }
+void releaseButton(int button) {
+  isX11() ? xdotool({QStringLiteral("mouseup"), QString::number(button)})
+          : hand().setButton(button, false);
+}
 
 void click(QPoint place, int times) {
   movePointer(place);
-  xdotool({QStringLiteral("click"), QStringLiteral("--delay"), QStringLiteral("40"),
-           QStringLiteral("--repeat"), QString::number(times), QStringLiteral("1")});
+  for (int i = 0; i < times; ++i) {
+    pressButton();
+    releaseButton();
+  }
 }
 
 void dragPointer(const QList<QPoint>& places) {

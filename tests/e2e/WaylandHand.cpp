@@ -1,0 +1,235 @@
+#include "WaylandHand.h"
+
+#include <gtest/gtest.h>
+#include <linux/input-event-codes.h>
+#include <sys/mman.h>
+#include <unistd.h>
+#include <wayland-client.h>
+#include <xkbcommon/xkbcommon.h>
+
+#include <QHash>
+#include <QRegularExpression>
+#include <QStringList>
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <cstring>
+#include <list>
+
+#include "wlr-hand-client-protocol.h"
+
+namespace tromelo::testing {
+
+struct WaylandHand::Host {
+  struct Window {
+    zwlr_foreign_toplevel_handle_v1* handle;
+    QString title;
+    bool active = false;
+  };
+
+  wl_display* display = wl_display_connect(nullptr);
+  wl_registry* registry = wl_display_get_registry(display);
+  wl_seat* seat = nullptr;
+  zwlr_virtual_pointer_manager_v1* pointers = nullptr;
+  zwp_virtual_keyboard_manager_v1* keyboards = nullptr;
+  zwlr_foreign_toplevel_manager_v1* windowList = nullptr;
+  zwlr_virtual_pointer_v1* pointer = nullptr;
+  zwp_virtual_keyboard_v1* keyboard = nullptr;
+  std::list<Window> windows;
+  xkb_context* context = xkb_context_new(XKB_CONTEXT_NO_FLAGS);
+  xkb_keymap* keymap = xkb_keymap_new_from_names(context, nullptr, XKB_KEYMAP_COMPILE_NO_FLAGS);
+  xkb_state* state = xkb_state_new(keymap);
+
+  /// Milliseconds: two presses are told from a double click by it.
+  static std::uint32_t now() {
+    using namespace std::chrono;
+    return std::uint32_t(
+        duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count());
+  }
+
+  Host();
+  ~Host();
+  template <typename T>
+  bool bind(const char* offered, std::uint32_t name, const wl_interface& wanted, T*& proxy);
+  void sendKeymap();
+  void take() { wl_display_roundtrip(display); }
+  void setKey(xkb_keycode_t code, bool down);
+  xkb_keycode_t codeOf(xkb_keysym_t symbol) const;
+  Window* find(const QString& titlePattern, bool active);
+};
+
+template <typename T>
+bool WaylandHand::Host::bind(const char* offered, std::uint32_t name, const wl_interface& wanted,
+                             T*& proxy) {
+  if (std::strcmp(offered, wanted.name) != 0) return false;
+  proxy = static_cast<T*>(wl_registry_bind(registry, name, &wanted, 1));
+  return true;
+}
+
+WaylandHand::Host::Host() {
+  static constexpr zwlr_foreign_toplevel_handle_v1_listener kWindow{
+      .title =
+          [](void* window, zwlr_foreign_toplevel_handle_v1*, const char* title) {
+            static_cast<Window*>(window)->title = QString::fromUtf8(title);
+          },
+      .app_id = [](void*, zwlr_foreign_toplevel_handle_v1*, const char*) {},
+      .output_enter = [](void*, zwlr_foreign_toplevel_handle_v1*, wl_output*) {},
+      .output_leave = [](void*, zwlr_foreign_toplevel_handle_v1*, wl_output*) {},
+      .state =
+          [](void* window, zwlr_foreign_toplevel_handle_v1*, wl_array* states) {
+            constexpr std::uint32_t kActivated = 2;
+            const auto* all = static_cast<const std::uint32_t*>(states->data);
+            static_cast<Window*>(window)->active =
+                std::count(all, all + states->size / sizeof *all, kActivated) > 0;
+          },
+      .done = [](void*, zwlr_foreign_toplevel_handle_v1*) {},
+      .closed = [](void* window,
+                   zwlr_foreign_toplevel_handle_v1*) { static_cast<Window*>(window)->title = {}; },
+  };
+  static constexpr zwlr_foreign_toplevel_manager_v1_listener kWindows{
+      .toplevel =
+          [](void* host, zwlr_foreign_toplevel_manager_v1*,
+             zwlr_foreign_toplevel_handle_v1* handle) {
+            Window& window = static_cast<Host*>(host)->windows.emplace_back(Window{handle, {}});
+            zwlr_foreign_toplevel_handle_v1_add_listener(handle, &kWindow, &window);
+          },
+      .finished = [](void*, zwlr_foreign_toplevel_manager_v1*) {},
+  };
+  static constexpr wl_registry_listener kRegistry{
+      .global =
+          [](void* self, wl_registry*, std::uint32_t name, const char* offered, std::uint32_t) {
+            auto& host = *static_cast<Host*>(self);
+            host.bind(offered, name, wl_seat_interface, host.seat) ||
+                host.bind(offered, name, zwlr_virtual_pointer_manager_v1_interface,
+                          host.pointers) ||
+                host.bind(offered, name, zwp_virtual_keyboard_manager_v1_interface,
+                          host.keyboards) ||
+                host.bind(offered, name, zwlr_foreign_toplevel_manager_v1_interface,
+                          host.windowList);
+          },
+      .global_remove = [](void*, wl_registry*, std::uint32_t) {},
+  };
+  wl_registry_add_listener(registry, &kRegistry, this);
+  take();
+  if (!pointers || !keyboards || !windowList) {
+    ADD_FAILURE() << "the host takes no virtual pointer and keyboard";
+    std::abort();
+  }
+  zwlr_foreign_toplevel_manager_v1_add_listener(windowList, &kWindows, this);
+  pointer = zwlr_virtual_pointer_manager_v1_create_virtual_pointer(pointers, seat);
+  keyboard = zwp_virtual_keyboard_manager_v1_create_virtual_keyboard(keyboards, seat);
+  sendKeymap();
+  take();
+}
+
+WaylandHand::Host::~Host() {
+  wl_display_disconnect(display);
+  xkb_state_unref(state);
+  xkb_keymap_unref(keymap);
+  xkb_context_unref(context);
+}
+
+void WaylandHand::Host::sendKeymap() {
+  char* text = xkb_keymap_get_as_string(keymap, XKB_KEYMAP_FORMAT_TEXT_V1);
+  const std::size_t size = std::strlen(text) + 1;
+  const int file = memfd_create("keymap", MFD_CLOEXEC);
+  [[maybe_unused]] const ssize_t written = ::write(file, text, size);
+  zwp_virtual_keyboard_v1_keymap(keyboard, WL_KEYBOARD_KEYMAP_FORMAT_XKB_V1, file,
+                                 std::uint32_t(size));
+  ::close(file);
+  std::free(text);
+}
+
+void WaylandHand::Host::setKey(xkb_keycode_t code, bool down) {
+  constexpr xkb_keycode_t kEvdev = 8;  // what XKB counts more
+  zwp_virtual_keyboard_v1_key(keyboard, now(), code - kEvdev, down);
+  xkb_state_update_key(state, code, down ? XKB_KEY_DOWN : XKB_KEY_UP);
+  zwp_virtual_keyboard_v1_modifiers(keyboard,
+                                    xkb_state_serialize_mods(state, XKB_STATE_MODS_DEPRESSED),
+                                    xkb_state_serialize_mods(state, XKB_STATE_MODS_LATCHED),
+                                    xkb_state_serialize_mods(state, XKB_STATE_MODS_LOCKED), 0);
+  take();
+}
+
+/// The key that has it unshifted or, failing that, shifted.
+xkb_keycode_t WaylandHand::Host::codeOf(xkb_keysym_t symbol) const {
+  for (xkb_level_index_t level : {0U, 1U})
+    for (xkb_keycode_t code = xkb_keymap_min_keycode(keymap);
+         code <= xkb_keymap_max_keycode(keymap); ++code) {
+      const xkb_keysym_t* symbols = nullptr;
+      if (xkb_keymap_key_get_syms_by_level(keymap, code, 0, level, &symbols) == 1 &&
+          symbols[0] == symbol)
+        return code;
+    }
+  return XKB_KEYCODE_INVALID;
+}
+
+WaylandHand::Host::Window* WaylandHand::Host::find(const QString& titlePattern, bool active) {
+  take();
+  const QRegularExpression pattern(titlePattern);
+  for (Window& window : windows)
+    if (!window.title.isEmpty() && pattern.match(window.title).hasMatch() &&
+        (window.active || !active))
+      return &window;
+  return nullptr;
+}
+
+WaylandHand::WaylandHand() : host_(std::make_unique<Host>()) {}
+
+WaylandHand::~WaylandHand() = default;
+
+void WaylandHand::move(QPoint place, QSize screen) {
+  zwlr_virtual_pointer_v1_motion_absolute(host_->pointer, Host::now(), std::uint32_t(place.x()),
+                                          std::uint32_t(place.y()), std::uint32_t(screen.width()),
+                                          std::uint32_t(screen.height()));
+  zwlr_virtual_pointer_v1_frame(host_->pointer);
+  host_->take();
+}
+
+void WaylandHand::setButton(int button, bool down) {
+  constexpr int kWheelUp = 4;
+  constexpr int kWheelDown = 5;
+  if (button == kWheelUp || button == kWheelDown) {
+    const int steps = button == kWheelUp ? -1 : 1;
+    if (!down) return;
+    zwlr_virtual_pointer_v1_axis_source(host_->pointer, WL_POINTER_AXIS_SOURCE_WHEEL);
+    zwlr_virtual_pointer_v1_axis_discrete(host_->pointer, Host::now(),
+                                          WL_POINTER_AXIS_VERTICAL_SCROLL,
+                                          wl_fixed_from_int(15 * steps), steps);
+  } else {
+    zwlr_virtual_pointer_v1_button(host_->pointer, Host::now(), BTN_LEFT, down);
+  }
+  zwlr_virtual_pointer_v1_frame(host_->pointer);
+  host_->take();
+}
+
+void WaylandHand::setKeys(const QString& keys, bool down) {
+  static const QHash<QString, QString> kModifiers{
+      {"ctrl", "Control_L"}, {"shift", "Shift_L"}, {"alt", "Alt_L"}};
+  std::vector<xkb_keycode_t> codes;
+  for (const QString& key : keys.split(u'+')) {
+    const QByteArray name = kModifiers.value(key, key).toUtf8();
+    const xkb_keysym_t symbol = xkb_keysym_from_name(name.constData(), XKB_KEYSYM_NO_FLAGS);
+    const xkb_keycode_t code = host_->codeOf(symbol);
+    EXPECT_NE(code, XKB_KEYCODE_INVALID) << name.constData();
+    const xkb_keysym_t* plain = nullptr;
+    if (xkb_keymap_key_get_syms_by_level(host_->keymap, code, 0, 0, &plain) != 1 ||
+        plain[0] != symbol)
+      codes.push_back(host_->codeOf(XKB_KEY_Shift_L));
+    codes.push_back(code);
+  }
+  if (!down) std::reverse(codes.begin(), codes.end());
+  for (const xkb_keycode_t code : codes) host_->setKey(code, down);
+}
+
+bool WaylandHand::hasWindow(const QString& titlePattern, bool active) {
+  return host_->find(titlePattern, active) != nullptr;
+}
+
+void WaylandHand::activate(const QString& titlePattern) {
+  if (auto* window = host_->find(titlePattern, false))
+    zwlr_foreign_toplevel_handle_v1_activate(window->handle, host_->seat);
+  host_->take();
+}
+
+}  // namespace tromelo::testing
