@@ -84,32 +84,6 @@ TEST_F(Library, SaysWhenARecentFileIsGoneAndForgetsItAtTheNextStart) {
   EXPECT_TRUE(showsRows(1, "library-after"));
 }
 
-TEST_F(Library, TakesHundredsOfDroppedFilesInTheirOrder) {
-  startWith({});
-  QStringList files{clip("sample.mp4")};
-  for (int i = 1; i < 300; ++i)
-    files << player.homePath() + QStringLiteral("/%1.mp4").arg(i * 7 % 300);
-  for (int i = 2; i < 300; i += 2) ASSERT_TRUE(QFile::link(clip("short-wide.mp4"), files[i]));
-  QStringList urls;
-  for (const QString& file : files)
-    urls << QString::fromUtf8(QUrl::fromLocalFile(file).toEncoded());
-
-  const QPoint place = frame().center();
-  {
-    Drag text(QStringLiteral("text/plain"), {QStringLiteral("a film")});
-    EXPECT_EQ(text.drop(place, false), QStringLiteral("nothing"));
-  }
-  Drag drag(QStringLiteral("text/uri-list"), urls);
-  EXPECT_EQ(drag.drop(place, true), QStringLiteral("copy"));
-  ASSERT_TRUE(player.waitUntilPlaying());
-  EngineProbe engine = probe();
-  ASSERT_TRUE(engine.waitFor(QStringLiteral("playlist-count"), 300));
-  const QJsonArray queue = engine.get(QStringLiteral("playlist")).toArray();
-  for (int i = 0; i < 300; ++i)
-    ASSERT_EQ(queue[i][QStringLiteral("filename")].toString(), files[i]);
-  EXPECT_EQ(player.said(QStringLiteral("title")), QStringLiteral("sample"));
-}
-
 TEST_F(Library, ComesBackWhereAPersonLeftIt) {
   startWith({});
   ASSERT_TRUE(waitFor([this] { return frame().size() == QSize(1100, 720); }));

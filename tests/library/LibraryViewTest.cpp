@@ -4,12 +4,12 @@
 #include <QMimeData>
 #include <semaphore>
 
-#include "player/Commands.h"
 #include "library/LibraryWindow.h"
 #include "library/SidebarWidth.h"
 #include "overlay/ViewTest.h"
 #include "platform/FileManager.h"
 #include "platform/ReducedMotion.h"
+#include "player/Commands.h"
 #include "support/Warnings.h"
 
 namespace tromelo {
@@ -198,17 +198,6 @@ TEST_F(LibraryViewTest, ARowsMenuDoesWhatItSaysFromTheHandAndFromTheKeyboard) {
   EXPECT_EQ(said.size(), 1) << "there is none that could show it";
 }
 
-TEST_F(LibraryViewTest, TipsTellOurKeysAndTheNamesThatPeopleGave) {
-  play("/Finders Keepers.mkv");
-  const auto tipOf = [this](const QQuickItem* one) {
-    mouse(QEvent::MouseMove, frame(one).center(), Qt::NoButton);
-    EXPECT_TRUE(testing::waitFor([&] { return one->findChild<QObject*>("toolTip"); }));
-    return one->findChild<QObject*>("toolTip")->property("text").toString();
-  };
-  EXPECT_EQ(tipOf(rows()[0]), "/Finders Keepers.mkv");
-  EXPECT_EQ(tipOf(item("libraryOpen")), "Open a video (Ctrl+O)");
-}
-
 TEST_F(LibraryViewTest, DescribesTheLastFileOnceItIsKnown) {
   struct Row {
     const char* name;
@@ -231,28 +220,6 @@ TEST_F(LibraryViewTest, DescribesTheLastFileOnceItIsKnown) {
   takeSent();
   clickAt(item("playAgain"));
   EXPECT_EQ(opened(), Sent{"loadfile /films/Film.mkv replace"});
-}
-
-TEST_F(LibraryViewTest, OnlyAHighDynamicRangeIsGold) {
-  play("/films/Film.mkv");
-  report(MpvProperty::videoFormat, "hevc");
-  struct Row {
-    const char* gamma;
-    const char* label;
-    bool isGold;
-  };
-  for (const Row& row :
-       {Row{"bt.1886", "SDR", false}, {"pq", "HDR10", true}, {"hlg", "HLG", true}}) {
-    report(MpvProperty::gamma, row.gamma);
-    const auto chips = items(QStringLiteral("chipText"));
-    EXPECT_EQ(texts(chips), (QStringList{playback_.dynamicRange().label(), playback_.videoSize(),
-                                         playback_.frameRate(), playback_.codec()}));
-    EXPECT_TRUE(texts(chips)[0].startsWith(QLatin1StringView(row.label))) << row.label;
-    for (const QQuickItem* chip : chips) {
-      const QColor colour = chip->property("color").value<QColor>();
-      EXPECT_EQ(colour.blueF() < 0.6, row.isGold && chip == chips[0]) << row.label;
-    }
-  }
 }
 
 TEST_F(LibraryViewTest, EveryButtonThatOpensAsksForFiles) {

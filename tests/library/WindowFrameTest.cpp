@@ -18,11 +18,6 @@ class WindowFrameTest : public ::testing::Test {
   const QRect screen_ = QGuiApplication::primaryScreen()->availableGeometry();
 };
 
-TEST_F(WindowFrameTest, BeginsInTheMiddleAndFitsTheScreen) {
-  EXPECT_EQ(frame_.restored({200, 100}).center(), screen_.center());
-  EXPECT_TRUE(screen_.contains(frame_.restored({10000, 10000})));
-}
-
 TEST_F(WindowFrameTest, ComesBackWhereItWas) {
   const QRect before(screen_.topLeft() + QPoint(20, 30), QSize(300, 200));
   frame_.save(before);

@@ -194,36 +194,6 @@ TEST_F(ControlBarTest, EverythingFitsAtTheLeastWidth) {
   }
 }
 
-TEST_F(ControlBarTest, IsKnownToAssistiveTechnology) {
-  load(100);
-  struct Row {
-    const char* item;
-    QAccessible::Role role;
-    const char* name;
-  };
-  for (const Row& row : {Row{"muteButton", QAccessible::Button, "Mute"},
-                         Row{"backButton", QAccessible::Button, "Back 10 seconds"},
-                         Row{"playerPlayPause", QAccessible::Button, "Play"},
-                         Row{"tracksButton", QAccessible::Button, "Subtitles & audio"},
-                         Row{"speedMenu", QAccessible::ButtonMenu, "Playback speed"},
-                         Row{"volumeSlider", QAccessible::Slider, "Volume"},
-                         Row{"seekSlider", QAccessible::Slider, "Position"}}) {
-    QAccessibleInterface* const view = QAccessible::queryAccessibleInterface(item(row.item));
-    ASSERT_TRUE(view) << row.item;
-    EXPECT_EQ(view->role(), row.role) << row.item;
-    EXPECT_EQ(view->text(QAccessible::Name), row.name) << row.item;
-  }
-  QAccessibleInterface* const seek = QAccessible::queryAccessibleInterface(item("seekSlider"));
-  ASSERT_TRUE(seek->valueInterface());
-  EXPECT_EQ(seek->valueInterface()->maximumValue(), 100);
-  takeSent();
-  seek->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
-  EXPECT_EQ(seek->valueInterface()->currentValue(), 10);
-  EXPECT_EQ(takeSent().back(), "seek 10.0 absolute+exact");
-  seek->valueInterface()->setCurrentValue(55.5);
-  EXPECT_EQ(takeSent().back(), "seek 55.5 absolute+exact");
-}
-
 TEST_F(ControlBarTest, TellsWhatAButtonIsForOnceThePointerRestsOnIt) {
   move(frame("queueButton").center());
   const auto tip = [this] { return item("queueButton")->findChild<QObject*>("toolTip"); };

@@ -111,12 +111,5 @@ TEST_F(CornerViewsTest, SurfacesAreDrawnAsWasChosen) {
   }
 }
 
-TEST_F(CornerViewsTest, TheCloseButtonIsToldByItsPurpose) {
-  QQuickItem& button = show("PlayerCloseButton");
-  EXPECT_EQ(button.property("text"), "Close");
-  EXPECT_EQ(QAccessible::queryAccessibleInterface(&button)->text(QAccessible::Name),
-            "Close player");
-}
-
 }  // namespace
 }  // namespace tromelo

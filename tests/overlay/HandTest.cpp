@@ -109,36 +109,5 @@ struct ForeignDrag : QMimeData {
   }
 };
 
-TEST(DraggedFilesTest, TakesFilesInTheirOrderAndNothingElse) {
-  struct Row {
-    const char* name;
-    QByteArray list;
-    std::vector<std::string> paths;
-  };
-  for (const Row& row : {
-           Row{"order", "file:///b.mkv\r\nfile:///a.srt\r\n", {"/b.mkv", "/a.srt"}},
-           Row{"without a last line's end", "file:///a", {"/a"}},
-           Row{"a folder", "file:///films/", {"/films/"}},
-           Row{"a web link", "https://example.org/film.mkv\r\n", {}},
-           Row{"both", "https://example.org/\r\n#comment\r\nfile:///a\r\n", {"/a"}},
-           Row{"text", "a film\r\n/films/a.mkv\r\n", {}},
-           Row{"escaped bytes", "file:///%E9%20%25.mkv\r\n", {"/\xE9 %.mkv"}},
-           Row{"bytes as they are", "file:///\xE9\xC3\xA9.mkv\r\n", {"/\xE9\xC3\xA9.mkv"}},
-           Row{"a host", "file://localhost/a\r\n", {"/a"}},
-           Row{"a share", "smb://nas/films/a.mkv\r\n", {""}},  // its path is asked for later
-           Row{"other links", "mailto:a@example.org\r\ndata:,a\r\nabout:blank\r\n", {}},
-           Row{"no path", "file:\r\nfile://\r\n\r\n", {}},
-       }) {
-    ForeignDrag data;
-    data.list = row.list;
-    std::vector<std::string> paths;
-    for (const QUrl& url : draggedFiles(data)) paths.push_back(pathFromFileUrl(url));
-    EXPECT_EQ(paths, row.paths) << row.name;
-  }
-  QMimeData text;
-  text.setText(QStringLiteral("file:///a"));
-  EXPECT_TRUE(draggedFiles(text).isEmpty());
-}
-
 }  // namespace
 }  // namespace tromelo

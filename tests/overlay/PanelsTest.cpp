@@ -110,15 +110,6 @@ TEST_F(PanelsTest, DelaysGoInStepsAndBack) {
   }
 }
 
-TEST_F(PanelsTest, SubtitleStyleIsChangedInPlace) {
-  show("TracksPanel", {{"playback", model()}, {"width", 360}, {"height", 700}});
-  PlayerSettings& settings = playback_.settings();
-  click(only("subtitleBold"));
-  EXPECT_TRUE(settings.subtitleBold());
-  click(only("resetStyle"));
-  EXPECT_FALSE(settings.subtitleBold());
-}
-
 TEST_F(PanelsTest, AChapterIsGoneTo) {
   reportChapters({0, 61, 3700});
   show("ChaptersPanel", {{"playback", model()}, {"width", 320}, {"height", 400}});

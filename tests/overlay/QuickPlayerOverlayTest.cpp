@@ -61,36 +61,6 @@ TEST_F(QuickPlayerOverlayTest, PlacesItsViewsAtAnySize) {
   EXPECT_GT(frame("playerSignalBadge").left(), frame("playerCloseButton").right());
 }
 
-TEST_F(QuickPlayerOverlayTest, TellsClicksDoubleClicksAndDragsApart) {
-  const QPointF video(400, 200);
-  const QPoint origin = host_.position();
-  click(video);
-  EXPECT_EQ(take(), QStringList{"click"});
-  secondClick(video);
-  EXPECT_EQ(take(), QStringList{"double click"});
-  click(video);  // the third
-  EXPECT_EQ(take(), QStringList());
-  click(video, Qt::RightButton);
-  EXPECT_EQ(take(), QStringList());
-
-  time_ += 1s;
-  press(video);
-  drag(video + QPointF(0, 3));
-  EXPECT_EQ(host_.position(), origin);
-  drag(video + QPointF(20, -30));
-  EXPECT_EQ(host_.position(), origin + QPoint(20, -30));
-  release(video);
-  click(QPointF(300, 100));
-  EXPECT_EQ(take(), QStringList{"click"}) << "the release of a drag is no click";
-
-  time_ += 1s;
-  host_.showFullScreen();
-  press(video);
-  drag(video + QPointF(20, 0));
-  release(video + QPointF(20, 0));
-  EXPECT_EQ(take(), QStringList{"click"}) << "in full screen nothing is moved";
-}
-
 TEST_F(QuickPlayerOverlayTest, ChromeTakesClicksOnlyWhileItIsShown) {
   for (const char* name : {"playerCloseButton", "playerSignalBadge", "playerControlBar"}) {
     SCOPED_TRACE(name);
@@ -210,34 +180,6 @@ TEST_F(QuickPlayerOverlayTest, ScrollsOverVideoAndChrome) {
   for (const QPointF place : {QPointF(400, 200), frame("playerControlBar").center()}) {
     scroll(place);
     EXPECT_EQ(take(), QStringList{"scroll -2"});
-  }
-}
-
-TEST_F(QuickPlayerOverlayTest, TakesCopiesOfFiles) {
-  struct Row {
-    const char* name;
-    QByteArray list;
-    Qt::DropActions offered;
-    QStringList dropped;
-  };
-  for (const Row& row : {
-           Row{"files",
-               "file:///b\r\nfile:///a\r\n",
-               Qt::CopyAction | Qt::MoveAction,
-               {"drop", "file:///b", "file:///a"}},
-           Row{"a link", "https://example.org/\r\n", Qt::CopyAction, {}},
-           Row{"only to be moved", "file:///b\r\n", Qt::MoveAction, {}},
-       }) {
-    SCOPED_TRACE(row.name);
-    QMimeData data;
-    data.setData(QStringLiteral("text/uri-list"), row.list);
-    QDragEnterEvent enter({400, 400}, row.offered, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&host_, &enter);
-    EXPECT_EQ(enter.isAccepted(), !row.dropped.isEmpty());
-    QDropEvent drop({400, 400}, row.offered, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&host_, &drop);
-    EXPECT_EQ(drop.isAccepted() && drop.dropAction() == Qt::CopyAction, !row.dropped.isEmpty());
-    EXPECT_EQ(take(), row.dropped);
   }
 }
 

@@ -168,23 +168,6 @@ TEST_F(SettingsWindowTest, AColorThatIsTriedAndCancelledLeavesNothing) {
   }
 }
 
-TEST_F(SettingsWindowTest, ListsTheShortcutsInTheirOrder) {
-  show(shortcuts);
-  QStringList actions;
-  for (const QQuickItem* action : items(QStringLiteral("shortcutAction")))
-    actions << action->property("text").toString();
-  QStringList expected;
-  for (const ShortcutGroup& group : PlayerShortcuts::shownGroups())
-    for (const Shortcut& shortcut : group.items) expected << shortcut.action;
-  EXPECT_EQ(actions, expected);
-  EXPECT_EQ(items(QStringLiteral("shortcutTitle")).value(0)->property("text"),
-            QVariant(QStringLiteral("Playback")));
-  tabTo("shortcutList");
-  press(Qt::Key_PageDown, 9);
-  EXPECT_EQ(value("shortcutList", "contentY").toDouble(),
-            value("shortcutList", "contentHeight").toDouble() - item("shortcutList")->height());
-}
-
 TEST_F(SettingsWindowTest, ThereIsOneUntilItIsClosedAndItIsAsHighAsItsPage) {
   show(general);
   EXPECT_EQ(window_, &shell_.show());
