@@ -68,7 +68,7 @@ class PlayerSettings : public QObject {
 #define TROMELO_MEMBER(type, name, setter, initial, limits, signal, ...) \
   const type& name() const { return values_.name; }                      \
   void set##setter(const type& value) {                                  \
-    write(values_.name, limits(value), &PlayerSettings::signal);   \
+    write(values_.name, limits(value), &PlayerSettings::signal);         \
   }
   TROMELO_PREFERENCES(TROMELO_MEMBER)
 #undef TROMELO_MEMBER
