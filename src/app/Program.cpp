@@ -133,7 +133,8 @@ void Program::makeDelegate() {
   settingsWindow_ = std::make_unique<ProgramWindow>(
       qmlEngine_, "SettingsWindow",
       QVariantMap{
-          {QStringLiteral("settings"), QVariant::fromValue(&delegate_->playback().settings())}});
+          {QStringLiteral("settings"), QVariant::fromValue(&delegate_->playback().settings())},
+          {QStringLiteral("pages"), QVariant::fromValue(&settingsPages_)}});
   makeCommands();
 }
 
@@ -148,15 +149,24 @@ void Program::doWithoutDmabufs() {
 }
 
 void Program::makeCommands() {
-  constexpr int kShortcutsPage = 2;
   commands_ = std::make_unique<Commands>(Commands::Actions{
       .open = [this] { delegate_->playback().presentOpenPanel(); },
       .quit = [this] { delegate_->quit(); },
-      .showSettings = [this] { settingsWindow_->show(); },
+      // An open window stays at its page.
+      .showSettings =
+          [this] {
+            const bool isOpen = settingsWindow_->isOpen();
+            showSettings(isOpen ? settingsPages_.page() : SettingsPages::General);
+          },
       .showLibrary = [this] { delegate_->showLibraryWindow(); },
-      .showShortcuts = [this] { settingsWindow_->show().setProperty("page", kShortcutsPage); },
+      .showShortcuts = [this] { showSettings(SettingsPages::Shortcuts); },
       .showAbout = [this] { showAbout(); },
   });
+}
+
+void Program::showSettings(SettingsPages::Page page) {
+  settingsPages_.setPage(page);
+  settingsWindow_->show();
 }
 
 void Program::showAbout() {

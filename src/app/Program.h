@@ -22,6 +22,7 @@
 #include "player/PlayerStage.h"
 #include "windows/AboutFacts.h"
 #include "windows/ProgramWindow.h"
+#include "windows/SettingsPages.h"
 
 namespace tromelo {
 
@@ -46,6 +47,7 @@ class Program {
   std::unique_ptr<ControlledWindow> makeLibraryWindow(PlaybackModel& playback,
                                                       PlayerWindowController& player);
   void makeCommands();
+  void showSettings(SettingsPages::Page page);
   void showAbout();
   void connectService();
   void startReport();
@@ -75,6 +77,7 @@ class Program {
   std::unique_ptr<PlayerStage> stage_;
   std::unique_ptr<Commands> commands_;
   std::unique_ptr<AppDelegate> delegate_;
+  SettingsPages settingsPages_;
   std::unique_ptr<ProgramWindow> settingsWindow_;
   std::unique_ptr<AboutFacts> facts_;  // since the first look
   std::unique_ptr<ProgramWindow> aboutWindow_;

@@ -5,6 +5,7 @@
 
 #include "overlay/PlayerOverlayItem.h"
 #include "playback/PlaybackModel.h"
+#include "player/PlayerSceneItem.h"
 #include "player/PlayerWindowController.h"
 
 namespace tromelo {
@@ -16,13 +17,14 @@ std::unique_ptr<PlayerOverlayItem> makeView(QQmlEngine& engine, QQuickItem& scen
                                             PlayerWindowController& player) {
   QQmlComponent component(&engine, QStringLiteral("Tromelo.Overlay"),
                           QStringLiteral("PlayerOverlayView"));
+  const auto* played = qobject_cast<PlayerSceneItem*>(&scene);  // none where a test draws no video
   std::unique_ptr<PlayerOverlayItem> view(
       qobject_cast<PlayerOverlayItem*>(component.createWithInitialProperties(
           {{QStringLiteral("playback"), QVariant::fromValue(&playback)},
            {QStringLiteral("chrome"), QVariant::fromValue(&player.chrome())},
            {QStringLiteral("player"), QVariant::fromValue(&player)},
            {QStringLiteral("backdrop"),
-            QVariant::fromValue(scene.property("video").value<QQuickItem*>())}})));
+            QVariant::fromValue<QQuickItem*>(played ? &played->video() : nullptr)}})));
   if (!view) qFatal("%s", qPrintable(component.errorString()));
   return view;
 }

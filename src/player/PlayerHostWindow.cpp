@@ -25,11 +25,10 @@ PlayerHostWindow::PlayerHostWindow(QQmlEngine& engine, const ReducedMotion& redu
   setTitle(QGuiApplication::applicationDisplayName());
   resize(kProvisionalSize);
   QQmlComponent component(&engine, QStringLiteral("Tromelo.Player"), QStringLiteral("PlayerScene"));
-  scene_.reset(qobject_cast<QQuickItem*>(component.create()));
+  scene_.reset(qobject_cast<PlayerSceneItem*>(component.create()));
   if (!scene_) qFatal("%s", qPrintable(component.errorString()));
   scene_->setParentItem(contentItem());
   scene_->setOpacity(0);
-  video_ = scene_->findChild<EngineWindowItem*>(QStringLiteral("playerVideo"));
   fade_ = std::make_unique<WindowFade>(*scene_, reducedMotion);
   connect(this, &QWindow::widthChanged, this, &PlayerHostWindow::fillWindow);
   connect(this, &QWindow::heightChanged, this, &PlayerHostWindow::fillWindow);

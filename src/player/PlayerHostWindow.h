@@ -8,6 +8,7 @@
 #include "player/EdgeResize.h"
 #include "player/KeyPress.h"
 #include "player/PlayerOverlay.h"
+#include "player/PlayerSceneItem.h"
 #include "player/WindowFade.h"
 
 namespace tromelo {
@@ -22,7 +23,7 @@ class PlayerHostWindow : public QQuickWindow {
   PlayerHostWindow(QQmlEngine& engine, const ReducedMotion& reducedMotion);
   ~PlayerHostWindow() override;
 
-  EngineWindowItem& video() { return *video_; }
+  EngineWindowItem& video() { return scene_->video(); }
   QQuickItem& scene() { return *scene_; }
   WindowFade& fade() { return *fade_; }
 
@@ -67,8 +68,7 @@ class PlayerHostWindow : public QQuickWindow {
   void followPointer(const QSinglePointEvent& event);
   void updateCursor();
 
-  std::unique_ptr<QQuickItem> scene_;
-  EngineWindowItem* video_ = nullptr;
+  std::unique_ptr<PlayerSceneItem> scene_;
   std::unique_ptr<PlayerOverlay> overlay_;
   std::unique_ptr<WindowFade> fade_;
   EdgeResize edgeResize_{*this};

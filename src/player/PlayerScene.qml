@@ -5,11 +5,10 @@ import Tromelo.Player
 
 // What the player window shows: the engine's picture on black. The overlay is laid on top. While it
 // fades, all of it is drawn first and faded as one: each by itself would let the black through.
-Item {
+PlayerSceneItem {
     id: scene
 
-    readonly property EngineWindowItem video: picture
-
+    video: picture
     objectName: "playerScene"
     layer.enabled: opacity < 1
 
@@ -20,7 +19,6 @@ Item {
 
     EngineWindowItem {
         id: picture
-        objectName: "playerVideo"
         anchors.fill: parent
     }
 }

@@ -10,7 +10,7 @@ FocusScope {
     id: view
 
     required property PlayerSettings settings
-    property int page: 0
+    required property SettingsPages pages
 
     implicitWidth: Theme.settingsWidth
     implicitHeight: content.y + content.height
@@ -24,8 +24,8 @@ FocusScope {
         focus: true
         labels: [qsTr("General"), qsTr("Subtitles"), qsTr("Shortcuts")]
         symbols: ["gearshape", "captions.bubble", "keyboard"]
-        current: view.page
-        onChosen: index => view.page = index
+        current: view.pages.page
+        onChosen: index => view.pages.page = index
     }
 
     Rectangle {
@@ -43,7 +43,7 @@ FocusScope {
 
         anchors.top: line.bottom
         width: parent.width
-        sourceComponent: [general, subtitles, shortcuts][view.page]
+        sourceComponent: [general, subtitles, shortcuts][view.pages.page]
     }
 
     Component {

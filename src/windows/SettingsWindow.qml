@@ -9,7 +9,7 @@ Window {
     id: window
 
     required property PlayerSettings settings
-    property alias page: view.page
+    required property SettingsPages pages
 
     title: qsTr("Settings")
     color: Theme.backdrop
@@ -26,6 +26,7 @@ Window {
         anchors.fill: parent
         focus: true
         settings: window.settings
+        pages: window.pages
         Keys.onEscapePressed: window.close()
         Keys.onPressed: event => {
             if (event.key === Qt.Key_W && event.modifiers === Qt.ControlModifier)

@@ -41,18 +41,9 @@ class LibraryViewTest : public testing::ViewTest {
     report(event::EndFile{});
     layOut();
   }
-  /// From top to bottom.
   QList<QQuickItem*> rows() {
     layOut();
-    QList<QQuickItem*> all = items(QStringLiteral("recentRow"));
-    all.removeIf([](const QQuickItem* row) { return !row->isVisible(); });
-    std::ranges::sort(all, {}, [this](QQuickItem* row) { return frame(row).y(); });
-    return all;
-  }
-  QStringList texts(const QList<QQuickItem*>& all, const char* property = "text") {
-    QStringList found;
-    for (const QQuickItem* one : all) found << one->property(property).toString();
-    return found;
+    return all("recentRow");
   }
   /// The name of the row that has the keyboard.
   QString chosen() {
@@ -70,12 +61,8 @@ class LibraryViewTest : public testing::ViewTest {
   }
   void clickAt(const QQuickItem* one, Qt::MouseButton button = Qt::LeftButton) {
     layOut();
-    const QPointF place = frame(one).center();
-    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-      const auto held = type == QEvent::MouseButtonPress ? button : Qt::NoButton;
-      QMouseEvent event(type, place, host_.position() + place, button, held, Qt::NoModifier);
-      QCoreApplication::sendEvent(&host_, &event);
-    }
+    press(frame(one).center(), button);
+    release(frame(one).center(), button);
     layOut();
   }
   /// The files that the engine was told to play since the last call, and how.

@@ -13,20 +13,22 @@
 #include "support/WaitFor.h"
 #include "support/Warnings.h"
 #include "windows/ProgramWindow.h"
+#include "windows/SettingsPages.h"
 
 namespace tromelo {
 namespace {
 
 using testing::waitFor;
 
-enum Page { general, subtitles, shortcuts };
+using Page = SettingsPages::Page;
+using enum SettingsPages::Page;
 
 class SettingsWindowTest : public ::testing::Test {
  protected:
   void SetUp() override { testing::allowWarning(QStringLiteral("This plugin does not support")); }
   void show(Page page) {
+    pages_.setPage(page);
     window_ = &shell_.show();
-    window_->setProperty("page", int(page));
     EXPECT_TRUE(waitFor([this] { return window_->isActive(); }));
     window_->grabWindow();  // rows place what is in them when a picture is drawn
   }
@@ -62,13 +64,16 @@ class SettingsWindowTest : public ::testing::Test {
   UserDefaults defaults_{directory_.filePath(QStringLiteral("defaults.json"))};
   PlayerSettings settings_{defaults_};
   QQmlEngine engine_;
-  ProgramWindow shell_{
-      engine_, "SettingsWindow", {{QStringLiteral("settings"), QVariant::fromValue(&settings_)}}};
+  SettingsPages pages_;
+  ProgramWindow shell_{engine_,
+                       "SettingsWindow",
+                       {{QStringLiteral("settings"), QVariant::fromValue(&settings_)},
+                        {QStringLiteral("pages"), QVariant::fromValue(&pages_)}}};
   QQuickWindow* window_ = nullptr;
 };
 
 TEST_F(SettingsWindowTest, EveryControlCanBeUsedByKeys) {
-  show(general);
+  show(General);
   tabTo("autoHideDelay");
   press(Qt::Key_Down, 4);
   EXPECT_EQ(settings_.autoHideDelay(), 0);
@@ -106,7 +111,7 @@ TEST_F(SettingsWindowTest, EveryControlCanBeUsedByKeys) {
 }
 
 TEST_F(SettingsWindowTest, ShowsWhatIsSetElsewhere) {
-  show(subtitles);
+  show(Subtitles);
   settings_.setSubtitleSize(45.9);
   EXPECT_EQ(value("subtitleSizeText", "text"), QVariant(QStringLiteral("45")));
   tabTo("subtitleSize");
@@ -128,7 +133,7 @@ TEST_F(SettingsWindowTest, ShowsWhatIsSetElsewhere) {
   click(presets[1]);
   EXPECT_EQ(settings_.subtitleColor(), RgbaColor(1, 0.93, 0.35));
 
-  show(general);
+  show(General);
   settings_.setAutoHideDelay(4);
   EXPECT_EQ(value("autoHideDelay", "displayText"), QVariant(QStringLiteral("4 seconds")));
   settings_.setAutoHideDelay(10);
@@ -136,7 +141,7 @@ TEST_F(SettingsWindowTest, ShowsWhatIsSetElsewhere) {
 }
 
 TEST_F(SettingsWindowTest, AColorThatIsTriedAndCancelledLeavesNothing) {
-  show(subtitles);
+  show(Subtitles);
   int writes = 0;
   QObject::connect(&settings_, &PlayerSettings::willChange, window_, [&] { ++writes; });
   const auto open = [this](const char* well) -> QColorDialog& {
@@ -169,10 +174,10 @@ TEST_F(SettingsWindowTest, AColorThatIsTriedAndCancelledLeavesNothing) {
 }
 
 TEST_F(SettingsWindowTest, ThereIsOneUntilItIsClosedAndItIsAsHighAsItsPage) {
-  show(general);
+  show(General);
   EXPECT_EQ(window_, &shell_.show());
   QList<int> heights;
-  for (const Page page : {general, subtitles, shortcuts}) {
+  for (const Page page : {General, Subtitles, Shortcuts}) {
     show(page);
     heights << window_->height();
     EXPECT_EQ(window_->size(),
@@ -182,7 +187,7 @@ TEST_F(SettingsWindowTest, ThereIsOneUntilItIsClosedAndItIsAsHighAsItsPage) {
   EXPECT_GT(heights[2], heights[1]);
   press(Qt::Key_Escape);
   EXPECT_FALSE(shell_.isOpen());
-  show(general);
+  show(General);
   tabTo("autoHideDelay");
   press(Qt::Key_Return);
   press(Qt::Key_Escape);
