@@ -292,6 +292,10 @@ TEST_F(PopoverTest, APressOutsideOnlyClosesIt) {
   click(QPointF(400, 120));
   EXPECT_EQ(take(), QStringList{"click"});
   open(PlayerPanel::chapters);
+  ASSERT_TRUE(waitFor([this] {
+    layOut();  // which makes the rows
+    return all("chapter").size() == 2;
+  }));
   click(all("chapter")[1]);
   EXPECT_EQ(chrome.panel(), std::nullopt) << "it was chosen from";
 
