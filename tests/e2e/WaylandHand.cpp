@@ -40,12 +40,14 @@ struct WaylandHand::Host {
   xkb_keymap* keymap = xkb_keymap_new_from_names(context, nullptr, XKB_KEYMAP_COMPILE_NO_FLAGS);
   xkb_state* state = xkb_state_new(keymap);
 
-  /// Milliseconds: two presses are told from a double click by it.
-  static std::uint32_t now() {
+  /// Milliseconds: two presses are told from a double click by it, and a key that is pressed again
+  /// from one that is held. So no two are the same.
+  std::uint32_t now() {
     using namespace std::chrono;
-    return std::uint32_t(
-        duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count());
+    const auto clock = duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+    return last = std::max(last + 1, std::uint32_t(clock));
   }
+  std::uint32_t last = 0;
 
   Host();
   ~Host();
@@ -179,7 +181,7 @@ WaylandHand::WaylandHand() : host_(std::make_unique<Host>()) {}
 WaylandHand::~WaylandHand() = default;
 
 void WaylandHand::move(QPoint place, QSize screen) {
-  zwlr_virtual_pointer_v1_motion_absolute(host_->pointer, Host::now(), std::uint32_t(place.x()),
+  zwlr_virtual_pointer_v1_motion_absolute(host_->pointer, host_->now(), std::uint32_t(place.x()),
                                           std::uint32_t(place.y()), std::uint32_t(screen.width()),
                                           std::uint32_t(screen.height()));
   zwlr_virtual_pointer_v1_frame(host_->pointer);
@@ -193,11 +195,11 @@ void WaylandHand::setButton(int button, bool down) {
     const int steps = button == kWheelUp ? -1 : 1;
     if (!down) return;
     zwlr_virtual_pointer_v1_axis_source(host_->pointer, WL_POINTER_AXIS_SOURCE_WHEEL);
-    zwlr_virtual_pointer_v1_axis_discrete(host_->pointer, Host::now(),
+    zwlr_virtual_pointer_v1_axis_discrete(host_->pointer, host_->now(),
                                           WL_POINTER_AXIS_VERTICAL_SCROLL,
                                           wl_fixed_from_int(15 * steps), steps);
   } else {
-    zwlr_virtual_pointer_v1_button(host_->pointer, Host::now(), BTN_LEFT, down);
+    zwlr_virtual_pointer_v1_button(host_->pointer, host_->now(), BTN_LEFT, down);
   }
   zwlr_virtual_pointer_v1_frame(host_->pointer);
   host_->take();
