@@ -339,5 +339,38 @@ TEST_F(LibraryViewTest, TheDividerIsDraggedAndMovedByKeys) {
   EXPECT_EQ(widths(), QPointF(300, 300));
 }
 
+TEST_F(LibraryViewTest, TipsTellOurKeysAndTheNamesThatPeopleGave) {
+  play("/Finders Keepers.mkv");
+  const auto tipOf = [this](const QQuickItem* one) {
+    mouse(QEvent::MouseMove, frame(one).center(), Qt::NoButton);
+    EXPECT_TRUE(testing::waitFor([&] { return one->findChild<QObject*>("toolTip"); }));
+    return one->findChild<QObject*>("toolTip")->property("text").toString();
+  };
+  EXPECT_EQ(tipOf(rows()[0]), "/Finders Keepers.mkv");
+  EXPECT_EQ(tipOf(item("libraryOpen")), "Open a video (Ctrl+O)");
+}
+
+TEST_F(LibraryViewTest, OnlyAHighDynamicRangeIsGold) {
+  play("/films/Film.mkv");
+  report(MpvProperty::videoFormat, "hevc");
+  struct Row {
+    const char* gamma;
+    const char* label;
+    bool isGold;
+  };
+  for (const Row& row :
+       {Row{"bt.1886", "SDR", false}, {"pq", "HDR10", true}, {"hlg", "HLG", true}}) {
+    report(MpvProperty::gamma, row.gamma);
+    const auto chips = items(QStringLiteral("chipText"));
+    EXPECT_EQ(texts(chips), (QStringList{playback_.dynamicRange().label(), playback_.videoSize(),
+                                         playback_.frameRate(), playback_.codec()}));
+    EXPECT_TRUE(texts(chips)[0].startsWith(QLatin1StringView(row.label))) << row.label;
+    for (const QQuickItem* chip : chips) {
+      const QColor colour = chip->property("color").value<QColor>();
+      EXPECT_EQ(colour.blueF() < 0.6, row.isGold && chip == chips[0]) << row.label;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace tromelo

@@ -47,5 +47,10 @@ TEST_F(WindowFrameTest, ForgetsAScreenThatIsGoneAndNonsense) {
   }
 }
 
+TEST_F(WindowFrameTest, BeginsInTheMiddleAndFitsTheScreen) {
+  EXPECT_EQ(frame_.restored({200, 100}).center(), screen_.center());
+  EXPECT_TRUE(screen_.contains(frame_.restored({10000, 10000})));
+}
+
 }  // namespace
 }  // namespace tromelo

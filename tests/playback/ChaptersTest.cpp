@@ -87,4 +87,20 @@ TEST_F(Chapters, TheCurrentOneIsAPositionOrNone) {
   }
 }
 
+TEST_F(Chapters, AreSoughtAndShownAtOnce) {
+  EXPECT_EQ(model().stepChapter(1), std::nullopt);
+  report(P::chapterList, threeChapters());
+  report(P::chapter, std::int64_t{2});
+  report(P::timePos, 22.0);
+  takeRequests();
+  EXPECT_EQ(model().stepChapter(1), std::nullopt);
+  model().seekToChapter(-1);
+  model().seekToChapter(3);
+  EXPECT_EQ(takeRequests(), Requests());
+  EXPECT_EQ(model().currentChapter(), 2);
+  EXPECT_EQ(model().stepChapter(-1)->title, "Two");
+  EXPECT_EQ(takeRequests(), (Requests{{"set", "chapter", "1"}}));
+  EXPECT_EQ(model().currentChapter(), 1);
+}
+
 }  // namespace tromelo

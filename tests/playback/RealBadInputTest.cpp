@@ -140,4 +140,20 @@ TEST_F(BadInput, ACutOffFilePlaysAsFarAsItGoes) {
   EXPECT_EQ(model_.errorMessage(), "");
 }
 
+TEST_F(BadInput, SeveralMissingFilesAreEachNamed) {
+  model_.open(QList<QUrl>{clip("one.mkv"), clip("two.mkv"), clip("three.mkv")});
+  ASSERT_TRUE(waitFor([this] { return player_.calls.contains("library"); }));
+  EXPECT_TRUE(player_.calls.contains("toast Skipped one: loading failed"));
+  EXPECT_TRUE(player_.calls.contains("toast Skipped two: loading failed"));
+  EXPECT_EQ(model_.errorMessage(), "Could not play three: loading failed");
+}
+
+TEST_F(BadInput, AnEmptyDirectoryIsNoFilm) {
+  fs::create_directory(home() / "films");
+  model_.open(fileUrlFromPath((home() / "films").string()));
+  EXPECT_TRUE(waitFor([this] { return model_.status() != "Opening media"; }));
+  EXPECT_FALSE(model_.isLoaded());
+  EXPECT_TRUE(plays(clip("short-wide.mp4")));
+}
+
 }  // namespace tromelo

@@ -197,5 +197,22 @@ TEST_F(SettingsWindowTest, ThereIsOneUntilItIsClosedAndItIsAsHighAsItsPage) {
   EXPECT_FALSE(shell_.isOpen());
 }
 
+TEST_F(SettingsWindowTest, ListsTheShortcutsInTheirOrder) {
+  show(Shortcuts);
+  QStringList actions;
+  for (const QQuickItem* action : items(QStringLiteral("shortcutAction")))
+    actions << action->property("text").toString();
+  QStringList expected;
+  for (const ShortcutGroup& group : PlayerShortcuts::shownGroups())
+    for (const Shortcut& shortcut : group.items) expected << shortcut.action;
+  EXPECT_EQ(actions, expected);
+  EXPECT_EQ(items(QStringLiteral("shortcutTitle")).value(0)->property("text"),
+            QVariant(QStringLiteral("Playback")));
+  tabTo("shortcutList");
+  press(Qt::Key_PageDown, 9);
+  EXPECT_EQ(value("shortcutList", "contentY").toDouble(),
+            value("shortcutList", "contentHeight").toDouble() - item("shortcutList")->height());
+}
+
 }  // namespace
 }  // namespace tromelo

@@ -61,5 +61,16 @@ TEST(SubtitlePictureTest, DrawsEachStyleAtTheBottom) {
   }
 }
 
+TEST(SubtitlePictureTest, IsAsLargeAndAsBoldAsSubtitles) {
+  PlayerPreferences style;
+  EXPECT_DOUBLE_EQ(subtitleSampleFont(style).pointSizeF(), 18.48);
+  const int width = changed(subtitlePicture(kSize, 1, style)).width();
+  style.subtitleBold = true;
+  EXPECT_GT(changed(subtitlePicture(kSize, 1, style)).width(), width);
+  style.subtitleSize = 24;
+  EXPECT_LT(changed(subtitlePicture(kSize, 1, style)).width(), width);
+  EXPECT_TRUE(subtitleSampleFont(style).bold());
+}
+
 }  // namespace
 }  // namespace tromelo
