@@ -11,6 +11,9 @@ OverlaySurface {
     required property PlaybackModel playback
     required property PlayerChrome chrome
 
+    // Made once for all rows, and only while they are seen.
+    readonly property list<string> values: visible ? playback.infoValues : []
+
     objectName: "playerInfoPanel"
     visible: chrome.showsInfo
     Accessible.role: Accessible.Grouping
@@ -42,7 +45,7 @@ OverlaySurface {
 
                     objectName: panel.playback.infoNames[index]
                     label: modelData
-                    value: panel.visible ? panel.playback.infoValues[index] : ""
+                    value: panel.values[index] ?? ""
                 }
             }
         }

@@ -46,20 +46,26 @@ std::string noText(const T&) {
   return {};
 }
 
-/// What hangs on the border style: a text for each. Without one the engine keeps what it has.
+/// What hangs on the border style. Where nothing is written the engine keeps what it has.
+struct BorderValue {
+  const char* text = nullptr;
+  bool isOutlineColor = false;  // the person's, in place of a text
+};
+constexpr BorderValue kNotWritten;
+constexpr BorderValue kOutlineColor{.isOutlineColor = true};
+
 struct BorderRow {
   const char* property;
-  std::array<const char*, 3> values;  // outline, shadow, box
+  std::array<BorderValue, 3> values;  // outline, shadow, box
 };
 
-constexpr const char* kOutlineColor = "the person's colour";
-
 constexpr std::array kBorderRows{
-    BorderRow{"sub-border-style", {"outline-and-shadow", "outline-and-shadow", "background-box"}},
-    BorderRow{"sub-outline-size", {"2.6", "0.8", "5"}},
-    BorderRow{"sub-outline-color", {kOutlineColor, kOutlineColor, nullptr}},
-    BorderRow{"sub-shadow-offset", {"0", "2.4", "0"}},
-    BorderRow{"sub-back-color", {nullptr, "0.0/0.0/0.0/0.8", "0.0/0.0/0.0/0.62"}},
+    BorderRow{"sub-border-style",
+              {{{"outline-and-shadow"}, {"outline-and-shadow"}, {"background-box"}}}},
+    BorderRow{"sub-outline-size", {{{"2.6"}, {"0.8"}, {"5"}}}},
+    BorderRow{"sub-outline-color", {{kOutlineColor, kOutlineColor, kNotWritten}}},
+    BorderRow{"sub-shadow-offset", {{{"0"}, {"2.4"}, {"0"}}}},
+    BorderRow{"sub-back-color", {{kNotWritten, {"0.0/0.0/0.0/0.8"}, {"0.0/0.0/0.0/0.62"}}}},
 };
 
 }  // namespace
@@ -104,11 +110,9 @@ std::vector<EngineProperty> engineProperties(const PlayerPreferences& preference
   TROMELO_PREFERENCES(TROMELO_SEND)
 #undef TROMELO_SEND
   for (const BorderRow& row : kBorderRows) {
-    const char* value = row.values.at(std::size_t(preferences.subtitleBorderStyle));
-    if (value == kOutlineColor)
-      add(row.property, mpvColor(preferences.subtitleOutlineColor));
-    else if (value)
-      add(row.property, value);
+    const BorderValue& value = row.values.at(std::size_t(preferences.subtitleBorderStyle));
+    if (value.isOutlineColor) add(row.property, mpvColor(preferences.subtitleOutlineColor));
+    if (value.text) add(row.property, value.text);
   }
   return properties;
 }

@@ -64,23 +64,9 @@ QStringList PlayerSettings::colorPresetNames() {
   return {tr("White"), tr("Yellow"), tr("Light blue"), tr("Light green")};
 }
 
-template <typename T>
-void PlayerSettings::write(T& field, T value, void (PlayerSettings::*announce)()) {
-  Q_EMIT willChange();
-  const bool isOther = field != value;
-  const PlayerPreferences before = values_;
-  field = std::move(value);
+void PlayerSettings::save(const PlayerPreferences& before) {
   defaults_.setFields(kKey, storedPreferences(values_), storedPreferences(before));
-  if (!isOther) return;
-  Q_EMIT changed();
-  if (announce != &PlayerSettings::changed) Q_EMIT(this->*announce)();
 }
-template void PlayerSettings::write(double&, double, void (PlayerSettings::*)());
-template void PlayerSettings::write(bool&, bool, void (PlayerSettings::*)());
-template void PlayerSettings::write(QString&, QString, void (PlayerSettings::*)());
-template void PlayerSettings::write(RgbaColor&, RgbaColor, void (PlayerSettings::*)());
-template void PlayerSettings::write(SubtitleBorderStyle&, SubtitleBorderStyle,
-                                    void (PlayerSettings::*)());
 
 void PlayerSettings::resetSubtitleStyle() {
   constexpr bool subtitles = true;

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <utility>
 
 #include "settings/PlayerPreferences.h"
 
@@ -97,7 +98,17 @@ class PlayerSettings : public QObject {
   }
   bool subtitlesHaveEdge() const { return subtitleBorderStyle() != SubtitleBorderStyle::box; }
   template <typename T>
-  void write(T& field, T value, void (PlayerSettings::*announce)());
+  void write(T& field, T value, void (PlayerSettings::*announce)()) {
+    Q_EMIT willChange();
+    const bool isOther = field != value;
+    const PlayerPreferences before = values_;
+    field = std::move(value);
+    save(before);
+    if (!isOther) return;
+    Q_EMIT changed();
+    if (announce != &PlayerSettings::changed) Q_EMIT(this->*announce)();
+  }
+  void save(const PlayerPreferences& before);
 
   UserDefaults& defaults_;
   PlayerPreferences values_;
