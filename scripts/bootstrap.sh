@@ -47,6 +47,20 @@ print_sources() {
             }'
 }
 
+# add_backports: appends the suite of backports to the sources; fails where the mirror lacks it.
+add_backports() {
+    local mirror probe
+    mirror=$(awk '{ print $2; exit }' <<<"${sources[0]}")
+    probe=$(mktemp)
+    if ! /usr/lib/apt/apt-helper download-file \
+        "${mirror%/}/dists/$root_suite-backports/InRelease" "$probe" >/dev/null 2>&1; then
+        rm -f "$probe"
+        return 1
+    fi
+    rm -f "$probe"
+    sources+=("deb $mirror $root_suite-backports main")
+}
+
 # The machine's way to its mirror, a proxy for example.
 print_apt_options() {
     apt-config dump Acquire::http Acquire::https 2>/dev/null | grep -E '^Acquire::https?::.*"[^"]' || true

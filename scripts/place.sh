@@ -8,7 +8,8 @@ root_suite=trixie
 all_lists=(run virtual test bench) # what a root of our own has
 
 root_key() {
-    { echo "$root_format $root_suite $(uname -m)"; package_list "${all_lists[@]}"; } | hash
+    { echo "$root_format $root_suite $(uname -m)"; package_list "${all_lists[@]}"
+        package_list backports; } | hash
 }
 
 # machine_is_new_enough: the libraries that decide are here, and new enough.
