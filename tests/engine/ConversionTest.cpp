@@ -3,8 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "engine/MpvProperty.h"
+#include "support/Table.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 
 namespace {
 
@@ -32,24 +33,20 @@ TEST(Conversion, EveryFormatOfAChange) {
   mpv_node node = intNode(7);
   mpv_node nothing{.u = {.int64 = 0}, .format = MPV_FORMAT_NONE};
 
-  const struct {
-    const char* what;
-    MpvValue got;
-    MpvValue expected;
-  } rows[] = {
-      {"text keeps its bytes", changed(MPV_FORMAT_STRING, &text), std::string("a\xff")},
-      {"null text", changed(MPV_FORMAT_STRING, &noText), {}},
-      {"flag that is not 0", changed(MPV_FORMAT_FLAG, &on), true},
-      {"flag 0", changed(MPV_FORMAT_FLAG, &off), false},
-      {"wide integer", changed(MPV_FORMAT_INT64, &count), count},
-      {"double", changed(MPV_FORMAT_DOUBLE, &position), 1.25},
-      {"node", changed(MPV_FORMAT_NODE, &node), MpvNode{std::int64_t{7}}},
-      {"node without a value", changed(MPV_FORMAT_NODE, &nothing), {}},
-      {"unavailable", changed(MPV_FORMAT_NONE, nullptr), {}},
-      {"no data", changed(MPV_FORMAT_DOUBLE, nullptr), {}},
-      {"a format that is never asked for", changed(MPV_FORMAT_OSD_STRING, &text), {}},
-  };
-  for (const auto& row : rows) EXPECT_EQ(row.got, row.expected) << row.what;
+  for (const auto& [what, got, expected] : Table<const char*, MpvValue, MpvValue>{
+           {"text keeps its bytes", changed(MPV_FORMAT_STRING, &text), std::string("a\xff")},
+           {"null text", changed(MPV_FORMAT_STRING, &noText), {}},
+           {"flag that is not 0", changed(MPV_FORMAT_FLAG, &on), true},
+           {"flag 0", changed(MPV_FORMAT_FLAG, &off), false},
+           {"wide integer", changed(MPV_FORMAT_INT64, &count), count},
+           {"double", changed(MPV_FORMAT_DOUBLE, &position), 1.25},
+           {"node", changed(MPV_FORMAT_NODE, &node), MpvNode{std::int64_t{7}}},
+           {"node without a value", changed(MPV_FORMAT_NODE, &nothing), {}},
+           {"unavailable", changed(MPV_FORMAT_NONE, nullptr), {}},
+           {"no data", changed(MPV_FORMAT_DOUBLE, nullptr), {}},
+           {"a format that is never asked for", changed(MPV_FORMAT_OSD_STRING, &text), {}},
+       })
+    EXPECT_EQ(got, expected) << what;
 }
 
 TEST(Conversion, TreesLoseWhatHasNoValue) {
@@ -88,4 +85,4 @@ TEST(Conversion, AListGivesItsMapsOnly) {
   }
 }
 
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -7,12 +7,9 @@
 #include "support/FakeMpv.h"
 #include "support/WaitFor.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 
 namespace {
-
-using testing::FakeMpv;
-using testing::waitFor;
 
 struct EngineEvents : ::testing::Test {
   FakeMpv mpv;
@@ -78,10 +75,10 @@ TEST_F(EngineEvents, AWakeupOnItsWayFindsNoEngine) {
   mpv.queue(MPV_EVENT_START_FILE);
   mpv.wake();
   engine.reset();
-  testing::settle();
+  settle();
   mpv.wake();
   WakeupTarget::wakeup(nullptr);
-  testing::settle();
+  settle();
   EXPECT_TRUE(received.empty());
   EXPECT_EQ(mpv.queuedEvents(), 1u);
 }
@@ -115,10 +112,10 @@ TEST_F(EngineEvents, ACommandThatIsRefusedOnTheSpotFailsLater) {
   engine->setProperty("pause", "perhaps");
   EXPECT_TRUE(received.empty());
   ASSERT_TRUE(waitFor([this] { return !received.empty(); }));
-  testing::settle();
+  settle();
   EXPECT_EQ(
       received,
       (std::vector<MpvEvent>{event::CommandFailed{mpv_error_string(MPV_ERROR_INVALID_PARAMETER)}}));
 }
 
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -10,13 +10,12 @@
 #include "engine/EngineEnvironment.h"
 #include "engine/MpvEngine.h"
 #include "support/FakeMpv.h"
+#include "support/Table.h"
 #include "support/WaitFor.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 
 namespace {
-
-using testing::FakeMpv;
 
 struct EngineStart : ::testing::Test {
   FakeMpv mpv;
@@ -55,36 +54,33 @@ TEST_F(EngineStart, ASecondStartDoesNothing) {
 
 TEST_F(EngineStart, AFailureIsOneLineAndLeavesNoHandle) {
   const std::string notFound = mpv_error_string(MPV_ERROR_OPTION_NOT_FOUND);
-  const struct {
-    const char* what;
-    std::function<void(FakeMpv&)> fault;
-    std::string message;
-  } rows[] = {
-      {"no engine", [](FakeMpv& m) { m.cannotBeCreated = true; },
-       "Could not create the playback engine"},
-      {"no library", [](FakeMpv& m) { m.version = 0; },
-       "The playback library libmpv was not found; install it (libmpv2) to play videos."},
-      {"an old library", [](FakeMpv& m) { m.version = 0x20002; },
-       "The playback library libmpv is too old; install version 0.38 or newer to play videos."},
-      {"unknown option", [](FakeMpv& m) { m.optionResults["vo"] = MPV_ERROR_OPTION_NOT_FOUND; },
-       "vo: " + notFound},
-      {"refused value", [](FakeMpv& m) { m.optionResults["ytdl"] = MPV_ERROR_OPTION_FORMAT; },
-       std::string("ytdl: ") + mpv_error_string(MPV_ERROR_OPTION_FORMAT)},
-      {"no initialisation", [](FakeMpv& m) { m.initializeResult = MPV_ERROR_NOMEM; },
-       mpv_error_string(MPV_ERROR_NOMEM)},
-      {"a code without words", [](FakeMpv& m) { m.initializeResult = -4711; },
-       "Playback engine error (-4711)"},
-  };
-  for (const auto& row : rows) {
+  for (
+      const auto& [what, fault, message] :
+      Table<const char*, std::function<void(FakeMpv&)>, std::string>{
+          {"no engine", [](FakeMpv& m) { m.cannotBeCreated = true; },
+           "Could not create the playback engine"},
+          {"no library", [](FakeMpv& m) { m.version = 0; },
+           "The playback library libmpv was not found; install it (libmpv2) to play videos."},
+          {"an old library", [](FakeMpv& m) { m.version = 0x20002; },
+           "The playback library libmpv is too old; install version 0.38 or newer to play videos."},
+          {"unknown option", [](FakeMpv& m) { m.optionResults["vo"] = MPV_ERROR_OPTION_NOT_FOUND; },
+           "vo: " + notFound},
+          {"refused value", [](FakeMpv& m) { m.optionResults["ytdl"] = MPV_ERROR_OPTION_FORMAT; },
+           std::string("ytdl: ") + mpv_error_string(MPV_ERROR_OPTION_FORMAT)},
+          {"no initialisation", [](FakeMpv& m) { m.initializeResult = MPV_ERROR_NOMEM; },
+           mpv_error_string(MPV_ERROR_NOMEM)},
+          {"a code without words", [](FakeMpv& m) { m.initializeResult = -4711; },
+           "Playback engine error (-4711)"},
+      }) {
     FakeMpv faulty;
-    row.fault(faulty);
+    fault(faulty);
     MpvEngine failing(faulty.api());
-    EXPECT_EQ(failing.initialize("/diagnostics"), row.message) << row.what;
-    EXPECT_FALSE(failing.hasHandle()) << row.what;
-    EXPECT_EQ(faulty.destroyed, faulty.created) << row.what;
+    EXPECT_EQ(failing.initialize("/diagnostics"), message) << what;
+    EXPECT_FALSE(failing.hasHandle()) << what;
+    EXPECT_EQ(faulty.destroyed, faulty.created) << what;
     failing.command({"stop"});
     failing.setProperty("pause", "no");
-    EXPECT_TRUE(faulty.requests.empty()) << row.what;
+    EXPECT_TRUE(faulty.requests.empty()) << what;
   }
 }
 
@@ -130,7 +126,7 @@ TEST_F(EngineStart, NothingButTerminationDestroysTheHandle) {
   engine.terminate([&completed] { completed = true; });
   EXPECT_FALSE(engine.hasHandle());
   EXPECT_FALSE(completed);
-  EXPECT_TRUE(testing::waitFor([&completed] { return completed; }));
+  EXPECT_TRUE(waitFor([&completed] { return completed; }));
   EXPECT_EQ(mpv.destroyed, 1);
   EXPECT_NE(mpv.destroyedBy, std::this_thread::get_id()) << "which would wait for the engine";
 }
@@ -164,4 +160,4 @@ TEST(EngineEnvironment, NumbersAreReadWithAPoint) {
   EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C");
 }
 
-}  // namespace tromelo
+}  // namespace tromelo::testing

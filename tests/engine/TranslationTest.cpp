@@ -3,8 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "engine/MpvClientApi.h"
+#include "support/Table.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 
 namespace {
 
@@ -65,23 +66,20 @@ TEST(Translation, StartAndEndOfFile) {
   const auto ended = [](std::optional<std::string> error, bool lacksSoundDevice = false) {
     return std::optional<MpvEvent>(event::EndFile{std::move(error), 7, lacksSoundDevice});
   };
-  const struct {
-    const char* what;
-    std::optional<MpvEvent> got;
-    std::optional<MpvEvent> expected;
-  } rows[] = {
-      {"played to its end", translatedEnd(MPV_END_FILE_REASON_EOF, 0), ended({})},
-      {"stopped", translatedEnd(MPV_END_FILE_REASON_STOP, 0), ended({})},
-      {"redirected", translatedEnd(MPV_END_FILE_REASON_REDIRECT, 0), ended({})},
-      {"failed", translatedEnd(MPV_END_FILE_REASON_ERROR, MPV_ERROR_LOADING_FAILED),
-       ended(mpv_error_string(MPV_ERROR_LOADING_FAILED))},
-      {"without sound", translatedEnd(MPV_END_FILE_REASON_ERROR, MPV_ERROR_AO_INIT_FAILED),
-       ended(mpv_error_string(MPV_ERROR_AO_INIT_FAILED), true)},
-      {"failed without a reason", translatedEnd(MPV_END_FILE_REASON_ERROR, 0),
-       ended("Playback failed")},
-      {"no payload", translated(MPV_EVENT_END_FILE), std::nullopt},
-  };
-  for (const auto& row : rows) EXPECT_EQ(row.got, row.expected) << row.what;
+  for (const auto& [what, got, expected] :
+       Table<const char*, std::optional<MpvEvent>, std::optional<MpvEvent>>{
+           {"played to its end", translatedEnd(MPV_END_FILE_REASON_EOF, 0), ended({})},
+           {"stopped", translatedEnd(MPV_END_FILE_REASON_STOP, 0), ended({})},
+           {"redirected", translatedEnd(MPV_END_FILE_REASON_REDIRECT, 0), ended({})},
+           {"failed", translatedEnd(MPV_END_FILE_REASON_ERROR, MPV_ERROR_LOADING_FAILED),
+            ended(mpv_error_string(MPV_ERROR_LOADING_FAILED))},
+           {"without sound", translatedEnd(MPV_END_FILE_REASON_ERROR, MPV_ERROR_AO_INIT_FAILED),
+            ended(mpv_error_string(MPV_ERROR_AO_INIT_FAILED), true)},
+           {"failed without a reason", translatedEnd(MPV_END_FILE_REASON_ERROR, 0),
+            ended("Playback failed")},
+           {"no payload", translated(MPV_EVENT_END_FILE), std::nullopt},
+       })
+    EXPECT_EQ(got, expected) << what;
 }
 
 TEST(Translation, RepliesToCommandsMatterWhenTheyFailOrQueueAFile) {
@@ -111,4 +109,4 @@ TEST(Translation, ChangesOfOurPropertiesOnly) {
   EXPECT_EQ(translated(MPV_EVENT_PROPERTY_CHANGE, nullptr, 0, 2), std::nullopt);
 }
 
-}  // namespace tromelo
+}  // namespace tromelo::testing

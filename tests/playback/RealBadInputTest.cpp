@@ -5,15 +5,13 @@
 #include <thread>
 
 #include "RealPlayback.h"
+#include "support/Table.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 
 namespace {
 
 namespace fs = std::filesystem;
-using testing::clipPath;
-using testing::RealPlayback;
-using testing::waitFor;
 
 struct BadInput : RealPlayback {
   [[nodiscard]] bool failsWith(const QUrl& url, const QString& message) {
@@ -38,24 +36,20 @@ struct BadInput : RealPlayback {
 }  // namespace
 
 TEST_F(BadInput, WhatCannotBePlayedIsNamedAndTheNextFilePlays) {
-  const struct {
-    const char* name;
-    QString reason;
-  } rows[] = {
-      {"missing.mkv", "loading failed"},
-      {"empty.mkv", "unrecognized file format"},
-      {"text.mkv", "unrecognized file format"},
-      {"text.txt", "unrecognized file format"},
-      {"headless.mp4", "unrecognized file format"},
-      {"unknown-codec.mkv", "no audio or video data played"},
-  };
-  for (const auto& row : rows) {
-    const QUrl url = clip(row.name);
-    const QString message = QStringLiteral("Could not play %1: %2")
-                                .arg(lastPathComponentWithoutExtension(url), row.reason);
-    EXPECT_TRUE(failsWith(url, message)) << row.name << model_.errorMessage().toStdString();
-    EXPECT_EQ(model_.buffering(), "Unavailable") << row.name;
-    EXPECT_TRUE(waitFor([this] { return player_.calls.contains("library"); })) << row.name;
+  for (const auto& [name, reason] : Table<const char*, QString>{
+           {"missing.mkv", "loading failed"},
+           {"empty.mkv", "unrecognized file format"},
+           {"text.mkv", "unrecognized file format"},
+           {"text.txt", "unrecognized file format"},
+           {"headless.mp4", "unrecognized file format"},
+           {"unknown-codec.mkv", "no audio or video data played"},
+       }) {
+    const QUrl url = clip(name);
+    const QString message =
+        QString("Could not play %1: %2").arg(lastPathComponentWithoutExtension(url), reason);
+    EXPECT_TRUE(failsWith(url, message)) << name << model_.errorMessage().toStdString();
+    EXPECT_EQ(model_.buffering(), "Unavailable") << name;
+    EXPECT_TRUE(waitFor([this] { return player_.calls.contains("library"); })) << name;
   }
   EXPECT_TRUE(plays(clip("short-wide.mp4")));
   EXPECT_EQ(model_.errorMessage(), "");
@@ -76,23 +70,19 @@ TEST_F(BadInput, ListsOfFilesPlayOnAfterABrokenOne) {
   const fs::path list = home() / "list.m3u";
   std::ofstream(list) << "films/1-good.mp4\nfilms/2-broken.mkv\nfilms/3-good.mp4\n";
   const QUrl folder = fileUrlFromPath(films.string());
-  const struct {
-    const char* what;
-    QList<QUrl> files;
-    bool isBusy;
-  } rows[] = {{"a folder while the main thread is busy", {folder}, true},
-              {"a list", {fileUrlFromPath(list.string())}, false},
-              {"a folder behind a file", {clip("short-square.mp4"), folder}, false}};
-  for (const auto& row : rows) {
+  for (const auto& [what, files, isBusy] : Table<const char*, QList<QUrl>, bool>{
+           {"a folder while the main thread is busy", {folder}, true},
+           {"a list", {fileUrlFromPath(list.string())}, false},
+           {"a folder behind a file", {clip("short-square.mp4"), folder}, false}}) {
     player_.take();
-    model_.open(row.files);
-    ASSERT_TRUE(!row.isBusy || engineLogs("3-good"));
+    model_.open(files);
+    ASSERT_TRUE(!isBusy || engineLogs("3-good"));
     ASSERT_TRUE(waitFor([this] { return model_.title() == "3-good" && model_.isLoaded(); }))
-        << row.what;
+        << what;
     EXPECT_EQ(player_.calls.filter("toast").join('\n'),
               "toast Skipped 2-broken: unrecognized file format")
-        << row.what;
-    EXPECT_FALSE(player_.calls.contains("library")) << row.what;
+        << what;
+    EXPECT_FALSE(player_.calls.contains("library")) << what;
   }
 }
 
@@ -123,31 +113,6 @@ TEST_F(BadInput, AnyNameThatAFileSystemAllowsPlays) {
   EXPECT_EQ(deep.size(), 4000u);
 }
 
-TEST_F(BadInput, AFileThatIsRemovedPlaysOn) {
-  const std::string path = (home() / "gone.mkv").string();
-  fs::copy(clipPath("sample.mkv"), path);
-  ASSERT_TRUE(plays(fileUrlFromPath(path)));
-  fs::remove(path);
-  ASSERT_TRUE(seeks([this] { model_.seekTo(8); }));
-  EXPECT_TRUE(waitFor([this] { return position_ > 8.1; }));
-  EXPECT_EQ(model_.errorMessage(), "");
-}
-
-TEST_F(BadInput, ACutOffFilePlaysAsFarAsItGoes) {
-  ASSERT_TRUE(plays(clip("truncated.mkv"), 4));
-  EXPECT_TRUE(waitFor([this] { return model_.isPaused(); }));
-  EXPECT_LT(position_, 7);
-  EXPECT_EQ(model_.errorMessage(), "");
-}
-
-TEST_F(BadInput, SeveralMissingFilesAreEachNamed) {
-  model_.open(QList<QUrl>{clip("one.mkv"), clip("two.mkv"), clip("three.mkv")});
-  ASSERT_TRUE(waitFor([this] { return player_.calls.contains("library"); }));
-  EXPECT_TRUE(player_.calls.contains("toast Skipped one: loading failed"));
-  EXPECT_TRUE(player_.calls.contains("toast Skipped two: loading failed"));
-  EXPECT_EQ(model_.errorMessage(), "Could not play three: loading failed");
-}
-
 TEST_F(BadInput, AnEmptyDirectoryIsNoFilm) {
   fs::create_directory(home() / "films");
   model_.open(fileUrlFromPath((home() / "films").string()));
@@ -156,4 +121,4 @@ TEST_F(BadInput, AnEmptyDirectoryIsNoFilm) {
   EXPECT_TRUE(plays(clip("short-wide.mp4")));
 }
 
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -62,7 +62,7 @@ class RealPlayback : public ::testing::Test {
   }
 
   QTemporaryDir directory_;
-  UserDefaults defaults_{directory_.filePath(QStringLiteral("defaults.json"))};
+  UserDefaults defaults_{directory_.filePath("defaults.json")};
   SystemClock clock_;
   FakeChooser chooser_;
   FakePlayer::Log player_;
