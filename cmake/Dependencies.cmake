@@ -39,6 +39,5 @@ pkg_get_variable(WAYLAND_PROTOCOLS_DIR wayland-protocols pkgdatadir)
 
 if(BUILD_TESTING)
   find_package(GTest REQUIRED)
-  pkg_check_modules(ATSPI REQUIRED IMPORTED_TARGET atspi-2 gobject-2.0)
   find_package(Qt6 REQUIRED COMPONENTS Test)
 endif()

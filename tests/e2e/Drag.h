@@ -13,7 +13,7 @@ namespace tromelo::testing {
 class Drag {
  public:
   Drag(const QString& type, const QStringList& lines) {
-    source_.start(QStringLiteral(TROMELO_DRAG_SOURCE), QStringList{type} + lines);
+    source_.start(TROMELO_DRAG_SOURCE, QStringList{type} + lines);
     EXPECT_TRUE(waitFor([this] { return says("ready"); }));
   }
   ~Drag() {
@@ -33,13 +33,13 @@ class Drag {
     }));
     screen::releaseButton();
     EXPECT_TRUE(waitFor([this] { return says("did "); }));
-    return said_.section(QStringLiteral("did "), 1).trimmed();
+    return said_.section("did ", 1).trimmed();
   }
 
  private:
   bool says(const char* text) {
     said_ += QString::fromUtf8(source_.readAllStandardOutput());
-    return said_.contains(QString::fromLatin1(text));
+    return said_.contains(text);
   }
 
   QProcess source_;

@@ -28,7 +28,7 @@ class DragSource : public QRasterWindow {
     if (!event->buttons().testFlag(Qt::LeftButton)) return;
     const QStringList arguments = QCoreApplication::arguments();
     auto* const data = new QMimeData;  // the drag owns it
-    data->setData(arguments.at(1), arguments.sliced(2).join(QStringLiteral("\r\n")).toUtf8());
+    data->setData(arguments.at(1), arguments.sliced(2).join("\r\n").toUtf8());
     auto* const drag = new QDrag(this);  // Qt deletes it
     drag->setMimeData(data);
     connect(drag, &QDrag::actionChanged, this, [](Qt::DropAction action) { say("would", action); });

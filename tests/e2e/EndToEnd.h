@@ -16,14 +16,10 @@ class EndToEnd : public ::testing::Test {
   EngineProbe probe() { return EngineProbe(player.ipcPath()); }
 
   /// The visible window whose title holds this, by its id; where the host has none, by its title.
-  QString window(const char* title) {
-    return screen::windowOf(player.processId(), QString::fromLatin1(title));
-  }
+  QString window(const char* title) { return screen::windowOf(player.processId(), title); }
 
   /// Whether that window has the keyboard.
-  bool isActive(const char* title) {
-    return screen::isActive(player.processId(), QString::fromLatin1(title));
-  }
+  bool isActive(const char* title) { return screen::isActive(player.processId(), title); }
 
   RunningPlayer player;
 };

@@ -19,31 +19,25 @@ EngineProbe::EngineProbe(const QString& path) {
 
 QJsonValue EngineProbe::command(const QJsonArray& command) {
   const int id = ++request_;
-  const QJsonObject request{{QStringLiteral("command"), command},
-                            {QStringLiteral("request_id"), id}};
+  const QJsonObject request{{"command", command}, {"request_id", id}};
   socket_.write(QJsonDocument(request).toJson(QJsonDocument::Compact) + '\n');
   QJsonObject reply;
   const bool answered = testing::waitFor([&] {
     while (socket_.canReadLine()) {
       reply = QJsonDocument::fromJson(socket_.readLine()).object();
-      if (reply.value(QStringLiteral("request_id")).toInt() == id &&
-          reply.contains(QStringLiteral("error")))
-        return true;
+      if (reply.value("request_id").toInt() == id && reply.contains("error")) return true;
     }
     return false;
   });
   EXPECT_TRUE(answered);
-  if (reply.value(QStringLiteral("error")).toString() != QStringLiteral("success"))
-    return QJsonValue(QJsonValue::Undefined);
-  return reply.value(QStringLiteral("data"));
+  if (reply.value("error").toString() != "success") return QJsonValue(QJsonValue::Undefined);
+  return reply.value("data");
 }
 
-QJsonValue EngineProbe::get(const QString& property) {
-  return command({QStringLiteral("get_property"), property});
-}
+QJsonValue EngineProbe::get(const QString& property) { return command({"get_property", property}); }
 
 void EngineProbe::set(const QString& property, const QJsonValue& value) {
-  command({QStringLiteral("set_property"), property, value});
+  command({"set_property", property, value});
 }
 
 bool EngineProbe::waitFor(const QString& property, const QJsonValue& value) {

@@ -1,21 +1,19 @@
 #include "EndToEnd.h"
 
+#include "support/Table.h"
+
 namespace tromelo::testing {
 namespace {
 
 class Language : public EndToEnd {};
 
 TEST_F(Language, IsTheFirstOfThePersonsThatTheProgramKnows) {
-  const struct {
-    const char* languages;
-    const char* title;
-  } rows[] = {{"fr:de_AT", "Kein Video ausgewählt"}, {"en_GB:de", "No video selected"}};
-  for (const auto& row : rows) {
+  for (const auto& [languages, title] : Table<const char*, const char*>{
+           {"fr:de_AT", "Kein Video ausgewählt"}, {"en_GB:de", "No video selected"}}) {
     RunningPlayer reader;
-    reader.environment.insert(QStringLiteral("LANGUAGE"), QString::fromLatin1(row.languages));
+    reader.environment.insert("LANGUAGE", languages);
     reader.start();
-    EXPECT_TRUE(reader.waitFor(QStringLiteral("title"), QString::fromUtf8(row.title)))
-        << row.languages;
+    EXPECT_TRUE(reader.waitFor("title", title)) << languages;
     EXPECT_EQ(reader.quit(), 0);
   }
 }

@@ -24,21 +24,18 @@ class Panels : public EndToEnd {
       id = window(title);
       return !id.isEmpty() && isActive(title);
     }));
-    probe().set(QStringLiteral("pause"), true);
-    ASSERT_TRUE(player.waitFor(QStringLiteral("status"), QStringLiteral("Paused")));
-    screen::run(QStringLiteral("xdotool"),
-                {QStringLiteral("windowsize"), id, QStringLiteral("1120"), QStringLiteral("700")});
+    probe().set("pause", true);
+    ASSERT_TRUE(player.waitFor("status", "Paused"));
+    screen::run("xdotool", {"windowsize", id, "1120", "700"});
     ASSERT_TRUE(waitFor([&] { return frame().width() > 1000; }))
         << id.toStdString() << " " << frame().width();
-    screen::run(QStringLiteral("xdotool"),
-                {QStringLiteral("windowmove"), id, QStringLiteral("60"), QStringLiteral("40")});
+    screen::run("xdotool", {"windowmove", id, "60", "40"});
     ASSERT_TRUE(waitFor([&] { return frame().x() == 60; }));
     const QRect last(button(kFullscreenButton) - QPoint(10, 10), QSize(21, 21));
     screen::movePointer(last.center());
     // The bar has followed the window.
-    ASSERT_TRUE(screen::waitForShot(QStringLiteral("panel-bar"), [&](const QImage& image) {
-      return screen::isRead(image, last);
-    }));
+    ASSERT_TRUE(screen::waitForShot(
+        "panel-bar", [&](const QImage& image) { return screen::isRead(image, last); }));
   }
 
   QRect frame() { return screen::geometryOf(id); }
@@ -57,19 +54,19 @@ TEST_F(Panels, AreReadOverAnyPicture) {
   for (const char* clipName : {"white.mp4", "black.mp4"})
     for (const char* rendering : {"glass", "material"}) {
       SCOPED_TRACE(std::string(clipName) + " " + rendering);
-      player.environment.insert(QStringLiteral("TROMELO_GLASS"), QString::fromLatin1(rendering));
+      player.environment.insert("TROMELO_GLASS", rendering);
       const QByteArray title = QByteArray(clipName).first(5);
       ASSERT_NO_FATAL_FAILURE(start({clip(clipName)}, title.constData()));
       const QString shot = QString::fromLatin1(title + '-' + rendering);
       screen::click(button(kInfoButton));
       const QRect controls = bar();
       const QRect info(frame().topRight() + QPoint(-328, 70), QSize(290, 60));
-      EXPECT_TRUE(screen::waitForShot(QStringLiteral("bar-") + shot, [&](const QImage& image) {
+      EXPECT_TRUE(screen::waitForShot(QString("bar-") + shot, [&](const QImage& image) {
         return screen::isRead(image, controls) && screen::isRead(image, info);
       }));
       screen::click(button(kTracksButton));
       const QRect rows(button(kTracksButton).x() - 150, controls.top() - 340, 300, 100);
-      EXPECT_TRUE(screen::waitForShot(QStringLiteral("tracks-") + shot, [&](const QImage& image) {
+      EXPECT_TRUE(screen::waitForShot(QString("tracks-") + shot, [&](const QImage& image) {
         return screen::isRead(image, rows);
       }));
       ASSERT_EQ(player.quit(), 0);

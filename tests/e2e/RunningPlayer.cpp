@@ -18,13 +18,13 @@ constexpr std::chrono::seconds kLimit(60);
 RunningPlayer::RunningPlayer() : environment(QProcessEnvironment::systemEnvironment()) {
   const auto set = [&](const char* name, const QString& path) {
     QDir().mkpath(path);
-    environment.insert(QString::fromLatin1(name), path);
+    environment.insert(name, path);
   };
-  set("XDG_CONFIG_HOME", home_.filePath(QStringLiteral("config")));
-  set("XDG_STATE_HOME", home_.filePath(QStringLiteral("state")));
-  set("XDG_DATA_HOME", home_.filePath(QStringLiteral("data")));
-  environment.insert(QStringLiteral("TROMELO_IPC"), ipcPath());
-  environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("disabled:"));
+  set("XDG_CONFIG_HOME", home_.filePath("config"));
+  set("XDG_STATE_HOME", home_.filePath("state"));
+  set("XDG_DATA_HOME", home_.filePath("data"));
+  environment.insert("TROMELO_IPC", ipcPath());
+  environment.insert("DBUS_SESSION_BUS_ADDRESS", "disabled:");
   QObject::connect(&process_, &QProcess::readyReadStandardOutput, &process_, [this] { read(); });
   QObject::connect(&process_, &QProcess::readyReadStandardError, &process_,
                    [this] { errors_ += process_.readAllStandardError(); });
@@ -38,14 +38,13 @@ RunningPlayer::~RunningPlayer() {
 
 void RunningPlayer::start(const QStringList& arguments) {
   process_.setProcessEnvironment(environment);
-  process_.start(QStringLiteral(TROMELO_PROGRAM),
-                 QStringList{QStringLiteral("--report")} + arguments);
+  process_.start(TROMELO_PROGRAM, QStringList{"--report"} + arguments);
 }
 
 void RunningPlayer::read() {
   while (process_.canReadLine()) {
     const QString line = QString::fromUtf8(process_.readLine()).chopped(1);
-    const auto colon = line.indexOf(QStringLiteral(": "));
+    const auto colon = line.indexOf(": ");
     if (colon > 0) said_.insert(line.first(colon), line.sliced(colon + 2));
   }
 }
@@ -65,14 +64,13 @@ bool RunningPlayer::waitFor(const QString& key, const QString& value) {
 
 bool RunningPlayer::waitUntilPlaying() {
   return waitUntil([&] {
-    return isRevealed() && said(QStringLiteral("status")) == QStringLiteral("Playing") &&
-           said(QStringLiteral("position")).toDouble() > 0;
+    return isRevealed() && said("status") == "Playing" && said("position").toDouble() > 0;
   });
 }
 
 QSize RunningPlayer::windowSize() const {
-  static const QRegularExpression pattern(QStringLiteral("^revealed (\\d+)x(\\d+)$"));
-  const auto match = pattern.match(said(QStringLiteral("window")));
+  static const QRegularExpression pattern("^revealed (\\d+)x(\\d+)$");
+  const auto match = pattern.match(said("window"));
   return match.hasMatch() ? QSize(match.captured(1).toInt(), match.captured(2).toInt()) : QSize();
 }
 
@@ -87,8 +85,7 @@ int RunningPlayer::waitForEnd() {
 }
 
 QStringList RunningPlayer::runtimeFiles() const {
-  return QDir(environment.value(QStringLiteral("XDG_RUNTIME_DIR")))
-      .entryList({QStringLiteral("tromelo*")}, QDir::Dirs);
+  return QDir(environment.value("XDG_RUNTIME_DIR")).entryList({"tromelo*"}, QDir::Dirs);
 }
 
 }  // namespace tromelo::testing

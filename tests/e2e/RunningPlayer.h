@@ -28,7 +28,7 @@ class RunningPlayer {
   [[nodiscard]] bool waitFor(const QString& key, const QString& value);
   [[nodiscard]] bool waitUntil(const std::function<bool()>& condition);
   [[nodiscard]] bool waitUntilPlaying();
-  bool isRevealed() const { return said(QStringLiteral("window")).startsWith(u"revealed"); }
+  bool isRevealed() const { return said("window").startsWith(u"revealed"); }
   /// Of the revealed player window, device pixels; empty without one.
   QSize windowSize() const;
 
@@ -38,9 +38,9 @@ class RunningPlayer {
   int waitForEnd();
   qint64 processId() const { return process_.processId(); }
 
-  QString ipcPath() const { return home_.filePath(QStringLiteral("ipc")); }
+  QString ipcPath() const { return home_.filePath("ipc"); }
   QString homePath() const { return home_.path(); }
-  QString logPath() const { return home_.filePath(QStringLiteral("state/Tromelo/mpv.log")); }
+  QString logPath() const { return home_.filePath("state/Tromelo/mpv.log"); }
   /// The folders that running programs keep their sockets in.
   QStringList runtimeFiles() const;
   QByteArray errors() const { return errors_; }

@@ -13,16 +13,11 @@ namespace {
 class EngineAlone {
  public:
   EngineAlone(const QString& clip, const QString& ipc) {
-    process_.start(
-        QStringLiteral("mpv"),
-        {QStringLiteral("--no-config"), QStringLiteral("--vo=gpu-next"),
-         QStringLiteral("--gpu-api=vulkan"), QStringLiteral("--gpu-sw=yes"),
-         QStringLiteral("--ao=null"), QStringLiteral("--pause"), QStringLiteral("--border=no"),
-         QStringLiteral("--fullscreen=") +
-             (screen::isX11() ? QStringLiteral("yes") : QStringLiteral("no")),
-         QStringLiteral("--osc=no"), QStringLiteral("--osd-level=0"),
-         QStringLiteral("--target-colorspace-hint=yes"), QStringLiteral("--dither-depth=no"),
-         QStringLiteral("--input-ipc-server=") + ipc, clip});
+    process_.start("mpv", {"--no-config", "--vo=gpu-next", "--gpu-api=vulkan", "--gpu-sw=yes",
+                           "--ao=null", "--pause", "--border=no",
+                           QString("--fullscreen=") + (screen::isX11() ? "yes" : "no"), "--osc=no",
+                           "--osd-level=0", "--target-colorspace-hint=yes", "--dither-depth=no",
+                           QString("--input-ipc-server=") + ipc, clip});
   }
   ~EngineAlone() {
     process_.terminate();
@@ -34,10 +29,10 @@ class EngineAlone {
 };
 
 void stopAt(EngineProbe& engine, double seconds) {
-  engine.set(QStringLiteral("pause"), true);
-  engine.command({QStringLiteral("seek"), seconds, QStringLiteral("absolute+exact")});
-  ASSERT_TRUE(engine.waitFor(QStringLiteral("seeking"), false));
-  ASSERT_TRUE(engine.waitFor(QStringLiteral("time-pos"), seconds));
+  engine.set("pause", true);
+  engine.command({"seek", seconds, "absolute+exact"});
+  ASSERT_TRUE(engine.waitFor("seeking", false));
+  ASSERT_TRUE(engine.waitFor("time-pos", seconds));
 }
 
 /// Full screen on X11. The headless Wayland host puts such a window half beside its screen, and the
@@ -74,12 +69,12 @@ bool isSamePicture(const QImage& a, const QImage& b) {
 TEST_F(EndToEnd, ShowsTheEnginesPicturePixelForPixel) {
   QImage alone;
   {
-    const QString ipc = player.homePath() + QStringLiteral("/alone");
+    const QString ipc = player.homePath() + "/alone";
     EngineAlone mpv(clip("sample.mp4"), ipc);
     EngineProbe engine(ipc);
-    ASSERT_TRUE(waitFor([&] { return engine.get(QStringLiteral("vo-configured")).toBool(); }));
+    ASSERT_TRUE(waitFor([&] { return engine.get("vo-configured").toBool(); }));
     stopAt(engine, 2);
-    ASSERT_TRUE(screen::waitForShot(QStringLiteral("engine-alone"), [&](const QImage& image) {
+    ASSERT_TRUE(screen::waitForShot("engine-alone", [&](const QImage& image) {
       return showsTestPicture(image) && image == std::exchange(alone, image);
     }));
     alone = shownPicture(alone);
@@ -87,12 +82,12 @@ TEST_F(EndToEnd, ShowsTheEnginesPicturePixelForPixel) {
   player.start({clip("sample.mp4")});
   ASSERT_TRUE(player.waitUntilPlaying());
   EngineProbe engine = probe();
-  engine.set(QStringLiteral("dither-depth"), QStringLiteral("no"));
-  engine.set(QStringLiteral("fullscreen"), screen::isX11());
-  ASSERT_TRUE(engine.waitFor(QStringLiteral("osd-width"), alone.width()));
-  ASSERT_TRUE(engine.waitFor(QStringLiteral("osd-height"), alone.height()));
+  engine.set("dither-depth", "no");
+  engine.set("fullscreen", screen::isX11());
+  ASSERT_TRUE(engine.waitFor("osd-width", alone.width()));
+  ASSERT_TRUE(engine.waitFor("osd-height", alone.height()));
   stopAt(engine, 2);
-  EXPECT_TRUE(screen::waitForShot(QStringLiteral("same-picture"), [&](const QImage& image) {
+  EXPECT_TRUE(screen::waitForShot("same-picture", [&](const QImage& image) {
     return isSamePicture(shownPicture(image), alone);
   }));
 }

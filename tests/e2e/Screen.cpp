@@ -20,16 +20,13 @@ void grab(const QString& directory, bool withPointer) {
   QProcess process;
   process.setWorkingDirectory(directory);
   if (isX11())
-    process.start(QStringLiteral("ffmpeg"),
-                  {QStringLiteral("-loglevel"), QStringLiteral("error"), QStringLiteral("-f"),
-                   QStringLiteral("x11grab"), QStringLiteral("-draw_mouse"),
-                   withPointer ? QStringLiteral("1") : QStringLiteral("0"), QStringLiteral("-i"),
-                   qEnvironmentVariable("DISPLAY"), QStringLiteral("-frames:v"),
-                   QStringLiteral("1"), QStringLiteral("shot.png")});
+    process.start("ffmpeg",
+                  {"-loglevel", "error", "-f", "x11grab", "-draw_mouse", withPointer ? "1" : "0",
+                   "-i", qEnvironmentVariable("DISPLAY"), "-frames:v", "1", "shot.png"});
   else if (hasHand())
-    process.start(QStringLiteral("grim"), {QStringLiteral("shot.png")});
+    process.start("grim", {"shot.png"});
   else
-    process.start(QStringLiteral("weston-screenshooter"));
+    process.start("weston-screenshooter");
   process.waitForFinished();
 }
 
@@ -40,25 +37,23 @@ WaylandHand& hand() {
   return hand;
 }
 
-void xdotool(const QStringList& arguments) { run(QStringLiteral("xdotool"), arguments); }
+void xdotool(const QStringList& arguments) { run("xdotool", arguments); }
 
 QString folderOfShots() {
-  if (isX11()) return QStringLiteral("/x11/");
-  return hasHand() ? QStringLiteral("/labwc/") : QStringLiteral("/wayland/");
+  if (isX11()) return "/x11/";
+  return hasHand() ? "/labwc/" : "/wayland/";
 }
 
 }  // namespace
 
-bool hasHand() {
-  return isX11() || qEnvironmentVariable("XDG_CURRENT_DESKTOP") == QStringLiteral("labwc");
-}
+bool hasHand() { return isX11() || qEnvironmentVariable("XDG_CURRENT_DESKTOP") == "labwc"; }
 
-bool isX11() { return qEnvironmentVariable("QT_QPA_PLATFORM") == QStringLiteral("xcb"); }
+bool isX11() { return qEnvironmentVariable("QT_QPA_PLATFORM") == "xcb"; }
 
 QImage shot(bool withPointer) {
   QTemporaryDir directory;
   grab(directory.path(), withPointer);
-  const QStringList files = QDir(directory.path()).entryList({QStringLiteral("*.png")});
+  const QStringList files = QDir(directory.path()).entryList({"*.png"});
   if (files.isEmpty()) return {};
   return QImage(directory.filePath(files.first())).convertToFormat(QImage::Format_RGB32);
 }
@@ -79,9 +74,9 @@ bool waitForShot(const QString& name, const std::function<bool(const QImage&)>& 
     last = shot();
     return !last.isNull() && holds(last);
   });
-  const QString folder = QStringLiteral(TROMELO_SHOTS) + folderOfShots();
+  const QString folder = QString(TROMELO_SHOTS) + folderOfShots();
   QDir().mkpath(folder);
-  last.save(folder + name + QStringLiteral(".png"));
+  last.save(folder + name + ".png");
   return held;
 }
 
@@ -115,28 +110,28 @@ QString run(const QString& program, const QStringList& arguments) {
 }
 
 void press(const QString& keys) {
-  if (isX11()) return xdotool({QStringLiteral("key"), keys});
+  if (isX11()) return xdotool({"key", keys});
   holdKeys(keys);
   letGoOfKeys(keys);
 }
 
 void holdKeys(const QString& keys) {
-  isX11() ? xdotool({QStringLiteral("keydown"), keys}) : hand().setKeys(keys, true);
+  isX11() ? xdotool({"keydown", keys}) : hand().setKeys(keys, true);
 }
 
 void letGoOfKeys(const QString& keys) {
-  isX11() ? xdotool({QStringLiteral("keyup"), keys}) : hand().setKeys(keys, false);
+  isX11() ? xdotool({"keyup", keys}) : hand().setKeys(keys, false);
 }
 
 bool isActive(qint64 processId, const QString& title) {
   if (!isX11()) return hand().hasWindow(title, true);
   const QString id = windowOf(processId, title);
-  return !id.isEmpty() && id == run(QStringLiteral("xdotool"), {QStringLiteral("getactivewindow")});
+  return !id.isEmpty() && id == run("xdotool", {"getactivewindow"});
 }
 
 void activate(qint64 processId, const QString& title) {
   if (!isX11()) return hand().activate(title);
-  xdotool({QStringLiteral("windowactivate"), windowOf(processId, title)});
+  xdotool({"windowactivate", windowOf(processId, title)});
 }
 
 QString windowOf(qint64 processId, const QString& title) {
@@ -145,10 +140,8 @@ QString windowOf(qint64 processId, const QString& title) {
   // A window that goes while the others are looked through ends the search with an error.
   const bool searched = testing::waitFor([&] {
     QProcess search;
-    search.start(
-        QStringLiteral("xdotool"),
-        {QStringLiteral("search"), QStringLiteral("--all"), QStringLiteral("--onlyvisible"),
-         QStringLiteral("--pid"), QString::number(processId), QStringLiteral("--name"), title});
+    search.start("xdotool", {"search", "--all", "--onlyvisible", "--pid",
+                             QString::number(processId), "--name", title});
     search.waitForFinished();
     found = QString::fromUtf8(search.readAllStandardOutput()).section(u'\n', 0, 0);
     return !search.readAllStandardError().contains("X Error");
@@ -161,9 +154,9 @@ QRect geometryOf(const QString& windowId) {
   if (windowId.isEmpty()) return {};  // it would ask for a click on one
   if (!isX11()) return pictureIn(shot());
   // xdotool adds a title bar's height twice.
-  const QString text = run(QStringLiteral("xwininfo"), {QStringLiteral("-id"), windowId});
+  const QString text = run("xwininfo", {"-id", windowId});
   const auto number = [&text](const char* name) {
-    return text.section(QLatin1StringView(name), 1).trimmed().section(u'\n', 0, 0).toInt();
+    return text.section(name, 1).trimmed().section(u'\n', 0, 0).toInt();
   };
   return {number("Absolute upper-left X:"), number("Absolute upper-left Y:"), number("Width:"),
           number("Height:")};
@@ -172,17 +165,15 @@ QRect geometryOf(const QString& windowId) {
 void movePointer(QPoint place) {
   pointerPlace = place;
   if (!isX11()) return hand().move(place, shot().size());
-  xdotool({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y())});
+  xdotool({"mousemove", QString::number(place.x()), QString::number(place.y())});
 }
 
 void pressButton(int button) {
-  isX11() ? xdotool({QStringLiteral("mousedown"), QString::number(button)})
-          : hand().setButton(button, true);
+  isX11() ? xdotool({"mousedown", QString::number(button)}) : hand().setButton(button, true);
 }
 
 void releaseButton(int button) {
-  isX11() ? xdotool({QStringLiteral("mouseup"), QString::number(button)})
-          : hand().setButton(button, false);
+  isX11() ? xdotool({"mouseup", QString::number(button)}) : hand().setButton(button, false);
 }
 
 void click(QPoint place, int times) {

