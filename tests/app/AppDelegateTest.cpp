@@ -12,7 +12,7 @@
 #include "support/NoFileChooser.h"
 #include "support/WaitFor.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 CommandLine fileAt(const std::string& path, std::optional<double> start = {}) {
@@ -30,7 +30,7 @@ class AppDelegateTest : public ::testing::Test {
         AppDelegate::Parts{[this] { return makePlayback(); },
                            [this](PlaybackModel&, PlayerWindowController&) {
                              ++libraries_;
-                             auto window = std::make_unique<testing::FakeLibraryWindow>(clock_);
+                             auto window = std::make_unique<FakeLibraryWindow>(clock_);
                              library_ = window.get();
                              return window;
                            }});
@@ -54,22 +54,22 @@ class AppDelegateTest : public ::testing::Test {
   }
 
   std::string file(const char* name) {
-    const QString path = directory_.filePath(QString::fromLatin1(name));
+    const QString path = directory_.filePath(name);
     QFile created(path);
     EXPECT_TRUE(created.open(QIODevice::WriteOnly));
     return path.toStdString();
   }
 
-  testing::ManualClock clock_;
-  testing::FakeWindowSystem windows_;
-  testing::FakeMpv mpv_;
+  ManualClock clock_;
+  FakeWindowSystem windows_;
+  FakeMpv mpv_;
   MpvClientApi api_ = mpv_.api();
-  testing::NoFileChooser files_;
+  NoFileChooser files_;
   QTemporaryDir directory_;
-  UserDefaults defaults_{directory_.filePath(QStringLiteral("defaults.json"))};
-  UserDefaults former_{directory_.filePath(QStringLiteral("former.json"))};
+  UserDefaults defaults_{directory_.filePath("defaults.json")};
+  UserDefaults former_{directory_.filePath("former.json")};
   std::unique_ptr<AppDelegate> delegate_;
-  testing::FakeLibraryWindow* library_ = nullptr;
+  FakeLibraryWindow* library_ = nullptr;
   int libraries_ = 0;
   int ready_ = 0;
 };
@@ -100,14 +100,13 @@ TEST_F(AppDelegateTest, SaysInTheLibraryWhatItCannotPlay) {
   launch({});
   delegate_->applicationDidFinishLaunching();
   library_->orderOut();
-  delegate_->applicationOpen({QUrl(QStringLiteral("smb://nas/a.mkv"))});
-  EXPECT_TRUE(testing::waitFor([this] { return library_->visible; }));
+  delegate_->applicationOpen({QUrl("smb://nas/a.mkv")});
+  EXPECT_TRUE(waitFor([this] { return library_->visible; }));
   EXPECT_EQ(delegate_->playback().errorMessage(), "Tromelo plays local files only.");
 }
 
 TEST_F(AppDelegateTest, TakesOverTheFormerEditionsSettingsBeforeTheyAreRead) {
-  former_.set(QStringLiteral("playerSettings"),
-              QJsonObject{{QStringLiteral("autoHideDelay"), 4.5}});
+  former_.set("playerSettings", QJsonObject{{"autoHideDelay", 4.5}});
   launch({});
   EXPECT_EQ(delegate_->playback().settings().autoHideDelay(), 4.5);
 }
@@ -128,15 +127,15 @@ TEST_F(AppDelegateTest, ReopensItsOneLibraryWindow) {
 TEST_F(AppDelegateTest, QuitsOnceHoweverOftenItIsAsked) {
   launch({});
   delegate_->applicationDidFinishLaunching();
-  testing::FakeVideoWindow window(clock_);
+  FakeVideoWindow window(clock_);
   windows_.add(window);
   delegate_->quit();
   EXPECT_TRUE(delegate_->playback().isShuttingDown());
   EXPECT_FALSE(delegate_->player().hasWindow());
   delegate_->quit();
   EXPECT_EQ(delegate_->applicationShouldTerminate(), TerminateReply::later);
-  EXPECT_TRUE(testing::waitFor([this] { return ready_ > 0; }));
-  testing::settle();
+  EXPECT_TRUE(waitFor([this] { return ready_ > 0; }));
+  settle();
   EXPECT_EQ(ready_, 1);
   EXPECT_EQ(mpv_.destroyed, 1);
 }
@@ -145,8 +144,7 @@ TEST_F(AppDelegateTest, QuitsAtOnceWithoutAnEngine) {
   mpv_.cannotBeCreated = true;
   launch({});
   delegate_->applicationDidFinishLaunching();
-  EXPECT_EQ(delegate_->playback().errorMessage(),
-            QStringLiteral("Could not create the playback engine"));
+  EXPECT_EQ(delegate_->playback().errorMessage(), "Could not create the playback engine");
   library_->orderOut();
   delegate_->applicationOpen({fileUrlFromPath("/a.mkv")});
   EXPECT_TRUE(library_->visible);
@@ -155,4 +153,4 @@ TEST_F(AppDelegateTest, QuitsAtOnceWithoutAnEngine) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

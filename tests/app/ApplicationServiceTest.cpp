@@ -6,12 +6,12 @@
 #include "support/BusDaemon.h"
 #include "support/WaitFor.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 TEST(ApplicationServiceTest, WhatABusyProgramTakesLateIsPlayedOnce) {
   using Role = ApplicationService::Role;
-  const testing::BusDaemon bus;
+  const BusDaemon bus;
   ApplicationService first(QDBusConnection::connectToBus(bus.address(), "first"));
   ApplicationService second(QDBusConnection::connectToBus(bus.address(), "second"));
   QList<QUrl> opened;
@@ -22,11 +22,11 @@ TEST(ApplicationServiceTest, WhatABusyProgramTakesLateIsPlayedOnce) {
   // Nothing runs the first one's event loop meanwhile.
   EXPECT_EQ(second.start({.file = film, .start = {}}, std::chrono::milliseconds(50)),
             Role::handedOver);
-  EXPECT_TRUE(testing::waitFor([&] { return !opened.isEmpty(); }));
+  EXPECT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
   first.Open({"file:///c(d)", "smb://nas/e"}, {});
   EXPECT_EQ(opened, (QList{film, fileUrlFromPath("/c(d)"), QUrl("smb://nas/e")}));
   for (const char* name : {"first", "second"}) QDBusConnection::disconnectFromBus(name);
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

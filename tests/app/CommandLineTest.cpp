@@ -5,8 +5,9 @@
 #include <vector>
 
 #include "platform/FilePath.h"
+#include "support/Table.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 CommandLine parse(std::vector<std::string> arguments) {
@@ -18,32 +19,27 @@ CommandLine parse(std::vector<std::string> arguments) {
 }
 
 TEST(CommandLine, FindsTheFileAndTheStart) {
-  struct Row {
-    std::vector<std::string> arguments;
-    std::optional<QUrl> file;
-    std::optional<double> start;
-  };
-  const Row rows[] = {
-      {{}, {}, {}},
-      {{"-x", "movie.mkv", "--start=90"}, fileUrlFromPath("movie.mkv"), 90},
-      {{"--start=1.5", "/a.mkv", "/b.mkv"}, fileUrlFromPath("/a.mkv"), 1.5},
-      {{"/a.mkv", "--start=abc"}, fileUrlFromPath("/a.mkv"), {}},
-      {{"/a.mkv", "--start="}, fileUrlFromPath("/a.mkv"), {}},
-      {{"/a.mkv", "--start=12x"}, fileUrlFromPath("/a.mkv"), {}},
-      {{"/a.mkv", "--start=nan"}, fileUrlFromPath("/a.mkv"), {}},
-      {{"--start=abc", "--start=5"}, {}, {}},
-      {{"--start=-5"}, {}, -5},
-      {{"--unknown=1", "-"}, {}, {}},
-      {{"/bad\xff.mkv"}, fileUrlFromPath("/bad\xff.mkv"), {}},
-      {{"file:///a%20(b).mkv"}, fileUrlFromPath("/a (b).mkv"), {}},
-      {{"file:///%ff\xff.mkv"}, fileUrlFromPath("/\xff\xff.mkv"), {}},
-      {{"smb://nas/a.mkv"}, QUrl(QStringLiteral("smb://nas/a.mkv")), {}},
-      {{"/Part 2: //.mkv"}, fileUrlFromPath("/Part 2: //.mkv"), {}},
-  };
-  for (const Row& row : rows) {
-    const CommandLine line = parse(row.arguments);
-    EXPECT_EQ(line.file, row.file);
-    EXPECT_EQ(line.start, row.start);
+  for (const auto& [arguments, file, start] :
+       Table<std::vector<std::string>, std::optional<QUrl>, std::optional<double>>{
+           {std::vector<std::string>(), {}, {}},
+           {{"-x", "movie.mkv", "--start=90"}, fileUrlFromPath("movie.mkv"), 90},
+           {{"--start=1.5", "/a.mkv", "/b.mkv"}, fileUrlFromPath("/a.mkv"), 1.5},
+           {{"/a.mkv", "--start=abc"}, fileUrlFromPath("/a.mkv"), {}},
+           {{"/a.mkv", "--start="}, fileUrlFromPath("/a.mkv"), {}},
+           {{"/a.mkv", "--start=12x"}, fileUrlFromPath("/a.mkv"), {}},
+           {{"/a.mkv", "--start=nan"}, fileUrlFromPath("/a.mkv"), {}},
+           {{"--start=abc", "--start=5"}, {}, {}},
+           {{"--start=-5"}, {}, -5},
+           {{"--unknown=1", "-"}, {}, {}},
+           {{"/bad\xff.mkv"}, fileUrlFromPath("/bad\xff.mkv"), {}},
+           {{"file:///a%20(b).mkv"}, fileUrlFromPath("/a (b).mkv"), {}},
+           {{"file:///%ff\xff.mkv"}, fileUrlFromPath("/\xff\xff.mkv"), {}},
+           {{"smb://nas/a.mkv"}, QUrl("smb://nas/a.mkv"), {}},
+           {{"/Part 2: //.mkv"}, fileUrlFromPath("/Part 2: //.mkv"), {}},
+       }) {
+    const CommandLine line = parse(arguments);
+    EXPECT_EQ(line.file, file);
+    EXPECT_EQ(line.start, start);
     EXPECT_FALSE(line.help || line.version || line.displaySelftest || line.report);
   }
 }
@@ -61,4 +57,4 @@ TEST(CommandLine, KnowsTheOptionsThatItsHelpNames) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

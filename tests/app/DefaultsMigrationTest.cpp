@@ -4,17 +4,15 @@
 
 #include <QTemporaryDir>
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 class DefaultsMigration : public ::testing::Test {
  protected:
-  UserDefaults store(const char* name) const {
-    return UserDefaults(directory_.filePath(QString::fromLatin1(name)));
-  }
+  UserDefaults store(const char* name) const { return UserDefaults(directory_.filePath(name)); }
 
   static QString text(const UserDefaults& defaults, const char* key) {
-    return defaults.value(QString::fromLatin1(key)).toString();
+    return defaults.value(key).toString();
   }
 
   QTemporaryDir directory_;
@@ -24,18 +22,18 @@ TEST_F(DefaultsMigration, TakesEachMissingValueFromTheFirstStoreThatHasIt) {
   UserDefaults current = store("current");
   UserDefaults first = store("first");
   UserDefaults second = store("second");
-  current.set(QStringLiteral("playerSettings"), QStringLiteral("mine"));
-  first.set(QStringLiteral("recentFiles"), QStringLiteral("first"));
-  first.set(QStringLiteral("unrelated"), QStringLiteral("stays"));
+  current.set("playerSettings", "mine");
+  first.set("recentFiles", "first");
+  first.set("unrelated", "stays");
   for (const char* key : {"recentFiles", "playerSettings", "softwareDecodeFiles"})
-    second.set(QString::fromLatin1(key), QStringLiteral("second"));
+    second.set(key, "second");
 
   migrateDefaultsFromOrvo(current, std::vector{first, second});
 
-  EXPECT_EQ(text(current, "recentFiles"), QStringLiteral("first"));
-  EXPECT_EQ(text(current, "playerSettings"), QStringLiteral("mine"));
-  EXPECT_EQ(text(current, "softwareDecodeFiles"), QStringLiteral("second"));
-  EXPECT_FALSE(current.contains(QStringLiteral("unrelated")));
+  EXPECT_EQ(text(current, "recentFiles"), "first");
+  EXPECT_EQ(text(current, "playerSettings"), "mine");
+  EXPECT_EQ(text(current, "softwareDecodeFiles"), "second");
+  EXPECT_FALSE(current.contains("unrelated"));
 }
 
 TEST_F(DefaultsMigration, IsTriedOnceEvenWhenItFoundNothing) {
@@ -43,12 +41,12 @@ TEST_F(DefaultsMigration, IsTriedOnceEvenWhenItFoundNothing) {
   migrateDefaultsFromOrvo(current, {});
   current.flush();
   UserDefaults late = store("late");
-  late.set(QStringLiteral("recentFiles"), QStringLiteral("late"));
+  late.set("recentFiles", "late");
 
   UserDefaults nextStart = store("current");
   migrateDefaultsFromOrvo(nextStart, std::vector{late});
-  EXPECT_FALSE(nextStart.contains(QStringLiteral("recentFiles")));
+  EXPECT_FALSE(nextStart.contains("recentFiles"));
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -8,11 +8,11 @@
 #include "support/WaitFor.h"
 #include "support/Warnings.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 QList<QFileDialog*> shownDialogs() {
-  testing::settle();
+  settle();
   QList<QFileDialog*> dialogs;
   for (QWidget* widget : QApplication::topLevelWidgets())
     if (auto* dialog = qobject_cast<QFileDialog*>(widget); dialog && dialog->isVisible())
@@ -33,7 +33,7 @@ TEST(DialogFileChooserTest, ShowsOneDialogForWhatIsAskedLast) {
        QFileDialog::ExistingFile,
        {"(*.srt *.SRT *.ass *.ASS)"}},
   };
-  testing::allowWarning("This plugin does not support ");  // what windows need elsewhere
+  allowWarning("This plugin does not support ");  // what windows need elsewhere
   DialogFileChooser chooser;
   QList<QUrl> chosen;
   for (const Row& row : rows) {
@@ -52,4 +52,4 @@ TEST(DialogFileChooserTest, ShowsOneDialogForWhatIsAskedLast) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 TEST(TerminationSignalsDeathTest, ASecondSignalEndsTheProgramAtOnceWhicheverItIs) {
@@ -21,4 +21,4 @@ TEST(TerminationSignalsDeathTest, ASecondSignalEndsTheProgramAtOnceWhicheverItIs
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -7,12 +7,12 @@
 #include <QTest>
 
 #include "controls/Mnemonic.h"
+#include "support/Reader.h"
+#include "support/Table.h"
 #include "support/WaitFor.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
-
-using testing::waitFor;
 
 // What was run is the window's title.
 constexpr const char* kWindow = R"(
@@ -52,10 +52,10 @@ class MenuTest : public ::testing::Test {
 
   void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     QTest::keyClick(window_.get(), key, modifiers);
-    testing::settle();
+    settle();
   }
   bool isOpen(const char* menu) {
-    return window_->findChild<QObject*>(QString::fromLatin1(menu))->property("opened").toBool();
+    return window_->findChild<QObject*>(menu)->property("opened").toBool();
   }
   QString ran() const { return window_->title().sliced(1).trimmed(); }
 
@@ -64,66 +64,70 @@ class MenuTest : public ::testing::Test {
 };
 
 TEST_F(MenuTest, TheKeyboardReachesEveryEntry) {
-  struct Row {
-    const char* name;
-    std::function<void()> hand;
-    const char* runs;
-  };
-  const Row rows[] = {
-      {"Alt and its letters",
-       [this] {
-         QTest::keyPress(window_.get(), Qt::Key_Alt);
-         press(Qt::Key_F, Qt::AltModifier);
-         QTest::keyRelease(window_.get(), Qt::Key_Alt);
-         press(Qt::Key_Q);
-       },
-       "quit"},
-      {"Alt alone, then down over what is disabled",
-       [this] {
-         press(Qt::Key_Alt);
-         press(Qt::Key_Down);
-         press(Qt::Key_Return);
-       },
-       "quit"},
-      {"F10, right, Enter",
-       [this] {
-         press(Qt::Key_F10);
-         press(Qt::Key_Right);
-         press(Qt::Key_Return);
-       },
-       "about"},
-      {"Alt and the letters of another menu",
-       [this] {
-         press(Qt::Key_H, Qt::AltModifier);
-         press(Qt::Key_A);
-       },
-       "about"},
-      {"a disabled letter",
-       [this] {
-         press(Qt::Key_H, Qt::AltModifier);
-         press(Qt::Key_Escape);
-         press(Qt::Key_F10);
-         press(Qt::Key_N);
-         press(Qt::Key_Escape);
-       },
-       ""},
-      {"a letter while nothing is open", [this] { press(Qt::Key_O); }, ""},
-      {"Alt with something in between",
-       [this] {
-         QTest::keyPress(window_.get(), Qt::Key_Alt);
-         QTest::keyClick(window_.get(), Qt::Key_X, Qt::AltModifier);
-         QTest::keyRelease(window_.get(), Qt::Key_Alt);
-         press(Qt::Key_Q);
-       },
-       ""},
-  };
-  for (const Row& row : rows) {
-    window_->setTitle(QStringLiteral("-"));
-    row.hand();
-    EXPECT_EQ(ran(), QString::fromLatin1(row.runs)) << row.name;
-    EXPECT_TRUE(waitFor([this] { return !isOpen("file") && !isOpen("help"); })) << row.name;
-    EXPECT_EQ(window_->activeFocusItem()->objectName(), QStringLiteral("content")) << row.name;
+  for (const auto& [name, hand, runs] : Table<const char*, std::function<void()>, const char*>{
+           {"Alt and its letters",
+            [this] {
+              QTest::keyPress(window_.get(), Qt::Key_Alt);
+              press(Qt::Key_F, Qt::AltModifier);
+              QTest::keyRelease(window_.get(), Qt::Key_Alt);
+              press(Qt::Key_Q);
+            },
+            "quit"},
+           {"Alt alone, then down over what is disabled",
+            [this] {
+              press(Qt::Key_Alt);
+              press(Qt::Key_Down);
+              press(Qt::Key_Return);
+            },
+            "quit"},
+           {"F10, right, Enter",
+            [this] {
+              press(Qt::Key_F10);
+              press(Qt::Key_Right);
+              press(Qt::Key_Return);
+            },
+            "about"},
+           {"Alt and the letters of another menu",
+            [this] {
+              press(Qt::Key_H, Qt::AltModifier);
+              press(Qt::Key_A);
+            },
+            "about"},
+           {"a disabled letter",
+            [this] {
+              press(Qt::Key_H, Qt::AltModifier);
+              press(Qt::Key_Escape);
+              press(Qt::Key_F10);
+              press(Qt::Key_N);
+              press(Qt::Key_Escape);
+            },
+            ""},
+           {"a letter while nothing is open", [this] { press(Qt::Key_O); }, ""},
+           {"Alt with something in between",
+            [this] {
+              QTest::keyPress(window_.get(), Qt::Key_Alt);
+              QTest::keyClick(window_.get(), Qt::Key_X, Qt::AltModifier);
+              QTest::keyRelease(window_.get(), Qt::Key_Alt);
+              press(Qt::Key_Q);
+            },
+            ""},
+       }) {
+    window_->setTitle("-");
+    hand();
+    EXPECT_EQ(ran(), runs) << name;
+    EXPECT_TRUE(waitFor([this] { return !isOpen("file") && !isOpen("help"); })) << name;
+    EXPECT_EQ(window_->activeFocusItem()->objectName(), "content") << name;
   }
+}
+
+TEST_F(MenuTest, IsKnownAndUsedWithoutBeingSeen) {
+  using enum QAccessible::Role;
+  Reader reader(*window_);
+  reader.expect({{MenuItem, "File"}});
+  reader.press(MenuItem, "File");
+  EXPECT_EQ(reader.find(MenuItem, "Open")->text(QAccessible::Description), "Ctrl+O");
+  reader.press(MenuItem, "Open");
+  EXPECT_EQ(ran(), "open");
 }
 
 TEST(MnemonicTest, TakesTheLetterFromTheText) {
@@ -142,12 +146,12 @@ TEST(MnemonicTest, TakesTheLetterFromTheText) {
       {"", "", "", ""},
   };
   for (const Row& row : rows) {
-    const QString text = QString::fromUtf8(row.text);
-    EXPECT_EQ(Mnemonic::letter(text), QString::fromUtf8(row.letter)) << row.text;
-    EXPECT_EQ(Mnemonic::plainText(text), QString::fromUtf8(row.plain)) << row.text;
-    EXPECT_EQ(Mnemonic::markedText(text, true), QString::fromUtf8(row.marked)) << row.text;
+    const QString text = row.text;
+    EXPECT_EQ(Mnemonic::letter(text), row.letter) << row.text;
+    EXPECT_EQ(Mnemonic::plainText(text), row.plain) << row.text;
+    EXPECT_EQ(Mnemonic::markedText(text, true), row.marked) << row.text;
   }
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -2,21 +2,20 @@
 
 #include <gtest/gtest.h>
 
-namespace tromelo {
+#include "support/Table.h"
+
+namespace tromelo::testing {
 namespace {
 
 TEST(GlassRendering, FollowsThePersonThenTheMachine) {
-  struct Row {
-    const char* asked;
-    bool software;
-    GlassRendering rendering;
-  };
-  for (const Row& row :
-       {Row{"glass", true, GlassRendering::glass}, Row{"material", false, GlassRendering::material},
-        Row{"", true, GlassRendering::material}, Row{"", false, GlassRendering::glass},
-        Row{"Glass", true, GlassRendering::material}})
-    EXPECT_EQ(chooseGlassRendering(row.asked, row.software), row.rendering) << row.asked;
+  for (const auto& [asked, software, rendering] :
+       Table<const char*, bool, GlassRendering>{{"glass", true, GlassRendering::glass},
+                                                {"material", false, GlassRendering::material},
+                                                {"", true, GlassRendering::material},
+                                                {"", false, GlassRendering::glass},
+                                                {"Glass", true, GlassRendering::material}})
+    EXPECT_EQ(chooseGlassRendering(asked, software), rendering) << asked;
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

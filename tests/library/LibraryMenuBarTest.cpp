@@ -10,7 +10,7 @@
 #include "player/Commands.h"
 #include "support/WaitFor.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 TEST(LibraryMenuBarTest, EveryEntryAndEveryKeyRunsItsCommand) {
@@ -25,18 +25,16 @@ TEST(LibraryMenuBarTest, EveryEntryAndEveryKeyRunsItsCommand) {
   QQmlEngine engine;
   QQuickWindow window;
   window.resize(760, 480);
-  QQmlComponent component(&engine, QStringLiteral("Tromelo.Library"),
-                          QStringLiteral("LibraryMenuBar"));
-  const std::unique_ptr<QQuickItem> bar(
-      qobject_cast<QQuickItem*>(component.createWithInitialProperties(
-          {{QStringLiteral("commands"), QVariant::fromValue(&commands)}})));
+  QQmlComponent component(&engine, "Tromelo.Library", "LibraryMenuBar");
+  const std::unique_ptr<QQuickItem> bar(qobject_cast<QQuickItem*>(
+      component.createWithInitialProperties({{"commands", QVariant::fromValue(&commands)}})));
   ASSERT_TRUE(bar) << component.errorString().toStdString();
   QQuickItem content(window.contentItem());
   content.setFocus(true);
   bar->setParentItem(window.contentItem());
   window.show();
   window.requestActivate();
-  ASSERT_TRUE(testing::waitFor([&] { return window.isActive(); }));
+  ASSERT_TRUE(waitFor([&] { return window.isActive(); }));
 
   struct Row {
     const char* text;
@@ -57,26 +55,25 @@ TEST(LibraryMenuBarTest, EveryEntryAndEveryKeyRunsItsCommand) {
       {"About Tromelo", "", Qt::Key_H, Qt::Key_A, none, "about"},
   };
   for (const Row& row : rows) {
-    const auto runsIt = [&] { return std::exchange(ran, {}) == QString::fromLatin1(row.runs); };
+    const auto runsIt = [&] { return std::exchange(ran, {}) == row.runs; };
     QTest::keyClick(&window, row.menu, Qt::AltModifier);
-    testing::settle();
+    settle();
     QTest::keyClick(&window, row.letter);
-    testing::settle();
+    settle();
     EXPECT_TRUE(runsIt()) << row.text;
     if (row.key != none) {
       QTest::keyClick(&window, row.key.key(), row.key.keyboardModifiers());
       EXPECT_TRUE(runsIt()) << row.keys;
     }
-    const auto* entry =
-        bar->findChild<QObject*>(QString::fromLatin1(row.runs) + QStringLiteral("Command"));
+    const auto* entry = bar->findChild<QObject*>(QString::fromLatin1(row.runs) + "Command");
     ASSERT_TRUE(entry) << row.text;
-    EXPECT_EQ(entry->property("text").toString().remove(u'&'), QString::fromUtf8(row.text));
-    EXPECT_EQ(entry->property("keys"), QVariant(QString::fromLatin1(row.keys)));
+    EXPECT_EQ(entry->property("text").toString().remove(u'&'), row.text);
+    EXPECT_EQ(entry->property("keys"), QVariant(row.keys));
   }
   QEvent sessionEnds(QEvent::Quit);
   QCoreApplication::sendEvent(qApp, &sessionEnds);
-  EXPECT_EQ(ran, QStringLiteral("quit"));
+  EXPECT_EQ(ran, "quit");
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

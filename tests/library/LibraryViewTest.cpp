@@ -1,4 +1,3 @@
-#include <QAccessible>
 #include <QDropEvent>
 #include <QJsonArray>
 #include <QMimeData>
@@ -10,19 +9,21 @@
 #include "platform/FileManager.h"
 #include "platform/ReducedMotion.h"
 #include "player/Commands.h"
+#include "support/Reader.h"
+#include "support/Table.h"
 #include "support/Warnings.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
-class LibraryViewTest : public testing::ViewTest {
+class LibraryViewTest : public ViewTest {
  protected:
   LibraryViewTest() : ViewTest("Tromelo.Library") {
     host_.resize(1100, 720);
     layer_.setSize(host_.size());
     host_.requestActivate();
-    EXPECT_TRUE(testing::waitFor([this] { return host_.isActive(); }));
-    QQuickItem& view = show("LibraryView", {{"playback", model()},
+    EXPECT_TRUE(waitFor([this] { return host_.isActive(); }));
+    QQuickItem& view = show("LibraryView", {{"playback", playback()},
                                             {"player", QVariant::fromValue(&player())},
                                             {"sidebarWidth", QVariant::fromValue(&sidebarWidth_)},
                                             {"fileManager", QVariant::fromValue(&fileManager_)}});
@@ -80,15 +81,15 @@ class LibraryViewTest : public testing::ViewTest {
 
 TEST_F(LibraryViewTest, ListsWhatWasPlayedNewestFirst) {
   EXPECT_TRUE(isShown("noRecents"));
-  EXPECT_EQ(text("noRecents"), QStringLiteral("Videos you play appear here."));
-  EXPECT_EQ(text("recentsHeading"), QStringLiteral("Recently Played"));
+  EXPECT_EQ(text("noRecents"), "Videos you play appear here.");
+  EXPECT_EQ(text("recentsHeading"), "Recently Played");
 
   play("/Movies/.hidden");
   play("/Movies/My.Film.2020.mkv");
   EXPECT_FALSE(isShown("noRecents"));
   EXPECT_EQ(texts(rows(), "name"), (QStringList{"My.Film.2020", ".hidden"}));
   EXPECT_EQ(texts(rows(), "path"), (QStringList{"/Movies/My.Film.2020.mkv", "/Movies/.hidden"}));
-  EXPECT_EQ(texts(items(QStringLiteral("recentName"))).size(), 2);
+  EXPECT_EQ(texts(items("recentName")).size(), 2);
 
   clickAt(rows()[1]);
   EXPECT_EQ(opened(), Sent{"loadfile /Movies/.hidden replace"});
@@ -97,7 +98,7 @@ TEST_F(LibraryViewTest, ListsWhatWasPlayedNewestFirst) {
 
 TEST_F(LibraryViewTest, SaysNothingOfRecentFilesUntilTheyAreKnown) {
   auto answers = std::make_shared<std::counting_semaphore<>>(0);
-  defaults_.set(QStringLiteral("recentFiles"), QJsonArray{"/share/film.mkv"});
+  defaults_.set("recentFiles", QJsonArray{"/share/film.mkv"});
   PlaybackModel starting({.api = api_,
                           .clock = clock_,
                           .files = files_,
@@ -112,7 +113,7 @@ TEST_F(LibraryViewTest, SaysNothingOfRecentFilesUntilTheyAreKnown) {
                        {"fileManager", QVariant::fromValue(&fileManager_)}});
   EXPECT_FALSE(isShown("noRecents"));
   answers->release();
-  EXPECT_TRUE(testing::waitFor([this] { return isShown("noRecents"); }));
+  EXPECT_TRUE(waitFor([this] { return isShown("noRecents"); }));
   view_.reset();
 }
 
@@ -120,23 +121,23 @@ TEST_F(LibraryViewTest, TheKeyboardStaysAtItsFileWhileTheListChanges) {
   for (const char* path : {"/c", "/b", "/a"}) play(path);
   EXPECT_EQ(chosen(), QString());
   key(Qt::Key_Down);
-  EXPECT_EQ(chosen(), QStringLiteral("a"));
+  EXPECT_EQ(chosen(), "a");
   key(Qt::Key_Down);
-  EXPECT_EQ(chosen(), QStringLiteral("b"));
+  EXPECT_EQ(chosen(), "b");
   for (const auto enter : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
     takeSent();
     key(enter);
     EXPECT_EQ(opened(), Sent{"loadfile /b replace"}) << enter;
   }
   play("/d");
-  EXPECT_EQ(chosen(), QStringLiteral("b")) << "another comes before it";
+  EXPECT_EQ(chosen(), "b") << "another comes before it";
   play("/b");
   EXPECT_EQ(texts(rows(), "name"), (QStringList{"b", "d", "a", "c"}));
-  EXPECT_EQ(chosen(), QStringLiteral("b")) << "it moves";
-  playback_.removeRecent(QUrl(QStringLiteral("file:///b")));
-  EXPECT_EQ(chosen(), QStringLiteral("d")) << "the next one takes its place";
+  EXPECT_EQ(chosen(), "b") << "it moves";
+  playback_.removeRecent(QUrl("file:///b"));
+  EXPECT_EQ(chosen(), "d") << "the next one takes its place";
   for (const char* left : {"file:///a", "file:///d", "file:///c"})
-    playback_.removeRecent(QUrl(QString::fromLatin1(left)));
+    playback_.removeRecent(QUrl(left));
   layOut();
   EXPECT_TRUE(isShown("noRecents"));
   EXPECT_NE(host_.activeFocusItem(), item("recentsList"));
@@ -149,19 +150,19 @@ TEST_F(LibraryViewTest, ARowsMenuDoesWhatItSaysFromTheHandAndFromTheKeyboard) {
   const auto open = [this](int how) {
     if (how == 0) return clickAt(rows()[1], Qt::RightButton);
     for (int i = 0; i < 2; ++i) key(Qt::Key_Down);
-    ASSERT_EQ(chosen(), QStringLiteral("b"));
+    ASSERT_EQ(chosen(), "b");
     how == 1 ? key(Qt::Key_Menu) : key(Qt::Key_F10, Qt::ShiftModifier);
   };
   for (const int how : {0, 1, 2}) {
     open(how);
     ASSERT_TRUE(isShown("addToQueue")) << how;
-    EXPECT_EQ(text("addToQueue"), QStringLiteral("Add to Queue"));
-    EXPECT_EQ(text("showInFileManager"), QStringLiteral("Show in File Manager"));
-    EXPECT_EQ(text("removeFromRecents"), QStringLiteral("Remove from Recents"));
+    EXPECT_EQ(text("addToQueue"), "Add to Queue");
+    EXPECT_EQ(text("showInFileManager"), "Show in File Manager");
+    EXPECT_EQ(text("removeFromRecents"), "Remove from Recents");
     key(Qt::Key_Escape);
-    ASSERT_TRUE(testing::waitFor([this] { return !isShown("addToQueue"); }));
+    ASSERT_TRUE(waitFor([this] { return !isShown("addToQueue"); }));
   }
-  EXPECT_EQ(chosen(), QStringLiteral("b")) << "the keyboard comes back";
+  EXPECT_EQ(chosen(), "b") << "the keyboard comes back";
 
   open(1);
   reportPlaylist(1, 0);
@@ -186,23 +187,18 @@ TEST_F(LibraryViewTest, ARowsMenuDoesWhatItSaysFromTheHandAndFromTheKeyboard) {
 }
 
 TEST_F(LibraryViewTest, DescribesTheLastFileOnceItIsKnown) {
-  struct Row {
-    const char* name;
-    const char* path;
-    const char* codec;
-    bool isCard;
-  };
-  for (const Row& row : {Row{"at the start", nullptr, nullptr, false},
-                         Row{"no codec yet", "/films/Film.mkv", nullptr, false},
-                         Row{"described", "/films/Film.mkv", "hevc", true}}) {
-    if (row.path) play(row.path);
-    if (row.codec) report(MpvProperty::videoFormat, row.codec);
-    EXPECT_EQ(isShown("lastPlayedCard"), row.isCard) << row.name;
-    EXPECT_EQ(isShown("emptyLibrary"), !row.isCard) << row.name;
+  for (const auto& [name, path, codec, isCard] : Table<const char*, const char*, const char*, bool>{
+           {"at the start", nullptr, nullptr, false},
+           {"no codec yet", "/films/Film.mkv", nullptr, false},
+           {"described", "/films/Film.mkv", "hevc", true}}) {
+    if (path) play(path);
+    if (codec) report(MpvProperty::videoFormat, codec);
+    EXPECT_EQ(isShown("lastPlayedCard"), isCard) << name;
+    EXPECT_EQ(isShown("emptyLibrary"), !isCard) << name;
   }
-  EXPECT_EQ(text("cardLabel"), QStringLiteral("LAST PLAYED"));
+  EXPECT_EQ(text("cardLabel"), "LAST PLAYED");
   EXPECT_EQ(text("cardTitle"), playback_.title());
-  EXPECT_EQ(texts(items(QStringLiteral("detailValue"))),
+  EXPECT_EQ(texts(items("detailValue")),
             (QStringList{playback_.output(), playback_.display(), playback_.decoder()}));
   takeSent();
   clickAt(item("playAgain"));
@@ -228,11 +224,11 @@ TEST_F(LibraryViewTest, EveryButtonThatOpensAsksForFiles) {
 
 TEST_F(LibraryViewTest, TellsTheErrorWordForWord) {
   EXPECT_FALSE(isShown("libraryError"));
-  const QString sentence = QStringLiteral("Could not play <b>Film</b>: ") + QString(300, u'x');
+  const QString sentence = QString("Could not play <b>Film</b>: ") + QString(300, u'x');
   playback_.tell(sentence);
   ASSERT_TRUE(isShown("libraryError"));
   QQuickItem* capsule = item("libraryError");
-  const QQuickItem* words = items(QStringLiteral("messageText"), capsule).value(0);
+  const QQuickItem* words = items("messageText", capsule).value(0);
   EXPECT_EQ(words->property("text").toString(), sentence);
   EXPECT_EQ(words->property("lineCount").toInt(), 2);
   layOut();
@@ -240,13 +236,38 @@ TEST_F(LibraryViewTest, TellsTheErrorWordForWord) {
   EXPECT_TRUE(pane.contains(frame(capsule)));
   EXPECT_NEAR(frame(capsule).center().x(), pane.center().x(), 1);
   EXPECT_EQ(frame(capsule).bottom(), pane.bottom() - 24);
-  EXPECT_EQ(QAccessible::queryAccessibleInterface(capsule)->text(QAccessible::Name), sentence);
+}
+
+TEST_F(LibraryViewTest, AllIsKnownAndUsedWithoutBeingSeen) {
+  using enum QAccessible::Role;
+  Reader reader(host_);
+  reader.expect({{List, "Recently Played"},
+                 {StaticText, "Videos you play appear here."},
+                 {Button, "Open"},
+                 {Heading, "Drop a Video"},
+                 {Button, "Open Videos…"},
+                 {Splitter, "Width of the sidebar"}});
+  playback_.tell("Full.");
+  EXPECT_EQ(Reader::heard, QStringList{"Full."});
+  play("/Film.mkv");
+  report(MpvProperty::videoFormat, "hevc");
+  report(MpvProperty::containerFps, 25.0);
+  layOut();
+  reader.expect({{Grouping, "Last played"},
+                 {StaticText, "SDR"},
+                 {Button, "Play Again"},
+                 {Button, "Open Other…"}});
+  takeSent();
+  reader.press(ListItem, "Film");
+  EXPECT_EQ(opened(), Sent{"loadfile /Film.mkv replace"});
+  key(Qt::Key_Down);
+  EXPECT_TRUE(reader.state(ListItem, "Film").selected);
 }
 
 TEST_F(LibraryViewTest, KeysReachAFileWithoutAPicture) {
   play("/a");
   key(Qt::Key_Down);
-  ASSERT_EQ(chosen(), QStringLiteral("a"));
+  ASSERT_EQ(chosen(), "a");
   load(60);
   EXPECT_TRUE(isShown("libraryStatus"));
   EXPECT_EQ(chosen(), QString());
@@ -263,13 +284,13 @@ TEST_F(LibraryViewTest, KeysReachAFileWithoutAPicture) {
   report(event::EndFile{});
   EXPECT_FALSE(isShown("libraryStatus"));
   key(Qt::Key_Down);
-  EXPECT_EQ(chosen(), QStringLiteral("a"));
+  EXPECT_EQ(chosen(), "a");
 }
 
 TEST_F(LibraryViewTest, TakesDroppedFilesAnywhereAndNothingElse) {
   const auto data = [](const QByteArray& type, const QByteArray& lines) {
     auto mime = std::make_unique<QMimeData>();
-    mime->setData(QString::fromLatin1(type), lines);
+    mime->setData(type, lines);
     return mime;
   };
   const auto enter = [this](const QMimeData& mime, QPoint place) {
@@ -294,26 +315,26 @@ TEST_F(LibraryViewTest, TakesDroppedFilesAnywhereAndNothingElse) {
 
     const auto files = data("text/uri-list", "file:///c.mkv\r\nhttp://no/\r\nfile:///a%20.mkv\r\n");
     EXPECT_TRUE(enter(*files, place));
-    EXPECT_TRUE(testing::waitFor(isHighlighted));
+    EXPECT_TRUE(waitFor(isHighlighted));
     takeSent();
     EXPECT_TRUE(drop(*files, place));
-    EXPECT_TRUE(testing::waitFor([this] { return item("dropHighlight")->opacity() == 0; }));
+    EXPECT_TRUE(waitFor([this] { return item("dropHighlight")->opacity() == 0; }));
     EXPECT_EQ(opened(), (Sent{"loadfile /c.mkv replace", "loadfile /a .mkv append"}));
   }
   const auto share = data("text/uri-list", "smb://nas/a.mkv\r\n");
   EXPECT_TRUE(enter(*share, {50, 300}) && drop(*share, {50, 300}));
-  EXPECT_TRUE(testing::waitFor(
-      [this] { return playback_.errorMessage() == u"Tromelo plays local files only."; }));
+  EXPECT_TRUE(
+      waitFor([this] { return playback_.errorMessage() == u"Tromelo plays local files only."; }));
 }
 
 TEST_F(LibraryViewTest, ComesUpBeforeAFileThatIsOpenedWithIt) {
-  testing::allowWarning("This plugin does not support raise()");
+  allowWarning("This plugin does not support raise()");
   Commands commands({});
   const ReducedMotion motion("0", std::nullopt);
   LibraryWindow library(engine_, playback_, player(), commands, defaults_, motion);
   library.makeKeyAndOrderFront();
   await();
-  testing::settle();
+  settle();
   EXPECT_TRUE(std::ranges::any_of(QGuiApplication::topLevelWindows(), [](const QWindow* window) {
     return window->isVisible() && window->title() == u"Tromelo";
   }));
@@ -343,7 +364,7 @@ TEST_F(LibraryViewTest, TipsTellOurKeysAndTheNamesThatPeopleGave) {
   play("/Finders Keepers.mkv");
   const auto tipOf = [this](const QQuickItem* one) {
     mouse(QEvent::MouseMove, frame(one).center(), Qt::NoButton);
-    EXPECT_TRUE(testing::waitFor([&] { return one->findChild<QObject*>("toolTip"); }));
+    EXPECT_TRUE(waitFor([&] { return one->findChild<QObject*>("toolTip"); }));
     return one->findChild<QObject*>("toolTip")->property("text").toString();
   };
   EXPECT_EQ(tipOf(rows()[0]), "/Finders Keepers.mkv");
@@ -353,24 +374,19 @@ TEST_F(LibraryViewTest, TipsTellOurKeysAndTheNamesThatPeopleGave) {
 TEST_F(LibraryViewTest, OnlyAHighDynamicRangeIsGold) {
   play("/films/Film.mkv");
   report(MpvProperty::videoFormat, "hevc");
-  struct Row {
-    const char* gamma;
-    const char* label;
-    bool isGold;
-  };
-  for (const Row& row :
-       {Row{"bt.1886", "SDR", false}, {"pq", "HDR10", true}, {"hlg", "HLG", true}}) {
-    report(MpvProperty::gamma, row.gamma);
-    const auto chips = items(QStringLiteral("chipText"));
+  for (const auto& [gamma, label, isGold] : Table<const char*, const char*, bool>{
+           {"bt.1886", "SDR", false}, {"pq", "HDR10", true}, {"hlg", "HLG", true}}) {
+    report(MpvProperty::gamma, gamma);
+    const auto chips = items("chipText");
     EXPECT_EQ(texts(chips), (QStringList{playback_.dynamicRange().label(), playback_.videoSize(),
                                          playback_.frameRate(), playback_.codec()}));
-    EXPECT_TRUE(texts(chips)[0].startsWith(QLatin1StringView(row.label))) << row.label;
+    EXPECT_TRUE(texts(chips)[0].startsWith(label)) << label;
     for (const QQuickItem* chip : chips) {
       const QColor colour = chip->property("color").value<QColor>();
-      EXPECT_EQ(colour.blueF() < 0.6, row.isGold && chip == chips[0]) << row.label;
+      EXPECT_EQ(colour.blueF() < 0.6, isGold && chip == chips[0]) << label;
     }
   }
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

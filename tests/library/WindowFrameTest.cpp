@@ -7,14 +7,14 @@
 #include <QScreen>
 #include <QTemporaryDir>
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 class WindowFrameTest : public ::testing::Test {
  protected:
   QTemporaryDir directory_;
-  UserDefaults defaults_{directory_.filePath(QStringLiteral("defaults.json"))};
-  WindowFrame frame_{defaults_, QStringLiteral("Test")};
+  UserDefaults defaults_{directory_.filePath("defaults.json")};
+  WindowFrame frame_{defaults_, "Test"};
   const QRect screen_ = QGuiApplication::primaryScreen()->availableGeometry();
 };
 
@@ -41,8 +41,8 @@ TEST_F(WindowFrameTest, IsNeverTooSmallForItsContent) {
 TEST_F(WindowFrameTest, ForgetsAScreenThatIsGoneAndNonsense) {
   for (const QJsonValue& stored :
        {QJsonValue(QJsonArray{100000, 100000, 300, 200}), QJsonValue(QJsonArray{0, 0, -5, 10}),
-        QJsonValue(QJsonArray{1, 2}), QJsonValue(QStringLiteral("here")), QJsonValue()}) {
-    defaults_.set(QStringLiteral("windowFrame Test"), stored);
+        QJsonValue(QJsonArray{1, 2}), QJsonValue("here"), QJsonValue()}) {
+    defaults_.set("windowFrame Test", stored);
     EXPECT_EQ(frame_.restored({200, 100}).size(), QSize(200, 100));
   }
 }
@@ -53,4 +53,4 @@ TEST_F(WindowFrameTest, BeginsInTheMiddleAndFitsTheScreen) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

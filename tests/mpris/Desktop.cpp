@@ -10,17 +10,17 @@ namespace tromelo::testing {
 
 namespace {
 
-const QString kService = QStringLiteral("org.mpris.MediaPlayer2.tromelo");
-const QString kPath = QStringLiteral("/org/mpris/MediaPlayer2");
-const QString kPlayer = QStringLiteral("org.mpris.MediaPlayer2.Player");
-const QString kProperties = QStringLiteral("org.freedesktop.DBus.Properties");
+const QString kService = "org.mpris.MediaPlayer2.tromelo";
+const QString kPath = "/org/mpris/MediaPlayer2";
+const QString kPlayer = "org.mpris.MediaPlayer2.Player";
+const QString kProperties = "org.freedesktop.DBus.Properties";
 
 }  // namespace
 
-Desktop::Desktop() : bus_(connection(QStringLiteral("desktop"))) {
-  bus_.connect({}, kPath, kProperties, QStringLiteral("PropertiesChanged"), this,
+Desktop::Desktop() : bus_(connection("desktop")) {
+  bus_.connect({}, kPath, kProperties, "PropertiesChanged", this,
                SLOT(propertiesChanged(QString, QVariantMap, QStringList)));
-  bus_.connect({}, kPath, kPlayer, QStringLiteral("Seeked"), this, SLOT(seeked(qlonglong)));
+  bus_.connect({}, kPath, kPlayer, "Seeked", this, SLOT(seeked(qlonglong)));
 }
 
 Desktop::~Desktop() {
@@ -46,25 +46,23 @@ QDBusMessage Desktop::call(const QString& interface, const QString& method,
 }
 
 QVariant Desktop::property(const QString& name) {
-  const QDBusReply<QDBusVariant> reply = call(kProperties, QStringLiteral("Get"), {kPlayer, name});
+  const QDBusReply<QDBusVariant> reply = call(kProperties, "Get", {kPlayer, name});
   return reply.value().variant();
 }
 
 QVariantMap Desktop::properties() {
-  const QDBusReply<QVariantMap> reply = call(kProperties, QStringLiteral("GetAll"), {kPlayer});
+  const QDBusReply<QVariantMap> reply = call(kProperties, "GetAll", {kPlayer});
   return reply.value();
 }
 
 QDBusMessage Desktop::set(const QString& name, const QVariant& value) {
-  return call(kProperties, QStringLiteral("Set"),
-              {kPlayer, name, QVariant::fromValue(QDBusVariant(value))});
+  return call(kProperties, "Set", {kPlayer, name, QVariant::fromValue(QDBusVariant(value))});
 }
 
 bool Desktop::owns(const QString& name) {
   const QDBusReply<bool> reply = send([&name] {
-    QDBusMessage asked = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/"),
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameHasOwner"));
+    QDBusMessage asked = QDBusMessage::createMethodCall("org.freedesktop.DBus", "/",
+                                                        "org.freedesktop.DBus", "NameHasOwner");
     return asked << name;
   }());
   return reply.value();

@@ -7,20 +7,19 @@
 #include "mpris/MprisValues.h"
 #include "platform/FilePath.h"
 #include "playback/ModelTest.h"
+#include "support/Table.h"
 #include "support/WaitFor.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 using P = MpvProperty;
-using testing::Desktop;
-using testing::waitFor;
 
-const QString kRootInterface = QStringLiteral("org.mpris.MediaPlayer2");
-const QString kPlayerInterface = QStringLiteral("org.mpris.MediaPlayer2.Player");
-const QString kName = QStringLiteral("org.mpris.MediaPlayer2.tromelo");
+const QString kRootInterface = "org.mpris.MediaPlayer2";
+const QString kPlayerInterface = "org.mpris.MediaPlayer2.Player";
+const QString kName = "org.mpris.MediaPlayer2.tromelo";
 
-class Mpris : public testing::ModelTest {
+class Mpris : public ModelTest {
  protected:
   /// Two files of which the first plays, paused, at 10 of 60 seconds.
   void loadQueue() {
@@ -48,7 +47,7 @@ TEST_F(Mpris, TellsOfTheStateInTheDesktopsWords) {
   EXPECT_EQ(trackMetadata(model()), QVariantMap());
   loadQueue();
   const auto track = [](const char* number) {
-    return QDBusObjectPath(QStringLiteral("/org/tromelo/Tromelo/track/") + number);
+    return QDBusObjectPath(QString("/org/tromelo/Tromelo/track/") + number);
   };
   EXPECT_EQ(trackMetadata(model()), (QVariantMap{{"mpris:trackid", QVariant::fromValue(track("7"))},
                                                  {"mpris:length", qlonglong(60'000'000)},
@@ -61,17 +60,15 @@ TEST_F(Mpris, TellsOfTheStateInTheDesktopsWords) {
   model().toggleLoop();
   EXPECT_EQ(loopStatus(model()), "Track");
 
-  struct Row {
-    const char* name;
-    QDBusObjectPath track;
-    qint64 microseconds;
-    std::optional<double> seconds;
-  };
-  for (const Row& row :
-       {Row{"start", track("7"), 0, 0}, Row{"end", track("7"), 60'000'000, 60},
-        Row{"within", track("7"), 1'500'000, 1.5}, Row{"before", track("7"), -1, {}},
-        Row{"behind", track("7"), 60'000'001, {}}, Row{"another file", track("9"), 1'500'000, {}}})
-    EXPECT_EQ(wantedPosition(model(), row.track, row.microseconds), row.seconds) << row.name;
+  for (const auto& [name, track, microseconds, seconds] :
+       Table<const char*, QDBusObjectPath, qint64, std::optional<double>>{
+           {"start", track("7"), 0, 0},
+           {"end", track("7"), 60'000'000, 60},
+           {"within", track("7"), 1'500'000, 1.5},
+           {"before", track("7"), -1, {}},
+           {"behind", track("7"), 60'000'001, {}},
+           {"another file", track("9"), 1'500'000, {}}})
+    EXPECT_EQ(wantedPosition(model(), track, microseconds), seconds) << name;
 
   reportQueue({9, 7}, 7);
   EXPECT_EQ(trackId(model()), track("7")) << "moved in the queue";
@@ -109,7 +106,7 @@ class MprisOnABus : public Mpris {
   Desktop desktop_;
   QStringList shell_;
   QDBusMessage answer_;
-  std::unique_ptr<MprisService> service_ = serve(QStringLiteral("player"));
+  std::unique_ptr<MprisService> service_ = serve("player");
 };
 
 TEST_F(MprisOnABus, DoesWhatTheViewsDo) {
@@ -169,19 +166,17 @@ TEST_F(MprisOnABus, DoesWhatTheViewsDo) {
 
 TEST_F(MprisOnABus, RefusesWhatIsNoValueAndTellsAll) {
   loadQueue();
-  struct Row {
-    const char* property;
-    QVariant value;
-    const char* error;
-  };
-  for (const Row& row :
-       {Row{"Volume", std::nan(""), "InvalidArgs"}, Row{"Volume", "nan", "InvalidArgs"},
-        Row{"Volume", QStringList("1"), "InvalidArgs"}, Row{"Rate", HUGE_VAL, "InvalidArgs"},
-        Row{"Rate", -HUGE_VAL, "InvalidArgs"}, Row{"Position", qlonglong(1), "PropertyReadOnly"},
-        Row{"Colour", 1, "UnknownProperty"}}) {
-    EXPECT_EQ(askedBySetting(row.property, row.value), Requests()) << row.property;
-    EXPECT_EQ(answer_.errorName(), QLatin1String("org.freedesktop.DBus.Error.") + row.error)
-        << row.property;
+  for (const auto& [property, value, error] :
+       Table<const char*, QVariant, const char*>{{"Volume", std::nan(""), "InvalidArgs"},
+                                                 {"Volume", "nan", "InvalidArgs"},
+                                                 {"Volume", QStringList("1"), "InvalidArgs"},
+                                                 {"Rate", HUGE_VAL, "InvalidArgs"},
+                                                 {"Rate", -HUGE_VAL, "InvalidArgs"},
+                                                 {"Position", qlonglong(1), "PropertyReadOnly"},
+                                                 {"Colour", 1, "UnknownProperty"}}) {
+    EXPECT_EQ(askedBySetting(property, value), Requests()) << property;
+    EXPECT_EQ(answer_.errorName(), QLatin1String("org.freedesktop.DBus.Error.") + error)
+        << property;
   }
   const QVariantMap all = desktop_.properties();
   for (const char* name : {"Metadata", "CanSeek", "PlaybackStatus"})
@@ -211,9 +206,8 @@ TEST_F(MprisOnABus, SignalsWhatHasChangedOnceAndJumpsOnly) {
 }
 
 TEST_F(MprisOnABus, ASecondPlayerHasANameOfItsOwn) {
-  const QString instance =
-      kName + QStringLiteral(".instance%1").arg(QCoreApplication::applicationPid());
-  auto second = serve(QStringLiteral("second"));
+  const QString instance = kName + QString(".instance%1").arg(QCoreApplication::applicationPid());
+  auto second = serve("second");
   EXPECT_TRUE(waitFor([&] { return desktop_.owns(instance); }));
   EXPECT_TRUE(desktop_.owns(kName));
   second.reset();
@@ -222,4 +216,4 @@ TEST_F(MprisOnABus, ASecondPlayerHasANameOfItsOwn) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -1,17 +1,18 @@
-#include <QAccessible>
 
 #include "ViewTest.h"
+#include "support/Table.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
-using testing::waitFor;
-
-class ControlBarTest : public testing::ViewTest {
+class ControlBarTest : public ViewTest {
  protected:
   ControlBarTest() {
-    show("PlayerControlBar",
-         {{"playback", model()}, {"chrome", chrome()}, {"width", 760}, {"height", 86}, {"y", 342}});
+    show("PlayerControlBar", {{"playback", playback()},
+                              {"chrome", shownChrome()},
+                              {"width", 760},
+                              {"height", 86},
+                              {"y", 342}});
   }
 };
 
@@ -26,7 +27,7 @@ TEST_F(ControlBarTest, ButtonsTellTheEngine) {
   }
   load(100);
   reportPlaylist(3, 1);
-  report(MpvProperty::pause, MpvValue(false));
+  report(MpvProperty::pause, false);
   for (const Row& row :
        {Row{"muteButton", {"set mute yes"}}, Row{"muteButton", {"set mute no"}},
         Row{"previousButton", {"playlist-prev"}}, Row{"backButton", {"seek -10.0 relative"}},
@@ -50,10 +51,10 @@ TEST_F(ControlBarTest, ShowsWhatThereIs) {
   EXPECT_TRUE(item("seekSlider")->isEnabled());
 
   reportChapters({0, 50});
-  report(MpvProperty::timePos, MpvValue(50.0));
+  report(MpvProperty::timePos, 50.0);
   EXPECT_TRUE(isShown("chaptersButton"));
   layOut();
-  const QList<QQuickItem*> marks = items(QStringLiteral("chapterMark"));
+  const QList<QQuickItem*> marks = items("chapterMark");
   ASSERT_EQ(marks.size(), 1);
   const double middle = frame(item("seekSlider")).center().x();
   EXPECT_EQ(frame(marks.first()).center().x(), middle);
@@ -64,37 +65,33 @@ TEST_F(ControlBarTest, ShowsWhatThereIs) {
   EXPECT_EQ(text("remainingTime"), "-0:50");
 
   EXPECT_EQ(text("playerPlayPause", "tip"), "Play (Space)");
-  report(MpvProperty::pause, MpvValue(false));
+  report(MpvProperty::pause, false);
   EXPECT_EQ(text("playPauseSymbol", "name"), "pause.fill");
   EXPECT_EQ(text("playerPlayPause", "tip"), "Pause (Space)");
-  report(MpvProperty::mute, MpvValue(true));
+  report(MpvProperty::mute, true);
   EXPECT_EQ(text("muteSymbol", "name"), "speaker.slash.fill");
   EXPECT_EQ(text("muteButton", "tip"), "Unmute (M)");
-  report(MpvProperty::fullscreen, MpvValue(true));
+  report(MpvProperty::fullscreen, true);
   EXPECT_EQ(text("fullscreenButton", "tip"), "Exit full screen (F)");
 }
 
 TEST_F(ControlBarTest, PanelButtonsTurnTheirPanelsOnAndOff) {
   load(100);
   reportChapters({0, 50});
-  PlayerChrome& chrome = player().chrome();
-  struct Row {
-    const char* button;
-    PlayerPanel panel;
-  };
-  for (const Row& row :
-       {Row{"chaptersButton", PlayerPanel::chapters}, Row{"tracksButton", PlayerPanel::tracks},
-        Row{"queueButton", PlayerPanel::queue}}) {
-    click(row.button);
-    EXPECT_EQ(chrome.panel(), row.panel) << row.button;
-    EXPECT_TRUE(item(row.button)->property("active").toBool()) << row.button;
+  for (const auto& [button, panel] :
+       Table<const char*, PlayerPanel>{{"chaptersButton", PlayerPanel::chapters},
+                                       {"tracksButton", PlayerPanel::tracks},
+                                       {"queueButton", PlayerPanel::queue}}) {
+    click(button);
+    EXPECT_EQ(chrome().panel(), panel) << button;
+    EXPECT_TRUE(item(button)->property("active").toBool()) << button;
   }
   EXPECT_FALSE(item("tracksButton")->property("active").toBool());
   click("queueButton");
-  EXPECT_EQ(chrome.panel(), std::nullopt);
+  EXPECT_EQ(chrome().panel(), std::nullopt);
   for (const bool shows : {true, false}) {
     click("infoButton");
-    EXPECT_EQ(chrome.showsInfo(), shows);
+    EXPECT_EQ(chrome().showsInfo(), shows);
     EXPECT_EQ(item("infoButton")->property("active").toBool(), shows);
   }
 }
@@ -140,19 +137,19 @@ TEST_F(ControlBarTest, DragsThePosition) {
 }
 
 TEST_F(ControlBarTest, ChoosesASpeed) {
-  report(MpvProperty::speed, MpvValue(1.0004));
-  EXPECT_EQ(text("speedMenu"), QStringLiteral("1×"));
+  report(MpvProperty::speed, 1.0004);
+  EXPECT_EQ(text("speedMenu"), "1×");
   EXPECT_FALSE(item("speedMenu")->property("active").toBool());
-  report(MpvProperty::speed, MpvValue(1.002));
+  report(MpvProperty::speed, 1.002);
   EXPECT_TRUE(item("speedMenu")->property("active").toBool());
-  report(MpvProperty::speed, MpvValue(1.0004));
+  report(MpvProperty::speed, 1.0004);
   EXPECT_FALSE(item("speedList"));
   click("speedMenu");
   ASSERT_TRUE(isShown("speedList"));
   QStringList checked;
-  for (const QQuickItem* mark : items(QStringLiteral("speedCheckmark")))
+  for (const QQuickItem* mark : items("speedCheckmark"))
     if (mark->isVisible()) checked << mark->parentItem()->parentItem()->objectName();
-  EXPECT_EQ(checked, QStringList{QStringLiteral("speed1×")});
+  EXPECT_EQ(checked, QStringList{"speed1×"});
   click("speed1.25×");
   EXPECT_EQ(takeSent(), Sent{"set speed 1.25"});
   EXPECT_TRUE(item("speedMenu")->property("active").toBool());
@@ -169,7 +166,7 @@ TEST_F(ControlBarTest, ChoosesASpeed) {
 
 TEST_F(ControlBarTest, EverythingFitsAtTheLeastWidth) {
   load(100 * 3600);
-  report(MpvProperty::speed, MpvValue(1.25));
+  report(MpvProperty::speed, 1.25);
   for (const bool all : {false, true}) {
     reportPlaylist(all ? 3 : 1, 0);
     reportChapters(all ? std::vector<double>{0, 50} : std::vector<double>());
@@ -205,4 +202,4 @@ TEST_F(ControlBarTest, TellsWhatAButtonIsForOnceThePointerRestsOnIt) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

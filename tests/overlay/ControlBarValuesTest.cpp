@@ -3,27 +3,26 @@
 #include <gtest/gtest.h>
 
 #include "playback/Chapter.h"
+#include "support/Table.h"
 #include "support/Warnings.h"
 #include "theme/Symbols.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 TEST(ControlBarValuesTest, VolumeSymbols) {
-  struct Row {
-    double volume;
-    bool isMuted;
-    const char* symbol;
-  };
-  for (const Row& row :
-       {Row{0, false, "speaker.slash.fill"}, Row{80, true, "speaker.slash.fill"},
-        Row{0.1, false, "speaker.wave.1.fill"}, Row{33.9, false, "speaker.wave.1.fill"},
-        Row{34, false, "speaker.wave.2.fill"}, Row{66.99, false, "speaker.wave.2.fill"},
-        Row{67, false, "speaker.wave.3.fill"}}) {
-    EXPECT_EQ(volumeSymbol(row.volume, row.isMuted), row.symbol) << row.volume;
-    EXPECT_EQ(Symbols::glyph(row.symbol).size(), 1) << row.symbol;
+  for (const auto& [volume, isMuted, symbol] :
+       Table<double, bool, const char*>{{0, false, "speaker.slash.fill"},
+                                        {80, true, "speaker.slash.fill"},
+                                        {0.1, false, "speaker.wave.1.fill"},
+                                        {33.9, false, "speaker.wave.1.fill"},
+                                        {34, false, "speaker.wave.2.fill"},
+                                        {66.99, false, "speaker.wave.2.fill"},
+                                        {67, false, "speaker.wave.3.fill"}}) {
+    EXPECT_EQ(volumeSymbol(volume, isMuted), symbol) << volume;
+    EXPECT_EQ(Symbols::glyph(symbol).size(), 1) << symbol;
   }
-  testing::expectWarning("There is no symbol named speaker");
+  expectWarning("There is no symbol named speaker");
   EXPECT_EQ(Symbols::glyph("speaker"), "");
 }
 
@@ -43,4 +42,4 @@ TEST(ControlBarValuesTest, MarksOfChapters) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

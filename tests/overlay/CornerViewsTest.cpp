@@ -1,48 +1,48 @@
-#include <QAccessible>
 #include <QSet>
 
 #include "ViewTest.h"
 #include "glass/GlassRendering.h"
+#include "support/Table.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 /// The badge, the info panel, the toast and the close button.
-class CornerViewsTest : public testing::ViewTest {};
+class CornerViewsTest : public ViewTest {};
 
 TEST_F(CornerViewsTest, TheBadgeTellsRangeTitleAndChapter) {
-  const QQuickItem& badge = show("PlayerSignalBadge", {{"playback", model()}});
+  const QQuickItem& badge = show("PlayerSignalBadge", {{"playback", playback()}});
   EXPECT_FALSE(isShown("rangeTag") || isShown("badgeChapter"));
   EXPECT_EQ(text("badgeTitle"), "No video selected");
   const double plain = badge.implicitWidth();
   const double low = badge.implicitHeight();
 
   for (const auto& [gamma, tag] : {std::pair{"pq", "HDR10"}, {"hlg", "HLG"}}) {
-    report(MpvProperty::gamma, MpvValue(std::string(gamma)));
+    report(MpvProperty::gamma, std::string(gamma));
     EXPECT_TRUE(isShown("rangeTag"));
     EXPECT_EQ(text("rangeText"), tag);
   }
   EXPECT_FALSE(item("rangeTag")->property("isGold").toBool());
   EXPECT_EQ(badge.implicitWidth(), plain + item("rangeTag")->width() + 9);
-  report(MpvProperty::dolbyVisionProfile, MpvValue(std::int64_t{8}));
+  report(MpvProperty::dolbyVisionProfile, std::int64_t{8});
   EXPECT_EQ(text("rangeText"), "DOLBY VISION");
   EXPECT_TRUE(item("rangeTag")->property("isGold").toBool());
 
   reportChapters({0, 50});
-  report(MpvProperty::chapter, MpvValue(std::int64_t{1}));
-  EXPECT_EQ(text("badgeChapter"), "A chapter");
+  report(MpvProperty::chapter, std::int64_t{1});
+  EXPECT_EQ(text("badgeChapter"), "At 50");
   EXPECT_TRUE(isShown("badgeChapter"));
   layOut();
   EXPECT_GT(badge.implicitHeight(), low);
-  report(MpvProperty::chapter, MpvValue(std::int64_t{3}));
+  report(MpvProperty::chapter, std::int64_t{3});
   EXPECT_FALSE(isShown("badgeChapter"));
 
   const double high = badge.implicitHeight();
   for (const char* lineBreak : {"\n", "\r\n", "\u2028"}) {
-    report(MpvProperty::mediaTitle, MpvValue(std::string("A") + lineBreak + "film"));
+    report(MpvProperty::mediaTitle, std::string("A") + lineBreak + "film");
     EXPECT_EQ(text("badgeTitle"), "A film");
   }
-  report(MpvProperty::mediaTitle, MpvValue(std::string(300, 'm') + '\n' + std::string(300, 'm')));
+  report(MpvProperty::mediaTitle, std::string(300, 'm') + '\n' + std::string(300, 'm'));
   EXPECT_EQ(badge.implicitHeight(), high);
   view_->setWidth(badge.implicitWidth());
   EXPECT_EQ(item("badgeTitle")->width(), 360);
@@ -51,13 +51,14 @@ TEST_F(CornerViewsTest, TheBadgeTellsRangeTitleAndChapter) {
 }
 
 TEST_F(CornerViewsTest, TheInfoPanelTellsWhatIsPlayed) {
-  QQuickItem& panel = show("PlayerInfoPanel", {{"playback", model()}, {"chrome", chrome()}});
+  QQuickItem& panel =
+      show("PlayerInfoPanel", {{"playback", playback()}, {"chrome", shownChrome()}});
   EXPECT_FALSE(panel.isVisible());
-  player().chrome().setShowsInfo(true);
+  chrome().setShowsInfo(true);
   EXPECT_TRUE(panel.isVisible());
   load(60);
-  report(MpvProperty::decoderDrops, MpvValue(std::int64_t{0}));
-  report(MpvProperty::outputDrops, MpvValue(std::int64_t{12}));
+  report(MpvProperty::decoderDrops, std::int64_t{0});
+  report(MpvProperty::outputDrops, std::int64_t{12});
   for (const auto& [property, value] : {std::pair{MpvProperty::hwdecCurrent, "vaapi"},
                                         {MpvProperty::gamma, "pq"},
                                         {MpvProperty::targetGamma, "bt.1886"},
@@ -66,22 +67,18 @@ TEST_F(CornerViewsTest, TheInfoPanelTellsWhatIsPlayed) {
     report(property, MpvValue(std::string(value)));
   playback_.updateDisplay(ScreenHeadroom{4, 2});
   QSet<QString> values;
-  struct Row {
-    const char* name;
-    const char* label;
-    QString value;
-  };
-  for (const Row& row : {Row{"infoSignal", "Signal", playback_.dynamicRange().label()},
-                         Row{"infoOutput", "Output", playback_.output()},
-                         Row{"infoDisplay", "Display", playback_.display()},
-                         Row{"infoVideo", "Video", QStringLiteral("— · —")},
-                         Row{"infoCodec", "Codec", playback_.codec()},
-                         Row{"infoDecoder", "Decoder", playback_.decoder()},
-                         Row{"infoContainer", "Container", playback_.container()},
-                         Row{"infoDropped", "Dropped", "0 decode · 12 output"}}) {
-    EXPECT_EQ(text(row.name, "label"), row.label);
-    EXPECT_EQ(text(row.name, "value"), row.value) << row.name;
-    values << row.value;
+  for (const auto& [name, label, value] : Table<const char*, const char*, QString>{
+           {"infoSignal", "Signal", playback_.dynamicRange().label()},
+           {"infoOutput", "Output", playback_.output()},
+           {"infoDisplay", "Display", playback_.display()},
+           {"infoVideo", "Video", "— · —"},
+           {"infoCodec", "Codec", playback_.codec()},
+           {"infoDecoder", "Decoder", playback_.decoder()},
+           {"infoContainer", "Container", playback_.container()},
+           {"infoDropped", "Dropped", "0 decode · 12 output"}}) {
+    EXPECT_EQ(text(name, "label"), label);
+    EXPECT_EQ(text(name, "value"), value) << name;
+    values << value;
   }
   EXPECT_EQ(values.size(), 8) << "none can stand in for another";
   EXPECT_EQ(panel.width(), 330);
@@ -91,13 +88,13 @@ TEST_F(CornerViewsTest, TheInfoPanelTellsWhatIsPlayed) {
 }
 
 TEST_F(CornerViewsTest, TheToastIsSaid) {
-  QQuickItem& toast = show("PlayerToast", {{"chrome", chrome()}});
+  QQuickItem& toast = show("PlayerToast", {{"chrome", shownChrome()}});
   EXPECT_FALSE(toast.isVisible());
-  player().chrome().setToast(QStringLiteral("Volume 50%"));
+  chrome().setToast("Volume 50%");
   EXPECT_TRUE(toast.isVisible());
   EXPECT_GT(toast.implicitWidth(), 80);
   const double high = toast.implicitHeight();
-  player().chrome().setToast(QStringLiteral("Chapter: one\nand\ntwo"));
+  chrome().setToast("Chapter: one\nand\ntwo");
   EXPECT_EQ(toast.implicitHeight(), high);
 }
 
@@ -112,4 +109,4 @@ TEST_F(CornerViewsTest, SurfacesAreDrawnAsWasChosen) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -9,8 +9,9 @@
 #include "overlay/WindowPress.h"
 #include "platform/FilePath.h"
 #include "player/DraggedFiles.h"
+#include "support/Table.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 TEST(WindowPressTest, TellsAClickFromAHandThatMovesTheWindow) {
@@ -52,16 +53,15 @@ TEST(WindowPressTest, TellsAClickFromAHandThatMovesTheWindow) {
 TEST(ClickCounterTest, CountsQuickPressesInOnePlace) {
   using std::chrono::milliseconds;
   ClickCounter clicks;
-  struct Row {
-    int time;
-    QPointF place;
-    int count;
-  };
-  for (const Row& row :
-       {Row{1000, {10, 10}, 1}, Row{1399, {15, 5}, 2}, Row{1600, {15, 5}, 3}, Row{1700, {21, 5}, 1},
-        Row{2100, {21, 5}, 1}, Row{2200, {21, 11}, 1}, Row{50, {21, 11}, 1}, Row{51, {21, 11}, 2}})
-    EXPECT_EQ(clicks.press(milliseconds(row.time), row.place, {milliseconds(400), 5}), row.count)
-        << row.time;
+  for (const auto& [time, place, count] : Table<int, QPointF, int>{{1000, {10, 10}, 1},
+                                                                   {1399, {15, 5}, 2},
+                                                                   {1600, {15, 5}, 3},
+                                                                   {1700, {21, 5}, 1},
+                                                                   {2100, {21, 5}, 1},
+                                                                   {2200, {21, 11}, 1},
+                                                                   {50, {21, 11}, 1},
+                                                                   {51, {21, 11}, 2}})
+    EXPECT_EQ(clicks.press(milliseconds(time), place, {milliseconds(400), 5}), count) << time;
 }
 
 TEST(ScrollTest, GivesWholeStepsAndKeepsTheRest) {
@@ -105,9 +105,9 @@ TEST(ScrollTest, TrustsPointsWhereTheHostCan) {
 struct ForeignDrag : QMimeData {
   QByteArray list;
   QVariant retrieveData(const QString& type, QMetaType) const override {
-    return type == QStringLiteral("text/uri-list") ? list : QByteArray();
+    return type == "text/uri-list" ? list : QByteArray();
   }
 };
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

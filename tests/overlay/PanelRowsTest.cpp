@@ -3,14 +3,15 @@
 #include "overlay/PopoverFrame.h"
 #include "overlay/QueueModel.h"
 #include "overlay/TrackModel.h"
+#include "support/Table.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 /// Files by their letters; the one in upper case plays.
 PlayQueue queueOf(const char* letters) {
   PlayQueue queue;
-  for (const QChar letter : QString::fromLatin1(letters))
+  for (const QChar letter : QString(letters))
     queue.append({.id = queue.size(),
                   .title = letter.toLower(),
                   .path = letter.toLower(),
@@ -21,52 +22,47 @@ PlayQueue queueOf(const char* letters) {
 void listenTo(QAbstractItemModel& model, QStringList& log) {
   const auto note = [&log](const char* what) {
     return [&log, what](const QModelIndex&, int first, int last) {
-      log << QStringLiteral("%1 %2-%3").arg(QString::fromLatin1(what)).arg(first).arg(last);
+      log << QString("%1 %2-%3").arg(what).arg(first).arg(last);
     };
   };
   QObject::connect(&model, &QAbstractItemModel::rowsRemoved, &model, note("gone"));
   QObject::connect(&model, &QAbstractItemModel::rowsInserted, &model, note("new"));
   QObject::connect(
       &model, &QAbstractItemModel::dataChanged, &model,
-      [&log](const QModelIndex& first) { log << QStringLiteral("other %1").arg(first.row()); });
+      [&log](const QModelIndex& first) { log << QString("other %1").arg(first.row()); });
   QObject::connect(&model, &QAbstractItemModel::modelReset, &model, [&log] { log << "reset"; });
 }
 
 TEST(QueueModelTest, ChangesNoMoreRowsThanItHasTo) {
-  struct Row {
-    const char* name;
-    const char* before;
-    const char* after;
-    QStringList changes;
-  };
-  for (const Row& row : {
-           Row{"the first list", "", "Abc", {"new 0-2"}},
-           Row{"the same", "aBc", "aBc", {}},
-           Row{"the next one plays", "aBcd", "abCd", {"other 1", "other 2"}},
-           Row{"one is removed", "Abcd", "Abd", {"gone 2-2", "other 2"}},
-           Row{"the last one is", "Abc", "Ab", {"gone 2-2"}},
-           Row{"the current one is", "aBcd", "aCd", {"gone 1-1", "other 1", "other 2"}},
-           Row{"two are appended", "Ab", "Abcd", {"new 2-3"}},
-           Row{"one comes in between", "Abc", "Axbc", {"new 1-1", "other 2", "other 3"}},
-           Row{"one is replaced", "Abc", "Axc", {"gone 1-1", "new 1-1"}},
-           Row{"what is up next is cleared", "abCde", "C", {"gone 0-4", "new 0-0"}},
-           Row{"a file that is there twice", "Aaab", "Aab", {"gone 2-2", "other 2"}},
-           Row{"nothing remains", "Ab", "", {"gone 0-1"}},
+  for (const auto& [name, before, after, changes] :
+       Table<const char*, const char*, const char*, QStringList>{
+           {"the first list", "", "Abc", {"new 0-2"}},
+           {"the same", "aBc", "aBc", {}},
+           {"the next one plays", "aBcd", "abCd", {"other 1", "other 2"}},
+           {"one is removed", "Abcd", "Abd", {"gone 2-2", "other 2"}},
+           {"the last one is", "Abc", "Ab", {"gone 2-2"}},
+           {"the current one is", "aBcd", "aCd", {"gone 1-1", "other 1", "other 2"}},
+           {"two are appended", "Ab", "Abcd", {"new 2-3"}},
+           {"one comes in between", "Abc", "Axbc", {"new 1-1", "other 2", "other 3"}},
+           {"one is replaced", "Abc", "Axc", {"gone 1-1", "new 1-1"}},
+           {"what is up next is cleared", "abCde", "C", {"gone 0-4", "new 0-0"}},
+           {"a file that is there twice", "Aaab", "Aab", {"gone 2-2", "other 2"}},
+           {"nothing remains", "Ab", "", {"gone 0-1"}},
        }) {
-    SCOPED_TRACE(row.name);
+    SCOPED_TRACE(name);
     QueueModel model;
-    model.setItems(queueOf(row.before));
+    model.setItems(queueOf(before));
     QStringList log;
     listenTo(model, log);
-    model.setItems(queueOf(row.after));
-    const PlayQueue expected = queueOf(row.after);
+    model.setItems(queueOf(after));
+    const PlayQueue expected = queueOf(after);
     EXPECT_EQ(model.items(), expected);
     ASSERT_EQ(model.rowCount(), expected.size());
     const int title = model.roleNames().key("title");
     for (int i = 0; i < model.rowCount(); ++i)
       EXPECT_EQ(model.data(model.index(i), title), expected[i].title);
     EXPECT_EQ(model.current(), currentIndex(expected).value_or(-1));
-    EXPECT_EQ(log, row.changes) << qPrintable(log.join(u'|'));
+    EXPECT_EQ(log, changes) << qPrintable(log.join(u'|'));
   }
 }
 
@@ -87,23 +83,17 @@ TEST(TrackModelTest, KeepsItsRowsWhileAnotherTrackIsChosen) {
 
 TEST(PopoverFrameTest, StaysAboveItsButtonAndInsideTheRoom) {
   const QRectF room(10, 10, 500, 200);
-  struct Row {
-    const char* name;
-    double middle;
-    QSizeF wanted;
-    QRectF frame;
-  };
-  for (const Row& row : {
-           Row{"over the button", 250, {100, 50}, {200, 160, 100, 50}},
-           Row{"at the right edge", 490, {100, 50}, {410, 160, 100, 50}},
-           Row{"at the left edge", 12, {100, 50}, {10, 160, 100, 50}},
-           Row{"too high", 250, {100, 900}, {200, 10, 100, 200}},
-           Row{"too wide", 250, {900, 50}, {10, 160, 500, 50}},
-           Row{"between pixels", 250.3, {101, 50.5}, {200, 160, 101, 50}},
+  for (const auto& [name, middle, wanted, frame] : Table<const char*, double, QSizeF, QRectF>{
+           {"over the button", 250, {100, 50}, {200, 160, 100, 50}},
+           {"at the right edge", 490, {100, 50}, {410, 160, 100, 50}},
+           {"at the left edge", 12, {100, 50}, {10, 160, 100, 50}},
+           {"too high", 250, {100, 900}, {200, 10, 100, 200}},
+           {"too wide", 250, {900, 50}, {10, 160, 500, 50}},
+           {"between pixels", 250.3, {101, 50.5}, {200, 160, 101, 50}},
        })
-    EXPECT_EQ(popoverFrame(row.middle, row.wanted, room), row.frame) << row.name;
+    EXPECT_EQ(popoverFrame(middle, wanted, room), frame) << name;
   EXPECT_TRUE(popoverFrame(0, {100, 50}, QRectF(10, 10, -20, -20)).isEmpty());
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -3,20 +3,11 @@
 #include <QTranslator>
 
 #include "OverlayTest.h"
+#include "support/Reader.h"
+#include "support/Table.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
-
-using testing::waitFor;
-
-MpvNode track(const char* type, std::int64_t id, const char* title, bool isSelected,
-              const char* codec = "") {
-  return MpvNode{MpvMap{{"type", MpvNode{type}},
-                        {"id", MpvNode{id}},
-                        {"title", MpvNode{title}},
-                        {"codec", MpvNode{codec}},
-                        {"selected", MpvNode{isSelected}}}};
-}
 
 /// Asked before the window, as the player's keys are.
 struct KeyCounter : QObject {
@@ -27,7 +18,7 @@ struct KeyCounter : QObject {
   }
 };
 
-class PanelsTest : public testing::ViewTest {
+class PanelsTest : public ViewTest {
  protected:
   PanelsTest() { host_.resize(800, 700); }
 
@@ -55,15 +46,15 @@ class PanelsTest : public testing::ViewTest {
 };
 
 TEST_F(PanelsTest, TracksAreChosenByTheirRows) {
-  show("TracksPanel", {{"playback", model()}, {"width", 360}, {"height", 700}});
+  show("TracksPanel", {{"playback", playback()}, {"width", 360}, {"height", 700}});
   EXPECT_EQ(ticked(), QStringList{"Off"});
   EXPECT_FALSE(isShown("audioSection"));
   EXPECT_TRUE(all("track").isEmpty());
 
   const MpvList tracks{track("sub", 3, "Signs", false, "ass"), track("sub", 7, "Full", true),
                        track("audio", 4, "Stereo", false), track("audio", 9, "Comment", true)};
-  report(MpvProperty::trackList, MpvValue(MpvNode{tracks}));
-  testing::settle();
+  report(MpvProperty::trackList, MpvNode{tracks});
+  settle();
   EXPECT_TRUE(waitFor([this] { return all("track").size() == 4 && isShown("audioSection"); }));
   EXPECT_TRUE(waitFor([this] {
     return frame(only("audioSection")).top() > frame(only("subtitleTiming")).bottom();
@@ -82,10 +73,10 @@ TEST_F(PanelsTest, TracksAreChosenByTheirRows) {
 }
 
 TEST_F(PanelsTest, DelaysGoInStepsAndBack) {
-  show("TracksPanel", {{"playback", model()}, {"width", 360}, {"height", 700}});
-  report(MpvProperty::trackList, MpvValue(MpvNode{MpvList{track("audio", 1, "", true)}}));
+  show("TracksPanel", {{"playback", playback()}, {"width", 360}, {"height", 700}});
+  reportTracks(MpvList{track("audio", 1, "", true)});
   ASSERT_TRUE(waitFor([this] { return isShown("audioSync"); }));
-  testing::settle();
+  settle();
   struct Row {
     const char* row;
     const char* property;
@@ -112,12 +103,12 @@ TEST_F(PanelsTest, DelaysGoInStepsAndBack) {
 
 TEST_F(PanelsTest, AChapterIsGoneTo) {
   reportChapters({0, 61, 3700});
-  show("ChaptersPanel", {{"playback", model()}, {"width", 320}, {"height", 400}});
+  show("ChaptersPanel", {{"playback", playback()}, {"width", 320}, {"height", 400}});
   ASSERT_TRUE(waitFor([this] { return all("chapter").size() == 3; }));
   EXPECT_EQ(texts(all("chapterTime"), "text"), QStringList({"0:00", "1:01", "1:01:40"}));
   const auto current = [this] { return texts(all("chapter"), "isCurrent").indexOf("true"); };
   EXPECT_EQ(current(), -1);
-  report(MpvProperty::chapter, MpvValue(std::int64_t{1}));
+  report(MpvProperty::chapter, std::int64_t{1});
   EXPECT_EQ(current(), 1);
   takeSent();
   click(all("chapter")[2]);
@@ -126,24 +117,22 @@ TEST_F(PanelsTest, AChapterIsGoneTo) {
 }
 
 TEST_F(PanelsTest, TheQueueIsPlayedAndClearedByItsRows) {
-  show("QueuePanel", {{"playback", model()}, {"width", 340}, {"height", 400}});
-  struct Row {
-    int count;
-    int current;
-    bool hint;
-    bool canClear;
-  };
-  for (const Row& row : {Row{0, -1, true, false}, Row{1, 0, true, false}, Row{2, 1, false, false},
-                         Row{2, 0, false, true}, Row{3, 1, false, true}}) {
-    SCOPED_TRACE(row.count * 10 + row.current);
-    reportPlaylist(row.count, row.current);
-    ASSERT_TRUE(waitFor([&] { return all("queueItem").size() == row.count; }));
-    EXPECT_EQ(isShown("queueHint"), row.hint);
-    EXPECT_EQ(only("clearUpNext")->isEnabled(), row.canClear);
-    EXPECT_EQ(all("removeFromQueue").size(), row.count - (row.current >= 0));
-    EXPECT_EQ(texts(all("queueItem"), "isCurrent").indexOf("true"), row.current);
+  show("QueuePanel", {{"playback", playback()}, {"width", 340}, {"height", 400}});
+  for (const auto& [count, current, hint, canClear] :
+       Table<int, int, bool, bool>{{0, -1, true, false},
+                                   {1, 0, true, false},
+                                   {2, 1, false, false},
+                                   {2, 0, false, true},
+                                   {3, 1, false, true}}) {
+    SCOPED_TRACE(count * 10 + current);
+    reportPlaylist(count, current);
+    ASSERT_TRUE(waitFor([&] { return all("queueItem").size() == count; }));
+    EXPECT_EQ(isShown("queueHint"), hint);
+    EXPECT_EQ(only("clearUpNext")->isEnabled(), canClear);
+    EXPECT_EQ(all("removeFromQueue").size(), count - (current >= 0));
+    EXPECT_EQ(texts(all("queueItem"), "isCurrent").indexOf("true"), current);
   }
-  testing::settle();
+  settle();
   takeSent();
   click(all("queueItem")[1]);
   EXPECT_EQ(takeSent(), Sent()) << "it plays";
@@ -159,7 +148,7 @@ TEST_F(PanelsTest, TheQueueIsPlayedAndClearedByItsRows) {
 }
 
 TEST_F(PanelsTest, ARowOfTheQueueTellsOneThingAtATime) {
-  show("QueuePanel", {{"playback", model()}, {"width", 340}, {"height", 400}});
+  show("QueuePanel", {{"playback", playback()}, {"width", 340}, {"height", 400}});
   reportPlaylist(3, 0);
   ASSERT_TRUE(waitFor([this] { return all("queueItem").size() == 3; }));
   layOut();
@@ -173,24 +162,24 @@ TEST_F(PanelsTest, ARowOfTheQueueTellsOneThingAtATime) {
 
 TEST_F(PanelsTest, ALongQueueKeepsItsPlaceWhileItChanges) {
   reportPlaylist(5000, 0);
-  show("QueuePanel", {{"playback", model()}, {"width", 340}, {"height", 400}});
+  show("QueuePanel", {{"playback", playback()}, {"width", 340}, {"height", 400}});
   QQuickItem* const rows = only("queueRows");
   ASSERT_TRUE(waitFor([this] { return !all("queueItem").isEmpty(); }));
   EXPECT_LT(all("queueItem").size(), 60) << "only what can be seen is made";
   rows->setProperty("contentY", 3000);
   ASSERT_TRUE(waitFor([this] { return all("queueItem").size() > 5; }));
   reportPlaylist(5001, 1);
-  testing::settle();
+  settle();
   EXPECT_EQ(rows->property("contentY"), 3000);
 }
 
 /// The panels above the control bar, over a video.
-class PopoverTest : public testing::OverlayTest {
+class PopoverTest : public OverlayTest {
  protected:
   PopoverTest() { host_.resize(800, 700); }
 
   void open(PlayerPanel panel) {
-    player().chrome().setPanel(panel);
+    chrome().setPanel(panel);
     ASSERT_TRUE(waitFor([this] { return all("playerPopover").size() == 1; }));
   }
   QList<QQuickItem*> shownTexts(const QQuickItem& whole) {
@@ -232,34 +221,32 @@ TEST_F(PopoverTest, OpensAboveTheBarWithinTheWindow) {
       EXPECT_GE(popover().width(), 320);
       EXPECT_GE(popover().left(), 10);
       EXPECT_LE(popover().right(), size.width() - 10);
-      player().chrome().setPanel(std::nullopt);
+      chrome().setPanel(std::nullopt);
       ASSERT_TRUE(waitFor([this] { return all("playerPopover").isEmpty(); }));
     }
 }
 
 TEST_F(PopoverTest, HasRoomForItsTextsInGerman) {
   QTranslator german;
-  ASSERT_TRUE(german.load(QStringLiteral(TROMELO_GERMAN)));
+  ASSERT_TRUE(german.load(TROMELO_GERMAN));
   QCoreApplication::installTranslator(&german);
   makeOverlay();
   load(60);
   reportPlaylist(2, 0);
   reportChapters({0, 50});
-  report(MpvProperty::trackList, MpvValue(MpvNode{MpvList{track("audio", 1, "", true)}}));
-  player().chrome().setShowsInfo(true);
-  struct Row {
-    std::optional<PlayerPanel> panel;
-    const char* view;
-  };
-  for (const Row& row :
-       {Row{PlayerPanel::tracks, "playerPopover"}, Row{PlayerPanel::chapters, "playerPopover"},
-        Row{PlayerPanel::queue, "playerPopover"},
-        Row{PlayerPanel::shortcuts, "playerShortcutsPanel"}, Row{{}, "playerInfoPanel"},
-        Row{{}, "playerControlBar"}}) {
-    player().chrome().setPanel(row.panel);
-    ASSERT_TRUE(waitFor([&] { return only(row.view) != nullptr; }));
+  reportTracks(MpvList{track("audio", 1, "", true)});
+  chrome().setShowsInfo(true);
+  for (const auto& [panel, view] : Table<std::optional<PlayerPanel>, const char*>{
+           {PlayerPanel::tracks, "playerPopover"},
+           {PlayerPanel::chapters, "playerPopover"},
+           {PlayerPanel::queue, "playerPopover"},
+           {PlayerPanel::shortcuts, "playerShortcutsPanel"},
+           {std::nullopt, "playerInfoPanel"},
+           {std::nullopt, "playerControlBar"}}) {
+    chrome().setPanel(panel);
+    ASSERT_TRUE(waitFor([&] { return only(view) != nullptr; }));
     layOut();
-    const QList<QQuickItem*> texts = shownTexts(*only(row.view));
+    const QList<QQuickItem*> texts = shownTexts(*only(view));
     EXPECT_GT(texts.size(), 2);
     expectRoom(texts);
   }
@@ -267,15 +254,14 @@ TEST_F(PopoverTest, HasRoomForItsTextsInGerman) {
 
 TEST_F(PopoverTest, ComesAndGoesInOneStepWithoutMotion) {
   engine_.singletonInstance<QObject*>("Tromelo.Theme", "Theme")->setProperty("motion", 0);
-  player().chrome().setPanel(PlayerPanel::tracks);
+  chrome().setPanel(PlayerPanel::tracks);
   ASSERT_EQ(all("playerPopover").size(), 1);
   EXPECT_EQ(all("playerPopover").first()->parentItem()->parentItem()->parentItem()->opacity(), 1);
-  player().chrome().setPanel(std::nullopt);
+  chrome().setPanel(std::nullopt);
   EXPECT_TRUE(all("playerPopover").isEmpty());
 }
 
 TEST_F(PopoverTest, APressOutsideOnlyClosesIt) {
-  PlayerChrome& chrome = player().chrome();
   reportChapters({0, 1});
   for (const PlayerPanel panel : {PlayerPanel::tracks, PlayerPanel::chapters, PlayerPanel::queue}) {
     SCOPED_TRACE(static_cast<int>(panel));
@@ -283,9 +269,9 @@ TEST_F(PopoverTest, APressOutsideOnlyClosesIt) {
     const QPointF inside = popover().topLeft() + QPointF(3, 30);
     click(inside);
     scroll(inside);
-    EXPECT_EQ(chrome.panel(), panel);
+    EXPECT_EQ(chrome().panel(), panel);
     click(QPointF(20, 40));  // where the way back to the library is
-    EXPECT_EQ(chrome.panel(), std::nullopt);
+    EXPECT_EQ(chrome().panel(), std::nullopt);
     EXPECT_EQ(take(), QStringList());
     ASSERT_TRUE(waitFor([this] { return all("playerPopover").isEmpty(); }));
   }
@@ -297,16 +283,76 @@ TEST_F(PopoverTest, APressOutsideOnlyClosesIt) {
     return all("chapter").size() == 2;
   }));
   click(all("chapter")[1]);
-  EXPECT_EQ(chrome.panel(), std::nullopt) << "it was chosen from";
+  EXPECT_EQ(chrome().panel(), std::nullopt) << "it was chosen from";
 
   open(PlayerPanel::queue);
   takeSent();
   click("muteButton");
   EXPECT_EQ(takeSent(), Sent{"set mute yes"}) << "the bar's presses are its own";
-  EXPECT_EQ(chrome.panel(), PlayerPanel::queue);
+  EXPECT_EQ(chrome().panel(), PlayerPanel::queue);
   for (const std::optional<PlayerPanel> panel : {std::optional(PlayerPanel::tracks), {}}) {
     click("tracksButton");
-    EXPECT_EQ(chrome.panel(), panel);
+    EXPECT_EQ(chrome().panel(), panel);
+  }
+}
+
+TEST_F(PopoverTest, AllIsKnownAndUsedWithoutBeingSeen) {
+  using enum QAccessible::Role;
+  load(100);
+  report(MpvProperty::pause, false);
+  report(MpvProperty::videoFormat, "h264");
+  reportPlaylist(2, 0);
+  reportChapters({0, 50});
+  reportTracks(MpvList{track("sub", 3, "Signs", false), track("audio", 4, "", true)});
+  Reader reader(host_);
+  reader.press(Button, "Pause");
+  report(MpvProperty::pause, true);
+  reader.set(Slider, "Volume", 40);
+  EXPECT_EQ(reader.find(Slider, "Volume")->valueInterface()->currentValue(), 40);
+  reader.expect({{Button, "Close player"},
+                 {ToolBar, "Playback controls"},
+                 {Button, "Mute"},
+                 {Button, "Back 10 seconds"},
+                 {Button, "Play"},
+                 {Button, "Forward 10 seconds"},
+                 {Button, "Full screen"},
+                 {Slider, "Position"}});
+  reader.press(ButtonMenu, "Playback speed");
+  EXPECT_TRUE(reader.state(MenuItem, "1×").checked);
+  reader.press(MenuItem, "2×");
+  EXPECT_EQ(takeSent(), Sent({"set pause yes", "set volume 40.0", "set speed 2.0"}));
+  player().showToast("Muted");
+  EXPECT_EQ(Reader::heard, QStringList{"Muted"});
+  for (const auto& [opener, objects, role, name, sent] :
+       testing::Table<const char*, std::vector<Reader::Expected>, QAccessible::Role, const char*,
+                      Sent>{
+           {"Subtitles & audio",
+            {{Pane, "Subtitles and audio"},
+             {Heading, "Subtitles"},
+             {RadioButton, "Off"},
+             {Button, "Add Subtitle File…"},
+             {Grouping, "Timing"}},
+            RadioButton,
+            "Signs",
+            {"set sid 3"}},
+           {"Queue",
+            {{Pane, "Queue"}, {Heading, "Queue"}, {Button, "Add…"}, {Button, "Clear Up Next"}},
+            ListItem,
+            "1",
+            {"playlist-play-index 1"}},
+           {"Chapters", {{List, "Chapters"}}, ListItem, "At 50", {"set chapter 1"}},
+           {"Playback info",
+            {{Grouping, "Playback info"}, {StaticText, "Codec: H264"}},
+            Button,
+            "Mute",
+            {"set mute yes"}}}) {
+    SCOPED_TRACE(opener);
+    reader.press(Button, opener);
+    layOut();
+    EXPECT_TRUE(reader.state(Button, opener).checked);
+    reader.expect(objects);
+    reader.press(role, name);
+    EXPECT_EQ(takeSent(), sent);
   }
 }
 
@@ -326,4 +372,4 @@ TEST_F(PopoverTest, EscClosesTheListOfFontsFirst) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

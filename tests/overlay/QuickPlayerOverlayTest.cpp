@@ -2,13 +2,14 @@
 
 #include "OverlayTest.h"
 #include "support/DrivenAnimations.h"
+#include "support/Table.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 using namespace std::chrono_literals;
 
-class QuickPlayerOverlayTest : public testing::OverlayTest {
+class QuickPlayerOverlayTest : public OverlayTest {
  protected:
   /// The second click of two, which the window system tells of twice.
   void secondClick(QPointF place) {
@@ -28,13 +29,13 @@ class QuickPlayerOverlayTest : public testing::OverlayTest {
 };
 
 TEST_F(QuickPlayerOverlayTest, PlacesItsViewsAtAnySize) {
-  player().chrome().setShowsInfo(true);
-  player().chrome().setPanel(PlayerPanel::shortcuts);
-  player().chrome().setToast(QStringLiteral("Volume 50%"));
+  chrome().setShowsInfo(true);
+  chrome().setPanel(PlayerPanel::shortcuts);
+  chrome().setToast("Volume 50%");
   for (const QSizeF size : {QSizeF(520, 300), QSizeF(799, 451), QSizeF(1920, 1080)}) {
     SCOPED_TRACE(size.width());
     layer_.setSize(size);
-    testing::settle();
+    settle();
     EXPECT_TRUE(take().contains("layout"));
     const QRectF whole(QPointF(), size);
     const QRectF close = frame("playerCloseButton");
@@ -55,8 +56,8 @@ TEST_F(QuickPlayerOverlayTest, PlacesItsViewsAtAnySize) {
       EXPECT_TRUE(whole.contains(frame(name))) << name;
     }
   }
-  report(MpvProperty::mediaTitle, MpvValue(std::string(300, 'm')));
-  report(MpvProperty::gamma, MpvValue(std::string("hlg")));
+  report(MpvProperty::mediaTitle, std::string(300, 'm'));
+  report(MpvProperty::gamma, std::string("hlg"));
   layer_.setSize({520, 300});
   EXPECT_GT(frame("playerSignalBadge").left(), frame("playerCloseButton").right());
 }
@@ -81,30 +82,25 @@ TEST_F(QuickPlayerOverlayTest, ChromeTakesClicksOnlyWhileItIsShown) {
 
 TEST_F(QuickPlayerOverlayTest, PanelsAreInTheWayWhileTheyAreShownAndTheToastNever) {
   overlay_->setChromeVisible(true, false);
-  PlayerChrome& chrome = player().chrome();
-  struct Row {
-    const char* view;
-    bool isChrome;
-    bool takesClicks;
-  };
-  for (const Row& row :
-       {Row{"playerInfoPanel", true, true}, Row{"playerShortcutsPanel", false, true},
-        Row{"playerToast", false, false}}) {
-    SCOPED_TRACE(row.view);
-    chrome.setShowsInfo(row.isChrome);
-    chrome.setToast(QStringLiteral("Volume 50%"));
-    if (row.takesClicks && !row.isChrome) chrome.setPanel(PlayerPanel::shortcuts);
-    const QPointF place = frame(row.view).center();
-    ASSERT_TRUE(item(row.view)->isVisible());
+  for (const auto& [view, isChrome, takesClicks] :
+       Table<const char*, bool, bool>{{"playerInfoPanel", true, true},
+                                      {"playerShortcutsPanel", false, true},
+                                      {"playerToast", false, false}}) {
+    SCOPED_TRACE(view);
+    chrome().setShowsInfo(isChrome);
+    chrome().setToast("Volume 50%");
+    if (takesClicks && !isChrome) chrome().setPanel(PlayerPanel::shortcuts);
+    const QPointF place = frame(view).center();
+    ASSERT_TRUE(item(view)->isVisible());
     move(place);
-    EXPECT_EQ(overlay_->isMouseInsideChrome(), row.isChrome);
+    EXPECT_EQ(overlay_->isMouseInsideChrome(), isChrome);
     take();
     click(place);
-    EXPECT_EQ(take(), row.takesClicks ? QStringList() : QStringList{"click"});
-    chrome.setShowsInfo(false);
-    chrome.setPanel(std::nullopt);
-    chrome.setToast(std::nullopt);
-    EXPECT_FALSE(item(row.view)->isVisible());
+    EXPECT_EQ(take(), takesClicks ? QStringList() : QStringList{"click"});
+    chrome().setShowsInfo(false);
+    chrome().setPanel(std::nullopt);
+    chrome().setToast(std::nullopt);
+    EXPECT_FALSE(item(view)->isVisible());
     EXPECT_FALSE(overlay_->isMouseInsideChrome());
     time_ += 1s;
     click(place);
@@ -121,7 +117,7 @@ TEST_F(QuickPlayerOverlayTest, TellsOfARealPointerThatMoves) {
   EXPECT_TRUE(overlay_->isMouseInsideChrome());
   overlay_->setChromeVisible(false, false);
   overlay_->setChromeVisible(true, false);
-  testing::settle();
+  settle();
   move(bar);
   clock_.advance(1s);
   EXPECT_EQ(take(), QStringList()) << "it rested";
@@ -154,7 +150,7 @@ TEST_F(QuickPlayerOverlayTest, TellsOfARealPointerThatMoves) {
 }
 
 TEST_F(QuickPlayerOverlayTest, FadesItsChromeAsOne) {
-  testing::DrivenAnimations time;
+  DrivenAnimations time;
   QQuickItem& chrome = *item("playerChrome");
   overlay_->setChromeVisible(false, true);
   time.advanceBy(200ms);
@@ -184,4 +180,4 @@ TEST_F(QuickPlayerOverlayTest, ScrollsOverVideoAndChrome) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

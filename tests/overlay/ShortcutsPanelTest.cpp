@@ -1,21 +1,21 @@
 #include "ViewTest.h"
 #include "player/PlayerShortcuts.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
-class ShortcutsPanelTest : public testing::ViewTest {
+class ShortcutsPanelTest : public ViewTest {
  protected:
   QQuickItem& showPanel(QVariantMap properties = {}) {
-    properties.insert(QStringLiteral("chrome"), chrome());
-    player().chrome().setPanel(PlayerPanel::shortcuts);
+    properties.insert("chrome", shownChrome());
+    chrome().setPanel(PlayerPanel::shortcuts);
     QQuickItem& panel = show("PlayerShortcutsPanel", properties);
     layOut();
     return panel;
   }
   QStringList textsOf(const char* name, const char* column) {
     QStringList found;
-    for (const QQuickItem* one : items(QString::fromUtf8(name), item(column)))
+    for (const QQuickItem* one : items(name, item(column)))
       found << one->property("text").toString();
     return found;
   }
@@ -28,11 +28,11 @@ TEST_F(ShortcutsPanelTest, ListsTheKeysInTwoColumnsWhileItIsTheOpenPanel) {
   EXPECT_EQ(textsOf("shortcutsTitle", "shortcutsRight"),
             (QStringList{"Audio & subtitles", "Window"}));
   EXPECT_EQ(textsOf("shortcutKeys", "shortcutsLeft").value(2), "Shift+← / Shift+→");
-  player().chrome().setPanel(PlayerPanel::queue);
+  chrome().setPanel(PlayerPanel::queue);
   EXPECT_FALSE(panel.isVisible());
-  player().chrome().setPanel(PlayerPanel::shortcuts);
+  chrome().setPanel(PlayerPanel::shortcuts);
   click("closeShortcuts");
-  EXPECT_EQ(player().chrome().panel(), std::nullopt);
+  EXPECT_EQ(chrome().panel(), std::nullopt);
   showPanel({{"groups", QVariant::fromValue(PlayerShortcuts::groups().first(1))}});
   EXPECT_EQ(textsOf("shortcutsTitle", "shortcutsRight"), QStringList());
   EXPECT_EQ(item("shortcutsLeft")->width(), item("shortcutsRight")->width());
@@ -47,7 +47,7 @@ TEST_F(ShortcutsPanelTest, NothingIsCutOffInAnyWindow) {
     for (const char* column : {"shortcutsLeft", "shortcutsRight"})
       for (const char* name : {"shortcutKeys", "shortcutAction"}) {
         double above = 0;
-        for (const QQuickItem* one : items(QString::fromUtf8(name), item(column))) {
+        for (const QQuickItem* one : items(name, item(column))) {
           EXPECT_LE(one->property("contentWidth").toDouble(), one->width());
           EXPECT_TRUE(frame(item(column)).contains(frame(one)));
           EXPECT_GT(frame(one).top(), above);
@@ -56,7 +56,7 @@ TEST_F(ShortcutsPanelTest, NothingIsCutOffInAnyWindow) {
       }
     list.setProperty("contentY", list.property("contentHeight").toDouble() - list.height());
     for (const char* column : {"shortcutsLeft", "shortcutsRight"}) {
-      const QQuickItem* last = items(QStringLiteral("shortcut"), item(column)).last();
+      const QQuickItem* last = items("shortcut", item(column)).last();
       EXPECT_LE(frame(last).bottom(), frame(&list).bottom() + 1);
     }
     EXPECT_EQ(frame(item("closeShortcuts")).bottom(), title);
@@ -65,4 +65,4 @@ TEST_F(ShortcutsPanelTest, NothingIsCutOffInAnyWindow) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -8,7 +8,7 @@
 #include "platform/FilePath.h"
 #include "support/WaitFor.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 class DesktopRecents : public ::testing::Test {
@@ -48,7 +48,7 @@ TEST_F(DesktopRecents, FollowsThePersonInOrder) {
     removeFromDesktopRecents(gone);
   }
   addToDesktopRecents(kept);
-  EXPECT_TRUE(testing::waitFor([&] { return has("kept"); }));
+  EXPECT_TRUE(waitFor([&] { return has("kept"); }));
   EXPECT_FALSE(has("gone"));
 }
 
@@ -63,4 +63,4 @@ TEST_F(DesktopRecents, LeavesADamagedListAlone) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

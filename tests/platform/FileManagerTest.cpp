@@ -10,7 +10,7 @@
 #include "support/BusDaemon.h"
 #include "support/WaitFor.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 /// The desktop's side.
@@ -35,13 +35,13 @@ class FileManagerTest : public ::testing::Test {
 
   /// Says which folder it was told to open.
   void installOpener() {
-    QFile opener(directory_.filePath(QStringLiteral("xdg-open")));
+    QFile opener(directory_.filePath("xdg-open"));
     ASSERT_TRUE(opener.open(QIODevice::WriteOnly));
     opener.write("#!/bin/sh\nprintf %s \"$1\" > '" + openedPath().toUtf8() + "'\n");
     opener.close();
     opener.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
   }
-  QString openedPath() const { return directory_.filePath(QStringLiteral("opened")); }
+  QString openedPath() const { return directory_.filePath("opened"); }
   QByteArray opened() const {
     QFile file(openedPath());
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -55,35 +55,35 @@ class FileManagerTest : public ::testing::Test {
 };
 
 TEST_F(FileManagerTest, ShowsTheFileOrItsFolderOrSaysWhyNot) {
-  const testing::BusDaemon daemon;
+  const BusDaemon daemon;
   ASSERT_FALSE(daemon.address().isEmpty());
   qputenv("DBUS_SESSION_BUS_ADDRESS", daemon.address().toUtf8());
   qputenv("PATH", directory_.path().toUtf8());
-  const QString name = QStringLiteral("file manager");
+  const QString name = "file manager";
   DesktopFileManager files;
   {
     QDBusConnection desktop = QDBusConnection::connectToBus(daemon.address(), name);
-    ASSERT_TRUE(desktop.registerObject(QStringLiteral("/org/freedesktop/FileManager1"), &files,
+    ASSERT_TRUE(desktop.registerObject("/org/freedesktop/FileManager1", &files,
                                        QDBusConnection::ExportAllSlots));
-    ASSERT_TRUE(desktop.registerService(QStringLiteral("org.freedesktop.FileManager1")));
+    ASSERT_TRUE(desktop.registerService("org.freedesktop.FileManager1"));
     manager_.show(film_);
-    EXPECT_TRUE(testing::waitFor([&] { return !files.shown.isEmpty(); }));
-    EXPECT_EQ(files.shown, QStringList{QStringLiteral("file:///films%20%E9/a%20film.mkv")});
+    EXPECT_TRUE(waitFor([&] { return !files.shown.isEmpty(); }));
+    EXPECT_EQ(files.shown, QStringList{"file:///films%20%E9/a%20film.mkv"});
   }
   QDBusConnection::disconnectFromBus(name);
 
   installOpener();
   manager_.show(film_);
-  EXPECT_TRUE(testing::waitFor([&] { return !opened().isEmpty(); }));
+  EXPECT_TRUE(waitFor([&] { return !opened().isEmpty(); }));
   EXPECT_EQ(opened(), "file:///films%20%E9/");
   EXPECT_EQ(said_, QString());
 
-  ASSERT_TRUE(QFile::remove(directory_.filePath(QStringLiteral("xdg-open"))));
+  ASSERT_TRUE(QFile::remove(directory_.filePath("xdg-open")));
   manager_.show(film_);
-  EXPECT_TRUE(testing::waitFor([&] { return !said_.isEmpty(); }));
+  EXPECT_TRUE(waitFor([&] { return !said_.isEmpty(); }));
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing
 
 #include "FileManagerTest.moc"

@@ -6,8 +6,9 @@
 
 #include "platform/LocalFiles.h"
 #include "platform/NumberText.h"
+#include "support/Table.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 TEST(FilePath, KeepsEveryByteOfAPathThroughAUrl) {
@@ -35,35 +36,28 @@ TEST(FilePath, IsAbsoluteFromTheWorkingDirectory) {
 }
 
 TEST(FilePath, GivesNothingForWhatIsNoLocalFile) {
-  EXPECT_EQ(pathFromFileUrl(QUrl(QStringLiteral("https://example.org/movie.mkv"))), "");
+  EXPECT_EQ(pathFromFileUrl(QUrl("https://example.org/movie.mkv")), "");
   EXPECT_EQ(fileUrlFromPath(""), QUrl());
 }
 
 TEST(FilePath, OfAnAddressIsWhatTheDesktopKnows) {
-  EXPECT_EQ(mountedPath(QUrl(QStringLiteral("file:///a%20b"))), "/a b");
-  EXPECT_EQ(mountedPath(QUrl(QStringLiteral("no-such-scheme://nas/a"))), "");
+  EXPECT_EQ(mountedPath(QUrl("file:///a%20b")), "/a b");
+  EXPECT_EQ(mountedPath(QUrl("no-such-scheme://nas/a")), "");
 }
 
 TEST(FilePath, ShortensNamesForPeople) {
-  struct Row {
-    const char* path;
-    const char* name;
-    const char* withoutExtension;
-  };
-  const Row rows[] = {
-      {"/films/Movie.mkv", "Movie.mkv", "Movie"},
-      {"/films/My.Film.2020.mkv", "My.Film.2020.mkv", "My.Film.2020"},
-      {"/films/.hidden", ".hidden", ".hidden"},
-      {"/films/ends.", "ends.", "ends."},
-      {"/films/no extension", "no extension", "no extension"},
-      {"/films/Episode 1. The start", "Episode 1. The start", "Episode 1. The start"},
-      {"/films/folder/", "folder", "folder"},
-  };
-  for (const Row& row : rows) {
-    const QUrl url = fileUrlFromPath(row.path);
-    EXPECT_EQ(lastPathComponent(url), QString::fromUtf8(row.name)) << row.path;
-    EXPECT_EQ(lastPathComponentWithoutExtension(url), QString::fromUtf8(row.withoutExtension))
-        << row.path;
+  for (const auto& [path, name, withoutExtension] : Table<const char*, const char*, const char*>{
+           {"/films/Movie.mkv", "Movie.mkv", "Movie"},
+           {"/films/My.Film.2020.mkv", "My.Film.2020.mkv", "My.Film.2020"},
+           {"/films/.hidden", ".hidden", ".hidden"},
+           {"/films/ends.", "ends.", "ends."},
+           {"/films/no extension", "no extension", "no extension"},
+           {"/films/Episode 1. The start", "Episode 1. The start", "Episode 1. The start"},
+           {"/films/folder/", "folder", "folder"},
+       }) {
+    const QUrl url = fileUrlFromPath(path);
+    EXPECT_EQ(lastPathComponent(url), name) << path;
+    EXPECT_EQ(lastPathComponentWithoutExtension(url), withoutExtension) << path;
   }
 }
 
@@ -75,4 +69,4 @@ TEST(NumberText, IsTheShortestThatReadsBackAndAlwaysAFloat) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

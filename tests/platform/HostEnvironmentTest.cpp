@@ -7,7 +7,7 @@
 
 #include "support/WaitFor.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 TEST(HostEnvironment, GivesProcessesWeStartTheHostsDisplayBack) {
@@ -18,18 +18,17 @@ TEST(HostEnvironment, GivesProcessesWeStartTheHostsDisplayBack) {
   ASSERT_EQ(qgetenv("WAYLAND_DISPLAY"), "/private/engine-1");
 
   QTemporaryDir directory;
-  const QString said = directory.filePath(QStringLiteral("said"));
+  const QString said = directory.filePath("said");
   ASSERT_TRUE(HostEnvironment::startDetached(
-      QStringLiteral("/bin/sh"),
-      {QStringLiteral("-c"),
-       QStringLiteral(
-           "printf %s \"$WAYLAND_DISPLAY$TROMELO_TEST_ONLY\" > \"$1.new\" && mv \"$1.new\" \"$1\""),
-       QStringLiteral("sh"), said}));
-  ASSERT_TRUE(testing::waitFor([&] { return QFile::exists(said); }));
+      "/bin/sh",
+      {"-c",
+       "printf %s \"$WAYLAND_DISPLAY$TROMELO_TEST_ONLY\" > \"$1.new\" && mv \"$1.new\" \"$1\"",
+       "sh", said}));
+  ASSERT_TRUE(waitFor([&] { return QFile::exists(said); }));
   QFile file(said);
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   EXPECT_EQ(file.readAll(), "host-0");
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

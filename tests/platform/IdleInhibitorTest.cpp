@@ -10,9 +10,10 @@
 #include "support/BusDaemon.h"
 #include "support/FakeScreenSaver.h"
 #include "support/ManualClock.h"
+#include "support/Table.h"
 #include "support/WaitFor.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 /// Two ways of which a test says what they answer, and when.
@@ -47,7 +48,7 @@ class TwoWays {
     answer([this, way] { --held_[way]; });
   }
 
-  testing::ManualClock clock_;
+  ManualClock clock_;
   std::vector<std::function<void(ReleaseInhibition)>> answers_[2];
   int held_[2]{};
   std::unique_ptr<IdleInhibitor> inhibitor_ =
@@ -55,48 +56,44 @@ class TwoWays {
 };
 
 TEST(IdleInhibitor, HoldsOneInhibitionWhileItIsWantedAndLeavesNoneBehind) {
-  struct Row {
-    const char* steps;
-    const char* state;
-  };
-  for (const Row& row : {
-           Row{"", ""},
-           Row{"+", "A?"},
-           Row{"++", "A?"},
-           Row{"+A", "A"},
-           Row{"+A+", "A"},
-           Row{"+A-", ""},
-           Row{"+A--", ""},
-           Row{"+A-+", "A?"},
-           Row{"+A-+A", "A"},
-           Row{"+-", "A?"},
-           Row{"+-A", ""},
-           Row{"+-+", "A?"},
-           Row{"+-+A", "A"},  // a late answer
-           Row{"+a", "B?"},
-           Row{"+aB", "B"},
-           Row{"+aB-", ""},
-           Row{"+-a", ""},
-           Row{"+a-B", ""},
-           Row{"+ab", ""},
-           Row{"+ab-+", "A?"},  // asked again only when it is
-                                // wanted again
-           Row{"+t", "A?B?"},
-           Row{"+tB", "A?B"},
-           Row{"+tBA", "B"},
-           Row{"+tAB", "A"},
-           Row{"+tA", "AB?"},
-           Row{"+tAb", "A"},
-           Row{"+ttA", "AB?"},
-           Row{"+t-A", "B?"},
-           Row{"+-tA", ""},
-           Row{"+At", "A"},  // no answer for too long
-           Row{"+Ax", ""},
-           Row{"+x", "A?"},
-           Row{"+xA", ""},
-           Row{"+txBA", ""},
+  for (const auto& [steps, state] : Table<const char*, const char*>{
+           {"", ""},
+           {"+", "A?"},
+           {"++", "A?"},
+           {"+A", "A"},
+           {"+A+", "A"},
+           {"+A-", ""},
+           {"+A--", ""},
+           {"+A-+", "A?"},
+           {"+A-+A", "A"},
+           {"+-", "A?"},
+           {"+-A", ""},
+           {"+-+", "A?"},
+           {"+-+A", "A"},  // a late answer
+           {"+a", "B?"},
+           {"+aB", "B"},
+           {"+aB-", ""},
+           {"+-a", ""},
+           {"+a-B", ""},
+           {"+ab", ""},
+           {"+ab-+", "A?"},  // asked again only when it is
+                             // wanted again
+           {"+t", "A?B?"},
+           {"+tB", "A?B"},
+           {"+tBA", "B"},
+           {"+tAB", "A"},
+           {"+tA", "AB?"},
+           {"+tAb", "A"},
+           {"+ttA", "AB?"},
+           {"+t-A", "B?"},
+           {"+-tA", ""},
+           {"+At", "A"},  // no answer for too long
+           {"+Ax", ""},
+           {"+x", "A?"},
+           {"+xA", ""},
+           {"+txBA", ""},
        })
-    EXPECT_EQ(TwoWays().after(row.steps), row.state) << row.steps;
+    EXPECT_EQ(TwoWays().after(steps), state) << steps;
 }
 
 class PortalRequest : public QObject {
@@ -136,10 +133,10 @@ class DesktopInhibition : public ::testing::Test {
     ASSERT_TRUE(desktop_.registerService("org.freedesktop.portal.Desktop"));
   }
 
-  const testing::BusDaemon daemon_;
+  const BusDaemon daemon_;
   QDBusConnection desktop_ = QDBusConnection::connectToBus(daemon_.address(), "desktop");
   QDBusConnection player_ = QDBusConnection::connectToBus(daemon_.address(), "player");
-  testing::FakeScreenSaver saver_{desktop_};
+  FakeScreenSaver saver_{desktop_};
   Portal portal_;
   PortalRequest request_;
   SystemClock clock_;
@@ -150,27 +147,27 @@ class DesktopInhibition : public ::testing::Test {
 
 TEST_F(DesktopInhibition, GoesToTheScreenSaverWhereThereIsNoPortal) {
   inhibitor_->setInhibited(true);
-  EXPECT_TRUE(testing::waitFor([&] { return saver_.held() == 1; }));
+  EXPECT_TRUE(waitFor([&] { return saver_.held() == 1; }));
   inhibitor_->setInhibited(false);
-  EXPECT_TRUE(testing::waitFor([&] { return saver_.held() == 0; }));
+  EXPECT_TRUE(waitFor([&] { return saver_.held() == 0; }));
 
   inhibitor_->setInhibited(true);
   inhibitor_.reset();  // before the portal's refusal, so that nobody else is asked
-  testing::settle();
+  settle();
   EXPECT_EQ(saver_.asked(), 1u);
 }
 
 TEST_F(DesktopInhibition, GoesToThePortalAlone) {
   offerPortal();
   inhibitor_->setInhibited(true);
-  EXPECT_TRUE(testing::waitFor([&] { return portal_.flags != 0; }));
+  EXPECT_TRUE(waitFor([&] { return portal_.flags != 0; }));
   EXPECT_EQ(portal_.flags, 12u);  // idle and suspend
   inhibitor_.reset();             // wherever the answer is by now
-  EXPECT_TRUE(testing::waitFor([&] { return request_.closed; }));
+  EXPECT_TRUE(waitFor([&] { return request_.closed; }));
   EXPECT_EQ(saver_.asked(), 0u);
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing
 
 #include "IdleInhibitorTest.moc"

@@ -6,11 +6,12 @@
 #include <QVariantMap>
 
 #include "support/BusDaemon.h"
+#include "support/Table.h"
 #include "support/WaitFor.h"
 
 using SettingGroups = QMap<QString, QVariantMap>;
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 class SettingsPortal : public QObject {
@@ -46,7 +47,7 @@ class ReducedMotionTest : public ::testing::Test {
     for (const char* name : {"desktop", "player"}) QDBusConnection::disconnectFromBus(name);
   }
 
-  const testing::BusDaemon daemon_;
+  const BusDaemon daemon_;
   QDBusConnection desktop_ = QDBusConnection::connectToBus(daemon_.address(), "desktop");
   QDBusConnection player_ = QDBusConnection::connectToBus(daemon_.address(), "player");
   SettingsPortal portal_;
@@ -57,31 +58,25 @@ constexpr const char* kGnome = "org.gnome.desktop.interface";
 constexpr const char* kKde = "org.kde.kdeglobals.KDE";
 
 TEST_F(ReducedMotionTest, IsWhatTheDesktopSaysNowAndLater) {
-  struct Row {
-    const char* group;
-    const char* key;
-    QVariant less;
-    QVariant more;
-  };
-  for (const Row& row : {
-           Row{kStandard, "reduced-motion", 1u, 0u},
-           Row{kGnome, "enable-animations", false, true},
-           Row{kKde, "AnimationDurationFactor", "0", "0.5"},
-           Row{kKde, "AnimationDurationFactor", 0.0, "not a number"},
+  for (const auto& [group, key, less, more] : Table<const char*, const char*, QVariant, QVariant>{
+           {kStandard, "reduced-motion", 1u, 0u},
+           {kGnome, "enable-animations", false, true},
+           {kKde, "AnimationDurationFactor", "0", "0.5"},
+           {kKde, "AnimationDurationFactor", 0.0, "not a number"},
        }) {
-    SCOPED_TRACE(row.group);
-    portal_.settings = {{row.group, {{row.key, row.less}, {"cursor-size", 0}}},
-                        {"another group", {{row.key, row.more}}}};
+    SCOPED_TRACE(group);
+    portal_.settings = {{group, {{key, less}, {"cursor-size", 0}}},
+                        {"another group", {{key, more}}}};
     ReducedMotion motion("", player_);
     EXPECT_FALSE(motion.isWanted()) << "nobody waits for the desktop";
-    EXPECT_TRUE(testing::waitFor([&] { return motion.isWanted(); }));
+    EXPECT_TRUE(waitFor([&] { return motion.isWanted(); }));
     int changes = 0;
     QObject::connect(&motion, &ReducedMotion::changed, &motion, [&] { ++changes; });
-    Q_EMIT portal_.SettingChanged(row.group, "cursor-size", QDBusVariant(24));
-    Q_EMIT portal_.SettingChanged(row.group, row.key, QDBusVariant(row.more));
-    EXPECT_TRUE(testing::waitFor([&] { return !motion.isWanted(); }));
-    Q_EMIT portal_.SettingChanged(row.group, row.key, QDBusVariant(row.less));
-    EXPECT_TRUE(testing::waitFor([&] { return motion.isWanted(); }));
+    Q_EMIT portal_.SettingChanged(group, "cursor-size", QDBusVariant(24));
+    Q_EMIT portal_.SettingChanged(group, key, QDBusVariant(more));
+    EXPECT_TRUE(waitFor([&] { return !motion.isWanted(); }));
+    Q_EMIT portal_.SettingChanged(group, key, QDBusVariant(less));
+    EXPECT_TRUE(waitFor([&] { return motion.isWanted(); }));
     EXPECT_EQ(changes, 2);
   }
 }
@@ -92,12 +87,12 @@ TEST_F(ReducedMotionTest, IsNotAskedOfTheDesktopWhereThePersonSaysIt) {
   EXPECT_TRUE(ReducedMotion("1", player_).isWanted());
   EXPECT_FALSE(ReducedMotion("", {}).isWanted());
   const ReducedMotion asks("", player_);
-  EXPECT_TRUE(testing::waitFor([&] { return asks.isWanted(); }));
+  EXPECT_TRUE(waitFor([&] { return asks.isWanted(); }));
   EXPECT_EQ(portal_.asked, 1);
   EXPECT_FALSE(none.isWanted());
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing
 
 #include "ReducedMotionTest.moc"

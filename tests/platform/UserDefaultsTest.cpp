@@ -12,22 +12,22 @@
 
 #include "support/WaitFor.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 class UserDefaultsTest : public ::testing::Test {
  protected:
-  QString path() const { return directory_.filePath(QStringLiteral("store/defaults.json")); }
+  QString path() const { return directory_.filePath("store/defaults.json"); }
 
   void write(const QByteArray& text) {
-    QDir(directory_.path()).mkpath(QStringLiteral("store"));
+    QDir(directory_.path()).mkpath("store");
     QFile file(path());
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(text);
   }
 
   QStringList filesNextToIt() const {
-    return QDir(directory_.filePath(QStringLiteral("store"))).entryList(QDir::Files);
+    return QDir(directory_.filePath("store")).entryList(QDir::Files);
   }
 
   QTemporaryDir directory_;
@@ -55,16 +55,15 @@ class FullDisk {
 TEST_F(UserDefaultsTest, TheLastOfManyQuickChangesIsOnDisk) {
   UserDefaults defaults(path());
   for (int i = 1; i <= 500; ++i) {
-    defaults.set(QStringLiteral("size"), i);
-    ASSERT_EQ(defaults.value(QStringLiteral("size")), QJsonValue(i));
+    defaults.set("size", i);
+    ASSERT_EQ(defaults.value("size"), QJsonValue(i));
   }
-  ASSERT_TRUE(testing::waitFor([this] {  // without being asked to
-    return QFile::exists(path()) &&
-           UserDefaults(path()).value(QStringLiteral("size")) == QJsonValue(500);
+  ASSERT_TRUE(waitFor([this] {  // without being asked to
+    return QFile::exists(path()) && UserDefaults(path()).value("size") == QJsonValue(500);
   }));
-  defaults.set(QStringLiteral("size"), 501);
+  defaults.set("size", 501);
   defaults.flush();
-  EXPECT_EQ(UserDefaults(path()).value(QStringLiteral("size")), QJsonValue(501));
+  EXPECT_EQ(UserDefaults(path()).value("size"), QJsonValue(501));
 }
 
 TEST_F(UserDefaultsTest, ProgramsThatWriteAtOnceLoseNothingOfEachOthers) {
@@ -75,8 +74,8 @@ TEST_F(UserDefaultsTest, ProgramsThatWriteAtOnceLoseNothingOfEachOthers) {
       defaults.flush();
     }
   };
-  std::thread other(program, QStringLiteral("other"));
-  program(QStringLiteral("own"));
+  std::thread other(program, "other");
+  program("own");
   other.join();
   EXPECT_EQ(UserDefaults(path()).all().size(), 40);
 }
@@ -86,46 +85,46 @@ TEST_F(UserDefaultsTest, SetsADamagedFileAsideAndGoesOn) {
     write(damaged);
     UserDefaults defaults(path());
     EXPECT_TRUE(defaults.all().isEmpty());
-    EXPECT_TRUE(defaults.error().contains(QStringLiteral("damaged"))) << damaged;
-    defaults.set(QStringLiteral("a"), 2);
+    EXPECT_TRUE(defaults.error().contains("damaged")) << damaged;
+    defaults.set("a", 2);
     defaults.flush();
-    EXPECT_EQ(UserDefaults(path()).value(QStringLiteral("a")), QJsonValue(2));
+    EXPECT_EQ(UserDefaults(path()).value("a"), QJsonValue(2));
   }
-  EXPECT_EQ(filesNextToIt().filter(QStringLiteral("damaged")).size(), 4);
+  EXPECT_EQ(filesNextToIt().filter("damaged").size(), 4);
 }
 
 TEST_F(UserDefaultsTest, KeepsTheValueInMemoryWhenItCannotBeWrittenAndSaysSoOnce) {
-  QFile inTheFoldersPlace(directory_.filePath(QStringLiteral("store")));
+  QFile inTheFoldersPlace(directory_.filePath("store"));
   ASSERT_TRUE(inTheFoldersPlace.open(QIODevice::WriteOnly));
   UserDefaults defaults(path());
   QStringList told;
   defaults.onError([&](const QString& sentence) { told << sentence; });
   for (int i = 0; i < 3; ++i) {
-    defaults.set(QStringLiteral("a"), i);
+    defaults.set("a", i);
     defaults.flush();
   }
-  testing::settle();
-  EXPECT_EQ(defaults.value(QStringLiteral("a")), QJsonValue(2));
+  settle();
+  EXPECT_EQ(defaults.value("a"), QJsonValue(2));
   ASSERT_EQ(told.size(), 1);
-  EXPECT_TRUE(told[0].contains(QStringLiteral("can't be saved"))) << qPrintable(told[0]);
+  EXPECT_TRUE(told[0].contains("can't be saved")) << qPrintable(told[0]);
 }
 
 TEST_F(UserDefaultsTest, AFullDiskLosesNothing) {
   UserDefaults defaults(path());
-  defaults.set(QStringLiteral("a"), 1);
+  defaults.set("a", 1);
   defaults.flush();
   {
     const FullDisk full(16);
-    defaults.set(QStringLiteral("long"), QString(100, u'x'));
+    defaults.set("long", QString(100, u'x'));
     defaults.flush();
-    EXPECT_TRUE(defaults.error().contains(QStringLiteral("can't be saved")));
+    EXPECT_TRUE(defaults.error().contains("can't be saved"));
     EXPECT_EQ(UserDefaults(path()).all(), (QJsonObject{{"a", 1}}));
   }
-  defaults.set(QStringLiteral("b"), 2);
+  defaults.set("b", 2);
   defaults.flush();
   EXPECT_EQ(UserDefaults(path()).all(), defaults.all());  // and there is room again
   EXPECT_EQ(defaults.all().size(), 3);
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

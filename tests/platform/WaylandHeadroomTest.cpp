@@ -10,18 +10,19 @@
 #include <string_view>
 
 #include "color-management-v1-server-protocol.h"
+#include "support/Table.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 TEST(Headroom, IsTheScreensOwnPeakAgainstWhite) {
-  struct Row {
-    ScreenLuminances told;
-    double headroom;
-  };
-  for (const Row& row : {Row{{203, 812, 0}, 4}, Row{{203, 10000, 1015}, 5}, Row{{80, 80, 0}, 1},
-                         Row{{203, 100, 0}, 1}, Row{{0, 1000, 1000}, 1}, Row{{}, 1}})
-    EXPECT_DOUBLE_EQ(headroomOf(row.told), row.headroom);
+  for (const auto& [told, headroom] : Table<ScreenLuminances, double>{{{203, 812, 0}, 4},
+                                                                      {{203, 10000, 1015}, 5},
+                                                                      {{80, 80, 0}, 1},
+                                                                      {{203, 100, 0}, 1},
+                                                                      {{0, 1000, 1000}, 1},
+                                                                      {ScreenLuminances(), 1}})
+    EXPECT_DOUBLE_EQ(headroomOf(told), headroom);
 }
 
 /// A host with one output and colour management, and our connection to it.
@@ -176,4 +177,4 @@ TEST(WaylandHeadroom, AsksTheHostAndFollowsWhatItSays) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

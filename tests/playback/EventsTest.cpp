@@ -1,13 +1,13 @@
 #include "ModelTest.h"
 #include "platform/FilePath.h"
 #include "playback/EngineErrors.h"
+#include "support/Table.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 
 namespace {
 
 using P = MpvProperty;
-using testing::ModelTest;
 
 struct Events : ModelTest {};
 
@@ -16,7 +16,7 @@ struct Events : ModelTest {};
 TEST_F(Events, AnEngineThatDoesNotStartLeavesItsReason) {
   mpv_.optionResults["vo"] = MPV_ERROR_OPTION_ERROR;
   remake();
-  const QString reason = QStringLiteral("vo: ") + mpv_error_string(MPV_ERROR_OPTION_ERROR);
+  const QString reason = QString("vo: ") + mpv_error_string(MPV_ERROR_OPTION_ERROR);
   EXPECT_EQ(model().status(), reason);
   EXPECT_EQ(model().errorMessage(), reason);
   model().open(fileUrlFromPath("/films/a.mkv"));
@@ -88,63 +88,53 @@ TEST_F(Events, AFailedCommandMattersWhileNothingPlays) {
 }
 
 TEST_F(Events, AFileThatFailsGivesWayToTheNextOrClosesThePlayer) {
-  const struct {
-    const char* what;
-    MpvEvent followedBy;
-    bool hasWindow;
-    QStringList calls;
-  } rows[] = {
-      {"the next is coming", event::StartFile{}, true, {"toast Skipped Movie: no data"}},
-      {"the last, with a window", event::Idle{}, true, {"not awaiting", "close"}},
-      {"the last, without one", event::Idle{}, false, {"not awaiting", "library"}},
-  };
-  for (const auto& row : rows) {
+  for (const auto& [what, followedBy, hasWindow, calls] :
+       Table<const char*, MpvEvent, bool, QStringList>{
+           {"the next is coming", event::StartFile{}, true, {"toast Skipped Movie: no data"}},
+           {"the last, with a window", event::Idle{}, true, {"not awaiting", "close"}},
+           {"the last, without one", event::Idle{}, false, {"not awaiting", "library"}},
+       }) {
     remake();
-    player_ = {.calls = {}, .hasWindow = row.hasWindow};
+    player_ = {.calls = {}, .hasWindow = hasWindow};
     report(event::StartFile{});
     report(P::mediaTitle, "Movie.mkv");
     report(event::EndFile{"no data"});
-    EXPECT_EQ(model().errorMessage(), "Could not play Movie: no data") << row.what;
-    EXPECT_EQ(model().status(), model().errorMessage()) << row.what;
-    EXPECT_EQ(model().buffering(), "Unavailable") << row.what;
-    report(row.followedBy);
-    EXPECT_EQ(player_.take(), row.calls) << row.what;
+    EXPECT_EQ(model().errorMessage(), "Could not play Movie: no data") << what;
+    EXPECT_EQ(model().status(), model().errorMessage()) << what;
+    EXPECT_EQ(model().buffering(), "Unavailable") << what;
+    report(followedBy);
+    EXPECT_EQ(player_.take(), calls) << what;
   }
 }
 
 TEST_F(Events, AFileWithoutItsOutputNamesWhatIsMissing) {
   const QString picture = videoOutputFault(true);
-  const struct {
-    const char* what;
-    std::vector<MpvEvent> events;
-    QString error;
-  } rows[] = {
-      {"told before the failure",
-       {event::VideoOutputFailed{}, event::EndFile{"no data"}},
-       "Could not play Movie: " + picture},
-      {"told after it",
-       {event::EndFile{"no data"}, event::VideoOutputFailed{}},
-       "Could not play Movie: " + picture},
-      {"neither picture nor sound",
-       {event::VideoOutputFailed{}, event::AudioOutputFailed{}, event::EndFile{"no data"}},
-       "Could not play Movie: " + picture},
-      {"the sound plays on", {event::FileLoaded{}, event::VideoOutputFailed{}}, picture},
-      {"the sound plays on, told early",
-       {event::VideoOutputFailed{}, event::FileLoaded{}},
-       picture},
-      {"only sound",
-       {event::EndFile{"no data"}, event::AudioOutputFailed{}},
-       "Could not play Movie: " + audioOutputFault()},
-      {"only the file before",
-       {event::VideoOutputFailed{}, event::StartFile{}, event::EndFile{"no data"}},
-       "Could not play Movie: no data"},
-  };
-  for (const auto& row : rows) {
+  for (const auto& [what, events, error] : Table<const char*, std::vector<MpvEvent>, QString>{
+           {"told before the failure",
+            {event::VideoOutputFailed{}, event::EndFile{"no data"}},
+            "Could not play Movie: " + picture},
+           {"told after it",
+            {event::EndFile{"no data"}, event::VideoOutputFailed{}},
+            "Could not play Movie: " + picture},
+           {"neither picture nor sound",
+            {event::VideoOutputFailed{}, event::AudioOutputFailed{}, event::EndFile{"no data"}},
+            "Could not play Movie: " + picture},
+           {"the sound plays on", {event::FileLoaded{}, event::VideoOutputFailed{}}, picture},
+           {"the sound plays on, told early",
+            {event::VideoOutputFailed{}, event::FileLoaded{}},
+            picture},
+           {"only sound",
+            {event::EndFile{"no data"}, event::AudioOutputFailed{}},
+            "Could not play Movie: " + audioOutputFault()},
+           {"only the file before",
+            {event::VideoOutputFailed{}, event::StartFile{}, event::EndFile{"no data"}},
+            "Could not play Movie: no data"},
+       }) {
     remake();
     report(event::StartFile{});
     report(P::mediaTitle, "Movie.mkv");
-    for (const MpvEvent& event : row.events) report(event);
-    EXPECT_EQ(model().errorMessage(), row.error) << row.what;
+    for (const MpvEvent& event : events) report(event);
+    EXPECT_EQ(model().errorMessage(), error) << what;
   }
 }
 
@@ -233,4 +223,4 @@ TEST_F(Events, NothingHappensOnceTheModelIsGone) {
   EXPECT_TRUE(mpv_.requests.empty());
 }
 
-}  // namespace tromelo
+}  // namespace tromelo::testing

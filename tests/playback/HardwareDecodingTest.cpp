@@ -2,13 +2,13 @@
 
 #include "ModelTest.h"
 #include "platform/FilePath.h"
+#include "support/Table.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 
 namespace {
 
 using P = MpvProperty;
-using testing::ModelTest;
 
 struct Decoder : ModelTest {
   static constexpr const char* kRejected = "Software (stream rejected by VideoToolbox)";
@@ -69,21 +69,17 @@ TEST(HardwareDecoding, ASecondBurstCountsHoweverSoonAfterASeek) {
 
 TEST(HardwareDecoding, IsDescribed) {
   using Reported = std::optional<std::string>;
-  const struct {
-    Reported reported;
-    bool forced;
-    bool loaded;
-    std::optional<QString> expected;
-  } rows[] = {{"vaapi", false, false, "Hardware (vaapi)"},
-              {"vaapi", true, true, "Hardware (vaapi)"},
-              {"no", true, false, "Software (stream rejected by VideoToolbox)"},
-              {"", true, true, "Software (stream rejected by VideoToolbox)"},
-              {"no", false, true, "Software (FFmpeg)"},
-              {{}, false, true, "Software (FFmpeg)"},
-              {"no", false, false, {}}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(decoderText(row.reported, row.forced, row.loaded), row.expected)
-        << row.reported.value_or("none") << row.forced << row.loaded;
+  for (const auto& [reported, forced, loaded, expected] :
+       Table<Reported, bool, bool, std::optional<QString>>{
+           {"vaapi", false, false, "Hardware (vaapi)"},
+           {"vaapi", true, true, "Hardware (vaapi)"},
+           {"no", true, false, "Software (stream rejected by VideoToolbox)"},
+           {"", true, true, "Software (stream rejected by VideoToolbox)"},
+           {"no", false, true, "Software (FFmpeg)"},
+           {std::nullopt, false, true, "Software (FFmpeg)"},
+           {"no", false, false, {}}}) {
+    EXPECT_EQ(decoderText(reported, forced, loaded), expected)
+        << reported.value_or("none") << forced << loaded;
   }
 }
 
@@ -135,7 +131,7 @@ TEST_F(Decoder, FallsBackForThisFileAndOpensItInSoftwareFromThenOn) {
 }
 
 TEST_F(Decoder, WhatFellBackIsStoredWholeAndReadAtTheNextStart) {
-  const QString key = QStringLiteral("softwareDecodeFiles");
+  const QString key = "softwareDecodeFiles";
   defaults_.set(key, QJsonArray{"/films/b.mkv", 1, QJsonValue(), "", QJsonArray{"/films/c.mkv"}});
   remake();
   clock_.advance(std::chrono::seconds(100));
@@ -144,15 +140,13 @@ TEST_F(Decoder, WhatFellBackIsStoredWholeAndReadAtTheNextStart) {
   fails();
   EXPECT_EQ(defaults_.value(key), (QJsonArray{"/films/b.mkv", "file:///films/%FF%20%2541.mkv"}));
   remake();
-  const struct {
-    const char* path;
-    const char* options;
-  } rows[] = {
-      {"/films/\xff %41.mkv", "hwdec=no"}, {"/films/b.mkv", "hwdec=no"}, {"/films/c.mkv", ""}};
-  for (const auto& row : rows) {
+  for (const auto& [path, options] :
+       Table<const char*, const char*>{{"/films/\xff %41.mkv", "hwdec=no"},
+                                       {"/films/b.mkv", "hwdec=no"},
+                                       {"/films/c.mkv", ""}}) {
     takeRequests();
-    model().open(fileUrlFromPath(row.path));
-    EXPECT_EQ(takeRequests().front().back(), row.options) << row.path;
+    model().open(fileUrlFromPath(path));
+    EXPECT_EQ(takeRequests().front().back(), options) << path;
   }
   defaults_.set(key, "/films/b.mkv");
   remake();
@@ -166,10 +160,10 @@ TEST_F(Decoder, AFileWithoutAKnownPathFallsBackAndIsNotRemembered) {
   takeRequests();
   fails();
   EXPECT_EQ(takeRequests(), (Requests{{"set", "file-local-options/hwdec", "no"}}));
-  EXPECT_FALSE(defaults_.contains(QStringLiteral("softwareDecodeFiles")));
+  EXPECT_FALSE(defaults_.contains("softwareDecodeFiles"));
   report(P::path, "/films/a.mkv");
   report(P::hwdecCurrent, "no");
   EXPECT_EQ(model().decoder(), "Software (FFmpeg)");
 }
 
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -6,15 +6,15 @@
 
 #include "FakeChooser.h"
 #include "FakePlayer.h"
+#include "Reports.h"
 #include "platform/UserDefaults.h"
-#include "playback/PlaybackModel.h"
 #include "support/FakeMpv.h"
 #include "support/ManualClock.h"
 
 namespace tromelo::testing {
 
 /// The model over an engine that plays nothing, told what the engine reports.
-class ModelTest : public ::testing::Test {
+class ModelTest : public ::testing::Test, protected Reports {
  protected:
   using Requests = std::vector<std::vector<std::string>>;
 
@@ -34,31 +34,11 @@ class ModelTest : public ::testing::Test {
     startRequests_ = takeRequests();
   }
 
-  PlaybackModel& model() { return *model_; }
-  void report(const MpvEvent& event) { model_->engine().onEvent(event); }
-  void report(MpvProperty property, MpvValue value) {
-    report(MpvEvent(std::in_place_type<event::Property>, property, std::move(value)));
-  }
-  /// A file that plays.
-  void load() {
-    report(event::StartFile{});
-    report(event::FileLoaded{});
-  }
-  /// `names` in order, entries 1, 2, …; `current` the position of the one that plays.
-  void reportPlaylist(const std::vector<std::string>& names, std::size_t current) {
-    MpvList list;
-    for (std::size_t i = 0; i < names.size(); ++i) {
-      MpvMap entry{{"filename", MpvNode{"/films/" + names[i]}},
-                   {"id", MpvNode{static_cast<std::int64_t>(i + 1)}}};
-      if (i == current) entry["current"] = MpvNode{true};
-      list.push_back(MpvNode{entry});
-    }
-    report(MpvProperty::playlist, MpvNode{list});
-  }
+  PlaybackModel& model() override { return *model_; }
   Requests takeRequests() { return std::exchange(mpv_.requests, {}); }
 
   QTemporaryDir directory_;
-  UserDefaults defaults_{directory_.filePath(QStringLiteral("defaults.json"))};
+  UserDefaults defaults_{directory_.filePath("defaults.json")};
   FakeMpv mpv_;
   ManualClock clock_;
   FakeChooser chooser_;

@@ -3,13 +3,13 @@
 #include <limits>
 
 #include "ModelTest.h"
+#include "support/Table.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 
 namespace {
 
 using P = MpvProperty;
-using testing::ModelTest;
 
 std::int64_t operator""_i(unsigned long long value) { return static_cast<std::int64_t>(value); }
 
@@ -22,57 +22,53 @@ struct Mapping : ModelTest {
 TEST_F(Mapping, EachKindOfValueChangesItsFieldOrLeavesIt) {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   const MpvValue none;
-  const struct {
-    P property;
-    std::vector<MpvValue> reports;
-    const char* field;
-    QVariant expected;
-  } rows[] = {
-      {P::mediaTitle, {"Movie.mkv"}, "title", "Movie"},
-      {P::mediaTitle, {"Movie.mkv", none, 3_i}, "title", "Movie"},
-      {P::duration, {12.5, none}, "duration", 0.0},
-      {P::duration, {12.5, -1.0}, "duration", 0.0},
-      {P::duration, {12.5, kInfinity}, "duration", 0.0},
-      {P::pause, {false, none}, "isPaused", true},
-      {P::volume, {30.0, none}, "volume", 30.0},
-      {P::fullscreen, {true, none}, "isFullscreen", false},
-      {P::videoFormat, {"h264", none}, "codec", "H264"},
-      {P::fileFormat, {",,mkv"}, "container", "MKV"},
-      {P::fileFormat, {"mkv", ","}, "container", "MKV"},
-      {P::decoderDrops, {3_i, none}, "decoderFrameDrops", 0},
-      {P::outputDrops, {4_i, none}, "outputFrameDrops", 0},
-      {P::speed, {1.5, none}, "speed", 1.5},
-      {P::mute, {true, none}, "isMuted", false},
-      {P::subDelay, {0.5, none}, "subtitleDelay", 0.0},
-      {P::audioDelay, {-0.5, none}, "audioDelay", 0.0},
-      {P::loopFile, {"5"}, "isLooping", true},
-      {P::loopFile, {"inf", "no"}, "isLooping", false},
-      {P::loopFile, {"inf", 5_i}, "isLooping", false},
-      {P::containerFps, {25.0}, "frameRate", "25 fps"},
-      {P::containerFps, {25.0, none}, "frameRate", "25 fps"},
-      {P::containerFps, {0.0}, "frameRate", "—"},
-      {P::path, {"/films/50%.mkv"}, "lastURL", QUrl("file:///films/50%25.mkv")},
-      {P::path, {"/films/\xff.mkv", none}, "lastURL", QUrl("file:///films/%FF.mkv")},
-  };
-  for (const auto& row : rows) {
+  for (const auto& [property, reports, field, expected] :
+       Table<P, std::vector<MpvValue>, const char*, QVariant>{
+           {P::mediaTitle, {"Movie.mkv"}, "title", "Movie"},
+           {P::mediaTitle, {"Movie.mkv", none, 3_i}, "title", "Movie"},
+           {P::duration, {12.5, none}, "duration", 0.0},
+           {P::duration, {12.5, -1.0}, "duration", 0.0},
+           {P::duration, {12.5, kInfinity}, "duration", 0.0},
+           {P::pause, {false, none}, "isPaused", true},
+           {P::volume, {30.0, none}, "volume", 30.0},
+           {P::fullscreen, {true, none}, "isFullscreen", false},
+           {P::videoFormat, {"h264", none}, "codec", "H264"},
+           {P::fileFormat, {",,mkv"}, "container", "MKV"},
+           {P::fileFormat, {"mkv", ","}, "container", "MKV"},
+           {P::decoderDrops, {3_i, none}, "decoderFrameDrops", 0},
+           {P::outputDrops, {4_i, none}, "outputFrameDrops", 0},
+           {P::speed, {1.5, none}, "speed", 1.5},
+           {P::mute, {true, none}, "isMuted", false},
+           {P::subDelay, {0.5, none}, "subtitleDelay", 0.0},
+           {P::audioDelay, {-0.5, none}, "audioDelay", 0.0},
+           {P::loopFile, {"5"}, "isLooping", true},
+           {P::loopFile, {"inf", "no"}, "isLooping", false},
+           {P::loopFile, {"inf", 5_i}, "isLooping", false},
+           {P::containerFps, {25.0}, "frameRate", "25 fps"},
+           {P::containerFps, {25.0, none}, "frameRate", "25 fps"},
+           {P::containerFps, {0.0}, "frameRate", "—"},
+           {P::path, {"/films/50%.mkv"}, "lastURL", QUrl("file:///films/50%25.mkv")},
+           {P::path, {"/films/\xff.mkv", none}, "lastURL", QUrl("file:///films/%FF.mkv")},
+       }) {
     remake();
-    for (const MpvValue& value : row.reports) report(row.property, value);
-    EXPECT_EQ(shown(row.field), row.expected)
-        << mpvPropertyName(row.property) << " after " << row.reports.size()
-        << " reports: " << shown(row.field).toString().toStdString();
+    for (const MpvValue& value : reports) report(property, value);
+    EXPECT_EQ(shown(field), expected) << mpvPropertyName(property) << " after " << reports.size()
+                                      << " reports: " << shown(field).toString().toStdString();
   }
 }
 
 TEST_F(Mapping, ThePositionIsThinnedForwardsOnly) {
-  const struct {
-    double reported;
-    double shown;
-  } rows[] = {{10.0, 10.0},   {10.1, 10.0}, {10.19, 10.0}, {10.25, 10.25},
-              {10.15, 10.15}, {3.0, 3.0},   {NAN, 3.0},    {INFINITY, 3.0}};
-  for (const auto& row : rows) {
-    report(P::timePos, row.reported);
-    EXPECT_DOUBLE_EQ(model().elapsed(), row.shown) << row.reported;
-    EXPECT_DOUBLE_EQ(model().scrubPosition(), row.shown) << row.reported;
+  for (const auto& [reported, shown] : Table<double, double>{{10.0, 10.0},
+                                                             {10.1, 10.0},
+                                                             {10.19, 10.0},
+                                                             {10.25, 10.25},
+                                                             {10.15, 10.15},
+                                                             {3.0, 3.0},
+                                                             {NAN, 3.0},
+                                                             {INFINITY, 3.0}}) {
+    report(P::timePos, reported);
+    EXPECT_DOUBLE_EQ(model().elapsed(), shown) << reported;
+    EXPECT_DOUBLE_EQ(model().scrubPosition(), shown) << reported;
   }
   model().beginScrubbing();
   report(P::timePos, 40.0);
@@ -81,26 +77,20 @@ TEST_F(Mapping, ThePositionIsThinnedForwardsOnly) {
 }
 
 TEST_F(Mapping, WhatIsMadeOfSeveralValuesKeepsWhatWasLastSaid) {
-  const struct {
-    P property;
-    MpvValue value;
-    const char* size;
-    const char* rate;
-  } rows[] = {
-      {P::width, 1920_i, "—", "—"},
-      {P::height, 1080_i, "1920 × 1080", "—"},
-      {P::height, 0_i, "1920 × 1080", "—"},
-      {P::width, {}, "1920 × 1080", "—"},
-      {P::height, 800_i, "1920 × 800", "—"},
-      {P::estimatedFps, 29.97, "1920 × 800", "30 fps"},
-      {P::containerFps, 23.976, "1920 × 800", "24 fps"},
-      {P::estimatedFps, 12.5, "1920 × 800", "24 fps"},
-      {P::containerFps, "variable", "1920 × 800", "12.5 fps"},
-  };
-  for (const auto& row : rows) {
-    report(row.property, row.value);
-    EXPECT_EQ(model().videoSize(), row.size) << mpvPropertyName(row.property);
-    EXPECT_EQ(model().frameRate(), row.rate) << mpvPropertyName(row.property);
+  for (const auto& [property, value, size, rate] : Table<P, MpvValue, const char*, const char*>{
+           {P::width, 1920_i, "—", "—"},
+           {P::height, 1080_i, "1920 × 1080", "—"},
+           {P::height, 0_i, "1920 × 1080", "—"},
+           {P::width, {}, "1920 × 1080", "—"},
+           {P::height, 800_i, "1920 × 800", "—"},
+           {P::estimatedFps, 29.97, "1920 × 800", "30 fps"},
+           {P::containerFps, 23.976, "1920 × 800", "24 fps"},
+           {P::estimatedFps, 12.5, "1920 × 800", "24 fps"},
+           {P::containerFps, "variable", "1920 × 800", "12.5 fps"},
+       }) {
+    report(property, value);
+    EXPECT_EQ(model().videoSize(), size) << mpvPropertyName(property);
+    EXPECT_EQ(model().frameRate(), rate) << mpvPropertyName(property);
   }
 }
 
@@ -150,4 +140,4 @@ TEST_F(Mapping, EqualValuesAreNotAnnounced) {
   EXPECT_FALSE(model().hasNext());
 }
 
-}  // namespace tromelo
+}  // namespace tromelo::testing

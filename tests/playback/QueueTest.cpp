@@ -3,16 +3,11 @@
 #include "Nodes.h"
 #include "playback/QueueItem.h"
 #include "playback/QueueProgress.h"
+#include "support/Table.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 
 namespace {
-
-using testing::flag;
-using testing::integer;
-using testing::listOf;
-using testing::number;
-using testing::text;
 
 /// `size` items, the one at `current` playing.
 PlayQueue queueOf(qsizetype size, qsizetype current) {
@@ -26,7 +21,7 @@ PlayQueue queueOf(qsizetype size, qsizetype current) {
 }  // namespace
 
 TEST(Queue, EntriesAreNamedByTitleOrFile) {
-  MpvList list = testing::notEntries();
+  MpvList list = notEntries();
   for (MpvMap entry : {
            MpvMap{{"filename", text("/films/One.mkv")}},
            MpvMap{{"filename", text("/films/two.mkv")}, {"title", text("Second.Film.mkv")}},
@@ -37,7 +32,7 @@ TEST(Queue, EntriesAreNamedByTitleOrFile) {
            MpvMap{{"filename", text("/films/a.mkv")}, {"title", text("")}},
            MpvMap{{"current", text("yes")}, {"playing", flag(true)}},
        }) {
-    list.push_back(testing::map(std::move(entry)));
+    list.push_back(map(std::move(entry)));
   }
   const QString lost(QChar(0xfffd));
   const PlayQueue expected{{0, "One", "/films/One.mkv", false},
@@ -53,16 +48,15 @@ TEST(Queue, EntriesAreNamedByTitleOrFile) {
 }
 
 TEST(Queue, KnowsItsNeighbours) {
-  const struct {
-    PlayQueue queue;
-    bool next;
-    bool previous;
-  } rows[] = {{queueOf(0, -1), false, false}, {queueOf(1, 0), false, false},
-              {queueOf(3, 0), true, false},   {queueOf(3, 1), true, true},
-              {queueOf(3, 2), false, true},   {queueOf(3, -1), false, false}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(hasNext(row.queue), row.next) << row.queue.size();
-    EXPECT_EQ(hasPrevious(row.queue), row.previous) << row.queue.size();
+  for (const auto& [queue, next, previous] :
+       Table<PlayQueue, bool, bool>{{queueOf(0, -1), false, false},
+                                    {queueOf(1, 0), false, false},
+                                    {queueOf(3, 0), true, false},
+                                    {queueOf(3, 1), true, true},
+                                    {queueOf(3, 2), false, true},
+                                    {queueOf(3, -1), false, false}}) {
+    EXPECT_EQ(hasNext(queue), next) << queue.size();
+    EXPECT_EQ(hasPrevious(queue), previous) << queue.size();
   }
 }
 
@@ -91,4 +85,4 @@ TEST(QueueProgress, WhatWasReplacedMeanwhileIsNotToldAndWhatWasRefusedIsNotWaite
   EXPECT_TRUE(progress.nextFailure(queue)->isLast);
 }
 
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -1,66 +1,54 @@
 #include "ModelTest.h"
 #include "playback/SignalTexts.h"
+#include "support/Table.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 
 namespace {
 
 using Kind = DynamicRange::Kind;
 using P = MpvProperty;
-using testing::ModelTest;
 
 struct Signal : ModelTest {};
 
 }  // namespace
 
 TEST(DynamicRange, ComesFromWhatTheEngineSaysOfTheVideo) {
-  const struct {
-    const char* what;
-    std::optional<std::string> gamma;
-    std::optional<std::string> colormatrix;
-    std::optional<std::int64_t> profile;
-    DynamicRange expected;
-    const char* label;
-  } rows[] = {
-      {"nothing", {}, {}, {}, {}, "SDR"},
-      {"bt.1886", "bt.1886", "bt.709", {}, {}, "SDR"},
-      {"pq", "pq", "bt.2020-ncl", {}, {Kind::hdr10, {}}, "HDR10 · PQ"},
-      {"pq, profile 0", "pq", {}, 0, {Kind::hdr10, {}}, "HDR10 · PQ"},
-      {"hlg", "hlg", {}, {}, {Kind::hlg, {}}, "HLG"},
-      {"pq, profile 8", "pq", {}, 8, {Kind::dolbyVision, 8}, "Dolby Vision · Profile 8"},
-      {"its matrix only", "pq", "dolbyvision", {}, {Kind::dolbyVision, {}}, "Dolby Vision"},
-  };
-  for (const auto& row : rows) {
+  for (const auto& [what, gamma, colormatrix, profile, expected, label] :
+       Table<const char*, std::optional<std::string>, std::optional<std::string>,
+             std::optional<std::int64_t>, DynamicRange, const char*>{
+           {"nothing", {}, {}, {}, {}, "SDR"},
+           {"bt.1886", "bt.1886", "bt.709", {}, {}, "SDR"},
+           {"pq", "pq", "bt.2020-ncl", {}, {Kind::hdr10, {}}, "HDR10 · PQ"},
+           {"pq, profile 0", "pq", {}, 0, {Kind::hdr10, {}}, "HDR10 · PQ"},
+           {"hlg", "hlg", {}, {}, {Kind::hlg, {}}, "HLG"},
+           {"pq, profile 8", "pq", {}, 8, {Kind::dolbyVision, 8}, "Dolby Vision · Profile 8"},
+           {"its matrix only", "pq", "dolbyvision", {}, {Kind::dolbyVision, {}}, "Dolby Vision"},
+       }) {
     FileFacts facts;
-    facts.gamma = row.gamma;
-    facts.colormatrix = row.colormatrix;
-    facts.dolbyVisionProfile = row.profile;
-    EXPECT_EQ(dynamicRangeOf(facts), row.expected) << row.what;
-    EXPECT_EQ(dynamicRangeOf(facts).label(), row.label) << row.what;
+    facts.gamma = gamma;
+    facts.colormatrix = colormatrix;
+    facts.dolbyVisionProfile = profile;
+    EXPECT_EQ(dynamicRangeOf(facts), expected) << what;
+    EXPECT_EQ(dynamicRangeOf(facts).label(), label) << what;
   }
 }
 
 TEST(SignalTexts, SayWhatGoesToTheScreen) {
-  const struct {
-    std::optional<std::string> gamma;
-    std::optional<std::string> primaries;
-    Kind kind;
-    std::optional<QString> expected;
-  } rows[] = {
-      {{}, {}, Kind::sdr, {}},
-      {"pq", "bt.2020", Kind::hdr10, "HDR · PQ · BT.2020 (EDR)"},
-      {"pq", {}, Kind::sdr, "HDR · PQ (EDR)"},
-      {"hlg", "bt.2020", Kind::hlg, "HDR · HLG · BT.2020 (EDR)"},
-      {"bt.1886", "bt.709", Kind::hdr10, "Tone-mapped to SDR · BT.709"},
-      {"bt.1886", "bt.709", Kind::sdr, "SDR · BT.709"},
-      {"srgb", {}, Kind::dolbyVision, "Tone-mapped to SDR"},
-  };
-  for (const auto& row : rows) {
+  for (const auto& [gamma, primaries, kind, expected] :
+       Table<std::optional<std::string>, std::optional<std::string>, Kind, std::optional<QString>>{
+           {std::nullopt, {}, Kind::sdr, {}},
+           {"pq", "bt.2020", Kind::hdr10, "HDR · PQ · BT.2020 (EDR)"},
+           {"pq", {}, Kind::sdr, "HDR · PQ (EDR)"},
+           {"hlg", "bt.2020", Kind::hlg, "HDR · HLG · BT.2020 (EDR)"},
+           {"bt.1886", "bt.709", Kind::hdr10, "Tone-mapped to SDR · BT.709"},
+           {"bt.1886", "bt.709", Kind::sdr, "SDR · BT.709"},
+           {"srgb", {}, Kind::dolbyVision, "Tone-mapped to SDR"},
+       }) {
     FileFacts facts;
-    facts.targetGamma = row.gamma;
-    facts.targetPrimaries = row.primaries;
-    EXPECT_EQ(outputText(facts, {row.kind, {}}), row.expected)
-        << row.expected.value_or("none").toStdString();
+    facts.targetGamma = gamma;
+    facts.targetPrimaries = primaries;
+    EXPECT_EQ(outputText(facts, {kind, {}}), expected) << expected.value_or("none").toStdString();
   }
 }
 
@@ -100,4 +88,4 @@ TEST_F(Signal, FollowsWhatIsReportedAndIsForgottenWithItsFile) {
   EXPECT_EQ(model().output(), "—");
 }
 
-}  // namespace tromelo
+}  // namespace tromelo::testing

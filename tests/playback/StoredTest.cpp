@@ -10,7 +10,7 @@
 namespace tromelo::testing {
 namespace {
 
-const QString kRecents = QStringLiteral("recentFiles");
+const QString kRecents = "recentFiles";
 
 std::string names(const QList<QUrl>& files) {
   std::string all;
@@ -53,7 +53,7 @@ TEST(RecentFilesTest, ShowsWhatIsThereInStoredOrderAndForgetsNothingUnanswered) 
 
 TEST(RecentFilesTest, LoadsWhateverIsStored) {
   QJsonArray many;
-  for (int i = 0; i < 10'000; ++i) many.append(QStringLiteral("/films/%1").arg(i));
+  for (int i = 0; i < 10'000; ++i) many.append(QString("/films/%1").arg(i));
   EXPECT_EQ(RecentFiles(many).unknown().size(), RecentFiles::kMost);
   for (const QJsonValue& wrong : {QJsonValue("/films/a"), QJsonValue(3), QJsonValue()})
     EXPECT_TRUE(RecentFiles(wrong).unknown().isEmpty());
@@ -150,7 +150,7 @@ TEST_F(StoredTest, AShareThatDoesNotAnswerHoldsNothingUp) {
 TEST_F(StoredTest, SettingsReachTheEngineAtTheStartAndOnceForEachWriteWithTheFinalValues) {
   EXPECT_EQ(startRequests_.front(),
             (std::vector<std::string>{"set", "sub-font", "Helvetica Neue"}));
-  model().settings().setSubtitleFont(QStringLiteral("Arial"));
+  model().settings().setSubtitleFont("Arial");
   model().settings().resetSubtitleStyle();
   model().settings().setSubtitleSize(60);
   EXPECT_TRUE(takeRequests().empty());
@@ -165,10 +165,10 @@ TEST_F(StoredTest, SettingsReachTheEngineAtTheStartAndOnceForEachWriteWithTheFin
 TEST_F(StoredTest, WhatIsToldLeavesPlaybackAlone) {
   load();
   const QString status = model().status();
-  model().tell(QStringLiteral("Full."));
-  EXPECT_EQ(model().errorMessage(), QStringLiteral("Full."));
+  model().tell("Full.");
+  EXPECT_EQ(model().errorMessage(), "Full.");
   EXPECT_EQ(model().status(), status);
-  EXPECT_EQ(model().buffering(), QStringLiteral("Ready"));
+  EXPECT_EQ(model().buffering(), "Ready");
 }
 
 }  // namespace

@@ -3,14 +3,14 @@
 #include "ModelTest.h"
 #include "platform/FilePath.h"
 #include "playback/SpeedLadder.h"
+#include "support/Table.h"
 #include "support/WaitFor.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 
 namespace {
 
 using P = MpvProperty;
-using testing::ModelTest;
 
 QUrl film(const char* name) { return fileUrlFromPath(std::string("/films/") + name); }
 
@@ -73,7 +73,7 @@ TEST_F(Transport, FilesOnAShareArePlayedWhereTheyAreMounted) {
     player_ = {.calls = {}, .hasWindow = row.hasWindow};
     model().openFiles(row.addresses);
     EXPECT_TRUE(takeRequests().empty()) << "the main thread waited";
-    ASSERT_TRUE(testing::waitFor([this] { return !player_.calls.isEmpty(); }));
+    ASSERT_TRUE(waitFor([this] { return !player_.calls.isEmpty(); }));
     EXPECT_EQ(player_.take(), row.calls);
     EXPECT_EQ(model().errorMessage() == refusal, row.addresses.contains(away));
     std::vector<std::string> paths;
@@ -214,16 +214,21 @@ TEST_F(Transport, SpeedLoopAndDelaysShowAtOnce) {
 }
 
 TEST(SpeedLadder, ClimbsByRungsAndStaysOn) {
-  const struct {
-    double speed;
-    int steps;
-    double expected;
-  } rows[] = {{1.0, 1, 1.25},  {1.0, -1, 0.75}, {1.1, 1, 1.5},   {1.0005, 1, 1.25},
-              {2.0, 1, 3.0},   {3.0, 1, 3.0},   {3.0, -1, 2.0},  {0.25, -1, 0.25},
-              {0.1, -1, 0.25}, {8.0, -1, 2.0},  {1.0, 100, 3.0}, {1.0, -2147483647 - 1, 0.25}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(steppedSpeed(row.speed, row.steps), row.expected) << row.speed << " " << row.steps;
+  for (const auto& [speed, steps, expected] :
+       Table<double, int, double>{{1.0, 1, 1.25},
+                                  {1.0, -1, 0.75},
+                                  {1.1, 1, 1.5},
+                                  {1.0005, 1, 1.25},
+                                  {2.0, 1, 3.0},
+                                  {3.0, 1, 3.0},
+                                  {3.0, -1, 2.0},
+                                  {0.25, -1, 0.25},
+                                  {0.1, -1, 0.25},
+                                  {8.0, -1, 2.0},
+                                  {1.0, 100, 3.0},
+                                  {1.0, -2147483647 - 1, 0.25}}) {
+    EXPECT_EQ(steppedSpeed(speed, steps), expected) << speed << " " << steps;
   }
 }
 
-}  // namespace tromelo
+}  // namespace tromelo::testing

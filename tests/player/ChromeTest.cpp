@@ -2,14 +2,15 @@
 
 #include "PlayerTest.h"
 #include "engine/MpvValue.h"
+#include "support/Table.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 using namespace std::chrono_literals;
-using Sent = testing::PlayerTest::Sent;
+using Sent = PlayerTest::Sent;
 
-class ChromeTest : public testing::PlayerTest {
+class ChromeTest : public PlayerTest {
  protected:
   ChromeTest() {
     report(MpvProperty::pause, false);
@@ -53,33 +54,27 @@ TEST_F(ChromeTest, HidesTheControlsAfterTheDelayAndShowsThemOnActivity) {
 }
 
 TEST_F(ChromeTest, KeepsTheControlsWhileTheyAreNeeded) {
-  struct Row {
-    const char* name;
-    std::function<void()> begin;
-    std::function<void()> end;
-    bool endRestarts;  // else the time goes on in which they were kept
-  };
-  const Row rows[] = {
-      {"paused", [&] { report(MpvProperty::pause, true); },
-       [&] { report(MpvProperty::pause, false); }, true},
-      {"a panel is open", [&] { chrome().toggle(PlayerPanel::queue); },
-       [&] { chrome().toggle(PlayerPanel::queue); }, true},
-      {"the list of speeds is open", [&] { chrome().setShowsSpeeds(true); },
-       [&] { chrome().setShowsSpeeds(false); }, false},
-      {"the position is dragged", [&] { playback_.beginScrubbing(); },
-       [&] { playback_.endScrubbing(); }, false},
-      {"the pointer is on them", [&] { window_.overlay->mouseInside = true; },
-       [&] { window_.overlay->mouseInside = false; }, false},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.name);
+  for (const auto& [name, begin, end, endRestarts] :
+       Table<const char*, std::function<void()>, std::function<void()>, bool>{
+           {"paused", [&] { report(MpvProperty::pause, true); },
+            [&] { report(MpvProperty::pause, false); }, true},
+           {"a panel is open", [&] { chrome().toggle(PlayerPanel::queue); },
+            [&] { chrome().toggle(PlayerPanel::queue); }, true},
+           {"the list of speeds is open", [&] { chrome().setShowsSpeeds(true); },
+            [&] { chrome().setShowsSpeeds(false); }, false},
+           {"the position is dragged", [&] { playback_.beginScrubbing(); },
+            [&] { playback_.endScrubbing(); }, false},
+           {"the pointer is on them", [&] { window_.overlay->mouseInside = true; },
+            [&] { window_.overlay->mouseInside = false; }, false},
+       }) {
+    SCOPED_TRACE(name);
     window_.overlay->onActivity();
-    row.begin();
+    begin();
     clock_.advance(7000ms);
     EXPECT_TRUE(shown());
-    row.end();
+    end();
     clock_.advance(1999ms);
-    EXPECT_EQ(shown(), row.endRestarts);
+    EXPECT_EQ(shown(), endRestarts);
     clock_.advance(1ms);
     EXPECT_FALSE(shown());
   }
@@ -106,7 +101,7 @@ TEST_F(ChromeTest, TheChaptersPanelGoesWithTheChapters) {
   for (const auto panel : {PlayerPanel::chapters, PlayerPanel::queue}) {
     report(MpvProperty::chapterList, chapters);
     chrome().setPanel(panel);
-    report(MpvProperty::chapterList, MpvValue());
+    report(MpvProperty::chapterList, {});
     EXPECT_EQ(chrome().panel() == panel, panel == PlayerPanel::queue);
   }
 }
@@ -142,35 +137,35 @@ TEST_F(ChromeTest, AClosingWindowKeepsItsControlsAndTheNextOneBeginsWithThem) {
   clock_.advance(2000ms);
   EXPECT_TRUE(shown());
   chrome().setPanel(PlayerPanel::queue);
-  player().showToast(QStringLiteral("Volume 50%"));
+  player().showToast("Volume 50%");
   clock_.advance(1000ms);
   ASSERT_EQ(window_.overlay, nullptr);
   EXPECT_FALSE(chrome().showsInfo());
   EXPECT_EQ(chrome().panel(), std::nullopt);
   EXPECT_EQ(chrome().toast(), std::nullopt);
-  testing::FakeVideoWindow next(clock_);
+  FakeVideoWindow next(clock_);
   showVideo(next);
   clock_.advance(2000ms);
   EXPECT_FALSE(player().chromeVisible());
   takeDown(next);
-  testing::FakeVideoWindow third(clock_);
+  FakeVideoWindow third(clock_);
   showVideo(third);
   EXPECT_TRUE(player().chromeVisible() && third.overlay->chromeVisible);
   takeDown(third);
 }
 
 TEST_F(ChromeTest, LooksAtTheScreenEverySecondWhileTheInfoIsShown) {
-  testing::FakeVideoWindow next(clock_);
+  FakeVideoWindow next(clock_);
   next.headroom = ScreenHeadroom{4, 3.5};
   await();
   windows_.add(next);
-  EXPECT_TRUE(playback_.display().contains(QStringLiteral("now 3.5"))) << "it was adopted";
+  EXPECT_TRUE(playback_.display().contains("now 3.5")) << "it was adopted";
   next.headroom = ScreenHeadroom{4, 2.5};
   ready();
-  EXPECT_TRUE(playback_.display().contains(QStringLiteral("now 2.5"))) << "it was revealed";
+  EXPECT_TRUE(playback_.display().contains("now 2.5")) << "it was revealed";
   const auto now = [&](double headroom) {
     next.headroom = ScreenHeadroom{4, headroom};
-    return QStringLiteral("EDR · 4.0× headroom (now %1×)").arg(headroom, 0, 'f', 1);
+    return QString("EDR · 4.0× headroom (now %1×)").arg(headroom, 0, 'f', 1);
   };
   QString text = now(2);
   chrome().setShowsInfo(true);
@@ -191,9 +186,9 @@ TEST_F(ChromeTest, LooksAtTheScreenEverySecondWhileTheInfoIsShown) {
 TEST_F(ChromeTest, ScrollingSetsTheVolumeAndSaysIt) {
   report(MpvProperty::volume, 97.4);
   window_.overlay->onScroll(2);
-  EXPECT_EQ(chrome().toast(), QStringLiteral("Volume 99%"));
+  EXPECT_EQ(chrome().toast(), "Volume 99%");
   window_.overlay->onScroll(2);
-  EXPECT_EQ(chrome().toast(), QStringLiteral("Volume 100%"));
+  EXPECT_EQ(chrome().toast(), "Volume 100%");
   EXPECT_EQ(takeSent(), (Sent{"set volume 99.4", "set volume 100.0"}));
 }
 
@@ -224,4 +219,4 @@ TEST_F(ChromeTest, SubtitlesRiseAboveTheControlsAndSinkWithThem) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

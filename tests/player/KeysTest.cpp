@@ -6,11 +6,11 @@
 #include "engine/MpvValue.h"
 #include "player/PlayerActions.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 using namespace std::chrono_literals;
-using Sent = testing::PlayerTest::Sent;
+using Sent = PlayerTest::Sent;
 
 /// What a keyboard sends.
 struct Stroke {
@@ -36,42 +36,25 @@ constexpr auto kControl = Qt::ControlModifier;
 constexpr auto kAlt = Qt::AltModifier;
 constexpr auto kMeta = Qt::MetaModifier;
 
-class KeysTest : public testing::PlayerTest {
+class KeysTest : public PlayerTest {
  protected:
   KeysTest() { showVideo(window_); }
 
-  void reportTracks() {
-    MpvList tracks;
-    for (const auto& [type, id, selected] :
-         {std::tuple{"sub", 2, false}, {"audio", 4, true}, {"audio", 5, false}})
-      tracks.push_back(MpvNode{MpvMap{{"type", MpvNode{type}},
-                                      {"id", MpvNode{std::int64_t{id}}},
-                                      {"selected", MpvNode{selected}}}});
-    report(MpvProperty::trackList, MpvValue(MpvNode{tracks}));
-  }
-  void reportChapters() {
-    MpvList chapters;
-    for (const double time : {0.0, 50.0, 100.0})
-      chapters.push_back(MpvNode{
-          MpvMap{{"title", MpvNode{"At " + std::to_string(int(time))}}, {"time", MpvNode{time}}}});
-    report(MpvProperty::chapterList, MpvValue(MpvNode{chapters}));
-  }
   /// Always the same film at the same place.
   void begin() {
-    playback_.engine().onEvent(event::StartFile{});
-    playback_.engine().onEvent(event::FileLoaded{});
-    report(MpvProperty::pause, MpvValue(false));
-    report(MpvProperty::duration, MpvValue(4000.0));
-    report(MpvProperty::timePos, MpvValue(51.5));
-    report(MpvProperty::volume, MpvValue(49.6));
-    report(MpvProperty::mute, MpvValue(false));
-    report(MpvProperty::speed, MpvValue(1.0));
-    report(MpvProperty::subDelay, MpvValue(0.0));
-    report(MpvProperty::audioDelay, MpvValue(0.1));
-    report(MpvProperty::loopFile, MpvValue(std::string("no")));
-    reportTracks();
-    reportChapters();
-    report(MpvProperty::chapter, MpvValue(std::int64_t{1}));
+    load(4000);
+    report(MpvProperty::pause, false);
+    report(MpvProperty::timePos, 51.5);
+    report(MpvProperty::volume, 49.6);
+    report(MpvProperty::mute, false);
+    report(MpvProperty::speed, 1.0);
+    report(MpvProperty::subDelay, 0.0);
+    report(MpvProperty::audioDelay, 0.1);
+    report(MpvProperty::loopFile, std::string("no"));
+    reportTracks(
+        {track("sub", 2, "", false), track("audio", 4, "", true), track("audio", 5, "", false)});
+    reportChapters({0, 50, 100});
+    report(MpvProperty::chapter, std::int64_t{1});
     chrome().setPanel({});
     chrome().setShowsInfo(false);
     window_.fullscreen = false;
@@ -169,7 +152,7 @@ TEST_F(KeysTest, EachDoesAsTheListSays) {
     EXPECT_EQ(effects(), row.goesOn ? row.effects : Sent());
   }
   for (const bool isThere : {false, true}) {
-    report(MpvProperty::pause, MpvValue(isThere));
+    report(MpvProperty::pause, isThere);
     chrome().setToast({});
     EXPECT_TRUE(press(typed("e"), true));
     EXPECT_EQ(effects(), isThere ? Sent{"frame-step"} : Sent()) << "a step waits for the last one";
@@ -179,17 +162,16 @@ TEST_F(KeysTest, EachDoesAsTheListSays) {
 /// As the list of keys and the manual write it.
 KeyPress written(QString keys) {
   Qt::KeyboardModifiers modifiers;
-  keys.replace(QStringLiteral("Ctrl+"), QStringLiteral("⌘"));
+  keys.replace("Ctrl+", "⌘");
   for (const auto& [sign, modifier] : {std::pair{u'⇧', kShift}, {u'⌥', kAlt}, {u'⌘', kControl}}) {
     modifiers.setFlag(modifier, keys.contains(sign));
     keys.remove(sign);
   }
-  static const QHash<QString, int> named{
-      {QStringLiteral("Space"), Qt::Key_Space}, {QStringLiteral("Esc"), Qt::Key_Escape},
-      {QStringLiteral("←"), Qt::Key_Left},      {QStringLiteral("→"), Qt::Key_Right},
-      {QStringLiteral("↑"), Qt::Key_Up},        {QStringLiteral("↓"), Qt::Key_Down},
-      {QStringLiteral("Left"), Qt::Key_Left},   {QStringLiteral("Right"), Qt::Key_Right},
-      {QStringLiteral("Up"), Qt::Key_Up},       {QStringLiteral("Down"), Qt::Key_Down}};
+  static const QHash<QString, int> named{{"Space", Qt::Key_Space}, {"Esc", Qt::Key_Escape},
+                                         {"←", Qt::Key_Left},      {"→", Qt::Key_Right},
+                                         {"↑", Qt::Key_Up},        {"↓", Qt::Key_Down},
+                                         {"Left", Qt::Key_Left},   {"Right", Qt::Key_Right},
+                                         {"Up", Qt::Key_Up},       {"Down", Qt::Key_Down}};
   if (named.contains(keys)) return Stroke{named[keys], {}, modifiers}.pressed();
   return typed(modifiers & kShift ? keys : keys.toLower(), modifiers).pressed();
 }
@@ -202,8 +184,8 @@ bool areFor(const QString& keys, const std::vector<PlayerActions::Action>& actio
 }
 
 TEST_F(KeysTest, WhatIsWrittenOfAKeyIsSo) {
-  static const QRegularExpression between(QStringLiteral("\\s*[/,]\\s*|\\s+and\\s+"));
-  const QStringList hands{QStringLiteral("Scroll"), QStringLiteral("double-click")};
+  static const QRegularExpression between("\\s*[/,]\\s*|\\s+and\\s+");
+  const QStringList hands{"Scroll", "double-click"};
   std::vector<PlayerActions::Action> all;
   for (const PlayerActions::Group& group : PlayerActions::groups)
     for (const PlayerActions::Line& line : group.lines) {
@@ -226,11 +208,9 @@ TEST_F(KeysTest, WhatIsWrittenOfAKeyIsSo) {
   QFile manual(QStringLiteral(MANUAL));
   ASSERT_TRUE(manual.open(QFile::ReadOnly));
   const QString text = QString::fromUtf8(manual.readAll());
-  const QString section =
-      text.section(QStringLiteral(".SH KEYS"), 1).section(QStringLiteral(".SH"), 0, 0);
-  static const QRegularExpression bold(QStringLiteral("^\\.BR? (.*)$"),
-                                       QRegularExpression::MultilineOption);
-  static const QRegularExpression gap(QStringLiteral("\\s*\", \"\\s*|\\s+"));
+  const QString section = text.section(".SH KEYS", 1).section(".SH", 0, 0);
+  static const QRegularExpression bold("^\\.BR? (.*)$", QRegularExpression::MultilineOption);
+  static const QRegularExpression gap("\\s*\", \"\\s*|\\s+");
   int found = 0;
   for (const QRegularExpressionMatch& line : bold.globalMatch(section))
     for (const QString& keys : line.captured(1).split(gap, Qt::SkipEmptyParts)) {
@@ -294,17 +274,17 @@ TEST_F(KeysTest, PressedAgainTheyUndoOrSayThatThereIsNoMore) {
   EXPECT_TRUE(press(typed("f")));
   EXPECT_EQ(effects(), (Sent{"set fullscreen no", "tracks"}));
   begin();
-  report(MpvProperty::chapter, MpvValue(std::int64_t{0}));
-  report(MpvProperty::timePos, MpvValue(1.0));
+  report(MpvProperty::chapter, std::int64_t{0});
+  report(MpvProperty::timePos, 1.0);
   EXPECT_TRUE(press(typed("P")));
   EXPECT_EQ(effects(), Sent{"\"No previous chapter\""});
-  report(MpvProperty::chapterList, MpvValue(MpvNode{MpvList()}));
+  report(MpvProperty::chapterList, MpvNode{MpvList()});
   EXPECT_TRUE(press(typed("c")));
   EXPECT_EQ(effects(), Sent{"\"No chapters\""});
 }
 
 TEST_F(KeysTest, EscapeGoesBackOneStepAtATime) {
-  const Stroke escape{Qt::Key_Escape, QStringLiteral("\x1b")};
+  const Stroke escape{Qt::Key_Escape, "\x1b"};
   begin();
   window_.fullscreen = true;
   chrome().setPanel(PlayerPanel::queue);
@@ -326,8 +306,8 @@ TEST_F(KeysTest, CloseAndOpen) {
   EXPECT_TRUE(press(typed("O")));
   EXPECT_TRUE(files_.asked);
   for (const Stroke& stroke :
-       {typed("s"), typed("w", kControl), Stroke{0x426, QStringLiteral("\x17"), kControl, 25}}) {
-    testing::FakeVideoWindow window(clock_);
+       {typed("s"), typed("w", kControl), Stroke{0x426, "\x17", kControl, 25}}) {
+    FakeVideoWindow window(clock_);
     showVideo(window);
     takeSent();
     EXPECT_FALSE(window_.keyMonitor) << "there is one at a time";
@@ -342,7 +322,7 @@ TEST_F(KeysTest, CloseAndOpen) {
 TEST(HeldKeyTest, IsToldFromOneThatIsPressedAgain) {
   HeldKey held;
   const auto isRepeat = [&](quint32 code, quint64 time, bool isToldSo = false) {
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_F, {}, code, 0, 0, QStringLiteral("f"), isToldSo);
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_F, {}, code, 0, 0, "f", isToldSo);
     press.setTimestamp(time);
     return held.isRepeatedBy(press);
   };
@@ -357,4 +337,4 @@ TEST(HeldKeyTest, IsToldFromOneThatIsPressedAgain) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

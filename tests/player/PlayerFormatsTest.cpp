@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 TEST(PlayerFormatsTest, TimesSpeedsAndDelays) {
@@ -28,8 +28,8 @@ TEST(PlayerFormatsTest, TimesSpeedsAndDelays) {
                                             {formatDelay, 0.0005, "+1 ms"},
                                             {formatDelay, -0.0005, "-1 ms"},
                                             {formatDelay, -0.25, "-250 ms"}})
-    EXPECT_EQ(format(value), QString::fromUtf8(text)) << value;
+    EXPECT_EQ(format(value), text) << value;
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -7,7 +7,7 @@
 #include "FakeWindows.h"
 #include "platform/UserDefaults.h"
 #include "playback/FakeChooser.h"
-#include "playback/PlaybackModel.h"
+#include "playback/Reports.h"
 #include "player/PlayerWindowController.h"
 #include "support/FakeMpv.h"
 #include "support/ManualClock.h"
@@ -15,7 +15,7 @@
 namespace tromelo::testing {
 
 /// The player's rules over windows, an engine and time that do as a test says.
-class PlayerTest : public ::testing::Test {
+class PlayerTest : public ::testing::Test, protected Reports {
  public:
   using Sent = std::vector<std::string>;
 
@@ -36,10 +36,7 @@ class PlayerTest : public ::testing::Test {
     player().setVideoReady(false);
   }
 
-  void report(MpvProperty property, MpvValue value) {
-    playback_.engine().onEvent(
-        MpvEvent(std::in_place_type<event::Property>, property, std::move(value)));
-  }
+  PlaybackModel& model() override { return playback_; }
   PlayerChrome& chrome() { return player().chrome(); }
 
   /// What the engine was told since the last call, a line each.
@@ -77,7 +74,7 @@ class PlayerTest : public ::testing::Test {
   MpvClientApi api_ = mpv_.api();
   FakeChooser files_;
   QTemporaryDir directory_;
-  UserDefaults defaults_{directory_.filePath(QStringLiteral("defaults.json"))};
+  UserDefaults defaults_{directory_.filePath("defaults.json")};
   FakeLibraryWindow library_{clock_};
   FakeVideoWindow window_{clock_};
   PlaybackModel playback_{

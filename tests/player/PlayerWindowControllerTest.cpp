@@ -4,12 +4,11 @@
 #include "player/PlayerStage.h"
 #include "support/WaitFor.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::FakeVideoWindow;
-using PlayerWindowControllerTest = testing::PlayerTest;
+using PlayerWindowControllerTest = PlayerTest;
 using Sent = PlayerWindowControllerTest::Sent;
 
 TEST_F(PlayerWindowControllerTest, DressesANewWindowUnseenAndRevealsItWhenTheVideoIsReady) {
@@ -195,17 +194,15 @@ TEST_F(PlayerWindowControllerTest, SortsDroppedFiles) {
     std::optional<QString> toast;
   };
   const Row rows[] = {
-      {{"/a.mkv"},
-       {"loadfile /a.mkv replace -1 ", "set pause no"},
-       QStringLiteral("Added to queue")},
+      {{"/a.mkv"}, {"loadfile /a.mkv replace -1 ", "set pause no"}, "Added to queue"},
       {{"/a.mkv", "/b.mp4", "/c"},
        {"loadfile /a.mkv replace -1 ", "set pause no", "loadfile /b.mp4 append -1 ",
         "loadfile /c append -1 "},
-       QStringLiteral("Added 3 videos to queue")},
+       "Added 3 videos to queue"},
       {{"/a.mkv", "/My.Film.SRT", "/b.mkv"},
        {"sub-add /My.Film.SRT select", "loadfile /a.mkv replace -1 ", "set pause no",
         "loadfile /b.mkv append -1 "},
-       QStringLiteral("Subtitles: My.Film")},
+       "Subtitles: My.Film"},
       {{}, {}, std::nullopt},
   };
   showVideo(window_);
@@ -217,17 +214,17 @@ TEST_F(PlayerWindowControllerTest, SortsDroppedFiles) {
     EXPECT_EQ(player().chrome().toast(), row.toast);
     clock_.advance(1400ms);
   }
-  window_.overlay->onDropFiles({QUrl(QStringLiteral("smb://nas/a.mkv"))});
-  EXPECT_TRUE(testing::waitFor([this] { return player().chrome().toast().has_value(); }));
-  EXPECT_EQ(player().chrome().toast(), QStringLiteral("Tromelo plays local files only."));
+  window_.overlay->onDropFiles({QUrl("smb://nas/a.mkv")});
+  EXPECT_TRUE(waitFor([this] { return player().chrome().toast().has_value(); }));
+  EXPECT_EQ(player().chrome().toast(), "Tromelo plays local files only.");
 }
 
 TEST_F(PlayerWindowControllerTest, AToastStaysForItsFullTime) {
-  player().showToast(QStringLiteral("first"));
+  player().showToast("first");
   clock_.advance(1000ms);
-  player().showToast(QStringLiteral("second"));
+  player().showToast("second");
   clock_.advance(1399ms);
-  EXPECT_EQ(player().chrome().toast(), QStringLiteral("second"));
+  EXPECT_EQ(player().chrome().toast(), "second");
   clock_.advance(1ms);
   EXPECT_EQ(player().chrome().toast(), std::nullopt);
 }
@@ -236,9 +233,9 @@ TEST_F(PlayerWindowControllerTest, AnOverlayThatNoWindowCameForGoesBeforeTheMode
   PrivateDisplay display;
   QQmlEngine engine;
   const ReducedMotion motion("1", std::nullopt);
-  testing::FakeOverlay* overlay = nullptr;
+  FakeOverlay* overlay = nullptr;
   PlayerStage stage(display, engine, motion, [&](auto&...) {
-    auto made = std::make_unique<testing::FakeOverlay>(overlay);
+    auto made = std::make_unique<FakeOverlay>(overlay);
     overlay = made.get();
     return made;
   });
@@ -281,4 +278,4 @@ TEST_F(PlayerWindowControllerTest, SurvivesAWindowThatDiesAtAnyMoment) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -8,10 +8,8 @@
 
 #include "support/WaitFor.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
-
-using testing::waitFor;
 
 class PlayerWindowTest : public ::testing::Test {
  protected:
@@ -43,7 +41,7 @@ TEST_F(PlayerWindowTest, IsInFullScreenUntilTheHostHasEndedIt) {
   QObject::connect(&window_, &VideoWindow::leftFullscreen, &window_, [&] { ++left; });
   window_.dress({520, 300});
   Q_EMIT engineWindow_.fullscreenRequested(true);
-  testing::settle();
+  settle();
   EXPECT_TRUE(window_.isFullscreen());
   Q_EMIT engineWindow_.fullscreenRequested(false);
   EXPECT_TRUE(window_.isFullscreen());
@@ -55,9 +53,8 @@ TEST_F(PlayerWindowTest, IsInFullScreenUntilTheHostHasEndedIt) {
 TEST_F(PlayerWindowTest, FadesWhatIsComposed) {
   QQmlComponent grey(&engine_);
   grey.setData("import QtQuick\nRectangle { color: '#c8c8c8'; anchors.fill: parent }", {});
-  const std::unique_ptr<QQuickItem> picture(
-      qobject_cast<QQuickItem*>(grey.createWithInitialProperties(
-          {{QStringLiteral("parent"), QVariant::fromValue(&host().scene())}})));
+  const std::unique_ptr<QQuickItem> picture(qobject_cast<QQuickItem*>(
+      grey.createWithInitialProperties({{"parent", QVariant::fromValue(&host().scene())}})));
   ASSERT_TRUE(picture);
   const auto shown = [this](double opacity) {
     window_.setOpacity(opacity);
@@ -81,4 +78,4 @@ TEST_F(PlayerWindowTest, ShowsThePointerAgainWhenItMoves) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -4,7 +4,7 @@
 
 #include "support/WaitFor.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 using namespace std::chrono_literals;
@@ -22,11 +22,11 @@ TEST(WindowFadeTest, GivesUpTheOneBeforeAndIsAStepWhereNoMotionIsWanted) {
     EXPECT_EQ(root.opacity(), motion.isWanted() ? 0 : 1);
     fade.start(0.5, 60ms, QEasingCurve::Linear, [&] { ++completed; });
     EXPECT_EQ(completed, 0);
-    EXPECT_TRUE(testing::waitFor([&] { return completed == 1; }));
+    EXPECT_TRUE(waitFor([&] { return completed == 1; }));
     EXPECT_EQ(root.opacity(), 0.5);
     EXPECT_EQ(motion.isWanted(), steps == 2);
   }
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -10,14 +10,14 @@
 
 #include "platform/UserDefaults.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-const QString kKey = QStringLiteral("playerSettings");
+const QString kKey = "playerSettings";
 
-QString key(const char* name) { return QString::fromLatin1(name); }
+QString key(const char* name) { return name; }
 
 /// Differs from the default in every entry.
 const QJsonObject& allStored() {
@@ -36,7 +36,7 @@ const QJsonObject& allStored() {
 
 PlayerPreferences allPreferred() {
   return {.autoHideDelay = 0,
-          .subtitleFont = QStringLiteral("Comic Neue"),
+          .subtitleFont = "Comic Neue",
           .subtitleSize = 52.5,
           .subtitleColor = {1.0 / 3, 0.93, 0.35, 0.1},
           .subtitleOutlineColor = {0.1, 0.2, 0.3, 0.4},
@@ -78,7 +78,7 @@ TEST(EnginePropertiesTest, WritesEachBorderStyleInOrder) {
 }
 
 TEST(EnginePropertiesTest, WritesEveryPreference) {
-  const PlayerPreferences style{.subtitleFont = QStringLiteral("Noto Sans ゴシック"),
+  const PlayerPreferences style{.subtitleFont = "Noto Sans ゴシック",
                                 .subtitleSize = 52.5,
                                 .subtitleColor = {1.0 / 3, 0.8, 0, 0.0004},
                                 .subtitleOutlineColor = {0.9999, 0.5, 1, 0.25},
@@ -96,7 +96,7 @@ class PlayerSettingsTest : public ::testing::Test {
   QJsonObject stored() const { return defaults_.value(kKey).toObject(); }
 
   QTemporaryDir directory_;
-  QString path_ = directory_.filePath(QStringLiteral("defaults.json"));
+  QString path_ = directory_.filePath("defaults.json");
   UserDefaults defaults_{path_};
 };
 
@@ -172,7 +172,7 @@ TEST_F(PlayerSettingsTest, EveryWriteIsThereAfterARestart) {
     PlayerSettings settings(defaults_);
     EXPECT_FALSE(defaults_.contains(kKey));
     settings.setAutoHideDelay(0);
-    settings.setSubtitleFont(QStringLiteral("Comic Neue"));
+    settings.setSubtitleFont("Comic Neue");
     settings.setSubtitleSize(52.5);
     settings.setSubtitleColor({1.0 / 3, 0.93, 0.35, 0.1});
     settings.setSubtitleOutlineColor({0.1, 0.2, 0.3, 0.4});
@@ -255,4 +255,4 @@ TEST_F(PlayerSettingsTest, AnnouncesEachWriteBeforeAndEachChangeAfterIt) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -3,9 +3,7 @@
 namespace tromelo::testing {
 
 BusDaemon::BusDaemon() {
-  process_.start(
-      QStringLiteral("dbus-daemon"),
-      {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address")});
+  process_.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
   process_.waitForReadyRead();
   address_ = QString::fromUtf8(process_.readLine()).trimmed();
 }

@@ -6,9 +6,8 @@ namespace tromelo::testing {
 
 FakeScreenSaver::FakeScreenSaver(const QDBusConnection& bus) {
   QDBusConnection desktop = bus;
-  desktop.registerObject(QStringLiteral("/org/freedesktop/ScreenSaver"), this,
-                         QDBusConnection::ExportAllSlots);
-  desktop.registerService(QStringLiteral("org.freedesktop.ScreenSaver"));
+  desktop.registerObject("/org/freedesktop/ScreenSaver", this, QDBusConnection::ExportAllSlots);
+  desktop.registerService("org.freedesktop.ScreenSaver");
   watcher_.setConnection(bus);
   watcher_.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
   connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this, [this](const QString& gone) {

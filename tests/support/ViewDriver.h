@@ -23,7 +23,7 @@ class ViewDriver {
     }
     return found;
   }
-  QQuickItem* item(const char* name) { return items(QString::fromUtf8(name)).value(0); }
+  QQuickItem* item(const char* name) { return items(name).value(0); }
   bool isShown(const char* name) { return item(name) && item(name)->isVisible(); }
   QString text(const char* name, const char* property = "text") {
     return item(name)->property(property).toString();
@@ -34,7 +34,7 @@ class ViewDriver {
   QRectF frame(const char* name) { return frame(item(name)); }
   /// What can be seen of this name, from top to bottom and left to right.
   QList<QQuickItem*> all(const char* name, const QQuickItem* within = nullptr) {
-    QList<QQuickItem*> found = items(QString::fromUtf8(name), within);
+    QList<QQuickItem*> found = items(name, within);
     found.removeIf([](const QQuickItem* one) { return !one->isVisible(); });
     std::ranges::stable_sort(found, {}, [this](QQuickItem* one) {
       return std::pair(frame(one).top(), frame(one).left());

@@ -11,19 +11,18 @@
 #include "support/FakeMpv.h"
 #include "support/WaitFor.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 TEST(AboutFactsTest, SaysWhatIsKnownAndAddsWhatIsFound) {
-  testing::FakeMpv mpv;
+  FakeMpv mpv;
   MpvEngine engine(mpv.api());
   const QTemporaryDir directory;
   engine.initialize(directory.path());
-  AboutFacts facts(engine, [] { return QStringList{QStringLiteral("Vulkan device: fast")}; });
-  EXPECT_TRUE(facts.details().contains(QStringLiteral("libmpv: client API 2.5\n")));
-  EXPECT_FALSE(facts.details().contains(QStringLiteral("libplacebo")));
-  EXPECT_TRUE(testing::waitFor(
-      [&] { return facts.details().contains(QStringLiteral("\nVulkan device: fast\n")); }));
+  AboutFacts facts(engine, [] { return QStringList{"Vulkan device: fast"}; });
+  EXPECT_TRUE(facts.details().contains("libmpv: client API 2.5\n"));
+  EXPECT_FALSE(facts.details().contains("libplacebo"));
+  EXPECT_TRUE(waitFor([&] { return facts.details().contains("\nVulkan device: fast\n"); }));
 
   const char* version = "mpv 0.40";
   mpv_event_property property{"mpv-version", MPV_FORMAT_OSD_STRING, &version};
@@ -36,11 +35,11 @@ TEST(AboutFactsTest, SaysWhatIsKnownAndAddsWhatIsFound) {
   }
   EXPECT_EQ(mpv.queuedEvents(), 2U);
   engine.drainEvents();
-  EXPECT_TRUE(facts.details().contains(QStringLiteral("libmpv: client API 2.5, mpv 0.40\n")));
+  EXPECT_TRUE(facts.details().contains("libmpv: client API 2.5, mpv 0.40\n"));
   facts.copy();
   const QString copied = QGuiApplication::clipboard()->text();
-  EXPECT_TRUE(copied.startsWith(QStringLiteral("Tromelo ")) && copied.contains(facts.details()));
+  EXPECT_TRUE(copied.startsWith("Tromelo ") && copied.contains(facts.details()));
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -10,22 +10,22 @@
 #include "platform/UserDefaults.h"
 #include "player/PlayerShortcuts.h"
 #include "settings/PlayerSettings.h"
+#include "support/Reader.h"
+#include "support/Table.h"
 #include "support/WaitFor.h"
 #include "support/Warnings.h"
 #include "windows/ProgramWindow.h"
 #include "windows/SettingsPages.h"
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
-
-using testing::waitFor;
 
 using Page = SettingsPages::Page;
 using enum SettingsPages::Page;
 
 class SettingsWindowTest : public ::testing::Test {
  protected:
-  void SetUp() override { testing::allowWarning(QStringLiteral("This plugin does not support")); }
+  void SetUp() override { allowWarning("This plugin does not support"); }
   void show(Page page) {
     pages_.setPage(page);
     window_ = &shell_.show();
@@ -41,7 +41,7 @@ class SettingsWindowTest : public ::testing::Test {
     return found;
   }
   QQuickItem* item(const char* name) {
-    QQuickItem* found = items(QString::fromLatin1(name)).value(0);
+    QQuickItem* found = items(name).value(0);
     if (!found) qFatal("no %s", name);
     return found;
   }
@@ -49,11 +49,11 @@ class SettingsWindowTest : public ::testing::Test {
   void click(QQuickItem* target) {
     const QRectF frame = target->mapRectToScene({QPointF(), target->size()});
     QTest::mouseClick(window_, Qt::LeftButton, {}, frame.center().toPoint());
-    testing::settle();
+    settle();
   }
   void press(Qt::Key key, int times = 1) {
     for (int i = 0; i < times; ++i) QTest::keyClick(window_, key);
-    testing::settle();
+    settle();
   }
   void tabTo(const char* name) {
     for (int i = 0; i < 20 && window_->activeFocusItem() != item(name); ++i) press(Qt::Key_Tab);
@@ -61,14 +61,14 @@ class SettingsWindowTest : public ::testing::Test {
   }
 
   QTemporaryDir directory_;
-  UserDefaults defaults_{directory_.filePath(QStringLiteral("defaults.json"))};
+  UserDefaults defaults_{directory_.filePath("defaults.json")};
   PlayerSettings settings_{defaults_};
   QQmlEngine engine_;
   SettingsPages pages_;
-  ProgramWindow shell_{engine_,
-                       "SettingsWindow",
-                       {{QStringLiteral("settings"), QVariant::fromValue(&settings_)},
-                        {QStringLiteral("pages"), QVariant::fromValue(&pages_)}}};
+  ProgramWindow shell_{
+      engine_,
+      "SettingsWindow",
+      {{"settings", QVariant::fromValue(&settings_)}, {"pages", QVariant::fromValue(&pages_)}}};
   QQuickWindow* window_ = nullptr;
 };
 
@@ -77,35 +77,29 @@ TEST_F(SettingsWindowTest, EveryControlCanBeUsedByKeys) {
   tabTo("autoHideDelay");
   press(Qt::Key_Down, 4);
   EXPECT_EQ(settings_.autoHideDelay(), 0);
-  EXPECT_EQ(defaults_.value(QStringLiteral("playerSettings"))[u"autoHideDelay"], QJsonValue(0));
+  EXPECT_EQ(defaults_.value("playerSettings")[u"autoHideDelay"], QJsonValue(0));
   press(Qt::Key_Tab);
   EXPECT_EQ(window_->activeFocusItem(), item("tabGeneral"));
   press(Qt::Key_Right);
   window_->grabWindow();
   ASSERT_EQ(window_->activeFocusItem(), item("tabSubtitles"));
-  struct Row {
-    const char* control;
-    Qt::Key key;
-    std::function<bool()> holds;
-  };
-  const Row rows[] = {
-      {"subtitleFont", Qt::Key_Down,
-       [this] { return settings_.subtitleFont() == QStringLiteral("Avenir Next"); }},
-      {"subtitleBold", Qt::Key_Return, [this] { return settings_.subtitleBold(); }},
-      {"subtitleSize", Qt::Key_Right, [this] { return settings_.subtitleSize() == 46; }},
-      {"subtitleColorPreset", Qt::Key_Space,
-       [this] { return settings_.subtitleColor() == RgbaColor(1, 1, 1); }},
-      {"segmentOutline", Qt::Key_Right,
-       [this] { return settings_.subtitleBorderStyle() == SubtitleBorderStyle::shadow; }},
-      {"subtitleOverridesStyled", Qt::Key_Space,
-       [this] { return settings_.subtitleOverridesStyled(); }},
-      {"resetSubtitleStyle", Qt::Key_Return,
-       [this] { return settings_.preferences() == PlayerPreferences{.autoHideDelay = 0}; }},
-  };
-  for (const Row& row : rows) {
-    tabTo(row.control);
-    press(row.key);
-    EXPECT_TRUE(row.holds()) << row.control;
+  for (const auto& [control, key, holds] : Table<const char*, Qt::Key, std::function<bool()>>{
+           {"subtitleFont", Qt::Key_Down,
+            [this] { return settings_.subtitleFont() == "Avenir Next"; }},
+           {"subtitleBold", Qt::Key_Return, [this] { return settings_.subtitleBold(); }},
+           {"subtitleSize", Qt::Key_Right, [this] { return settings_.subtitleSize() == 46; }},
+           {"subtitleColorPreset", Qt::Key_Space,
+            [this] { return settings_.subtitleColor() == RgbaColor(1, 1, 1); }},
+           {"segmentOutline", Qt::Key_Right,
+            [this] { return settings_.subtitleBorderStyle() == SubtitleBorderStyle::shadow; }},
+           {"subtitleOverridesStyled", Qt::Key_Space,
+            [this] { return settings_.subtitleOverridesStyled(); }},
+           {"resetSubtitleStyle", Qt::Key_Return,
+            [this] { return settings_.preferences() == PlayerPreferences{.autoHideDelay = 0}; }},
+       }) {
+    tabTo(control);
+    press(key);
+    EXPECT_TRUE(holds()) << control;
   }
   EXPECT_EQ(settings_.autoHideDelay(), 0);
 }
@@ -113,7 +107,7 @@ TEST_F(SettingsWindowTest, EveryControlCanBeUsedByKeys) {
 TEST_F(SettingsWindowTest, ShowsWhatIsSetElsewhere) {
   show(Subtitles);
   settings_.setSubtitleSize(45.9);
-  EXPECT_EQ(value("subtitleSizeText", "text"), QVariant(QStringLiteral("45")));
+  EXPECT_EQ(value("subtitleSizeText", "text"), QVariant("45"));
   tabTo("subtitleSize");
   press(Qt::Key_Left);
   EXPECT_EQ(settings_.subtitleSize(), 44);  // on a step again
@@ -128,16 +122,16 @@ TEST_F(SettingsWindowTest, ShowsWhatIsSetElsewhere) {
   EXPECT_EQ(value("subtitleOutlineColor", "color").value<QColor>(),
             settings_.subtitleOutlineColor().toQColor());
   window_->grabWindow();
-  const auto presets = items(QStringLiteral("subtitleColorPreset"));
+  const auto presets = items("subtitleColorPreset");
   ASSERT_EQ(presets.size(), 4);
   click(presets[1]);
   EXPECT_EQ(settings_.subtitleColor(), RgbaColor(1, 0.93, 0.35));
 
   show(General);
   settings_.setAutoHideDelay(4);
-  EXPECT_EQ(value("autoHideDelay", "displayText"), QVariant(QStringLiteral("4 seconds")));
+  EXPECT_EQ(value("autoHideDelay", "displayText"), QVariant("4 seconds"));
   settings_.setAutoHideDelay(10);
-  EXPECT_EQ(value("autoHideDelay", "displayText"), QVariant(QStringLiteral("10 seconds")));
+  EXPECT_EQ(value("autoHideDelay", "displayText"), QVariant("10 seconds"));
 }
 
 TEST_F(SettingsWindowTest, AColorThatIsTriedAndCancelledLeavesNothing) {
@@ -163,13 +157,13 @@ TEST_F(SettingsWindowTest, AColorThatIsTriedAndCancelledLeavesNothing) {
       dialog.reject();
       EXPECT_EQ((settings_.*chosen)(), before);
       EXPECT_EQ(writes, 2 * tries);
-      testing::settle();
+      settle();
     }
     QColorDialog& dialog = open(well);
     dialog.setCurrentColor(Qt::blue);
     dialog.accept();
     EXPECT_EQ((settings_.*chosen)(), RgbaColor(0, 0, 1));
-    testing::settle();
+    settle();
   }
 }
 
@@ -193,21 +187,52 @@ TEST_F(SettingsWindowTest, ThereIsOneUntilItIsClosedAndItIsAsHighAsItsPage) {
   press(Qt::Key_Escape);
   EXPECT_TRUE(shell_.isOpen()) << "Esc closes the list first";
   QTest::keyClick(window_, Qt::Key_W, Qt::ControlModifier);
-  testing::settle();
+  settle();
   EXPECT_FALSE(shell_.isOpen());
+}
+
+TEST_F(SettingsWindowTest, AllIsKnownAndUsedWithoutBeingSeen) {
+  using enum QAccessible::Role;
+  show(General);
+  Reader reader(*window_);
+  EXPECT_TRUE(reader.state(PageTab, "General").selected);
+  reader.expect({});
+  reader.press(ComboBox, "Hide player controls after");
+  reader.press(ListItem, "5 seconds");
+  EXPECT_EQ(settings_.autoHideDelay(), 5);
+  EXPECT_EQ(reader.find(ComboBox, "Hide player controls after")->text(QAccessible::Description),
+            "5 seconds");
+  reader.press(PageTab, "Subtitles");
+  reader.expect({{ComboBox, "Font"},
+                 {Button, "White"},
+                 {Button, "Light green"},
+                 {Button, "Custom color"},
+                 {Grouping, "Style"},
+                 {CheckBox, "Also restyle styled (ASS) subtitles"},
+                 {Button, "Reset"}});
+  reader.press(CheckBox, "Bold");
+  EXPECT_TRUE(settings_.subtitleBold() && reader.state(CheckBox, "Bold").checked);
+  reader.set(Slider, "Size", 60);
+  EXPECT_EQ(settings_.subtitleSize(), 60);
+  reader.press(RadioButton, "Box");
+  EXPECT_EQ(settings_.subtitleBorderStyle(), SubtitleBorderStyle::box);
+  EXPECT_TRUE(reader.state(RadioButton, "Box").checked);
+  EXPECT_FALSE(reader.state(RadioButton, "Outline").checked);
+  reader.press(PageTab, "Shortcuts");
+  reader.expect(
+      {{List, "Keyboard Shortcuts"}, {Heading, "Playback"}, {ListItem, "Space: Play / pause"}});
 }
 
 TEST_F(SettingsWindowTest, ListsTheShortcutsInTheirOrder) {
   show(Shortcuts);
   QStringList actions;
-  for (const QQuickItem* action : items(QStringLiteral("shortcutAction")))
+  for (const QQuickItem* action : items("shortcutAction"))
     actions << action->property("text").toString();
   QStringList expected;
   for (const ShortcutGroup& group : PlayerShortcuts::shownGroups())
     for (const Shortcut& shortcut : group.items) expected << shortcut.action;
   EXPECT_EQ(actions, expected);
-  EXPECT_EQ(items(QStringLiteral("shortcutTitle")).value(0)->property("text"),
-            QVariant(QStringLiteral("Playback")));
+  EXPECT_EQ(items("shortcutTitle").value(0)->property("text"), QVariant("Playback"));
   tabTo("shortcutList");
   press(Qt::Key_PageDown, 9);
   EXPECT_EQ(value("shortcutList", "contentY").toDouble(),
@@ -215,4 +240,4 @@ TEST_F(SettingsWindowTest, ListsTheShortcutsInTheirOrder) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace tromelo {
+namespace tromelo::testing {
 namespace {
 
 constexpr QSizeF kSize(480, 110);
@@ -47,7 +47,7 @@ TEST(SubtitlePictureTest, DrawsEachStyleAtTheBottom) {
   for (const Row& row : rows) {
     for (const double scale : {1.0, 2.0}) {
       PlayerPreferences style;
-      style.subtitleFont = QStringLiteral("Inter");
+      style.subtitleFont = "Inter";
       style.subtitleBorderStyle = row.style;
       style.subtitleOutlineColor = row.edge;
       const QImage picture = subtitlePicture(kSize, scale, style);
@@ -73,4 +73,4 @@ TEST(SubtitlePictureTest, IsAsLargeAndAsBoldAsSubtitles) {
 }
 
 }  // namespace
-}  // namespace tromelo
+}  // namespace tromelo::testing
