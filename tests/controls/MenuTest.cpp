@@ -9,6 +9,7 @@
 #include "controls/Mnemonic.h"
 #include "support/Reader.h"
 #include "support/Table.h"
+#include "support/ViewDriver.h"
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
@@ -39,7 +40,7 @@ Window {
     Item { focus: true; anchors.fill: parent; objectName: "content" }
 })";
 
-class MenuTest : public ::testing::Test {
+class MenuTest : public ::testing::Test, protected ViewDriver {
  protected:
   MenuTest() {
     QQmlComponent component(&engine_);
@@ -50,10 +51,7 @@ class MenuTest : public ::testing::Test {
     EXPECT_TRUE(waitFor([this] { return window_->isActive(); }));
   }
 
-  void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::keyClick(window_.get(), key, modifiers);
-    settle();
-  }
+  QQuickWindow& window() override { return *window_; }
   bool isOpen(const char* menu) {
     return window_->findChild<QObject*>(menu)->property("opened").toBool();
   }
@@ -68,47 +66,47 @@ TEST_F(MenuTest, TheKeyboardReachesEveryEntry) {
            {"Alt and its letters",
             [this] {
               QTest::keyPress(window_.get(), Qt::Key_Alt);
-              press(Qt::Key_F, Qt::AltModifier);
+              key(Qt::Key_F, Qt::AltModifier);
               QTest::keyRelease(window_.get(), Qt::Key_Alt);
-              press(Qt::Key_Q);
+              key(Qt::Key_Q);
             },
             "quit"},
            {"Alt alone, then down over what is disabled",
             [this] {
-              press(Qt::Key_Alt);
-              press(Qt::Key_Down);
-              press(Qt::Key_Return);
+              key(Qt::Key_Alt);
+              key(Qt::Key_Down);
+              key(Qt::Key_Return);
             },
             "quit"},
            {"F10, right, Enter",
             [this] {
-              press(Qt::Key_F10);
-              press(Qt::Key_Right);
-              press(Qt::Key_Return);
+              key(Qt::Key_F10);
+              key(Qt::Key_Right);
+              key(Qt::Key_Return);
             },
             "about"},
            {"Alt and the letters of another menu",
             [this] {
-              press(Qt::Key_H, Qt::AltModifier);
-              press(Qt::Key_A);
+              key(Qt::Key_H, Qt::AltModifier);
+              key(Qt::Key_A);
             },
             "about"},
            {"a disabled letter",
             [this] {
-              press(Qt::Key_H, Qt::AltModifier);
-              press(Qt::Key_Escape);
-              press(Qt::Key_F10);
-              press(Qt::Key_N);
-              press(Qt::Key_Escape);
+              key(Qt::Key_H, Qt::AltModifier);
+              key(Qt::Key_Escape);
+              key(Qt::Key_F10);
+              key(Qt::Key_N);
+              key(Qt::Key_Escape);
             },
             ""},
-           {"a letter while nothing is open", [this] { press(Qt::Key_O); }, ""},
+           {"a letter while nothing is open", [this] { key(Qt::Key_O); }, ""},
            {"Alt with something in between",
             [this] {
               QTest::keyPress(window_.get(), Qt::Key_Alt);
               QTest::keyClick(window_.get(), Qt::Key_X, Qt::AltModifier);
               QTest::keyRelease(window_.get(), Qt::Key_Alt);
-              press(Qt::Key_Q);
+              key(Qt::Key_Q);
             },
             ""},
        }) {

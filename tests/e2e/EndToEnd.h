@@ -11,15 +11,17 @@ namespace tromelo::testing {
 
 class EndToEnd : public ::testing::Test {
  protected:
-  static QString clip(const char* name) { return QString::fromStdString(clipPath(name)); }
+  static QString clip(const QString& name) {
+    return QString::fromStdString(clipPath(name.toStdString()));
+  }
 
   EngineProbe probe() { return EngineProbe(player.ipcPath()); }
 
   /// The visible window whose title holds this, by its id; where the host has none, by its title.
-  QString window(const char* title) { return screen::windowOf(player.processId(), title); }
+  QString window(const QString& title) { return screen::windowOf(player.processId(), title); }
 
   /// Whether that window has the keyboard.
-  bool isActive(const char* title) { return screen::isActive(player.processId(), title); }
+  bool isActive(const QString& title) { return screen::isActive(player.processId(), title); }
 
   RunningPlayer player;
 };

@@ -152,7 +152,8 @@ TEST_F(HandOnThePicture, TakesDroppedFilesInTheirOrderAndNothingElse) {
   EngineProbe engine = probe();
   EXPECT_EQ(Drag("text/plain", {files[0]}).drop(place, false), "nothing");
   EXPECT_EQ(engine.get("playlist-count"), 1);
-  EXPECT_EQ(Drag("text/uri-list", urls).drop(place, true), "copy");
+  Drag wanted("text/uri-list", urls);  // still there when the player fetches them
+  EXPECT_EQ(wanted.drop(place, true), "copy");
   ASSERT_TRUE(engine.waitFor("playlist-count", 6));
   for (int i = 0; i < 5; ++i)
     EXPECT_EQ(engine.get(QString("playlist/%1/filename").arg(i + 1)), files[i]);

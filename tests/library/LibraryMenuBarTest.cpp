@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "player/Commands.h"
+#include "support/Table.h"
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
@@ -36,39 +37,26 @@ TEST(LibraryMenuBarTest, EveryEntryAndEveryKeyRunsItsCommand) {
   window.requestActivate();
   ASSERT_TRUE(waitFor([&] { return window.isActive(); }));
 
-  struct Row {
-    const char* text;
-    const char* keys;
-    Qt::Key menu;
-    Qt::Key letter;
-    QKeyCombination key;
-    const char* runs;
-  };
-  const QKeyCombination none(Qt::Key_unknown);
-  const Row rows[] = {
-      {"Open…", "Ctrl+O", Qt::Key_F, Qt::Key_O, Qt::CTRL | Qt::Key_O, "open"},
-      {"Quit", "Ctrl+Q", Qt::Key_F, Qt::Key_Q, Qt::CTRL | Qt::Key_Q, "quit"},
-      {"Settings…", "Ctrl+,", Qt::Key_E, Qt::Key_S, Qt::CTRL | Qt::Key_Comma, "settings"},
-      {"Library", "Ctrl+Shift+L", Qt::Key_W, Qt::Key_L, Qt::CTRL | Qt::SHIFT | Qt::Key_L,
-       "library"},
-      {"Keyboard Shortcuts", "", Qt::Key_H, Qt::Key_K, none, "shortcuts"},
-      {"About Tromelo", "", Qt::Key_H, Qt::Key_A, none, "about"},
-  };
-  for (const Row& row : rows) {
-    const auto runsIt = [&] { return std::exchange(ran, {}) == row.runs; };
-    QTest::keyClick(&window, row.menu, Qt::AltModifier);
+  const auto type = [&window](QKeyCombination keys) {
+    QTest::keyClick(&window, keys.key(), keys.keyboardModifiers());
     settle();
-    QTest::keyClick(&window, row.letter);
-    settle();
-    EXPECT_TRUE(runsIt()) << row.text;
-    if (row.key != none) {
-      QTest::keyClick(&window, row.key.key(), row.key.keyboardModifiers());
-      EXPECT_TRUE(runsIt()) << row.keys;
-    }
-    const auto* entry = bar->findChild<QObject*>(QString::fromLatin1(row.runs) + "Command");
-    ASSERT_TRUE(entry) << row.text;
-    EXPECT_EQ(entry->property("text").toString().remove(u'&'), row.text);
-    EXPECT_EQ(entry->property("keys"), QVariant(row.keys));
+  };
+  for (const auto& [runs, menu, letter] :
+       Table<const char*, Qt::Key, Qt::Key>{{"open", Qt::Key_F, Qt::Key_O},
+                                            {"quit", Qt::Key_F, Qt::Key_Q},
+                                            {"settings", Qt::Key_E, Qt::Key_S},
+                                            {"library", Qt::Key_W, Qt::Key_L},
+                                            {"shortcuts", Qt::Key_H, Qt::Key_K},
+                                            {"about", Qt::Key_H, Qt::Key_A}}) {
+    type(Qt::ALT | menu);
+    type(letter);
+    EXPECT_EQ(std::exchange(ran, {}), runs);
+    const auto* entry = bar->findChild<QObject*>(QString(runs) + "Command");
+    ASSERT_TRUE(entry) << runs;
+    const QKeySequence keys(entry->property("keys").toString());
+    if (keys.isEmpty()) continue;
+    type(keys[0]);
+    EXPECT_EQ(std::exchange(ran, {}), runs) << "by its keys";
   }
   QEvent sessionEnds(QEvent::Quit);
   QCoreApplication::sendEvent(qApp, &sessionEnds);

@@ -53,19 +53,7 @@ class LibraryViewTest : public ViewTest {
       if (row->property("chosen").toBool()) names << row->property("name").toString();
     return names.join(u'|');
   }
-  void key(int key, Qt::KeyboardModifiers modifiers = {}) {
-    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-      QKeyEvent event(type, key, modifiers);
-      QCoreApplication::sendEvent(&host_, &event);
-    }
-    layOut();
-  }
-  void clickAt(const QQuickItem* one, Qt::MouseButton button = Qt::LeftButton) {
-    layOut();
-    press(frame(one).center(), button);
-    release(frame(one).center(), button);
-    layOut();
-  }
+  void afterClick() override {}
   /// The files that the engine was told to play since the last call, and how.
   Sent opened() {
     Sent lines = takeSent();
@@ -91,7 +79,7 @@ TEST_F(LibraryViewTest, ListsWhatWasPlayedNewestFirst) {
   EXPECT_EQ(texts(rows(), "path"), (QStringList{"/Movies/My.Film.2020.mkv", "/Movies/.hidden"}));
   EXPECT_EQ(texts(items("recentName")).size(), 2);
 
-  clickAt(rows()[1]);
+  click(rows()[1]);
   EXPECT_EQ(opened(), Sent{"loadfile /Movies/.hidden replace"});
   EXPECT_EQ(chosen(), QString()) << "a click leaves the keyboard where it is";
 }
@@ -148,7 +136,7 @@ TEST_F(LibraryViewTest, ARowsMenuDoesWhatItSaysFromTheHandAndFromTheKeyboard) {
   play("/b");
   play("/a");
   const auto open = [this](int how) {
-    if (how == 0) return clickAt(rows()[1], Qt::RightButton);
+    if (how == 0) return click(rows()[1], Qt::RightButton);
     for (int i = 0; i < 2; ++i) key(Qt::Key_Down);
     ASSERT_EQ(chosen(), "b");
     how == 1 ? key(Qt::Key_Menu) : key(Qt::Key_F10, Qt::ShiftModifier);
@@ -171,7 +159,7 @@ TEST_F(LibraryViewTest, ARowsMenuDoesWhatItSaysFromTheHandAndFromTheKeyboard) {
   EXPECT_EQ(opened(), Sent{"loadfile /b append"});
   open(0);
   play("/c");  // while the menu is open
-  clickAt(item("removeFromRecents"));
+  click(item("removeFromRecents"));
   EXPECT_EQ(texts(rows(), "name"), (QStringList{"c", "a"}));
 
   QStringList said;
@@ -180,8 +168,8 @@ TEST_F(LibraryViewTest, ARowsMenuDoesWhatItSaysFromTheHandAndFromTheKeyboard) {
   const QByteArray path = qgetenv("PATH");
   qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
   qputenv("PATH", "/nowhere");
-  clickAt(rows()[0], Qt::RightButton);
-  clickAt(item("showInFileManager"));
+  click(rows()[0], Qt::RightButton);
+  click(item("showInFileManager"));
   qputenv("PATH", path);
   EXPECT_EQ(said.size(), 1) << "there is none that could show it";
 }
@@ -201,13 +189,13 @@ TEST_F(LibraryViewTest, DescribesTheLastFileOnceItIsKnown) {
   EXPECT_EQ(texts(items("detailValue")),
             (QStringList{playback_.output(), playback_.display(), playback_.decoder()}));
   takeSent();
-  clickAt(item("playAgain"));
+  click(item("playAgain"));
   EXPECT_EQ(opened(), Sent{"loadfile /films/Film.mkv replace"});
 }
 
 TEST_F(LibraryViewTest, EveryButtonThatOpensAsksForFiles) {
   const auto check = [this](const char* name) {
-    clickAt(item(name));
+    click(item(name));
     EXPECT_TRUE(asksForFiles()) << name << ", by hand";
     for (const auto enter : {Qt::Key_Return, Qt::Key_Space}) {
       item(name)->forceActiveFocus(Qt::TabFocusReason);

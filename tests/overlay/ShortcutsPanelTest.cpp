@@ -14,10 +14,7 @@ class ShortcutsPanelTest : public ViewTest {
     return panel;
   }
   QStringList textsOf(const char* name, const char* column) {
-    QStringList found;
-    for (const QQuickItem* one : items(name, item(column)))
-      found << one->property("text").toString();
-    return found;
+    return texts(items(name, item(column)));
   }
 };
 

@@ -20,6 +20,10 @@ class ViewTest : public PlayerTest, protected ViewDriver {
     host_.show();
   }
 
+  void afterClick() override {
+    EXPECT_EQ(host_.activeFocusItem(), host_.contentItem()) << "nothing took the keyboard";
+  }
+
   /// With the model, and the chrome where it takes that too.
   QQuickItem& show(const char* type, QVariantMap properties = {}) {
     QQmlComponent component(&engine_, module_, type);

@@ -6,18 +6,24 @@
 #include <QMouseEvent>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QTest>
 #include <algorithm>
 #include <chrono>
+
+#include "support/WaitFor.h"
 
 namespace tromelo::testing {
 
 /// A window with views, which a test finds by their names and uses as a hand would.
 class ViewDriver {
  protected:
+  virtual ~ViewDriver() = default;
+  virtual QQuickWindow& window() { return host_; }
+
   /// Those of this name that are in the window, in their order.
   QList<QQuickItem*> items(const QString& name, const QQuickItem* within = nullptr) {
     QList<QQuickItem*> found;
-    for (QQuickItem* child : (within ? within : host_.contentItem())->childItems()) {
+    for (QQuickItem* child : (within ? within : window().contentItem())->childItems()) {
       if (child->objectName() == name) found << child;
       found << items(name, child);
     }
@@ -29,7 +35,7 @@ class ViewDriver {
     return item(name)->property(property).toString();
   }
   /// Rows place what is in them when a picture is drawn.
-  void layOut() { host_.grabWindow(); }
+  void layOut() { window().grabWindow(); }
   QRectF frame(const QQuickItem* view) { return view->mapRectToScene({QPointF(), view->size()}); }
   QRectF frame(const char* name) { return frame(item(name)); }
   /// What can be seen of this name, from top to bottom and left to right.
@@ -53,10 +59,10 @@ class ViewDriver {
 
   void mouse(QEvent::Type type, QPointF place, Qt::MouseButtons held,
              Qt::MouseButton button = Qt::NoButton) {
-    pointer_ = host_.position() + place;
+    pointer_ = window().position() + place;
     QMouseEvent event(type, place, pointer_, button, held, Qt::NoModifier);
     event.setTimestamp(static_cast<quint64>(time_.count()));
-    QCoreApplication::sendEvent(&host_, &event);
+    QCoreApplication::sendEvent(&window(), &event);
   }
   void move(QPointF place) { mouse(QEvent::MouseMove, place, Qt::NoButton); }
   void drag(QPointF place) { mouse(QEvent::MouseMove, place, Qt::LeftButton); }
@@ -70,18 +76,27 @@ class ViewDriver {
   void click(QPointF place, Qt::MouseButton button = Qt::LeftButton) {
     press(place, button);
     release(place, button);
-    EXPECT_EQ(host_.activeFocusItem(), host_.contentItem()) << "nothing took the keyboard";
+    afterClick();
   }
-  void click(const QQuickItem* one) {
+  virtual void afterClick() {}
+  void click(const QQuickItem* one, Qt::MouseButton button = Qt::LeftButton) {
     ASSERT_TRUE(one);
     layOut();
-    click(frame(one).center());
+    click(frame(one).center(), button);
+    settle();
+    layOut();
   }
   void click(const char* name) { click(item(name)); }
   void scroll(QPointF place) {
     QWheelEvent event(place, place, {0, -120}, {0, -120}, Qt::NoButton, Qt::NoModifier,
                       Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(&host_, &event);
+    QCoreApplication::sendEvent(&window(), &event);
+  }
+
+  void key(int key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(&window(), Qt::Key(key), modifiers);
+    settle();
+    layOut();
   }
 
   QQuickWindow host_;

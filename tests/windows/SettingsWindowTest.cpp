@@ -12,6 +12,7 @@
 #include "settings/PlayerSettings.h"
 #include "support/Reader.h"
 #include "support/Table.h"
+#include "support/ViewDriver.h"
 #include "support/WaitFor.h"
 #include "support/Warnings.h"
 #include "windows/ProgramWindow.h"
@@ -23,41 +24,19 @@ namespace {
 using Page = SettingsPages::Page;
 using enum SettingsPages::Page;
 
-class SettingsWindowTest : public ::testing::Test {
+class SettingsWindowTest : public ::testing::Test, protected ViewDriver {
  protected:
   void SetUp() override { allowWarning("This plugin does not support"); }
+  QQuickWindow& window() override { return shell_.isOpen() ? shell_.show() : host_; }
   void show(Page page) {
     pages_.setPage(page);
-    window_ = &shell_.show();
-    EXPECT_TRUE(waitFor([this] { return window_->isActive(); }));
-    window_->grabWindow();  // rows place what is in them when a picture is drawn
-  }
-  QList<QQuickItem*> items(const QString& name, const QQuickItem* within = nullptr) {
-    QList<QQuickItem*> found;
-    for (QQuickItem* child : (within ? within : window_->contentItem())->childItems()) {
-      if (child->objectName() == name) found << child;
-      found << items(name, child);
-    }
-    return found;
-  }
-  QQuickItem* item(const char* name) {
-    QQuickItem* found = items(name).value(0);
-    if (!found) qFatal("no %s", name);
-    return found;
-  }
-  QVariant value(const char* name, const char* property) { return item(name)->property(property); }
-  void click(QQuickItem* target) {
-    const QRectF frame = target->mapRectToScene({QPointF(), target->size()});
-    QTest::mouseClick(window_, Qt::LeftButton, {}, frame.center().toPoint());
-    settle();
-  }
-  void press(Qt::Key key, int times = 1) {
-    for (int i = 0; i < times; ++i) QTest::keyClick(window_, key);
-    settle();
+    shell_.show();
+    EXPECT_TRUE(waitFor([this] { return window().isActive(); }));
+    layOut();
   }
   void tabTo(const char* name) {
-    for (int i = 0; i < 20 && window_->activeFocusItem() != item(name); ++i) press(Qt::Key_Tab);
-    EXPECT_EQ(window_->activeFocusItem(), item(name)) << name;
+    for (int i = 0; i < 20 && window().activeFocusItem() != item(name); ++i) key(Qt::Key_Tab);
+    EXPECT_EQ(window().activeFocusItem(), item(name)) << name;
   }
 
   QTemporaryDir directory_;
@@ -69,20 +48,19 @@ class SettingsWindowTest : public ::testing::Test {
       engine_,
       "SettingsWindow",
       {{"settings", QVariant::fromValue(&settings_)}, {"pages", QVariant::fromValue(&pages_)}}};
-  QQuickWindow* window_ = nullptr;
 };
 
 TEST_F(SettingsWindowTest, EveryControlCanBeUsedByKeys) {
   show(General);
   tabTo("autoHideDelay");
-  press(Qt::Key_Down, 4);
+  for (int i = 0; i < 4; ++i) key(Qt::Key_Down);
   EXPECT_EQ(settings_.autoHideDelay(), 0);
   EXPECT_EQ(defaults_.value("playerSettings")[u"autoHideDelay"], QJsonValue(0));
-  press(Qt::Key_Tab);
-  EXPECT_EQ(window_->activeFocusItem(), item("tabGeneral"));
-  press(Qt::Key_Right);
-  window_->grabWindow();
-  ASSERT_EQ(window_->activeFocusItem(), item("tabSubtitles"));
+  key(Qt::Key_Tab);
+  EXPECT_EQ(window().activeFocusItem(), item("tabGeneral"));
+  key(Qt::Key_Right);
+  layOut();
+  ASSERT_EQ(window().activeFocusItem(), item("tabSubtitles"));
   for (const auto& [control, key, holds] : Table<const char*, Qt::Key, std::function<bool()>>{
            {"subtitleFont", Qt::Key_Down,
             [this] { return settings_.subtitleFont() == "Avenir Next"; }},
@@ -98,7 +76,7 @@ TEST_F(SettingsWindowTest, EveryControlCanBeUsedByKeys) {
             [this] { return settings_.preferences() == PlayerPreferences{.autoHideDelay = 0}; }},
        }) {
     tabTo(control);
-    press(key);
+    this->key(key);
     EXPECT_TRUE(holds()) << control;
   }
   EXPECT_EQ(settings_.autoHideDelay(), 0);
@@ -107,21 +85,21 @@ TEST_F(SettingsWindowTest, EveryControlCanBeUsedByKeys) {
 TEST_F(SettingsWindowTest, ShowsWhatIsSetElsewhere) {
   show(Subtitles);
   settings_.setSubtitleSize(45.9);
-  EXPECT_EQ(value("subtitleSizeText", "text"), QVariant("45"));
+  EXPECT_EQ(text("subtitleSizeText"), "45");
   tabTo("subtitleSize");
-  press(Qt::Key_Left);
+  key(Qt::Key_Left);
   EXPECT_EQ(settings_.subtitleSize(), 44);  // on a step again
-  press(Qt::Key_End);
-  press(Qt::Key_Right);
+  key(Qt::Key_End);
+  key(Qt::Key_Right);
   EXPECT_LE(settings_.subtitleSize(), 80);
   settings_.setSubtitleOutlineColor({0.5, 0, 0});
   for (const int style : {2, 0, 1}) {
     settings_.setSubtitleBorderStyle(SubtitleBorderStyle(style));
     EXPECT_EQ(item("subtitleOutlineColor")->isVisible(), style != 2);
   }
-  EXPECT_EQ(value("subtitleOutlineColor", "color").value<QColor>(),
+  EXPECT_EQ(item("subtitleOutlineColor")->property("color").value<QColor>(),
             settings_.subtitleOutlineColor().toQColor());
-  window_->grabWindow();
+  layOut();
   const auto presets = items("subtitleColorPreset");
   ASSERT_EQ(presets.size(), 4);
   click(presets[1]);
@@ -129,15 +107,15 @@ TEST_F(SettingsWindowTest, ShowsWhatIsSetElsewhere) {
 
   show(General);
   settings_.setAutoHideDelay(4);
-  EXPECT_EQ(value("autoHideDelay", "displayText"), QVariant("4 seconds"));
+  EXPECT_EQ(text("autoHideDelay", "displayText"), "4 seconds");
   settings_.setAutoHideDelay(10);
-  EXPECT_EQ(value("autoHideDelay", "displayText"), QVariant("10 seconds"));
+  EXPECT_EQ(text("autoHideDelay", "displayText"), "10 seconds");
 }
 
 TEST_F(SettingsWindowTest, AColorThatIsTriedAndCancelledLeavesNothing) {
   show(Subtitles);
   int writes = 0;
-  QObject::connect(&settings_, &PlayerSettings::willChange, window_, [&] { ++writes; });
+  QObject::connect(&settings_, &PlayerSettings::willChange, &window(), [&] { ++writes; });
   const auto open = [this](const char* well) -> QColorDialog& {
     click(item(well));
     auto* const dialog = qobject_cast<QColorDialog*>(QApplication::topLevelWidgets().value(0));
@@ -169,32 +147,31 @@ TEST_F(SettingsWindowTest, AColorThatIsTriedAndCancelledLeavesNothing) {
 
 TEST_F(SettingsWindowTest, ThereIsOneUntilItIsClosedAndItIsAsHighAsItsPage) {
   show(General);
-  EXPECT_EQ(window_, &shell_.show());
+  EXPECT_EQ(&window(), &shell_.show());
   QList<int> heights;
   for (const Page page : {General, Subtitles, Shortcuts}) {
     show(page);
-    heights << window_->height();
-    EXPECT_EQ(window_->size(),
-              QSize(520, window_->contentItem()->childItems()[0]->implicitHeight()));
+    heights << window().height();
+    EXPECT_EQ(window().size(),
+              QSize(520, window().contentItem()->childItems()[0]->implicitHeight()));
   }
   EXPECT_GT(heights[1], heights[0]);
   EXPECT_GT(heights[2], heights[1]);
-  press(Qt::Key_Escape);
+  key(Qt::Key_Escape);
   EXPECT_FALSE(shell_.isOpen());
   show(General);
   tabTo("autoHideDelay");
-  press(Qt::Key_Return);
-  press(Qt::Key_Escape);
+  key(Qt::Key_Return);
+  key(Qt::Key_Escape);
   EXPECT_TRUE(shell_.isOpen()) << "Esc closes the list first";
-  QTest::keyClick(window_, Qt::Key_W, Qt::ControlModifier);
-  settle();
+  key(Qt::Key_W, Qt::ControlModifier);
   EXPECT_FALSE(shell_.isOpen());
 }
 
 TEST_F(SettingsWindowTest, AllIsKnownAndUsedWithoutBeingSeen) {
   using enum QAccessible::Role;
   show(General);
-  Reader reader(*window_);
+  Reader reader(window());
   EXPECT_TRUE(reader.state(PageTab, "General").selected);
   reader.expect({});
   reader.press(ComboBox, "Hide player controls after");
@@ -225,18 +202,17 @@ TEST_F(SettingsWindowTest, AllIsKnownAndUsedWithoutBeingSeen) {
 
 TEST_F(SettingsWindowTest, ListsTheShortcutsInTheirOrder) {
   show(Shortcuts);
-  QStringList actions;
-  for (const QQuickItem* action : items("shortcutAction"))
-    actions << action->property("text").toString();
+  const QStringList actions = texts(items("shortcutAction"));
   QStringList expected;
   for (const ShortcutGroup& group : PlayerShortcuts::shownGroups())
     for (const Shortcut& shortcut : group.items) expected << shortcut.action;
   EXPECT_EQ(actions, expected);
   EXPECT_EQ(items("shortcutTitle").value(0)->property("text"), QVariant("Playback"));
   tabTo("shortcutList");
-  press(Qt::Key_PageDown, 9);
-  EXPECT_EQ(value("shortcutList", "contentY").toDouble(),
-            value("shortcutList", "contentHeight").toDouble() - item("shortcutList")->height());
+  for (int i = 0; i < 9; ++i) key(Qt::Key_PageDown);
+  EXPECT_EQ(
+      item("shortcutList")->property("contentY").toDouble(),
+      item("shortcutList")->property("contentHeight").toDouble() - item("shortcutList")->height());
 }
 
 }  // namespace
