@@ -1,11 +1,14 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <QStringList>
-#include <QVariantMap>
+#include <QDBusPendingCall>
+#include <QDBusReply>
+#include <QDBusVariant>
 
 #include "support/BusDaemon.h"
+#include "support/WaitFor.h"
 
 namespace tromelo::testing {
 
@@ -14,32 +17,55 @@ class Desktop : public QObject {
   Q_OBJECT
 
  public:
-  Desktop();
-  ~Desktop() override;
+  Desktop() {
+    bus_.connect({}, kPath, kProperties, "PropertiesChanged", this,
+                 SLOT(propertiesChanged(QString, QVariantMap, QStringList)));
+    bus_.connect({}, kPath, kPlayer, "Seeked", this, SLOT(seeked(qlonglong)));
+  }
+  ~Desktop() override {
+    for (const QString& name : names_) QDBusConnection::disconnectFromBus(name);
+  }
 
-  QDBusConnection bus() { return bus_; }
   /// Another connection to the same bus, for as long as this lives.
-  QDBusConnection connection(const QString& name);
+  QDBusConnection connection(const QString& name) {
+    names_ << name;
+    return QDBusConnection::connectToBus(daemon_.address(), name);
+  }
 
-  QDBusMessage call(const QString& interface, const QString& method, const QVariantList& arguments);
-  QVariant property(const QString& name);
-  QVariantMap properties();
-  QDBusMessage set(const QString& name, const QVariant& value);
-  bool owns(const QString& name);
+  QDBusMessage call(const QString& interface, const QString& method,
+                    const QVariantList& arguments) {
+    QDBusMessage message =
+        QDBusMessage::createMethodCall("org.mpris.MediaPlayer2.tromelo", kPath, interface, method);
+    message.setArguments(arguments);
+    // Not a blocking call: the other end lives on this thread too.
+    const QDBusPendingCall pending = bus_.asyncCall(message);
+    return waitFor([&pending] { return pending.isFinished(); }) ? pending.reply() : QDBusMessage();
+  }
+  QVariantMap properties() {
+    return QDBusReply<QVariantMap>(call(kProperties, "GetAll", {kPlayer})).value();
+  }
+  QDBusMessage set(const QString& name, const QVariant& value) {
+    return call(kProperties, "Set", {kPlayer, name, QVariant::fromValue(QDBusVariant(value))});
+  }
+  bool owns(const QString& name) { return bus_.interface()->isServiceRegistered(name); }
 
   QList<QVariantMap> changes;  // of the player, one for each signal
   QList<qlonglong> seeks;      // microseconds
 
  private Q_SLOTS:
-  void propertiesChanged(const QString& interface, const QVariantMap& changed, const QStringList&);
+  void propertiesChanged(const QString& interface, const QVariantMap& changed, const QStringList&) {
+    if (interface == kPlayer) changes.append(changed);
+  }
   void seeked(qlonglong position) { seeks.append(position); }
 
  private:
-  QDBusMessage send(const QDBusMessage& message);
+  static constexpr const char* kPath = "/org/mpris/MediaPlayer2";
+  static constexpr const char* kPlayer = "org.mpris.MediaPlayer2.Player";
+  static constexpr const char* kProperties = "org.freedesktop.DBus.Properties";
 
   BusDaemon daemon_;
   QStringList names_;
-  QDBusConnection bus_;
+  QDBusConnection bus_ = connection("desktop");
 };
 
 }  // namespace tromelo::testing

@@ -2,6 +2,7 @@
 
 #include <QDBusConnection>
 #include <QDBusContext>
+#include <QDBusMessage>
 #include <QDBusServiceWatcher>
 #include <QObject>
 #include <map>
@@ -14,14 +15,27 @@ class FakeScreenSaver : public QObject, protected QDBusContext {
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.ScreenSaver")
 
  public:
-  explicit FakeScreenSaver(const QDBusConnection& bus);
+  explicit FakeScreenSaver(QDBusConnection bus) {
+    bus.registerObject("/org/freedesktop/ScreenSaver", this, QDBusConnection::ExportAllSlots);
+    bus.registerService("org.freedesktop.ScreenSaver");
+    watcher_.setConnection(bus);
+    watcher_.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
+    connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this,
+            [this](const QString& gone) {
+              std::erase_if(held_, [&gone](const auto& entry) { return entry.second == gone; });
+            });
+  }
 
   std::size_t held() const { return held_.size(); }
   uint asked() const { return asked_; }
 
  public Q_SLOTS:
-  uint Inhibit(const QString& application, const QString& reason);
-  void UnInhibit(uint cookie);
+  uint Inhibit(const QString&, const QString&) {
+    watcher_.addWatchedService(message().service());
+    held_.emplace(++asked_, message().service());
+    return asked_;
+  }
+  void UnInhibit(uint cookie) { held_.erase(cookie); }
 
  private:
   QDBusServiceWatcher watcher_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDir>
 #include <QTemporaryDir>
 
 namespace tromelo::testing {
@@ -8,7 +9,14 @@ namespace tromelo::testing {
 /// directory, so that no test reads or writes what belongs to the person who runs it.
 class PrivateHome {
  public:
-  PrivateHome();
+  PrivateHome() {
+    for (const char* variable :
+         {"XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"}) {
+      const QString path = directory_.filePath(variable);
+      QDir().mkpath(path);
+      qputenv(variable, path.toLocal8Bit());
+    }
+  }
 
  private:
   QTemporaryDir directory_;

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/PrivateHome.h"
-#include "support/WarningListener.h"
+#include "support/Warnings.h"
 
 namespace tromelo::testing {
 
@@ -14,8 +14,7 @@ int runTests(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);
   if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();
   const PrivateHome home;
-  ::testing::UnitTest::GetInstance()->listeners().Append(
-      new WarningListener);  // GoogleTest owns it
+  watchWarnings();
   const Application application(argc, argv);
   return RUN_ALL_TESTS();
 }

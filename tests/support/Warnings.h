@@ -12,4 +12,7 @@ void expectWarning(const QString& part);
 /// Warnings that contain `part` may come during this test. For what the machine says, not us.
 void allowWarning(const QString& part);
 
+/// For main(): begins with the next test.
+void watchWarnings();
+
 }  // namespace tromelo::testing
