@@ -62,59 +62,29 @@ class MenuTest : public ::testing::Test, protected ViewDriver {
 };
 
 TEST_F(MenuTest, TheKeyboardReachesEveryEntry) {
-  for (const auto& [name, hand, runs] : Table<const char*, std::function<void()>, const char*>{
-           {"Alt and its letters",
-            [this] {
-              QTest::keyPress(window_.get(), Qt::Key_Alt);
-              key(Qt::Key_F, Qt::AltModifier);
-              QTest::keyRelease(window_.get(), Qt::Key_Alt);
-              key(Qt::Key_Q);
-            },
-            "quit"},
-           {"Alt alone, then down over what is disabled",
-            [this] {
-              key(Qt::Key_Alt);
-              key(Qt::Key_Down);
-              key(Qt::Key_Return);
-            },
-            "quit"},
-           {"F10, right, Enter",
-            [this] {
-              key(Qt::Key_F10);
-              key(Qt::Key_Right);
-              key(Qt::Key_Return);
-            },
-            "about"},
-           {"Alt and the letters of another menu",
-            [this] {
-              key(Qt::Key_H, Qt::AltModifier);
-              key(Qt::Key_A);
-            },
-            "about"},
-           {"a disabled letter",
-            [this] {
-              key(Qt::Key_H, Qt::AltModifier);
-              key(Qt::Key_Escape);
-              key(Qt::Key_F10);
-              key(Qt::Key_N);
-              key(Qt::Key_Escape);
-            },
-            ""},
-           {"a letter while nothing is open", [this] { key(Qt::Key_O); }, ""},
-           {"Alt with something in between",
-            [this] {
-              QTest::keyPress(window_.get(), Qt::Key_Alt);
-              QTest::keyClick(window_.get(), Qt::Key_X, Qt::AltModifier);
-              QTest::keyRelease(window_.get(), Qt::Key_Alt);
-              key(Qt::Key_Q);
-            },
-            ""},
+  for (const auto& [hand, runs] : Table<const char*, const char*>{
+           {"+Alt Alt+F -Alt Q", "quit"},
+           {"Alt Down Return", "quit"},  // over what is disabled
+           {"F10 Right Return", "about"},
+           {"Alt+H A", "about"},
+           {"Alt+H Esc F10 N Esc", ""},  // a disabled letter
+           {"O", ""},                    // while nothing is open
+           {"+Alt Alt+X -Alt Q", ""},    // something in between
        }) {
+    SCOPED_TRACE(hand);
     window_->setTitle("-");
-    hand();
-    EXPECT_EQ(ran(), runs) << name;
-    EXPECT_TRUE(waitFor([this] { return !isOpen("file") && !isOpen("help"); })) << name;
-    EXPECT_EQ(window_->activeFocusItem()->objectName(), "content") << name;
+    for (const QString& word : QString(hand).split(' ')) {
+      const QKeyCombination keys = QKeySequence(word)[0];
+      if (word == "+Alt")
+        QTest::keyPress(window_.get(), Qt::Key_Alt);
+      else if (word == "-Alt")
+        QTest::keyRelease(window_.get(), Qt::Key_Alt);
+      else
+        key(word == "Alt" ? Qt::Key_Alt : keys.key(), keys.keyboardModifiers());
+    }
+    EXPECT_EQ(ran(), runs);
+    EXPECT_TRUE(waitFor([this] { return !isOpen("file") && !isOpen("help"); }));
+    EXPECT_EQ(window_->activeFocusItem()->objectName(), "content");
   }
 }
 
@@ -129,25 +99,17 @@ TEST_F(MenuTest, IsKnownAndUsedWithoutBeingSeen) {
 }
 
 TEST(MnemonicTest, TakesTheLetterFromTheText) {
-  struct Row {
-    const char* text;
-    const char* letter;
-    const char* plain;
-    const char* marked;
-  };
-  const Row rows[] = {
-      {"&Open…", "O", "Open…", "<u>O</u>pen…"},
-      {"Save &as", "A", "Save as", "Save <u>a</u>s"},
-      {"Tom && J&erry", "E", "Tom & Jerry", "Tom &amp; J<u>e</u>rry"},
-      {"<b>Film</b>", "", "<b>Film</b>", "&lt;b&gt;Film&lt;/b&gt;"},
-      {"At the end&", "", "At the end&", "At the end&amp;"},
-      {"", "", "", ""},
-  };
-  for (const Row& row : rows) {
-    const QString text = row.text;
-    EXPECT_EQ(Mnemonic::letter(text), row.letter) << row.text;
-    EXPECT_EQ(Mnemonic::plainText(text), row.plain) << row.text;
-    EXPECT_EQ(Mnemonic::markedText(text, true), row.marked) << row.text;
+  for (const auto& [text, letter, plain, marked] :
+       Table<QString, const char*, const char*, const char*>{
+           {"&Open…", "O", "Open…", "<u>O</u>pen…"},
+           {"Save &as", "A", "Save as", "Save <u>a</u>s"},
+           {"Tom && J&erry", "E", "Tom & Jerry", "Tom &amp; J<u>e</u>rry"},
+           {"<b>Film</b>", "", "<b>Film</b>", "&lt;b&gt;Film&lt;/b&gt;"},
+           {"At the end&", "", "At the end&", "At the end&amp;"},
+           {"", "", "", ""}}) {
+    EXPECT_EQ(Mnemonic::letter(text), letter);
+    EXPECT_EQ(Mnemonic::plainText(text), plain);
+    EXPECT_EQ(Mnemonic::markedText(text, true), marked);
   }
 }
 

@@ -117,25 +117,20 @@ TEST_F(MprisOnABus, DoesWhatTheViewsDo) {
   loadQueue();
   const QVariant here = QVariant::fromValue(trackId(model()));
   const auto seconds = [](int number) { return QVariant(qlonglong(number) * 1'000'000); };
-  struct Row {
-    const char* method;
-    QVariantList arguments;
-    Asked asked;
-  };
-  const Row rows[]{
-      {"Play", {}, {{"set", "pause", "no"}}},
-      {"Pause", {}, {{"set", "pause", "yes"}}},
-      {"PlayPause", {}, {{"set", "pause", "no"}}},
-      {"Next", {}, {{"playlist-next"}}},
-      {"Previous", {}, {}},
-      {"Seek", {seconds(-4)}, {{"seek", "-4.0", "relative"}}},
-      {"Seek", {seconds(51)}, {{"playlist-next"}}},
-      {"Seek", {std::numeric_limits<qlonglong>::max()}, {{"playlist-next"}}},
-      {"SetPosition", {here, seconds(30)}, {{"seek", "30.0", "absolute+exact"}}},
-      {"SetPosition", {here, seconds(61)}, {}},
-      {"OpenUri", {"https://example.org/a.mkv"}, {}},
-  };
-  for (const Row& row : rows) EXPECT_EQ(asked(row.method, row.arguments), row.asked) << row.method;
+  for (const auto& [method, arguments, sent] : Table<const char*, QVariantList, Asked>{
+           {"Play", {}, {{"set", "pause", "no"}}},
+           {"Pause", {}, {{"set", "pause", "yes"}}},
+           {"PlayPause", {}, {{"set", "pause", "no"}}},
+           {"Next", {}, {{"playlist-next"}}},
+           {"Previous", {}, {}},
+           {"Seek", {seconds(-4)}, {{"seek", "-4.0", "relative"}}},
+           {"Seek", {seconds(51)}, {{"playlist-next"}}},
+           {"Seek", {std::numeric_limits<qlonglong>::max()}, {{"playlist-next"}}},
+           {"SetPosition", {here, seconds(30)}, {{"seek", "30.0", "absolute+exact"}}},
+           {"SetPosition", {here, seconds(61)}, {}},
+           {"OpenUri", {"https://example.org/a.mkv"}, {}},
+       })
+    EXPECT_EQ(asked(method, arguments), sent) << method;
   EXPECT_EQ(answer_.errorName(), "org.freedesktop.DBus.Error.NotSupported");
   asked("Stop");
   desktop_.call(kRootInterface, "Raise", {});
@@ -144,24 +139,18 @@ TEST_F(MprisOnABus, DoesWhatTheViewsDo) {
   EXPECT_EQ(asked("OpenUri", {"file:///films/b%20b.mkv"}).front(),
             (std::vector<std::string>{"loadfile", "/films/b b.mkv", "replace", "-1", ""}));
 
-  struct Set {
-    const char* property;
-    QVariant value;
-    Asked asked;
-  };
-  const Set sets[]{
-      {"Volume", 0.25, {{"set", "volume", "25.0"}}},
-      {"Volume", 3.0, {{"set", "volume", "100.0"}}},
-      {"Rate", 1.5, {{"set", "speed", "1.5"}}},
-      {"Rate", 50.0, {{"set", "speed", "3.0"}}},
-      {"Rate", 0.0, {{"set", "pause", "yes"}}},
-      {"LoopStatus", "Track", {{"set", "loop-file", "inf"}}},
-      {"LoopStatus", "Track", {}},
-      {"LoopStatus", "Playlist", {}},
-      {"LoopStatus", "None", {{"set", "loop-file", "no"}}},
-  };
-  for (const Set& set : sets)
-    EXPECT_EQ(askedBySetting(set.property, set.value), set.asked) << set.property;
+  for (const auto& [property, value, sent] : Table<const char*, QVariant, Asked>{
+           {"Volume", 0.25, {{"set", "volume", "25.0"}}},
+           {"Volume", 3.0, {{"set", "volume", "100.0"}}},
+           {"Rate", 1.5, {{"set", "speed", "1.5"}}},
+           {"Rate", 50.0, {{"set", "speed", "3.0"}}},
+           {"Rate", 0.0, {{"set", "pause", "yes"}}},
+           {"LoopStatus", "Track", {{"set", "loop-file", "inf"}}},
+           {"LoopStatus", "Track", {}},
+           {"LoopStatus", "Playlist", {}},
+           {"LoopStatus", "None", {{"set", "loop-file", "no"}}},
+       })
+    EXPECT_EQ(askedBySetting(property, value), sent) << property;
 }
 
 TEST_F(MprisOnABus, RefusesWhatIsNoValueAndTellsAll) {
@@ -202,7 +191,7 @@ TEST_F(MprisOnABus, SignalsWhatHasChangedOnceAndJumpsOnly) {
   ASSERT_TRUE(waitFor([this] { return !desktop_.changes.isEmpty(); }));
   EXPECT_EQ(desktop_.changes, QList<QVariantMap>({{{"PlaybackStatus", "Playing"}}}));
   EXPECT_EQ(desktop_.seeks, QList<qlonglong>({0, 28'000'000}));
-  EXPECT_EQ(desktop_.property("Position"), QVariant(qlonglong(32'000'000)));
+  EXPECT_EQ(desktop_.properties()["Position"], QVariant(qlonglong(32'000'000)));
 }
 
 TEST_F(MprisOnABus, ASecondPlayerHasANameOfItsOwn) {

@@ -17,10 +17,6 @@ class ControlBarTest : public ViewTest {
 };
 
 TEST_F(ControlBarTest, ButtonsTellTheEngine) {
-  struct Row {
-    const char* button;
-    Sent sent;
-  };
   for (const char* name : {"backButton", "playerPlayPause", "forwardButton"}) {
     click(name);
     EXPECT_EQ(takeSent(), Sent()) << name << ": nothing is loaded";
@@ -28,13 +24,16 @@ TEST_F(ControlBarTest, ButtonsTellTheEngine) {
   load(100);
   reportPlaylist(3, 1);
   report(MpvProperty::pause, false);
-  for (const Row& row :
-       {Row{"muteButton", {"set mute yes"}}, Row{"muteButton", {"set mute no"}},
-        Row{"previousButton", {"playlist-prev"}}, Row{"backButton", {"seek -10.0 relative"}},
-        Row{"playerPlayPause", {"set pause yes"}}, Row{"forwardButton", {"seek 10.0 relative"}},
-        Row{"nextButton", {"playlist-next"}}}) {
-    click(row.button);
-    EXPECT_EQ(takeSent(), row.sent) << row.button;
+  for (const auto& [button, sent] :
+       Table<const char*, const char*>{{"muteButton", "set mute yes"},
+                                       {"muteButton", "set mute no"},
+                                       {"previousButton", "playlist-prev"},
+                                       {"backButton", "seek -10.0 relative"},
+                                       {"playerPlayPause", "set pause yes"},
+                                       {"forwardButton", "seek 10.0 relative"},
+                                       {"nextButton", "playlist-next"}}) {
+    click(button);
+    EXPECT_EQ(takeSent(), Sent{sent}) << button;
   }
 }
 
@@ -64,36 +63,13 @@ TEST_F(ControlBarTest, ShowsWhatThereIs) {
   EXPECT_EQ(text("elapsedTime"), "0:50");
   EXPECT_EQ(text("remainingTime"), "-0:50");
 
-  EXPECT_EQ(text("playerPlayPause", "tip"), "Play (Space)");
   report(MpvProperty::pause, false);
   EXPECT_EQ(text("playPauseSymbol", "name"), "pause.fill");
-  EXPECT_EQ(text("playerPlayPause", "tip"), "Pause (Space)");
   report(MpvProperty::mute, true);
   EXPECT_EQ(text("muteSymbol", "name"), "speaker.slash.fill");
   EXPECT_EQ(text("muteButton", "tip"), "Unmute (M)");
   report(MpvProperty::fullscreen, true);
   EXPECT_EQ(text("fullscreenButton", "tip"), "Exit full screen (F)");
-}
-
-TEST_F(ControlBarTest, PanelButtonsTurnTheirPanelsOnAndOff) {
-  load(100);
-  reportChapters({0, 50});
-  for (const auto& [button, panel] :
-       Table<const char*, PlayerPanel>{{"chaptersButton", PlayerPanel::chapters},
-                                       {"tracksButton", PlayerPanel::tracks},
-                                       {"queueButton", PlayerPanel::queue}}) {
-    click(button);
-    EXPECT_EQ(chrome().panel(), panel) << button;
-    EXPECT_TRUE(item(button)->property("active").toBool()) << button;
-  }
-  EXPECT_FALSE(item("tracksButton")->property("active").toBool());
-  click("queueButton");
-  EXPECT_EQ(chrome().panel(), std::nullopt);
-  for (const bool shows : {true, false}) {
-    click("infoButton");
-    EXPECT_EQ(chrome().showsInfo(), shows);
-    EXPECT_EQ(item("infoButton")->property("active").toBool(), shows);
-  }
 }
 
 TEST_F(ControlBarTest, DragsTheVolume) {
@@ -146,10 +122,7 @@ TEST_F(ControlBarTest, ChoosesASpeed) {
   EXPECT_FALSE(item("speedList"));
   click("speedMenu");
   ASSERT_TRUE(isShown("speedList"));
-  QStringList checked;
-  for (const QQuickItem* mark : items("speedCheckmark"))
-    if (mark->isVisible()) checked << mark->parentItem()->parentItem()->objectName();
-  EXPECT_EQ(checked, QStringList{"speed1×"});
+  EXPECT_EQ(only("speedCheckmark")->parentItem()->parentItem()->objectName(), "speed1×");
   click("speed1.25×");
   EXPECT_EQ(takeSent(), Sent{"set speed 1.25"});
   EXPECT_TRUE(item("speedMenu")->property("active").toBool());

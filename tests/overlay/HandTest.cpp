@@ -15,36 +15,26 @@ namespace tromelo::testing {
 namespace {
 
 TEST(WindowPressTest, TellsAClickFromAHandThatMovesTheWindow) {
-  struct Row {
-    const char* name;
-    int clickCount;
-    std::vector<QPointF> moves;
-    std::optional<QPoint> movedTo;
-    bool isClick;
-  };
   const QPointF at(100.5, 50);
   const QPoint origin(7, -9);
-  for (const Row& row : {
-           Row{"still", 1, {}, {}, true},
-           Row{"jitter of 3.0", 1, {at + QPointF(3, 0), at + QPointF(0, -3)}, {}, true},
-           Row{"move of 3.1", 1, {at + QPointF(-3.1, 0)}, origin + QPoint(-3, 0), false},
-           Row{"both ways count", 1, {at + QPointF(2.5, 2.5)}, origin + QPoint(3, 3), false},
-           Row{"back inside",
-               1,
-               {at + QPointF(9, 0), at + QPointF(1, 1)},
-               origin + QPoint(1, 1),
-               false},
-           Row{"second of two", 2, {at + QPointF(40, 0)}, {}, false},
-           Row{"third", 3, {}, {}, false},
-           Row{"third drags", 3, {at + QPointF(4, 0)}, origin + QPoint(4, 0), false},
+  for (const auto& [name, clickCount, moves, movedTo, isClick] :
+       Table<const char*, int, std::vector<QPointF>, std::optional<QPoint>, bool>{
+           {"still", 1, {}, {}, true},
+           {"jitter of 3.0", 1, {at + QPointF(3, 0), at + QPointF(0, -3)}, {}, true},
+           {"move of 3.1", 1, {at + QPointF(-3.1, 0)}, origin + QPoint(-3, 0), false},
+           {"both ways count", 1, {at + QPointF(2.5, 2.5)}, origin + QPoint(3, 3), false},
+           {"back", 1, {at + QPointF(9, 0), at + QPointF(1, 1)}, origin + QPoint(1, 1), false},
+           {"second of two", 2, {at + QPointF(40, 0)}, {}, false},
+           {"third", 3, {}, {}, false},
+           {"third drags", 3, {at + QPointF(4, 0)}, origin + QPoint(4, 0), false},
        }) {
-    SCOPED_TRACE(row.name);
+    SCOPED_TRACE(name);
     WindowPress press;
-    EXPECT_EQ(press.begin(row.clickCount, at, origin), row.clickCount != 2);
-    std::optional<QPoint> movedTo;
-    for (const QPointF& place : row.moves) movedTo = press.drag(place);
-    EXPECT_EQ(movedTo, row.movedTo);
-    EXPECT_EQ(press.end(), row.isClick);
+    EXPECT_EQ(press.begin(clickCount, at, origin), clickCount != 2);
+    std::optional<QPoint> last;
+    for (const QPointF& place : moves) last = press.drag(place);
+    EXPECT_EQ(last, movedTo);
+    EXPECT_EQ(press.end(), isClick);
     EXPECT_FALSE(press.end());
     EXPECT_EQ(press.drag(at + QPointF(50, 0)), std::nullopt);
   }
@@ -65,25 +55,18 @@ TEST(ClickCounterTest, CountsQuickPressesInOnePlace) {
 }
 
 TEST(ScrollTest, GivesWholeStepsAndKeepsTheRest) {
-  struct Row {
-    const char* name;
-    ScrollMovement movement;
-    double steps;
-  };
   ScrollSteps scroll;
   // One after the other: the rest goes from row to row.
-  for (const Row& row : {
-           Row{"a notch", {{0, 1}, false}, 2},
-           Row{"half a step of a touchpad", {{0, -2}, true}, 0},
-           Row{"and its other half", {{0, -2}, true}, -1},
-           Row{"as much to the side", {{5, 5}, true}, 0},
-           Row{"nothing", {{0, 0}, true}, 0},
-           Row{"more down than aside", {{3, -5}, true}, -1},
-           Row{"what was left, up", {{0, 5}, true}, 1},
-           Row{"an eighth of a notch", {{0, 0.125}, false}, 0},
-           Row{"seven more", {{0, 0.875}, false}, 2},
-       })
-    EXPECT_EQ(scroll.take(row.movement), row.steps) << row.name;
+  for (const auto& [name, movement, steps] :
+       Table<const char*, ScrollMovement, double>{{"a notch", {{0, 1}, false}, 2},
+                                                  {"half a step of a touchpad", {{0, -2}, true}, 0},
+                                                  {"and its other half", {{0, -2}, true}, -1},
+                                                  {"as much to the side", {{5, 5}, true}, 0},
+                                                  {"more down than aside", {{3, -5}, true}, -1},
+                                                  {"what was left, up", {{0, 5}, true}, 1},
+                                                  {"an eighth of a notch", {{0, 0.125}, false}, 0},
+                                                  {"seven more", {{0, 0.875}, false}, 2}})
+    EXPECT_EQ(scroll.take(movement), steps) << name;
 }
 
 TEST(ScrollTest, TrustsPointsWhereTheHostCan) {
@@ -100,14 +83,6 @@ TEST(ScrollTest, TrustsPointsWhereTheHostCan) {
     EXPECT_FALSE(lines.isPrecise);
   }
 }
-
-/// As it comes from another program; a list that is set would be read and written anew.
-struct ForeignDrag : QMimeData {
-  QByteArray list;
-  QVariant retrieveData(const QString& type, QMetaType) const override {
-    return type == "text/uri-list" ? list : QByteArray();
-  }
-};
 
 }  // namespace
 }  // namespace tromelo::testing

@@ -77,16 +77,13 @@ TEST_F(PanelsTest, DelaysGoInStepsAndBack) {
   reportTracks(MpvList{track("audio", 1, "", true)});
   ASSERT_TRUE(waitFor([this] { return isShown("audioSync"); }));
   settle();
-  struct Row {
-    const char* row;
-    const char* property;
-  };
-  for (const Row& row : {Row{"subtitleTiming", "sub-delay"}, Row{"audioSync", "audio-delay"}}) {
-    SCOPED_TRACE(row.row);
-    QQuickItem* const line = only(row.row);
+  for (const auto& [row, property] :
+       {std::pair("subtitleTiming", "sub-delay"), std::pair("audioSync", "audio-delay")}) {
+    SCOPED_TRACE(row);
+    QQuickItem* const line = only(row);
     const auto part = [&](const char* name) { return only(name, line); };
     const auto reads = [&] { return part("delay")->property("text").toString(); };
-    const std::string set = std::string("set ") + row.property + ' ';
+    const std::string set = std::string("set ") + property + ' ';
     EXPECT_EQ(reads(), "0 ms");
     EXPECT_FALSE(part("resetDelay")->isEnabled());
     click(part("earlier"));
@@ -354,6 +351,8 @@ TEST_F(PopoverTest, AllIsKnownAndUsedWithoutBeingSeen) {
     reader.press(role, name);
     EXPECT_EQ(takeSent(), sent);
   }
+  reader.press(Button, "Playback info");
+  EXPECT_FALSE(chrome().showsInfo());
 }
 
 TEST_F(PopoverTest, EscClosesTheListOfFontsFirst) {

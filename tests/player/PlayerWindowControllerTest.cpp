@@ -2,6 +2,7 @@
 #include "display/PrivateDisplay.h"
 #include "platform/FilePath.h"
 #include "player/PlayerStage.h"
+#include "support/Table.h"
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
@@ -159,11 +160,8 @@ TEST_F(PlayerWindowControllerTest, TheLibraryStaysAwayWhileTheEnginesOutputIsMad
 }
 
 TEST_F(PlayerWindowControllerTest, AWindowThatIsTakenDownLeavesTheLibraryUnlessAnotherFileComes) {
-  struct Row {
-    bool minimized, awaits, library, window;
-  };
-  for (const auto& [minimized, awaits, library, window] :
-       {Row{false, false, true, false}, {true, false, false, true}, {false, true, false, false}}) {
+  for (const auto& [minimized, awaits, library, window] : Table<bool, bool, bool, bool>{
+           {false, false, true, false}, {true, false, false, true}, {false, true, false, false}}) {
     FakeVideoWindow video(clock_);
     showVideo(video);
     video.minimized = minimized;
@@ -188,35 +186,27 @@ TEST_F(PlayerWindowControllerTest, ShowsAFileThatComesUpInTheWindowJustClosed) {
 }
 
 TEST_F(PlayerWindowControllerTest, SortsDroppedFiles) {
-  struct Row {
-    std::vector<std::string> dropped;
-    Sent sent;
-    std::optional<QString> toast;
-  };
-  const Row rows[] = {
-      {{"/a.mkv"}, {"loadfile /a.mkv replace -1 ", "set pause no"}, "Added to queue"},
-      {{"/a.mkv", "/b.mp4", "/c"},
-       {"loadfile /a.mkv replace -1 ", "set pause no", "loadfile /b.mp4 append -1 ",
-        "loadfile /c append -1 "},
-       "Added 3 videos to queue"},
-      {{"/a.mkv", "/My.Film.SRT", "/b.mkv"},
-       {"sub-add /My.Film.SRT select", "loadfile /a.mkv replace -1 ", "set pause no",
-        "loadfile /b.mkv append -1 "},
-       "Subtitles: My.Film"},
-      {{}, {}, std::nullopt},
-  };
   showVideo(window_);
-  for (const Row& row : rows) {
+  for (const auto& [dropped, sent, toast] :
+       Table<std::vector<std::string>, Sent, std::optional<QString>>{
+           {{"/a.mkv"}, {"loadfile /a.mkv replace -1 ", "set pause no"}, "Added to queue"},
+           {{"/a.mkv", "/b.mp4"},
+            {"loadfile /a.mkv replace -1 ", "set pause no", "loadfile /b.mp4 append -1 "},
+            "Added 2 videos to queue"},
+           {{"/a.mkv", "/My.Film.SRT"},
+            {"sub-add /My.Film.SRT select", "loadfile /a.mkv replace -1 ", "set pause no"},
+            "Subtitles: My.Film"},
+           {std::vector<std::string>(), {}, {}}}) {
     QList<QUrl> urls;
-    for (const std::string& path : row.dropped) urls.append(fileUrlFromPath(path));
+    for (const std::string& path : dropped) urls.append(fileUrlFromPath(path));
     window_.overlay->onDropFiles(urls);
-    EXPECT_EQ(takeSent(), row.sent);
-    EXPECT_EQ(player().chrome().toast(), row.toast);
+    EXPECT_EQ(takeSent(), sent);
+    EXPECT_EQ(chrome().toast(), toast);
     clock_.advance(1400ms);
   }
   window_.overlay->onDropFiles({QUrl("smb://nas/a.mkv")});
-  EXPECT_TRUE(waitFor([this] { return player().chrome().toast().has_value(); }));
-  EXPECT_EQ(player().chrome().toast(), "Tromelo plays local files only.");
+  EXPECT_TRUE(waitFor([this] { return chrome().toast().has_value(); }));
+  EXPECT_EQ(chrome().toast(), "Tromelo plays local files only.");
 }
 
 TEST_F(PlayerWindowControllerTest, AToastStaysForItsFullTime) {
@@ -224,9 +214,9 @@ TEST_F(PlayerWindowControllerTest, AToastStaysForItsFullTime) {
   clock_.advance(1000ms);
   player().showToast("second");
   clock_.advance(1399ms);
-  EXPECT_EQ(player().chrome().toast(), "second");
+  EXPECT_EQ(chrome().toast(), "second");
   clock_.advance(1ms);
-  EXPECT_EQ(player().chrome().toast(), std::nullopt);
+  EXPECT_EQ(chrome().toast(), std::nullopt);
 }
 
 TEST_F(PlayerWindowControllerTest, AnOverlayThatNoWindowCameForGoesBeforeTheModel) {
