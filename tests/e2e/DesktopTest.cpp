@@ -61,7 +61,7 @@ TEST_F(DesktopEndToEnd, MediaControlsSteerWhatPlaysAndTheScreenStaysAwakeMeanwhi
 
   player.start({clip("sample.mp4")});
   EXPECT_TRUE(isAwake(true));
-  QProcess::execute("kill", {"-KILL", QString::number(player.processId())});
+  player.kill();
   EXPECT_TRUE(isAwake(false));
 }
 
