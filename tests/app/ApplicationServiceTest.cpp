@@ -11,9 +11,9 @@ namespace {
 
 TEST(ApplicationServiceTest, WhatABusyProgramTakesLateIsPlayedOnce) {
   using Role = ApplicationService::Role;
-  const BusDaemon bus;
-  ApplicationService first(QDBusConnection::connectToBus(bus.address(), "first"));
-  ApplicationService second(QDBusConnection::connectToBus(bus.address(), "second"));
+  BusDaemon bus;
+  ApplicationService first(bus.connect("first"));
+  ApplicationService second(bus.connect("second"));
   QList<QUrl> opened;
   QObject::connect(&first, &ApplicationService::filesOpened, &first,
                    [&opened](const QList<QUrl>& files) { opened += files; });
@@ -25,7 +25,6 @@ TEST(ApplicationServiceTest, WhatABusyProgramTakesLateIsPlayedOnce) {
   EXPECT_TRUE(waitFor([&] { return !opened.isEmpty(); }));
   first.Open({"file:///c(d)", "smb://nas/e"}, {});
   EXPECT_EQ(opened, (QList{film, fileUrlFromPath("/c(d)"), QUrl("smb://nas/e")}));
-  for (const char* name : {"first", "second"}) QDBusConnection::disconnectFromBus(name);
 }
 
 }  // namespace

@@ -13,7 +13,6 @@ namespace {
 class DesktopEndToEnd : public EndToEnd {
  protected:
   DesktopEndToEnd() { player.environment.insert("DBUS_SESSION_BUS_ADDRESS", bus_.address()); }
-  ~DesktopEndToEnd() override { QDBusConnection::disconnectFromBus("desktop"); }
 
   QString playerctl(const QStringList& arguments) {
     QProcess process;
@@ -27,7 +26,7 @@ class DesktopEndToEnd : public EndToEnd {
   }
 
   BusDaemon bus_;
-  QDBusConnection desktop_ = QDBusConnection::connectToBus(bus_.address(), "desktop");
+  QDBusConnection desktop_ = bus_.connect("desktop");
 };
 
 TEST_F(DesktopEndToEnd, MediaControlsSteerWhatPlaysAndTheScreenStaysAwakeMeanwhile) {

@@ -73,16 +73,4 @@ TEST(Conversion, TreesLoseWhatHasNoValue) {
   EXPECT_EQ(mpvNode(listNode(nullptr, MPV_FORMAT_NODE_ARRAY)), MpvNode{MpvList{}});
 }
 
-TEST(Conversion, AListGivesItsMapsOnly) {
-  const MpvMap first{{"id", MpvNode{std::int64_t{1}}}};
-  const MpvMap second{{"id", MpvNode{std::int64_t{2}}}};
-  const MpvValue value = MpvNode{MpvList{MpvNode{first}, MpvNode{true}, MpvNode{second}}};
-  ASSERT_EQ(value.list().size(), 2u);
-  EXPECT_EQ(*value.list()[0], first);
-  EXPECT_EQ(*value.list()[1], second);
-  for (const MpvValue& other : {MpvValue(), MpvValue(1.0), MpvValue(MpvNode{first})}) {
-    EXPECT_TRUE(other.list().empty());
-  }
-}
-
 }  // namespace tromelo::testing

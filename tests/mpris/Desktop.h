@@ -22,16 +22,7 @@ class Desktop : public QObject {
                  SLOT(propertiesChanged(QString, QVariantMap, QStringList)));
     bus_.connect({}, kPath, kPlayer, "Seeked", this, SLOT(seeked(qlonglong)));
   }
-  ~Desktop() override {
-    for (const QString& name : names_) QDBusConnection::disconnectFromBus(name);
-  }
-
-  /// Another connection to the same bus, for as long as this lives.
-  QDBusConnection connection(const QString& name) {
-    names_ << name;
-    return QDBusConnection::connectToBus(daemon_.address(), name);
-  }
-
+  QDBusConnection connection(const QString& name) { return daemon_.connect(name); }
   QDBusMessage call(const QString& interface, const QString& method,
                     const QVariantList& arguments) {
     QDBusMessage message =
@@ -64,8 +55,7 @@ class Desktop : public QObject {
   static constexpr const char* kProperties = "org.freedesktop.DBus.Properties";
 
   BusDaemon daemon_;
-  QStringList names_;
-  QDBusConnection bus_ = connection("desktop");
+  QDBusConnection bus_ = daemon_.connect("desktop");
 };
 
 }  // namespace tromelo::testing

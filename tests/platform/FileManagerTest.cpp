@@ -55,22 +55,17 @@ class FileManagerTest : public ::testing::Test {
 };
 
 TEST_F(FileManagerTest, ShowsTheFileOrItsFolderOrSaysWhyNot) {
-  const BusDaemon daemon;
-  ASSERT_FALSE(daemon.address().isEmpty());
+  BusDaemon daemon;
   qputenv("DBUS_SESSION_BUS_ADDRESS", daemon.address().toUtf8());
   qputenv("PATH", directory_.path().toUtf8());
-  const QString name = "file manager";
+  QDBusConnection desktop = daemon.connect("file manager");
   DesktopFileManager files;
-  {
-    QDBusConnection desktop = QDBusConnection::connectToBus(daemon.address(), name);
-    ASSERT_TRUE(desktop.registerObject("/org/freedesktop/FileManager1", &files,
-                                       QDBusConnection::ExportAllSlots));
-    ASSERT_TRUE(desktop.registerService("org.freedesktop.FileManager1"));
-    manager_.show(film_);
-    EXPECT_TRUE(waitFor([&] { return !files.shown.isEmpty(); }));
-    EXPECT_EQ(files.shown, QStringList{"file:///films%20%E9/a%20film.mkv"});
-  }
-  QDBusConnection::disconnectFromBus(name);
+  desktop.registerObject("/org/freedesktop/FileManager1", &files, QDBusConnection::ExportAllSlots);
+  ASSERT_TRUE(desktop.registerService("org.freedesktop.FileManager1"));
+  manager_.show(film_);
+  EXPECT_TRUE(waitFor([&] { return !files.shown.isEmpty(); }));
+  EXPECT_EQ(files.shown, QStringList{"file:///films%20%E9/a%20film.mkv"});
+  desktop.unregisterService("org.freedesktop.FileManager1");
 
   installOpener();
   manager_.show(film_);

@@ -99,9 +99,6 @@ class Portal : public QObject {
 
 class DesktopInhibition : public ::testing::Test {
  protected:
-  ~DesktopInhibition() override {
-    for (const char* name : {"desktop", "player"}) QDBusConnection::disconnectFromBus(name);
-  }
   void offerPortal() {
     constexpr auto kSlots = QDBusConnection::ExportAllSlots;
     ASSERT_TRUE(desktop_.registerObject("/org/freedesktop/portal/desktop", &portal_, kSlots));
@@ -109,9 +106,9 @@ class DesktopInhibition : public ::testing::Test {
     ASSERT_TRUE(desktop_.registerService("org.freedesktop.portal.Desktop"));
   }
 
-  const BusDaemon daemon_;
-  QDBusConnection desktop_ = QDBusConnection::connectToBus(daemon_.address(), "desktop");
-  QDBusConnection player_ = QDBusConnection::connectToBus(daemon_.address(), "player");
+  BusDaemon daemon_;
+  QDBusConnection desktop_ = daemon_.connect("desktop");
+  QDBusConnection player_ = daemon_.connect("player");
   FakeScreenSaver saver_{desktop_};
   Portal portal_;
   PortalRequest request_;

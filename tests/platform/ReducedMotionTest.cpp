@@ -43,13 +43,10 @@ class ReducedMotionTest : public ::testing::Test {
                             QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
     desktop_.registerService("org.freedesktop.portal.Desktop");
   }
-  ~ReducedMotionTest() override {
-    for (const char* name : {"desktop", "player"}) QDBusConnection::disconnectFromBus(name);
-  }
 
-  const BusDaemon daemon_;
-  QDBusConnection desktop_ = QDBusConnection::connectToBus(daemon_.address(), "desktop");
-  QDBusConnection player_ = QDBusConnection::connectToBus(daemon_.address(), "player");
+  BusDaemon daemon_;
+  QDBusConnection desktop_ = daemon_.connect("desktop");
+  QDBusConnection player_ = daemon_.connect("player");
   SettingsPortal portal_;
 };
 

@@ -6,9 +6,11 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <limits>
 
 #include "platform/UserDefaults.h"
+#include "support/Table.h"
 
 namespace tromelo::testing {
 namespace {
@@ -34,17 +36,6 @@ const QJsonObject& allStored() {
   return stored;
 }
 
-PlayerPreferences allPreferred() {
-  return {.autoHideDelay = 0,
-          .subtitleFont = "Comic Neue",
-          .subtitleSize = 52.5,
-          .subtitleColor = {1.0 / 3, 0.93, 0.35, 0.1},
-          .subtitleOutlineColor = {0.1, 0.2, 0.3, 0.4},
-          .subtitleBorderStyle = SubtitleBorderStyle::box,
-          .subtitleBold = true,
-          .subtitleOverridesStyled = true};
-}
-
 using Lines = std::vector<std::string>;
 
 Lines lines(const PlayerPreferences& style) {
@@ -59,36 +50,32 @@ Lines operator+(Lines lines, const Lines& more) {
   return lines;
 }
 
-TEST(EnginePropertiesTest, WritesEachBorderStyleInOrder) {
-  PlayerPreferences style;
-  const Lines first{"sub-font Helvetica Neue", "sub-font-size 44.0",
-                    "sub-color 1.000/1.000/1.000/1.000", "sub-bold no", "sub-ass-override scale"};
-  EXPECT_EQ(lines(style),
-            (first + Lines{"sub-border-style outline-and-shadow", "sub-outline-size 2.6",
-                           "sub-outline-color 0.000/0.000/0.000/1.000", "sub-shadow-offset 0"}));
-  style.subtitleBorderStyle = SubtitleBorderStyle::shadow;
-  EXPECT_EQ(lines(style),
-            (first + Lines{"sub-border-style outline-and-shadow", "sub-outline-size 0.8",
-                           "sub-outline-color 0.000/0.000/0.000/1.000", "sub-shadow-offset 2.4",
-                           "sub-back-color 0.0/0.0/0.0/0.8"}));
-  style.subtitleBorderStyle = SubtitleBorderStyle::box;
-  EXPECT_EQ(lines(style),
-            (first + Lines{"sub-border-style background-box", "sub-outline-size 5",
-                           "sub-shadow-offset 0", "sub-back-color 0.0/0.0/0.0/0.62"}));
-}
-
-TEST(EnginePropertiesTest, WritesEveryPreference) {
-  const PlayerPreferences style{.subtitleFont = "Noto Sans ゴシック",
-                                .subtitleSize = 52.5,
-                                .subtitleColor = {1.0 / 3, 0.8, 0, 0.0004},
-                                .subtitleOutlineColor = {0.9999, 0.5, 1, 0.25},
-                                .subtitleBold = true,
-                                .subtitleOverridesStyled = true};
-  EXPECT_EQ(lines(style),
-            (Lines{"sub-font Noto Sans ゴシック", "sub-font-size 52.5",
-                   "sub-color 0.333/0.800/0.000/0.000", "sub-bold yes", "sub-ass-override force",
-                   "sub-border-style outline-and-shadow", "sub-outline-size 2.6",
-                   "sub-outline-color 1.000/0.500/1.000/0.250", "sub-shadow-offset 0"}));
+TEST(EnginePropertiesTest, WritesEveryPreferenceInOrder) {
+  PlayerPreferences style{.subtitleFont = "Noto Sans ゴシック",
+                          .subtitleSize = 52.5,
+                          .subtitleColor = {1.0 / 3, 0.8, 0, 0.0004},
+                          .subtitleOutlineColor = {0.9999, 0.5, 1, 0.25},
+                          .subtitleBold = true,
+                          .subtitleOverridesStyled = true};
+  const Lines first{"sub-font Noto Sans ゴシック", "sub-font-size 52.5",
+                    "sub-color 0.333/0.800/0.000/0.000", "sub-bold yes", "sub-ass-override force"};
+  const std::string edge = "sub-outline-color 1.000/0.500/1.000/0.250";
+  for (const auto& [border, more] : Table<SubtitleBorderStyle, Lines>{
+           {SubtitleBorderStyle::outline,
+            {"sub-border-style outline-and-shadow", "sub-outline-size 2.6", edge,
+             "sub-shadow-offset 0"}},
+           {SubtitleBorderStyle::shadow,
+            {"sub-border-style outline-and-shadow", "sub-outline-size 0.8", edge,
+             "sub-shadow-offset 2.4", "sub-back-color 0.0/0.0/0.0/0.8"}},
+           {SubtitleBorderStyle::box,
+            {"sub-border-style background-box", "sub-outline-size 5", "sub-shadow-offset 0",
+             "sub-back-color 0.0/0.0/0.0/0.62"}}}) {
+    style.subtitleBorderStyle = border;
+    EXPECT_EQ(lines(style), first + more);
+  }
+  const Lines fresh = lines({});
+  EXPECT_TRUE(std::ranges::count(fresh, "sub-bold no") &&
+              std::ranges::count(fresh, "sub-ass-override scale"));
 }
 
 class PlayerSettingsTest : public ::testing::Test {
@@ -101,16 +88,11 @@ class PlayerSettingsTest : public ::testing::Test {
 };
 
 TEST(PlayerPreferencesTest, KeepsEveryEntryExactly) {
-  EXPECT_EQ(preferencesOf(allStored()), allPreferred());
-  EXPECT_EQ(storedPreferences(allPreferred()), allStored());
+  EXPECT_EQ(storedPreferences(preferencesOf(allStored())), allStored());
   EXPECT_EQ(preferencesOf({}), PlayerPreferences());
 }
 
 TEST(PlayerPreferencesTest, AnEntryOfAnotherTypeLosesOnlyItself) {
-  struct Case {
-    const char* key;
-    std::vector<QJsonValue> mistyped;
-  };
   const QJsonValue null(QJsonValue::Null);
   const std::vector<QJsonValue> noNumbers{true, "2", null, QJsonArray{2}};
   const std::vector<QJsonValue> noFlags{1, "true", null};
@@ -122,15 +104,18 @@ TEST(PlayerPreferencesTest, AnEntryOfAnotherTypeLosesOnlyItself) {
                                          null,
                                          QJsonObject{{"red", 1}},
                                          QJsonArray{}};
-  const Case cases[] = {
-      {"autoHideDelay", noNumbers},       {"subtitleFont", {7, null, QJsonArray{"Arial"}}},
-      {"subtitleSize", noNumbers},        {"subtitleColor", noColors},
-      {"subtitleOutlineColor", noColors}, {"subtitleBorderStyle", {"Box", "", 2, null}},
-      {"subtitleBold", noFlags},          {"subtitleOverridesStyled", noFlags},
-  };
   const QJsonObject fresh = storedPreferences({});
   QJsonObject allMistyped;
-  for (const auto& [name, mistyped] : cases) {
+  for (const auto& [name, mistyped] : Table<const char*, std::vector<QJsonValue>>{
+           {"autoHideDelay", noNumbers},
+           {"subtitleFont", {7, null, QJsonArray{"Arial"}}},
+           {"subtitleSize", noNumbers},
+           {"subtitleColor", noColors},
+           {"subtitleOutlineColor", noColors},
+           {"subtitleBorderStyle", {"Box", "", 2, null}},
+           {"subtitleBold", noFlags},
+           {"subtitleOverridesStyled", noFlags},
+       }) {
     for (const QJsonValue& value : mistyped) {
       QJsonObject stored = allStored();
       stored[key(name)] = value;
@@ -197,40 +182,33 @@ TEST_F(PlayerSettingsTest, LoadingLeavesAHandEditedEntryAsItIs) {
 }
 
 TEST_F(PlayerSettingsTest, WhatAPersonEditsInTheFileMeanwhileStays) {
-  struct Row {
-    const char* name;
-    QJsonObject before;
-    QJsonObject edited;
-  };
   const QJsonObject font{{"subtitleFont", "Comic Neue"}};
-  const Row rows[] = {
-      {"with nothing stored", {}, font},
-      {"with all stored", storedPreferences({}), font},
-      {"with a note", font, {{"subtitleFont", "Comic Neue"}, {"note", "mine"}}},
-  };
-  for (const Row& row : rows) {
+  for (const auto& [name, before, edited] : Table<const char*, QJsonObject, QJsonObject>{
+           {"with nothing stored", {}, font},
+           {"with all stored", storedPreferences({}), font},
+           {"with a note", font, {{"subtitleFont", "Comic Neue"}, {"note", "mine"}}}}) {
     const auto write = [&](const QJsonObject& entry) {
       QFile file(path_);
       ASSERT_TRUE(file.open(QIODevice::WriteOnly));
       file.write(QJsonDocument(QJsonObject{{kKey, entry}}).toJson());
     };
-    write(row.before);
+    write(before);
     UserDefaults defaults(path_);
     PlayerSettings settings(defaults);
-    write(row.edited);
+    write(edited);
     settings.setSubtitleSize(52);
     defaults.flush();
-    write(row.edited);
+    write(edited);
     settings.setSubtitleBold(true);
     settings.setSubtitleSize(44);
     settings.setSubtitleSize(52);
     defaults.flush();
-    QJsonObject expected = row.edited;
+    QJsonObject expected = edited;
     expected["subtitleSize"] = 52;
     expected["subtitleBold"] = true;
     const QJsonObject found = UserDefaults(path_).value(kKey).toObject();
     for (const QString& field : expected.keys())
-      EXPECT_EQ(found[field], expected[field]) << row.name << " " << field.toStdString();
+      EXPECT_EQ(found[field], expected[field]) << name << " " << field.toStdString();
   }
 }
 
