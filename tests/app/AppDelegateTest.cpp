@@ -22,8 +22,7 @@ CommandLine fileAt(const std::string& path, std::optional<double> start = {}) {
   return line;
 }
 
-class AppDelegateTest : public ::testing::Test {
- protected:
+struct AppDelegateTest : ::testing::Test {
   void launch(const CommandLine& line) {
     delegate_ = std::make_unique<AppDelegate>(
         line, defaults_, std::vector{former_},

@@ -7,8 +7,7 @@
 namespace tromelo::testing {
 namespace {
 
-class DefaultsMigration : public ::testing::Test {
- protected:
+struct DefaultsMigration : ::testing::Test {
   UserDefaults store(const char* name) const { return UserDefaults(directory_.filePath(name)); }
 
   static QString text(const UserDefaults& defaults, const char* key) {

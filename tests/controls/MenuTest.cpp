@@ -40,8 +40,7 @@ Window {
     Item { focus: true; anchors.fill: parent; objectName: "content" }
 })";
 
-class MenuTest : public ::testing::Test, protected ViewDriver {
- protected:
+struct MenuTest : ::testing::Test, protected ViewDriver {
   MenuTest() {
     QQmlComponent component(&engine_);
     component.setData(kWindow, QUrl());

@@ -10,8 +10,7 @@ namespace tromelo::testing {
 namespace {
 
 /// What the desktop has to do with the program, on a session bus of the test's own.
-class DesktopEndToEnd : public EndToEnd {
- protected:
+struct DesktopEndToEnd : EndToEnd {
   DesktopEndToEnd() { player.environment.insert("DBUS_SESSION_BUS_ADDRESS", bus_.address()); }
 
   QString playerctl(const QStringList& arguments) {

@@ -10,8 +10,7 @@
 namespace tromelo::testing {
 
 /// A drag from another program to the player.
-class Drag {
- public:
+struct Drag {
   Drag(const QString& type, const QStringList& lines) {
     source_.start(TROMELO_DRAG_SOURCE, QStringList{type} + lines);
     EXPECT_TRUE(waitFor([this] { return says("ready"); }));

@@ -10,8 +10,7 @@ namespace {
 /// A corner of the screen from which a hand can drag what the command line says: a type, then its
 /// lines. Tells what the target under the pointer would do, and what came of it; stays for those
 /// who fetch the data then.
-class DragSource : public QRasterWindow {
- public:
+struct DragSource : QRasterWindow {
   DragSource() {
     setFlags(Qt::FramelessWindowHint | Qt::BypassWindowManagerHint);
     setGeometry(0, 0, 60, 60);

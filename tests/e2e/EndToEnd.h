@@ -9,8 +9,7 @@
 
 namespace tromelo::testing {
 
-class EndToEnd : public ::testing::Test {
- protected:
+struct EndToEnd : ::testing::Test {
   static QString clip(const QString& name) {
     return QString::fromStdString(clipPath(name.toStdString()));
   }

@@ -12,8 +12,7 @@
 namespace tromelo::testing {
 
 /// Asks the engine itself, by its own JSON requests.
-class EngineProbe {
- public:
+struct EngineProbe {
   explicit EngineProbe(const QString& path) {
     EXPECT_TRUE(testing::waitFor([&] {
       if (socket_.state() == QLocalSocket::UnconnectedState) socket_.connectToServer(path);

@@ -12,8 +12,7 @@ namespace {
 constexpr int kClickInterval = 450;  // ms; presses further apart are not two of one
 
 /// A person's pointer over a film.
-class HandOnThePicture : public EndToEnd {
- protected:
+struct HandOnThePicture : EndToEnd {
   void SetUp() override {
     screen::movePointer({5, 700});
     player.start({clip("sample.mp4")});

@@ -5,8 +5,7 @@ namespace tromelo::testing {
 namespace {
 
 /// A person's keyboard.
-class Keyboard : public EndToEnd {
- protected:
+struct Keyboard : EndToEnd {
   void SetUp() override {
     screen::movePointer({5, 700});
     player.start({clip("tracks.mkv")});

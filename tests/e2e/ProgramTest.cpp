@@ -136,8 +136,8 @@ TEST_F(EndToEnd, TheLibraryComesBackWhereAPersonLeftIt) {
   player.start();
   ASSERT_TRUE(player.waitUntil([&] { return frame().size() == QSize(1100, 720); }));
   const QString id = window("Tromelo");
-  screen::run("xdotool", {"windowsize", id, "900", "520"});
-  screen::run("xdotool", {"windowmove", id, "100", "80"});
+  screen::xdotool({"windowsize", id, "900", "520"});
+  screen::xdotool({"windowmove", id, "100", "80"});
   ASSERT_TRUE(
       player.waitUntil([&] { return frame().size() == QSize(900, 520) && frame().x() < 120; }));
   const QRect before = frame();

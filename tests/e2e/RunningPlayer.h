@@ -15,8 +15,7 @@
 namespace tromelo::testing {
 
 /// The real program on the test's display, with a home of its own, and what it reports.
-class RunningPlayer {
- public:
+struct RunningPlayer {
   /// Not started yet: change `environment` first where that is wanted.
   RunningPlayer() : environment(QProcessEnvironment::systemEnvironment()) {
     for (const char* kind : {"CONFIG", "STATE", "DATA"}) {

@@ -10,8 +10,7 @@ namespace {
 
 /// The engine's own player on the same display, at the same size and moment of the clip. Dither
 /// is off in both: its pattern is another one in each run.
-class EngineAlone {
- public:
+struct EngineAlone {
   EngineAlone(const QString& clip, const QString& ipc) {
     process_.start("mpv", {"--no-config", "--vo=gpu-next", "--gpu-api=vulkan", "--gpu-sw=yes",
                            "--ao=null", "--pause", "--border=no",

@@ -24,8 +24,7 @@ namespace tromelo::testing {
 
 /// A person's pointer, keyboard and view of the windows on a Wayland host that is built on wlroots.
 /// Each call returns when the host has taken it.
-class WaylandHand {
- public:
+struct WaylandHand {
   /// Of the host that WAYLAND_DISPLAY names.
   WaylandHand() {
     static constexpr zwlr_foreign_toplevel_handle_v1_listener kWindow{

@@ -30,20 +30,20 @@ TEST_F(EndToEnd, IsResizedMinimisedAndClosedByTheWindowManager) {
   const QString id = window("sample");
   for (const auto& [size, width, height] :
        {std::tuple{QSize(900, 700), 900, 506}, {QSize(800, 300), 533, 300}}) {
-    screen::run("xdotool",
-                {"windowsize", id, QString::number(size.width()), QString::number(size.height())});
+    screen::xdotool(
+        {"windowsize", id, QString::number(size.width()), QString::number(size.height())});
     ASSERT_TRUE(player.waitUntil([&] { return player.windowSize() == size; }));
     EXPECT_TRUE(player.waitUntil([&] {
       return std::abs(engine.get("osd-width").toInt() - width) <= 2 &&
              std::abs(engine.get("osd-height").toInt() - height) <= 2;
     })) << width;
   }
-  screen::run("xdotool", {"windowminimize", id});
+  screen::xdotool({"windowminimize", id});
   ASSERT_TRUE(player.waitUntil([this] { return window("sample").isEmpty(); }));
   const auto position = [&] { return engine.get("time-pos").toDouble(); };
   const double hiddenAt = position();
   EXPECT_TRUE(player.waitUntil([&] { return position() > hiddenAt + 2; }));
-  screen::run("xdotool", {"windowactivate", id});
+  screen::xdotool({"windowactivate", id});
   EXPECT_TRUE(screen::waitForShot("back", showsTestPicture));
 
   ASSERT_TRUE(player.waitUntil([&] { return isActive("sample"); }));

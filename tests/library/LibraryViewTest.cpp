@@ -16,8 +16,7 @@
 namespace tromelo::testing {
 namespace {
 
-class LibraryViewTest : public ViewTest {
- protected:
+struct LibraryViewTest : ViewTest {
   LibraryViewTest() : ViewTest("Tromelo.Library") {
     host_.resize(1100, 720);
     layer_.setSize(host_.size());

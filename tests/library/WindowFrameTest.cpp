@@ -10,8 +10,7 @@
 namespace tromelo::testing {
 namespace {
 
-class WindowFrameTest : public ::testing::Test {
- protected:
+struct WindowFrameTest : ::testing::Test {
   QTemporaryDir directory_;
   UserDefaults defaults_{directory_.filePath("defaults.json")};
   WindowFrame frame_{defaults_, "Test"};

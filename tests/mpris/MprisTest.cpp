@@ -19,8 +19,7 @@ const QString kRootInterface = "org.mpris.MediaPlayer2";
 const QString kPlayerInterface = "org.mpris.MediaPlayer2.Player";
 const QString kName = "org.mpris.MediaPlayer2.tromelo";
 
-class Mpris : public ModelTest {
- protected:
+struct Mpris : ModelTest {
   /// Two files of which the first plays, paused, at 10 of 60 seconds.
   void loadQueue() {
     report(event::StartFile{});
@@ -77,8 +76,7 @@ TEST_F(Mpris, TellsOfTheStateInTheDesktopsWords) {
   EXPECT_FALSE(trackMetadata(model()).contains("mpris:length"));
 }
 
-class MprisOnABus : public Mpris {
- protected:
+struct MprisOnABus : Mpris {
   MprisOnABus() {
     EXPECT_TRUE(waitFor([this] { return desktop_.owns(kName); }));
   }

@@ -5,8 +5,7 @@
 namespace tromelo::testing {
 namespace {
 
-class ControlBarTest : public ViewTest {
- protected:
+struct ControlBarTest : ViewTest {
   ControlBarTest() {
     show("PlayerControlBar", {{"playback", playback()},
                               {"chrome", shownChrome()},

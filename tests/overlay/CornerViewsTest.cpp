@@ -8,7 +8,7 @@ namespace tromelo::testing {
 namespace {
 
 /// The badge, the info panel, the toast and the close button.
-class CornerViewsTest : public ViewTest {};
+struct CornerViewsTest : ViewTest {};
 
 TEST_F(CornerViewsTest, TheBadgeTellsRangeTitleAndChapter) {
   const QQuickItem& badge = show("PlayerSignalBadge", {{"playback", playback()}});

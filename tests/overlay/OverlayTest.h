@@ -6,8 +6,7 @@
 namespace tromelo::testing {
 
 /// The whole overlay over a video, and what it says.
-class OverlayTest : public ViewTest {
- protected:
+struct OverlayTest : ViewTest {
   OverlayTest() {
     host_.setFlag(Qt::FramelessWindowHint);
     makeOverlay();

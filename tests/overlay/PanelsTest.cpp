@@ -18,8 +18,7 @@ struct KeyCounter : QObject {
   }
 };
 
-class PanelsTest : public ViewTest {
- protected:
+struct PanelsTest : ViewTest {
   PanelsTest() { host_.resize(800, 700); }
 
   /// The names of the rows that are ticked.
@@ -171,8 +170,7 @@ TEST_F(PanelsTest, ALongQueueKeepsItsPlaceWhileItChanges) {
 }
 
 /// The panels above the control bar, over a video.
-class PopoverTest : public OverlayTest {
- protected:
+struct PopoverTest : OverlayTest {
   PopoverTest() { host_.resize(800, 700); }
 
   void open(PlayerPanel panel) {

@@ -9,8 +9,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class QuickPlayerOverlayTest : public OverlayTest {
- protected:
+struct QuickPlayerOverlayTest : OverlayTest {
   /// The second click of two, which the window system tells of twice.
   void secondClick(QPointF place) {
     press(place);

@@ -4,8 +4,7 @@
 namespace tromelo::testing {
 namespace {
 
-class ShortcutsPanelTest : public ViewTest {
- protected:
+struct ShortcutsPanelTest : ViewTest {
   QQuickItem& showPanel(QVariantMap properties = {}) {
     properties.insert("chrome", shownChrome());
     chrome().setPanel(PlayerPanel::shortcuts);

@@ -11,8 +11,7 @@
 namespace tromelo::testing {
 
 /// One view by itself in a window, and an engine that reports what a test says.
-class ViewTest : public PlayerTest, protected ViewDriver {
- protected:
+struct ViewTest : PlayerTest, protected ViewDriver {
   explicit ViewTest(const char* module = "Tromelo.Overlay") : module_(module) {
     host_.resize(800, 450);
     layer_.setParentItem(host_.contentItem());

@@ -11,8 +11,7 @@
 namespace tromelo::testing {
 namespace {
 
-class DesktopRecents : public ::testing::Test {
- protected:
+struct DesktopRecents : ::testing::Test {
   QByteArray list() const { return QFile::encodeName(directory_.filePath("recently-used.xbel")); }
   QByteArray text() const {
     QFile file(QFile::decodeName(list()));

@@ -25,8 +25,7 @@ class DesktopFileManager : public QObject {
   void ShowItems(const QStringList& uris, const QString&) { shown << uris; }
 };
 
-class FileManagerTest : public ::testing::Test {
- protected:
+struct FileManagerTest : ::testing::Test {
   FileManagerTest() {
     QObject::connect(&manager_, &FileManager::failed,
                      [this](const QString& sentence) { said_ = sentence; });

@@ -17,8 +17,7 @@ namespace tromelo::testing {
 namespace {
 
 /// Two ways of which a test says what they answer, and when.
-class TwoWays {
- public:
+struct TwoWays {
   /// One letter for each step: "+" and "-" want it and don't, "A" and "B" are granted by the first
   /// and the second way, "a" and "b" refused, "t" lets a long time pass, "x" ends the inhibitor.
   /// Gives what is asked for ("A?") and held at the end.
@@ -97,8 +96,7 @@ class Portal : public QObject {
   }
 };
 
-class DesktopInhibition : public ::testing::Test {
- protected:
+struct DesktopInhibition : ::testing::Test {
   void offerPortal() {
     constexpr auto kSlots = QDBusConnection::ExportAllSlots;
     ASSERT_TRUE(desktop_.registerObject("/org/freedesktop/portal/desktop", &portal_, kSlots));

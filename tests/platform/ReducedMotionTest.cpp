@@ -35,8 +35,7 @@ class SettingsPortal : public QObject {
   void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
 };
 
-class ReducedMotionTest : public ::testing::Test {
- protected:
+struct ReducedMotionTest : ::testing::Test {
   ReducedMotionTest() {
     qDBusRegisterMetaType<SettingGroups>();
     desktop_.registerObject("/org/freedesktop/portal/desktop", &portal_,

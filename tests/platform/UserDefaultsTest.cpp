@@ -15,8 +15,7 @@
 namespace tromelo::testing {
 namespace {
 
-class UserDefaultsTest : public ::testing::Test {
- protected:
+struct UserDefaultsTest : ::testing::Test {
   QString path() const { return directory_.filePath("store/defaults.json"); }
 
   void write(const QByteArray& text) {
@@ -34,8 +33,7 @@ class UserDefaultsTest : public ::testing::Test {
 };
 
 /// No file grows above so many bytes, as on a full disk.
-class FullDisk {
- public:
+struct FullDisk {
   explicit FullDisk(rlim_t bytes) {
     ::getrlimit(RLIMIT_FSIZE, &before_);
     handler_ = ::signal(SIGXFSZ, SIG_IGN);

@@ -26,8 +26,7 @@ TEST(Headroom, IsTheScreensOwnPeakAgainstWhite) {
 }
 
 /// A host with one output and colour management, and our connection to it.
-class FakeHost {
- public:
+struct FakeHost {
   FakeHost() {
     std::array<int, 2> ends{};
     socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data());

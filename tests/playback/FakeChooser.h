@@ -7,8 +7,7 @@
 namespace tromelo::testing {
 
 /// A person who looks at the dialog for as long as a test wants.
-class FakeChooser final : public FileChooser {
- public:
+struct FakeChooser final : FileChooser {
   void chooseFiles(const Request& request, Callback chosen) override {
     asked = request;
     answer = std::move(chosen);

@@ -8,8 +8,7 @@
 namespace tromelo::testing {
 
 /// Writes down what the model asks of the player window.
-class FakePlayer final : public PlayerPresenting {
- public:
+struct FakePlayer final : PlayerPresenting {
   struct Log {
     QStringList calls;
     bool hasWindow = false;

@@ -14,8 +14,7 @@
 namespace tromelo::testing {
 
 /// The model over an engine that plays nothing, told what the engine reports.
-class ModelTest : public ::testing::Test, protected Reports {
- protected:
+struct ModelTest : ::testing::Test, protected Reports {
   using Requests = std::vector<std::vector<std::string>>;
 
   ModelTest() { remake(); }

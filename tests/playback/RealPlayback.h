@@ -17,8 +17,7 @@
 namespace tromelo::testing {
 
 /// The model over the real libmpv, without picture and sound.
-class RealPlayback : public ::testing::Test {
- protected:
+struct RealPlayback : ::testing::Test {
   explicit RealPlayback(bool hasSoundDevice = true)
       : model_({.api = headlessMpv(hasSoundDevice),
                 .clock = clock_,

@@ -14,8 +14,7 @@ inline MpvNode track(const char* type, std::int64_t id, const char* title, bool 
 }
 
 /// A test that says what the engine reports to a model.
-class Reports {
- protected:
+struct Reports {
   virtual ~Reports() = default;
   virtual PlaybackModel& model() = 0;
 

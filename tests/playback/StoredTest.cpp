@@ -59,8 +59,7 @@ TEST(RecentFilesTest, LoadsWhateverIsStored) {
     EXPECT_TRUE(RecentFiles(wrong).unknown().isEmpty());
 }
 
-class StoredTest : public ModelTest {
- protected:
+struct StoredTest : ModelTest {
   std::string make(const QByteArray& name) {
     const std::string path = directory_.path().toStdString() + '/' + name.toStdString();
     std::FILE* made = std::fopen(path.c_str(), "w");

@@ -10,8 +10,7 @@ namespace {
 using namespace std::chrono_literals;
 using Sent = PlayerTest::Sent;
 
-class ChromeTest : public PlayerTest {
- protected:
+struct ChromeTest : PlayerTest {
   ChromeTest() {
     report(MpvProperty::pause, false);
     showVideo(window_);

@@ -7,8 +7,7 @@ namespace tromelo::testing {
 
 /// Fades on a driven clock. `Base` is ControlledWindow or VideoWindow.
 template <typename Base>
-class FakeWindow : public Base {
- public:
+struct FakeWindow : Base {
   explicit FakeWindow(Clock& clock) : clock_(clock) {}
 
   bool isVisible() const override { return visible; }
@@ -40,14 +39,12 @@ class FakeWindow : public Base {
   std::unique_ptr<Clock::Timer> fade_;
 };
 
-class FakeLibraryWindow final : public FakeWindow<ControlledWindow> {
- public:
+struct FakeLibraryWindow final : FakeWindow<ControlledWindow> {
   using FakeWindow::FakeWindow;
   void orderOut() override { visible = ordered = false; }
 };
 
-class FakeOverlay final : public PlayerOverlay {
- public:
+struct FakeOverlay final : PlayerOverlay {
   /// Empties `self` when it goes.
   explicit FakeOverlay(FakeOverlay*& self) : self_(self) {}
   ~FakeOverlay() override { self_ = nullptr; }
@@ -70,8 +67,7 @@ class FakeOverlay final : public PlayerOverlay {
   FakeOverlay*& self_;
 };
 
-class FakeVideoWindow final : public FakeWindow<VideoWindow> {
- public:
+struct FakeVideoWindow final : FakeWindow<VideoWindow> {
   explicit FakeVideoWindow(Clock& clock) : FakeWindow(clock) { visible = true; }
 
   bool isMinimized() const override { return minimized; }
@@ -104,8 +100,7 @@ class FakeVideoWindow final : public FakeWindow<VideoWindow> {
   KeyMonitor keyMonitor;
 };
 
-class FakeWindowSystem final : public WindowSystem {
- public:
+struct FakeWindowSystem final : WindowSystem {
   QList<VideoWindow*> videoWindows() const override { return windows; }
   void add(VideoWindow& window) {
     windows.append(&window);

@@ -36,8 +36,7 @@ constexpr auto kControl = Qt::ControlModifier;
 constexpr auto kAlt = Qt::AltModifier;
 constexpr auto kMeta = Qt::MetaModifier;
 
-class KeysTest : public PlayerTest {
- protected:
+struct KeysTest : PlayerTest {
   KeysTest() { showVideo(window_); }
 
   /// Always the same film at the same place.

@@ -15,8 +15,7 @@
 namespace tromelo::testing {
 
 /// The player's rules over windows, an engine and time that do as a test says.
-class PlayerTest : public ::testing::Test, protected Reports {
- public:
+struct PlayerTest : ::testing::Test, protected Reports {
   using Sent = std::vector<std::string>;
 
  protected:

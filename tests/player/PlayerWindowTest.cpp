@@ -11,8 +11,7 @@
 namespace tromelo::testing {
 namespace {
 
-class PlayerWindowTest : public ::testing::Test {
- protected:
+struct PlayerWindowTest : ::testing::Test {
   PlayerWindowTest() { tellTitle("Sintel"); }
 
   void tellTitle(const char* title) {

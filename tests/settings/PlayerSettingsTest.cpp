@@ -78,8 +78,7 @@ TEST(EnginePropertiesTest, WritesEveryPreferenceInOrder) {
               std::ranges::count(fresh, "sub-ass-override scale"));
 }
 
-class PlayerSettingsTest : public ::testing::Test {
- protected:
+struct PlayerSettingsTest : ::testing::Test {
   QJsonObject stored() const { return defaults_.value(kKey).toObject(); }
 
   QTemporaryDir directory_;

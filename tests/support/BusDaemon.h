@@ -6,8 +6,7 @@
 namespace tromelo::testing {
 
 /// A session bus of the test's own, for as long as this lives.
-class BusDaemon {
- public:
+struct BusDaemon {
   BusDaemon() {
     process_.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
     process_.waitForReadyRead();

@@ -8,8 +8,7 @@
 namespace tromelo::testing {
 
 /// While it lives, animations go on as a test says instead of with the time.
-class DrivenAnimations final : public QAnimationDriver {
- public:
+struct DrivenAnimations final : QAnimationDriver {
   DrivenAnimations() {
     connect(this, &QAnimationDriver::started, this, [this] { elapsed_ = {}; });
     install();

@@ -15,9 +15,71 @@ namespace tromelo::testing {
 
 /// A libmpv that plays nothing: it does as a test says and remembers what it was told. Outlives
 /// the engines that use it. terminateDestroy may come on another thread, as may wake().
-class FakeMpv {
- public:
-  MpvClientApi api();
+struct FakeMpv {
+  MpvClientApi api() {
+    return {
+        .create = [this]() -> mpv_handle* {
+          if (cannotBeCreated) return nullptr;
+          ++created;
+          return reinterpret_cast<mpv_handle*>(this);
+        },
+        .setOptionString =
+            [this](mpv_handle*, const char* name, const char* value) {
+              options.emplace_back(name, value);
+              const auto result = optionResults.find(name);
+              return result == optionResults.end() ? 0 : result->second;
+            },
+        .initialize = [this](mpv_handle*) { return initializeResult; },
+        .observeProperty =
+            [this](mpv_handle*, std::uint64_t reply, const char* name, mpv_format format) {
+              observed.push_back({reply, name, format});
+              return 0;
+            },
+        .requestLogMessages =
+            [this](mpv_handle*, const char* level) {
+              logLevel = level;
+              return 0;
+            },
+        .setWakeupCallback =
+            [this](mpv_handle*, void (*callback)(void*), void* context) {
+              const std::scoped_lock lock(callbackMutex_);
+              callback_ = callback;
+              context_ = context;
+            },
+        .waitEvent =
+            [this](mpv_handle*, double) {
+              taken_ = {};
+              if (!events_.empty()) {
+                taken_ = events_.front();
+                events_.pop_front();
+              }
+              return &taken_;
+            },
+        .commandAsync =
+            [this](mpv_handle*, std::uint64_t, const char** arguments) {
+              std::vector<std::string> words;
+              for (; *arguments; ++arguments) words.emplace_back(*arguments);
+              return request(std::move(words));
+            },
+        .setPropertyAsync =
+            [this](mpv_handle*, std::uint64_t, const char* name, mpv_format, void* data) {
+              return request({"set", name, *static_cast<const char**>(data)});
+            },
+        .getPropertyAsync =
+            [this](mpv_handle*, std::uint64_t reply, const char* name, mpv_format) {
+              return request({"get", name, std::to_string(reply)});
+            },
+        .clientApiVersion = [this] { return version; },
+        .errorString = [](int code) -> const char* {
+          return code < -100 ? nullptr : mpv_error_string(code);
+        },
+        .terminateDestroy =
+            [this](mpv_handle*) {
+              destroyedBy = std::this_thread::get_id();
+              ++destroyed;
+            },
+    };
+  }
 
   // What it answers.
   bool cannotBeCreated = false;
@@ -45,13 +107,24 @@ class FakeMpv {
   std::atomic<std::thread::id> destroyedBy;  // the last time
 
   /// Waits to be taken by the engine. `data` must live until then.
-  void queue(mpv_event_id id, void* data = nullptr, std::uint64_t reply = 0, int error = 0);
+  void queue(mpv_event_id id, void* data = nullptr, std::uint64_t reply = 0, int error = 0) {
+    events_.push_back({id, error, reply, data});
+  }
   std::size_t queuedEvents() const { return events_.size(); }
   /// Calls the engine's wakeup callback, if one is installed.
-  void wake();
+  void wake() {
+    const std::scoped_lock lock(callbackMutex_);
+    if (callback_) callback_(context_);
+  }
 
  private:
-  int request(std::vector<std::string> words);
+  int request(std::vector<std::string> words) {
+    if (refusal < 0) return refusal;
+    if (room == 0) return MPV_ERROR_EVENT_QUEUE_FULL;
+    --room;
+    requests.push_back(std::move(words));
+    return 0;
+  }
 
   std::deque<mpv_event> events_;
   mpv_event taken_{};

@@ -12,8 +12,7 @@
 namespace tromelo::testing {
 
 /// Time that stands still until a test moves it. It starts far from zero, as the machine's does.
-class ManualClock final : public Clock {
- public:
+struct ManualClock final : Clock {
   double now() const override { return std::chrono::duration<double>(now_).count(); }
   std::unique_ptr<Timer> after(std::chrono::milliseconds delay,
                                std::function<void()> callback) override {

@@ -7,8 +7,7 @@ namespace tromelo::testing {
 
 /// Turns every XDG base directory of the process but the runtime one to an empty temporary
 /// directory, so that no test reads or writes what belongs to the person who runs it.
-class PrivateHome {
- public:
+struct PrivateHome {
   PrivateHome() {
     for (const char* variable :
          {"XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"}) {

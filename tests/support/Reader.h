@@ -12,8 +12,7 @@
 namespace tromelo::testing {
 
 /// A person who doesn't see a window, and knows of it what assistive technology is told.
-class Reader {
- public:
+struct Reader {
   using Role = QAccessible::Role;
   struct Expected {
     Role role;

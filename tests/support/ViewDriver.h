@@ -15,8 +15,7 @@
 namespace tromelo::testing {
 
 /// A window with views, which a test finds by their names and uses as a hand would.
-class ViewDriver {
- protected:
+struct ViewDriver {
   virtual ~ViewDriver() = default;
   virtual QQuickWindow& window() { return host_; }
 

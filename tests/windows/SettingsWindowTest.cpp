@@ -24,8 +24,7 @@ namespace {
 using Page = SettingsPages::Page;
 using enum SettingsPages::Page;
 
-class SettingsWindowTest : public ::testing::Test, protected ViewDriver {
- protected:
+struct SettingsWindowTest : ::testing::Test, protected ViewDriver {
   void SetUp() override { allowWarning("This plugin does not support"); }
   QQuickWindow& window() override { return shell_.isOpen() ? shell_.show() : host_; }
   void show(Page page) {
