@@ -4,6 +4,7 @@
 
 #include <QJsonObject>
 #include <QTemporaryDir>
+#include <fstream>
 
 #include "../player/FakeWindows.h"
 #include "platform/FilePath.h"
@@ -26,7 +27,14 @@ struct AppDelegateTest : ::testing::Test {
   void launch(const CommandLine& line) {
     delegate_ = std::make_unique<AppDelegate>(
         line, defaults_, std::vector{former_},
-        AppDelegate::Parts{[this] { return makePlayback(); },
+        AppDelegate::Parts{[this] {
+                             return std::make_unique<PlaybackModel>(PlaybackModel::Parts{
+                                 api_, clock_, files_, defaults_, directory_.path(),
+                                 [this](PlaybackModel& playback) {
+                                   return std::make_unique<PlayerWindowController>(
+                                       playback, windows_, clock_);
+                                 }});
+                           },
                            [this](PlaybackModel&, PlayerWindowController&) {
                              ++libraries_;
                              auto window = std::make_unique<FakeLibraryWindow>(clock_);
@@ -37,26 +45,12 @@ struct AppDelegateTest : ::testing::Test {
                      [this] { ++ready_; });
   }
 
-  std::unique_ptr<PlaybackModel> makePlayback() {
-    return std::make_unique<PlaybackModel>(PlaybackModel::Parts{
-        api_, clock_, files_, defaults_, directory_.path(), [this](PlaybackModel& playback) {
-          return std::make_unique<PlayerWindowController>(playback, windows_, clock_);
-        }});
-  }
-
   /// The "loadfile" requests since the last call: path and options.
   std::vector<std::string> takeLoaded() {
     std::vector<std::string> loaded;
     for (const auto& words : std::exchange(mpv_.requests, {}))
       if (words.front() == "loadfile") loaded.push_back(words[1] + " " + words.back());
     return loaded;
-  }
-
-  std::string file(const char* name) {
-    const QString path = directory_.filePath(name);
-    QFile created(path);
-    EXPECT_TRUE(created.open(QIODevice::WriteOnly));
-    return path.toStdString();
   }
 
   ManualClock clock_;
@@ -84,7 +78,8 @@ TEST_F(AppDelegateTest, OpensTheFirstOfTheFilesHandedOverAndNoneThatIsMissing) {
 }
 
 TEST_F(AppDelegateTest, OpensTheLaunchFileOnceAndAfterTheLibraryIsShown) {
-  const std::string movie = file("movie.mkv");
+  const std::string movie = directory_.filePath("movie.mkv").toStdString();
+  std::ofstream(movie) << "a movie";
   launch(fileAt(movie, 90));
   EXPECT_EQ(libraries_, 0);
   delegate_->applicationOpen({fileUrlFromPath(movie)});  // the desktop hands it over as well

@@ -5,6 +5,7 @@
 #include <QApplication>
 
 #include "platform/FilePath.h"
+#include "support/Table.h"
 #include "support/WaitFor.h"
 #include "support/Warnings.h"
 
@@ -21,30 +22,23 @@ QList<QFileDialog*> shownDialogs() {
 }
 
 TEST(DialogFileChooserTest, ShowsOneDialogForWhatIsAskedLast) {
-  struct Row {
-    FileChooser::Request request;
-    QFileDialog::FileMode mode;
-    QStringList filters;
-  };
-  const Row rows[] = {
-      {{"Play", true, {}}, QFileDialog::ExistingFiles, {"All Files (*)"}},
-      {{"Add to Queue", true, {}}, QFileDialog::ExistingFiles, {"All Files (*)"}},
-      {{"Add Subtitle", false, {"srt", "ass"}},
-       QFileDialog::ExistingFile,
-       {"(*.srt *.SRT *.ass *.ASS)"}},
-  };
   allowWarning("This plugin does not support ");  // what windows need elsewhere
   DialogFileChooser chooser;
   QList<QUrl> chosen;
-  for (const Row& row : rows) {
-    const std::string name = row.request.prompt.toStdString();
-    chooser.chooseFiles(row.request, [&chosen](const QList<QUrl>& files) { chosen = files; });
+  for (const auto& [request, mode, filters] :
+       Table<FileChooser::Request, QFileDialog::FileMode, QStringList>{
+           {{"Play", true, {}}, QFileDialog::ExistingFiles, {"All Files (*)"}},
+           {{"Add Subtitle", false, {"srt", "ass"}},
+            QFileDialog::ExistingFile,
+            {"(*.srt *.SRT *.ass *.ASS)"}}}) {
+    const std::string name = request.prompt.toStdString();
+    chooser.chooseFiles(request, [&chosen](const QList<QUrl>& files) { chosen = files; });
     const QList<QFileDialog*> dialogs = shownDialogs();
     ASSERT_EQ(dialogs.size(), 1) << name;
-    EXPECT_EQ(dialogs[0]->labelText(QFileDialog::Accept), row.request.prompt);
-    EXPECT_EQ(dialogs[0]->fileMode(), row.mode) << name;
-    EXPECT_EQ(dialogs[0]->nameFilters(), row.filters) << name;
-    chooser.chooseFiles(row.request, [](const QList<QUrl>&) { FAIL() << "asked for twice"; });
+    EXPECT_EQ(dialogs[0]->labelText(QFileDialog::Accept), request.prompt);
+    EXPECT_EQ(dialogs[0]->fileMode(), mode) << name;
+    EXPECT_EQ(dialogs[0]->nameFilters(), filters) << name;
+    chooser.chooseFiles(request, [](const QList<QUrl>&) { FAIL() << "asked for twice"; });
     EXPECT_EQ(shownDialogs(), dialogs) << name;
   }
   Q_EMIT shownDialogs().value(0)->filesSelected({"/a.srt"});

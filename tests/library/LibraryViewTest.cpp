@@ -68,15 +68,11 @@ struct LibraryViewTest : ViewTest {
 
 TEST_F(LibraryViewTest, ListsWhatWasPlayedNewestFirst) {
   EXPECT_TRUE(isShown("noRecents"));
-  EXPECT_EQ(text("noRecents"), "Videos you play appear here.");
-  EXPECT_EQ(text("recentsHeading"), "Recently Played");
-
   play("/Movies/.hidden");
   play("/Movies/My.Film.2020.mkv");
   EXPECT_FALSE(isShown("noRecents"));
   EXPECT_EQ(texts(rows(), "name"), (QStringList{"My.Film.2020", ".hidden"}));
   EXPECT_EQ(texts(rows(), "path"), (QStringList{"/Movies/My.Film.2020.mkv", "/Movies/.hidden"}));
-  EXPECT_EQ(texts(items("recentName")).size(), 2);
 
   click(rows()[1]);
   EXPECT_EQ(opened(), Sent{"loadfile /Movies/.hidden replace"});
@@ -143,9 +139,6 @@ TEST_F(LibraryViewTest, ARowsMenuDoesWhatItSaysFromTheHandAndFromTheKeyboard) {
   for (const int how : {0, 1, 2}) {
     open(how);
     ASSERT_TRUE(isShown("addToQueue")) << how;
-    EXPECT_EQ(text("addToQueue"), "Add to Queue");
-    EXPECT_EQ(text("showInFileManager"), "Show in File Manager");
-    EXPECT_EQ(text("removeFromRecents"), "Remove from Recents");
     key(Qt::Key_Escape);
     ASSERT_TRUE(waitFor([this] { return !isShown("addToQueue"); }));
   }
@@ -174,16 +167,11 @@ TEST_F(LibraryViewTest, ARowsMenuDoesWhatItSaysFromTheHandAndFromTheKeyboard) {
 }
 
 TEST_F(LibraryViewTest, DescribesTheLastFileOnceItIsKnown) {
-  for (const auto& [name, path, codec, isCard] : Table<const char*, const char*, const char*, bool>{
-           {"at the start", nullptr, nullptr, false},
-           {"no codec yet", "/films/Film.mkv", nullptr, false},
-           {"described", "/films/Film.mkv", "hevc", true}}) {
-    if (path) play(path);
-    if (codec) report(MpvProperty::videoFormat, codec);
-    EXPECT_EQ(isShown("lastPlayedCard"), isCard) << name;
-    EXPECT_EQ(isShown("emptyLibrary"), !isCard) << name;
-  }
-  EXPECT_EQ(text("cardLabel"), "LAST PLAYED");
+  EXPECT_FALSE(isShown("lastPlayedCard"));
+  play("/films/Film.mkv");
+  EXPECT_TRUE(!isShown("lastPlayedCard") && isShown("emptyLibrary")) << "no codec yet";
+  report(MpvProperty::videoFormat, "hevc");
+  EXPECT_TRUE(isShown("lastPlayedCard") && !isShown("emptyLibrary"));
   EXPECT_EQ(text("cardTitle"), playback_.title());
   EXPECT_EQ(texts(items("detailValue")),
             (QStringList{playback_.output(), playback_.display(), playback_.decoder()}));
@@ -222,7 +210,6 @@ TEST_F(LibraryViewTest, TellsTheErrorWordForWord) {
   const QRectF pane(231, 0, host_.width() - 231, host_.height());
   EXPECT_TRUE(pane.contains(frame(capsule)));
   EXPECT_NEAR(frame(capsule).center().x(), pane.center().x(), 1);
-  EXPECT_EQ(frame(capsule).bottom(), pane.bottom() - 24);
 }
 
 TEST_F(LibraryViewTest, AllIsKnownAndUsedWithoutBeingSeen) {
@@ -260,13 +247,11 @@ TEST_F(LibraryViewTest, KeysReachAFileWithoutAPicture) {
   EXPECT_EQ(chosen(), QString());
   for (const auto& [pressed, sent] : {std::pair{Qt::Key_Space, "set pause no"},
                                       {Qt::Key_Right, "seek 10.0 relative"},
-                                      {Qt::Key_Down, "set volume 95"},
+                                      {Qt::Key_Down, "set volume 95.0"},
                                       {Qt::Key_Escape, "stop"}}) {
     takeSent();
     key(pressed);
-    const Sent lines = takeSent();
-    EXPECT_TRUE(lines.size() == 1 && lines[0].starts_with(sent))
-        << sent << ", not " << ::testing::PrintToString(lines);
+    EXPECT_EQ(takeSent(), Sent{sent});
   }
   report(event::EndFile{});
   EXPECT_FALSE(isShown("libraryStatus"));
@@ -275,41 +260,35 @@ TEST_F(LibraryViewTest, KeysReachAFileWithoutAPicture) {
 }
 
 TEST_F(LibraryViewTest, TakesDroppedFilesAnywhereAndNothingElse) {
-  const auto data = [](const QByteArray& type, const QByteArray& lines) {
-    auto mime = std::make_unique<QMimeData>();
-    mime->setData(type, lines);
-    return mime;
-  };
-  const auto enter = [this](const QMimeData& mime, QPoint place) {
-    QDragEnterEvent event(place, Qt::CopyAction, &mime, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(&host_, &event);
-    QDragMoveEvent move(place, Qt::CopyAction, &mime, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(&host_, &move);
-    return move.isAccepted();
-  };
-  const auto isHighlighted = [this] { return item("dropHighlight")->opacity() == 1; };
-  const auto drop = [this](const QMimeData& mime, QPoint place) {
-    QDropEvent event(place, Qt::CopyAction, &mime, Qt::LeftButton, {});
+  QMimeData mime;
+  const auto tell = [this](auto&& event) {
     QCoreApplication::sendEvent(&host_, &event);
     return event.isAccepted();
   };
+  const auto enter = [&](QPoint place) {
+    tell(QDragEnterEvent(place, Qt::CopyAction, &mime, Qt::LeftButton, {}));
+    return tell(QDragMoveEvent(place, Qt::CopyAction, &mime, Qt::LeftButton, {}));
+  };
+  const auto drop = [&](QPoint place) {
+    return tell(QDropEvent(place, Qt::CopyAction, &mime, Qt::LeftButton, {}));
+  };
+  const auto isHighlighted = [this](bool fully) {
+    return waitFor([&] { return item("dropHighlight")->opacity() == (fully ? 1 : 0); });
+  };
   for (const QPoint place : {QPoint(50, 300), QPoint(700, 360), QPoint(231, 10)}) {
-    const auto text = data("text/plain", "a film");
-    EXPECT_FALSE(enter(*text, place));
+    mime.clear();
+    mime.setText("a film");
+    EXPECT_FALSE(enter(place));
     EXPECT_EQ(item("dropHighlight")->opacity(), 0);
-    QDragLeaveEvent leave;
-    QCoreApplication::sendEvent(&host_, &leave);
-
-    const auto files = data("text/uri-list", "file:///c.mkv\r\nhttp://no/\r\nfile:///a%20.mkv\r\n");
-    EXPECT_TRUE(enter(*files, place));
-    EXPECT_TRUE(waitFor(isHighlighted));
+    tell(QDragLeaveEvent());
+    mime.setData("text/uri-list", "file:///c.mkv\r\nhttp://no/\r\nfile:///a%20.mkv\r\n");
+    EXPECT_TRUE(enter(place) && isHighlighted(true));
     takeSent();
-    EXPECT_TRUE(drop(*files, place));
-    EXPECT_TRUE(waitFor([this] { return item("dropHighlight")->opacity() == 0; }));
+    EXPECT_TRUE(drop(place) && isHighlighted(false));
     EXPECT_EQ(opened(), (Sent{"loadfile /c.mkv replace", "loadfile /a .mkv append"}));
   }
-  const auto share = data("text/uri-list", "smb://nas/a.mkv\r\n");
-  EXPECT_TRUE(enter(*share, {50, 300}) && drop(*share, {50, 300}));
+  mime.setData("text/uri-list", "smb://nas/a.mkv\r\n");
+  EXPECT_TRUE(enter({50, 300}) && drop({50, 300}));
   EXPECT_TRUE(
       waitFor([this] { return playback_.errorMessage() == u"Tromelo plays local files only."; }));
 }
@@ -361,17 +340,14 @@ TEST_F(LibraryViewTest, TipsTellOurKeysAndTheNamesThatPeopleGave) {
 TEST_F(LibraryViewTest, OnlyAHighDynamicRangeIsGold) {
   play("/films/Film.mkv");
   report(MpvProperty::videoFormat, "hevc");
-  for (const auto& [gamma, label, isGold] : Table<const char*, const char*, bool>{
-           {"bt.1886", "SDR", false}, {"pq", "HDR10", true}, {"hlg", "HLG", true}}) {
+  for (const auto& [gamma, isGold] : {std::pair{"bt.1886", false}, {"pq", true}, {"hlg", true}}) {
     report(MpvProperty::gamma, gamma);
     const auto chips = items("chipText");
     EXPECT_EQ(texts(chips), (QStringList{playback_.dynamicRange().label(), playback_.videoSize(),
                                          playback_.frameRate(), playback_.codec()}));
-    EXPECT_TRUE(texts(chips)[0].startsWith(label)) << label;
-    for (const QQuickItem* chip : chips) {
-      const QColor colour = chip->property("color").value<QColor>();
-      EXPECT_EQ(colour.blueF() < 0.6, isGold && chip == chips[0]) << label;
-    }
+    for (const QQuickItem* chip : chips)
+      EXPECT_EQ(chip->property("color").value<QColor>().blueF() < 0.6, isGold && chip == chips[0])
+          << gamma;
   }
 }
 

@@ -47,14 +47,8 @@ struct FakeHost {
       wl_display_flush(client);
       wl_event_loop_dispatch(wl_display_get_event_loop(server_), 0);
       wl_display_flush_clients(server_);
-      while (wl_display_prepare_read(client) != 0) wl_display_dispatch_pending(client);
       pollfd readable{wl_display_get_fd(client), POLLIN, 0};
-      if (poll(&readable, 1, 0) > 0) {
-        wl_display_read_events(client);
-      } else {
-        wl_display_cancel_read(client);
-      }
-      wl_display_dispatch_pending(client);
+      if (poll(&readable, 1, 0) > 0) wl_display_dispatch(client);
     }
   }
 

@@ -33,52 +33,36 @@ struct Tracks : ModelTest {
 }  // namespace
 
 TEST_F(Tracks, AreReadWithWhatIsUsableOfThem) {
-  const MediaTrack plain{
-      .id = 4, .kind = TrackKind::sub, .title = {}, .language = {}, .codec = {}, .channels = {}};
-  MediaTrack full{.id = 2,
-                  .kind = TrackKind::sub,
-                  .title = "SDH",
-                  .language = "eng",
-                  .codec = "subrip",
-                  .channels = 6};
+  MediaTrack plain;
+  plain.id = 4;
+  plain.kind = TrackKind::sub;
+  MediaTrack full = plain;
+  full.title = "SDH";
+  full.language = "eng";
+  full.codec = "subrip";
+  full.channels = 6;
   full.isDefault = full.isForced = full.isExternal = full.isSelected = true;
   MediaTrack undecodable = plain;
   undecodable.title = QString(QChar(0xfffd));
   undecodable.language = "";
-  for (const auto& [what, entry, expected] : Table<const char*, MpvNode, QList<MediaTrack>>{
-           {"everything",
-            entry(2, "sub",
-                  {{"title", text("SDH")},
-                   {"lang", text("eng")},
-                   {"codec", text("subrip")},
-                   {"demux-channel-count", integer(6)},
-                   {"audio-channels", integer(2)},
-                   {"default", flag(true)},
-                   {"forced", flag(true)},
-                   {"external", flag(true)},
-                   {"selected", flag(true)}}),
-            {full}},
-           {"other kinds of values",
-            entry(4, "sub",
-                  {{"title", integer(1)},
-                   {"lang", flag(true)},
-                   {"codec", map({})},
-                   {"demux-channel-count", number(6)},
-                   {"audio-channels", text("stereo")},
-                   {"default", integer(1)},
-                   {"forced", text("yes")},
-                   {"external", number(1)},
-                   {"selected", MpvNode{MpvList{}}}}),
-            {plain}},
+  MpvMap all{{"title", text("SDH")},    {"lang", text("eng")},
+             {"codec", text("subrip")}, {"demux-channel-count", integer(6)},
+             {"default", flag(true)},   {"forced", flag(true)},
+             {"external", flag(true)},  {"selected", flag(true)}};
+  MpvMap wrong;  // other kinds of values
+  for (const auto& [key, value] : all)
+    wrong[key] = key == "title" ? integer(1) : MpvNode{MpvList{}};
+  for (const auto& [what, node, expected] : Table<const char*, MpvNode, QList<MediaTrack>>{
+           {"everything", entry(4, "sub", all), {full}},
+           {"other kinds of values", entry(4, "sub", wrong), {plain}},
            {"empty title", entry(4, "sub", {{"title", text("")}}), {plain}},
            {"not UTF-8",
             entry(4, "sub", {{"title", text("\xff")}, {"lang", text("")}}),
             {undecodable}},
            {"another kind", entry(4, "audio"), {}},
-           {"no id", map({{"type", text("sub")}}), {}},
-       }) {
+           {"no id", map({{"type", text("sub")}}), {}}}) {
     MpvList list = notEntries();
-    list.push_back(entry);
+    list.push_back(node);
     EXPECT_EQ(mediaTracks(listOf(list), TrackKind::sub), expected) << what;
   }
 }

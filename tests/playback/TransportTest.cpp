@@ -57,29 +57,23 @@ TEST_F(Transport, FilesOnAShareArePlayedWhereTheyAreMounted) {
   const QUrl away("smb://away/c");
   const QString refusal = "Tromelo plays local files only.";
   const QStringList opening{"awaiting", "not ready"};
-  struct Row {
-    QList<QUrl> addresses;
-    std::vector<std::string> paths;
-    bool hasWindow;
-    QStringList calls;
-  };
-  for (const Row& row : {
-           Row{{film("a"), mounted}, {"/films/a", "/mnt/b"}, false, opening},
-           Row{{away, mounted}, {"/mnt/b"}, true, opening + QStringList{"toast " + refusal}},
-           Row{{away}, {}, true, {"toast " + refusal}},
-           Row{{away}, {}, false, {"library"}},
-       }) {
+  for (const auto& [addresses, expected, hasWindow, calls] :
+       Table<QList<QUrl>, std::vector<std::string>, bool, QStringList>{
+           {{film("a"), mounted}, {"/films/a", "/mnt/b"}, false, opening},
+           {{away, mounted}, {"/mnt/b"}, true, opening + QStringList{"toast " + refusal}},
+           {{away}, {}, true, {"toast " + refusal}},
+           {{away}, {}, false, {"library"}}}) {
     remake();
-    player_ = {.calls = {}, .hasWindow = row.hasWindow};
-    model().openFiles(row.addresses);
+    player_ = {.calls = {}, .hasWindow = hasWindow};
+    model().openFiles(addresses);
     EXPECT_TRUE(takeRequests().empty()) << "the main thread waited";
     ASSERT_TRUE(waitFor([this] { return !player_.calls.isEmpty(); }));
-    EXPECT_EQ(player_.take(), row.calls);
-    EXPECT_EQ(model().errorMessage() == refusal, row.addresses.contains(away));
+    EXPECT_EQ(player_.take(), calls);
+    EXPECT_EQ(model().errorMessage() == refusal, addresses.contains(away));
     std::vector<std::string> paths;
     for (const auto& words : takeRequests())
       if (words.front() == "loadfile") paths.push_back(words[1]);
-    EXPECT_EQ(paths, row.paths);
+    EXPECT_EQ(paths, expected);
   }
 }
 

@@ -8,22 +8,16 @@ namespace tromelo::testing {
 namespace {
 
 TEST(EdgeResizeTest, CanBeTakenHoldOfInANarrowFrame) {
-  struct Row {
-    QPointF place;
-    Qt::Edges edges;
-    Qt::CursorShape cursor = Qt::ArrowCursor;
-  };
-  for (const Row& row : {
-           Row{{300, 6}, {}},
-           Row{{17, 17}, {}},
-           Row{{300, 5.9}, Qt::TopEdge, Qt::SizeVerCursor},
-           Row{{594, 200}, Qt::RightEdge, Qt::SizeHorCursor},
-           Row{{17, 2}, Qt::TopEdge | Qt::LeftEdge, Qt::SizeFDiagCursor},
-           Row{{599, 0}, Qt::TopEdge | Qt::RightEdge, Qt::SizeBDiagCursor},
-           Row{{3, 385}, Qt::BottomEdge | Qt::LeftEdge, Qt::SizeBDiagCursor},
-       }) {
-    EXPECT_EQ(edgesAt(row.place, {600, 400}), row.edges) << row.place.x() << ' ' << row.place.y();
-    EXPECT_EQ(row.edges ? cursorFor(row.edges) : Qt::ArrowCursor, row.cursor);
+  for (const auto& [place, edges, cursor] : Table<QPointF, Qt::Edges, Qt::CursorShape>{
+           {{300, 6}, {}, Qt::ArrowCursor},
+           {{17, 17}, {}, Qt::ArrowCursor},
+           {{300, 5.9}, Qt::TopEdge, Qt::SizeVerCursor},
+           {{594, 200}, Qt::RightEdge, Qt::SizeHorCursor},
+           {{17, 2}, Qt::TopEdge | Qt::LeftEdge, Qt::SizeFDiagCursor},
+           {{599, 0}, Qt::TopEdge | Qt::RightEdge, Qt::SizeBDiagCursor},
+           {{3, 385}, Qt::BottomEdge | Qt::LeftEdge, Qt::SizeBDiagCursor}}) {
+    EXPECT_EQ(edgesAt(place, {600, 400}), edges) << place.x() << ' ' << place.y();
+    EXPECT_EQ(edges ? cursorFor(edges) : Qt::ArrowCursor, cursor);
   }
 }
 
