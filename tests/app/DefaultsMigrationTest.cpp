@@ -10,10 +10,6 @@ namespace {
 struct DefaultsMigration : ::testing::Test {
   UserDefaults store(const char* name) const { return UserDefaults(directory_.filePath(name)); }
 
-  static QString text(const UserDefaults& defaults, const char* key) {
-    return defaults.value(key).toString();
-  }
-
   QTemporaryDir directory_;
 };
 
@@ -29,9 +25,9 @@ TEST_F(DefaultsMigration, TakesEachMissingValueFromTheFirstStoreThatHasIt) {
 
   migrateDefaultsFromOrvo(current, std::vector{first, second});
 
-  EXPECT_EQ(text(current, "recentFiles"), "first");
-  EXPECT_EQ(text(current, "playerSettings"), "mine");
-  EXPECT_EQ(text(current, "softwareDecodeFiles"), "second");
+  EXPECT_EQ(current.value("recentFiles"), "first");
+  EXPECT_EQ(current.value("playerSettings"), "mine");
+  EXPECT_EQ(current.value("softwareDecodeFiles"), "second");
   EXPECT_FALSE(current.contains("unrelated"));
 }
 

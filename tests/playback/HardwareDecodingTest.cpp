@@ -19,36 +19,28 @@ struct Decoder : ModelTest {
 }  // namespace
 
 TEST(HardwareDecoding, IsGivenUpAfterErrorsThatSeekingDoesNotExplain) {
-  const struct {
-    const char* what;
-    double restart;
-    std::vector<double> errors;
-    std::optional<double> givenUpAt;
-  } rows[] = {
-      {"none", 100, {}, {}},
-      {"in the middle of playback", 100, {105}, 105},
-      {"just after a seek", 100, {100.5}, {}},
-      {"exactly a second after it", 100, {101}, {}},
-      {"two bursts just after it", 100, {99, 100.5}, 99},
-      {"two bursts around a seek", 100, {100.1, 100.4, 101.5}, 101.5},
-      {"ten errors of one burst",
-       100,
-       {100, 100.1, 100.2, 100.3, 100.4, 100.5, 100.6, 100.7, 100.8, 100.9},
-       {}},
-  };
-  for (const auto& row : rows) {
+  constexpr double kRestart = 100;
+  for (const auto& [what, errors, expected] :
+       Table<const char*, std::vector<double>, std::optional<double>>{
+           {"none", {}, {}},
+           {"in the middle of playback", {105}, 105},
+           {"just after a seek", {100.5}, {}},
+           {"exactly a second after it", {101}, {}},
+           {"two bursts just after it", {99, 100.5}, 99},
+           {"two bursts around a seek", {100.1, 100.4, 101.5}, 101.5},
+           {"one burst", {100, 100.1, 100.2, 100.3, 100.5, 100.6, 100.7, 100.8, 100.9}, {}}}) {
+    SCOPED_TRACE(what);
     HardwareDecoding decoding;
-    decoding.lastPlaybackRestart = row.restart - 10;
+    decoding.lastPlaybackRestart = kRestart - 10;
     std::optional<double> givenUpAt;
-    for (const double error : row.errors) {
-      if (error >= row.restart) decoding.lastPlaybackRestart = row.restart;
-      if (decoding.givesUpAfterError(error)) {
-        EXPECT_FALSE(givenUpAt) << row.what;
-        givenUpAt = error;
-      }
+    for (const double error : errors) {
+      if (error >= kRestart) decoding.lastPlaybackRestart = kRestart;
+      if (!decoding.givesUpAfterError(error)) continue;
+      EXPECT_FALSE(givenUpAt);
+      givenUpAt = error;
     }
-    EXPECT_EQ(givenUpAt, row.givenUpAt) << row.what;
-    EXPECT_EQ(decoding.forcedSoftware, givenUpAt.has_value()) << row.what;
+    EXPECT_EQ(givenUpAt, expected);
+    EXPECT_EQ(decoding.forcedSoftware, givenUpAt.has_value());
   }
 }
 
