@@ -14,7 +14,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 CommandLine fileAt(const std::string& path, std::optional<double> start = {}) {
   CommandLine line;
@@ -146,5 +145,4 @@ TEST_F(AppDelegateTest, QuitsAtOnceWithoutAnEngine) {
   EXPECT_EQ(ready_, 1);
 }
 
-}  // namespace
 }  // namespace tromelo::testing

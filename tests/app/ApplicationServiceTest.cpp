@@ -7,7 +7,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 TEST(ApplicationServiceTest, WhatABusyProgramTakesLateIsPlayedOnce) {
   using Role = ApplicationService::Role;
@@ -27,5 +26,4 @@ TEST(ApplicationServiceTest, WhatABusyProgramTakesLateIsPlayedOnce) {
   EXPECT_EQ(opened, (QList{film, fileUrlFromPath("/c(d)"), QUrl("smb://nas/e")}));
 }
 
-}  // namespace
 }  // namespace tromelo::testing

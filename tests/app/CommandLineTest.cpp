@@ -8,7 +8,6 @@
 #include "support/Table.h"
 
 namespace tromelo::testing {
-namespace {
 
 CommandLine parse(std::vector<std::string> arguments) {
   std::vector<char*> pointers{nullptr};
@@ -56,5 +55,4 @@ TEST(CommandLine, KnowsTheOptionsThatItsHelpNames) {
   }
 }
 
-}  // namespace
 }  // namespace tromelo::testing

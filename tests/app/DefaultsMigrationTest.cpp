@@ -5,7 +5,6 @@
 #include <QTemporaryDir>
 
 namespace tromelo::testing {
-namespace {
 
 struct DefaultsMigration : ::testing::Test {
   UserDefaults store(const char* name) const { return UserDefaults(directory_.filePath(name)); }
@@ -43,5 +42,4 @@ TEST_F(DefaultsMigration, IsTriedOnceEvenWhenItFoundNothing) {
   EXPECT_FALSE(nextStart.contains("recentFiles"));
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -10,7 +10,6 @@
 #include "support/Warnings.h"
 
 namespace tromelo::testing {
-namespace {
 
 QList<QFileDialog*> shownDialogs() {
   settle();
@@ -45,5 +44,4 @@ TEST(DialogFileChooserTest, ShowsOneDialogForWhatIsAskedLast) {
   EXPECT_EQ(chosen, QList{fileUrlFromPath("/a.srt")});
 }
 
-}  // namespace
 }  // namespace tromelo::testing

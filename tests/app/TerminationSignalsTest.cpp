@@ -4,7 +4,6 @@
 #include <signal.h>
 
 namespace tromelo::testing {
-namespace {
 
 TEST(TerminationSignalsDeathTest, ASecondSignalEndsTheProgramAtOnceWhicheverItIs) {
   for (const int first : {SIGINT, SIGTERM})
@@ -20,5 +19,4 @@ TEST(TerminationSignalsDeathTest, ASecondSignalEndsTheProgramAtOnceWhicheverItIs
           << first << " and " << second;
 }
 
-}  // namespace
 }  // namespace tromelo::testing

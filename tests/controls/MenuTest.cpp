@@ -13,7 +13,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 // What was run is the window's title.
 constexpr const char* kWindow = R"(
@@ -112,5 +111,4 @@ TEST(MnemonicTest, TakesTheLetterFromTheText) {
   }
 }
 
-}  // namespace
 }  // namespace tromelo::testing

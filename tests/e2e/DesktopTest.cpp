@@ -7,7 +7,6 @@
 #include "support/FakeScreenSaver.h"
 
 namespace tromelo::testing {
-namespace {
 
 /// What the desktop has to do with the program, on a session bus of the test's own.
 struct DesktopEndToEnd : EndToEnd {
@@ -63,5 +62,4 @@ TEST_F(DesktopEndToEnd, MediaControlsSteerWhatPlaysAndTheScreenStaysAwakeMeanwhi
   EXPECT_TRUE(isAwake(false));
 }
 
-}  // namespace
 }  // namespace tromelo::testing

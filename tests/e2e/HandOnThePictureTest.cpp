@@ -7,7 +7,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 constexpr int kClickInterval = 450;  // ms; presses further apart are not two of one
 
@@ -158,5 +157,4 @@ TEST_F(HandOnThePicture, TakesDroppedFilesInTheirOrderAndNothingElse) {
     EXPECT_EQ(engine.get(QString("playlist/%1/filename").arg(i + 1)), files[i]);
 }
 
-}  // namespace
 }  // namespace tromelo::testing

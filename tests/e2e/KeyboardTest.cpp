@@ -2,7 +2,6 @@
 #include "support/Table.h"
 
 namespace tromelo::testing {
-namespace {
 
 /// A person's keyboard.
 struct Keyboard : EndToEnd {
@@ -83,5 +82,4 @@ TEST_F(Keyboard, KeysOfTheProgramPass) {
   EXPECT_EQ(player.runtimeFiles(), QStringList());
 }
 
-}  // namespace
 }  // namespace tromelo::testing

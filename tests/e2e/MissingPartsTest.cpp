@@ -5,7 +5,6 @@
 #include "support/Table.h"
 
 namespace tromelo::testing {
-namespace {
 
 using Variables = std::map<QString, QString>;
 
@@ -91,5 +90,4 @@ TEST_F(MissingParts, WithoutVulkanItSaysWhatToInstallAndTheSoundPlays) {
   EXPECT_EQ(program.quit(), 0);
 }
 
-}  // namespace
 }  // namespace tromelo::testing

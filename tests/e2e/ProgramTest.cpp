@@ -6,7 +6,6 @@
 #include "support/Table.h"
 
 namespace tromelo::testing {
-namespace {
 
 TEST_F(EndToEnd, QuitsInOrderDuringPlayback) {
   player.start({clip("sample.mp4")});
@@ -176,5 +175,4 @@ TEST_F(EndToEnd, PanelsAreReadOverAnyPicture) {
     }
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -6,7 +6,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 /// The engine's own player on the same display, at the same size and moment of the clip. Dither
 /// is off in both: its pattern is another one in each run.
@@ -91,5 +90,4 @@ TEST_F(EndToEnd, ShowsTheEnginesPicturePixelForPixel) {
   }));
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -1,7 +1,6 @@
 #include "EndToEnd.h"
 
 namespace tromelo::testing {
-namespace {
 
 TEST_F(EndToEnd, GoesToFullScreenAndBackToTheSizeItHad) {
   player.start({clip("sample.mp4"), "--start=4"});
@@ -57,5 +56,4 @@ TEST_F(EndToEnd, IsResizedMinimisedAndClosedByTheWindowManager) {
   EXPECT_FALSE(window("^Tromelo$").isEmpty());
 }
 
-}  // namespace
 }  // namespace tromelo::testing

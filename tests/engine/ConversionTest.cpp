@@ -7,8 +7,6 @@
 
 namespace tromelo::testing {
 
-namespace {
-
 mpv_node textNode(const char* text) {
   return {.u = {.string = const_cast<char*>(text)}, .format = MPV_FORMAT_STRING};
 }
@@ -20,8 +18,6 @@ mpv_node listNode(mpv_node_list* list, mpv_format format) {
 }
 
 MpvValue changed(mpv_format format, void* data) { return mpvValue({"name", format, data}); }
-
-}  // namespace
 
 TEST(Conversion, EveryFormatOfAChange) {
   const char* text = "a\xff";

@@ -9,8 +9,6 @@
 
 namespace tromelo::testing {
 
-namespace {
-
 struct EngineEvents : ::testing::Test {
   FakeMpv mpv;
   std::unique_ptr<MpvEngine> engine = std::make_unique<MpvEngine>(mpv.api());
@@ -21,8 +19,6 @@ struct EngineEvents : ::testing::Test {
     engine->onEvent = [this](const MpvEvent& event) { received.push_back(event); };
   }
 };
-
-}  // namespace
 
 TEST_F(EngineEvents, OneWakeupFromAnotherThreadDeliversAllThatWaits) {
   for (int i = 0; i < 3; ++i) mpv.queue(MPV_EVENT_START_FILE);

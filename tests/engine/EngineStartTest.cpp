@@ -15,8 +15,6 @@
 
 namespace tromelo::testing {
 
-namespace {
-
 struct EngineStart : ::testing::Test {
   FakeMpv mpv;
   MpvEngine engine{mpv.api()};
@@ -31,8 +29,6 @@ struct EngineStart : ::testing::Test {
     return willing.options;
   }
 };
-
-}  // namespace
 
 TEST_F(EngineStart, SetsItsOptionsAndObservesEveryProperty) {
   EXPECT_EQ(start(), std::nullopt);

@@ -7,8 +7,6 @@
 
 namespace tromelo::testing {
 
-namespace {
-
 std::optional<MpvEvent> translated(mpv_event_id id, void* data = nullptr, int error = 0,
                                    std::uint64_t reply = 0) {
   return translateMpvEvent(MpvClientApi::libmpv(), {id, error, reply, data});
@@ -26,8 +24,6 @@ std::optional<MpvEvent> translatedEnd(mpv_end_file_reason reason, int error) {
   end.playlist_entry_id = 7;
   return translated(MPV_EVENT_END_FILE, &end);
 }
-
-}  // namespace
 
 TEST(Translation, EventsWithoutPayload) {
   EXPECT_EQ(translated(MPV_EVENT_FILE_LOADED), MpvEvent(event::FileLoaded{}));
@@ -66,20 +62,19 @@ TEST(Translation, StartAndEndOfFile) {
   const auto ended = [](std::optional<std::string> error, bool lacksSoundDevice = false) {
     return std::optional<MpvEvent>(event::EndFile{std::move(error), 7, lacksSoundDevice});
   };
-  for (const auto& [what, got, expected] :
-       Table<const char*, std::optional<MpvEvent>, std::optional<MpvEvent>>{
-           {"played to its end", translatedEnd(MPV_END_FILE_REASON_EOF, 0), ended({})},
-           {"stopped", translatedEnd(MPV_END_FILE_REASON_STOP, 0), ended({})},
-           {"redirected", translatedEnd(MPV_END_FILE_REASON_REDIRECT, 0), ended({})},
-           {"failed", translatedEnd(MPV_END_FILE_REASON_ERROR, MPV_ERROR_LOADING_FAILED),
-            ended(mpv_error_string(MPV_ERROR_LOADING_FAILED))},
-           {"without sound", translatedEnd(MPV_END_FILE_REASON_ERROR, MPV_ERROR_AO_INIT_FAILED),
-            ended(mpv_error_string(MPV_ERROR_AO_INIT_FAILED), true)},
-           {"failed without a reason", translatedEnd(MPV_END_FILE_REASON_ERROR, 0),
-            ended("Playback failed")},
-           {"no payload", translated(MPV_EVENT_END_FILE), std::nullopt},
-       })
-    EXPECT_EQ(got, expected) << what;
+  const Table<const char*, std::optional<MpvEvent>, std::optional<MpvEvent>> rows{
+      {"played to its end", translatedEnd(MPV_END_FILE_REASON_EOF, 0), ended({})},
+      {"stopped", translatedEnd(MPV_END_FILE_REASON_STOP, 0), ended({})},
+      {"redirected", translatedEnd(MPV_END_FILE_REASON_REDIRECT, 0), ended({})},
+      {"failed", translatedEnd(MPV_END_FILE_REASON_ERROR, MPV_ERROR_LOADING_FAILED),
+       ended(mpv_error_string(MPV_ERROR_LOADING_FAILED))},
+      {"without sound", translatedEnd(MPV_END_FILE_REASON_ERROR, MPV_ERROR_AO_INIT_FAILED),
+       ended(mpv_error_string(MPV_ERROR_AO_INIT_FAILED), true)},
+      {"failed without a reason", translatedEnd(MPV_END_FILE_REASON_ERROR, 0),
+       ended("Playback failed")},
+      {"no payload", translated(MPV_EVENT_END_FILE), std::nullopt},
+  };
+  for (const auto& [what, got, expected] : rows) EXPECT_EQ(got, expected) << what;
 }
 
 TEST(Translation, RepliesToCommandsMatterWhenTheyFailOrQueueAFile) {

@@ -5,7 +5,6 @@
 #include "support/Table.h"
 
 namespace tromelo::testing {
-namespace {
 
 TEST(GlassRendering, FollowsThePersonThenTheMachine) {
   for (const auto& [asked, software, rendering] :
@@ -17,5 +16,4 @@ TEST(GlassRendering, FollowsThePersonThenTheMachine) {
     EXPECT_EQ(chooseGlassRendering(asked, software), rendering) << asked;
 }
 
-}  // namespace
 }  // namespace tromelo::testing

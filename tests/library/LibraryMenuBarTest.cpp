@@ -12,7 +12,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 TEST(LibraryMenuBarTest, EveryEntryAndEveryKeyRunsItsCommand) {
   QString ran;
@@ -41,13 +40,11 @@ TEST(LibraryMenuBarTest, EveryEntryAndEveryKeyRunsItsCommand) {
     QTest::keyClick(&window, keys.key(), keys.keyboardModifiers());
     settle();
   };
-  for (const auto& [runs, menu, letter] :
-       Table<const char*, Qt::Key, Qt::Key>{{"open", Qt::Key_F, Qt::Key_O},
-                                            {"quit", Qt::Key_F, Qt::Key_Q},
-                                            {"settings", Qt::Key_E, Qt::Key_S},
-                                            {"library", Qt::Key_W, Qt::Key_L},
-                                            {"shortcuts", Qt::Key_H, Qt::Key_K},
-                                            {"about", Qt::Key_H, Qt::Key_A}}) {
+  const Table<const char*, Qt::Key, Qt::Key> rows{
+      {"open", Qt::Key_F, Qt::Key_O},      {"quit", Qt::Key_F, Qt::Key_Q},
+      {"settings", Qt::Key_E, Qt::Key_S},  {"library", Qt::Key_W, Qt::Key_L},
+      {"shortcuts", Qt::Key_H, Qt::Key_K}, {"about", Qt::Key_H, Qt::Key_A}};
+  for (const auto& [runs, menu, letter] : rows) {
     type(Qt::ALT | menu);
     type(letter);
     EXPECT_EQ(std::exchange(ran, {}), runs);
@@ -63,5 +60,4 @@ TEST(LibraryMenuBarTest, EveryEntryAndEveryKeyRunsItsCommand) {
   EXPECT_EQ(ran, "quit");
 }
 
-}  // namespace
 }  // namespace tromelo::testing

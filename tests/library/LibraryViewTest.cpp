@@ -14,7 +14,6 @@
 #include "support/Warnings.h"
 
 namespace tromelo::testing {
-namespace {
 
 struct LibraryViewTest : ViewTest {
   LibraryViewTest() : ViewTest("Tromelo.Library") {
@@ -351,5 +350,4 @@ TEST_F(LibraryViewTest, OnlyAHighDynamicRangeIsGold) {
   }
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -5,7 +5,6 @@
 #include <QTemporaryDir>
 
 namespace tromelo::testing {
-namespace {
 
 TEST(SidebarWidth, StaysWithinItsBoundsAndIsRemembered) {
   QTemporaryDir directory;
@@ -22,5 +21,4 @@ TEST(SidebarWidth, StaysWithinItsBoundsAndIsRemembered) {
   }
 }
 
-}  // namespace
 }  // namespace tromelo::testing

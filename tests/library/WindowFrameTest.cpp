@@ -8,7 +8,6 @@
 #include <QTemporaryDir>
 
 namespace tromelo::testing {
-namespace {
 
 struct WindowFrameTest : ::testing::Test {
   QTemporaryDir directory_;
@@ -43,5 +42,4 @@ TEST_F(WindowFrameTest, BeginsInTheMiddleAndFitsTheScreen) {
   EXPECT_TRUE(screen_.contains(frame_.restored({10000, 10000})));
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -11,7 +11,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 using P = MpvProperty;
 
@@ -202,5 +201,4 @@ TEST_F(MprisOnABus, ASecondPlayerHasANameOfItsOwn) {
   EXPECT_TRUE(waitFor([&] { return !desktop_.owns(instance) && !desktop_.owns(kName); }));
 }
 
-}  // namespace
 }  // namespace tromelo::testing

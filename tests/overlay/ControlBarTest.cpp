@@ -3,7 +3,6 @@
 #include "support/Table.h"
 
 namespace tromelo::testing {
-namespace {
 
 struct ControlBarTest : ViewTest {
   ControlBarTest() {
@@ -23,14 +22,12 @@ TEST_F(ControlBarTest, ButtonsTellTheEngine) {
   load(100);
   reportPlaylist(3, 1);
   report(MpvProperty::pause, false);
-  for (const auto& [button, sent] :
-       Table<const char*, const char*>{{"muteButton", "set mute yes"},
-                                       {"muteButton", "set mute no"},
-                                       {"previousButton", "playlist-prev"},
-                                       {"backButton", "seek -10.0 relative"},
-                                       {"playerPlayPause", "set pause yes"},
-                                       {"forwardButton", "seek 10.0 relative"},
-                                       {"nextButton", "playlist-next"}}) {
+  const Table<const char*, const char*> rows{
+      {"muteButton", "set mute yes"},       {"muteButton", "set mute no"},
+      {"previousButton", "playlist-prev"},  {"backButton", "seek -10.0 relative"},
+      {"playerPlayPause", "set pause yes"}, {"forwardButton", "seek 10.0 relative"},
+      {"nextButton", "playlist-next"}};
+  for (const auto& [button, sent] : rows) {
     click(button);
     EXPECT_EQ(takeSent(), Sent{sent}) << button;
   }
@@ -173,5 +170,4 @@ TEST_F(ControlBarTest, TellsWhatAButtonIsForOnceThePointerRestsOnIt) {
   EXPECT_TRUE(waitFor([&] { return !tip(); }));
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -8,17 +8,14 @@
 #include "theme/Symbols.h"
 
 namespace tromelo::testing {
-namespace {
 
 TEST(ControlBarValuesTest, VolumeSymbols) {
-  for (const auto& [volume, isMuted, symbol] :
-       Table<double, bool, const char*>{{0, false, "speaker.slash.fill"},
-                                        {80, true, "speaker.slash.fill"},
-                                        {0.1, false, "speaker.wave.1.fill"},
-                                        {33.9, false, "speaker.wave.1.fill"},
-                                        {34, false, "speaker.wave.2.fill"},
-                                        {66.99, false, "speaker.wave.2.fill"},
-                                        {67, false, "speaker.wave.3.fill"}}) {
+  const Table<double, bool, const char*> rows{
+      {0, false, "speaker.slash.fill"},    {80, true, "speaker.slash.fill"},
+      {0.1, false, "speaker.wave.1.fill"}, {33.9, false, "speaker.wave.1.fill"},
+      {34, false, "speaker.wave.2.fill"},  {66.99, false, "speaker.wave.2.fill"},
+      {67, false, "speaker.wave.3.fill"}};
+  for (const auto& [volume, isMuted, symbol] : rows) {
     EXPECT_EQ(volumeSymbol(volume, isMuted), symbol) << volume;
     EXPECT_EQ(Symbols::glyph(symbol).size(), 1) << symbol;
   }
@@ -41,5 +38,4 @@ TEST(ControlBarValuesTest, MarksOfChapters) {
   EXPECT_EQ(remainingText(10, 12), "-0:00");
 }
 
-}  // namespace
 }  // namespace tromelo::testing

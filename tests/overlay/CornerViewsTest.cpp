@@ -5,7 +5,6 @@
 #include "support/Table.h"
 
 namespace tromelo::testing {
-namespace {
 
 /// The badge, the info panel, the toast and the close button.
 struct CornerViewsTest : ViewTest {};
@@ -108,5 +107,4 @@ TEST_F(CornerViewsTest, SurfacesAreDrawnAsWasChosen) {
   }
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -12,7 +12,6 @@
 #include "support/Table.h"
 
 namespace tromelo::testing {
-namespace {
 
 TEST(WindowPressTest, TellsAClickFromAHandThatMovesTheWindow) {
   const QPointF at(100.5, 50);
@@ -43,14 +42,10 @@ TEST(WindowPressTest, TellsAClickFromAHandThatMovesTheWindow) {
 TEST(ClickCounterTest, CountsQuickPressesInOnePlace) {
   using std::chrono::milliseconds;
   ClickCounter clicks;
-  for (const auto& [time, place, count] : Table<int, QPointF, int>{{1000, {10, 10}, 1},
-                                                                   {1399, {15, 5}, 2},
-                                                                   {1600, {15, 5}, 3},
-                                                                   {1700, {21, 5}, 1},
-                                                                   {2100, {21, 5}, 1},
-                                                                   {2200, {21, 11}, 1},
-                                                                   {50, {21, 11}, 1},
-                                                                   {51, {21, 11}, 2}})
+  const Table<int, QPointF, int> rows{{1000, {10, 10}, 1}, {1399, {15, 5}, 2}, {1600, {15, 5}, 3},
+                                      {1700, {21, 5}, 1},  {2100, {21, 5}, 1}, {2200, {21, 11}, 1},
+                                      {50, {21, 11}, 1},   {51, {21, 11}, 2}};
+  for (const auto& [time, place, count] : rows)
     EXPECT_EQ(clicks.press(milliseconds(time), place, {milliseconds(400), 5}), count) << time;
 }
 
@@ -84,5 +79,4 @@ TEST(ScrollTest, TrustsPointsWhereTheHostCan) {
   }
 }
 
-}  // namespace
 }  // namespace tromelo::testing

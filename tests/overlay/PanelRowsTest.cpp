@@ -6,7 +6,6 @@
 #include "support/Table.h"
 
 namespace tromelo::testing {
-namespace {
 
 /// Files by their letters; the one in upper case plays.
 PlayQueue queueOf(const char* letters) {
@@ -95,5 +94,4 @@ TEST(PopoverFrameTest, StaysAboveItsButtonAndInsideTheRoom) {
   EXPECT_TRUE(popoverFrame(0, {100, 50}, QRectF(10, 10, -20, -20)).isEmpty());
 }
 
-}  // namespace
 }  // namespace tromelo::testing

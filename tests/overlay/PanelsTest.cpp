@@ -7,7 +7,6 @@
 #include "support/Table.h"
 
 namespace tromelo::testing {
-namespace {
 
 /// Asked before the window, as the player's keys are.
 struct KeyCounter : QObject {
@@ -231,13 +230,11 @@ TEST_F(PopoverTest, HasRoomForItsTextsInGerman) {
   reportChapters({0, 50});
   reportTracks(MpvList{track("audio", 1, "", true)});
   chrome().setShowsInfo(true);
-  for (const auto& [panel, view] : Table<std::optional<PlayerPanel>, const char*>{
-           {PlayerPanel::tracks, "playerPopover"},
-           {PlayerPanel::chapters, "playerPopover"},
-           {PlayerPanel::queue, "playerPopover"},
-           {PlayerPanel::shortcuts, "playerShortcutsPanel"},
-           {std::nullopt, "playerInfoPanel"},
-           {std::nullopt, "playerControlBar"}}) {
+  const Table<std::optional<PlayerPanel>, const char*> rows{
+      {PlayerPanel::tracks, "playerPopover"}, {PlayerPanel::chapters, "playerPopover"},
+      {PlayerPanel::queue, "playerPopover"},  {PlayerPanel::shortcuts, "playerShortcutsPanel"},
+      {std::nullopt, "playerInfoPanel"},      {std::nullopt, "playerControlBar"}};
+  for (const auto& [panel, view] : rows) {
     chrome().setPanel(panel);
     ASSERT_TRUE(waitFor([&] { return only(view) != nullptr; }));
     layOut();
@@ -368,5 +365,4 @@ TEST_F(PopoverTest, EscClosesTheListOfFontsFirst) {
   EXPECT_EQ(keys.count, 1) << "the player's";
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -5,7 +5,6 @@
 #include "support/Table.h"
 
 namespace tromelo::testing {
-namespace {
 
 using namespace std::chrono_literals;
 
@@ -178,5 +177,4 @@ TEST_F(QuickPlayerOverlayTest, ScrollsOverVideoAndChrome) {
   }
 }
 
-}  // namespace
 }  // namespace tromelo::testing

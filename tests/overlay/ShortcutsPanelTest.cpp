@@ -2,7 +2,6 @@
 #include "player/PlayerShortcuts.h"
 
 namespace tromelo::testing {
-namespace {
 
 struct ShortcutsPanelTest : ViewTest {
   QQuickItem& showPanel(QVariantMap properties = {}) {
@@ -59,5 +58,4 @@ TEST_F(ShortcutsPanelTest, NothingIsCutOffInAnyWindow) {
   }
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -9,7 +9,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 struct DesktopRecents : ::testing::Test {
   QByteArray list() const { return QFile::encodeName(directory_.filePath("recently-used.xbel")); }
@@ -61,5 +60,4 @@ TEST_F(DesktopRecents, LeavesADamagedListAlone) {
   EXPECT_EQ(text(), "no list");
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -11,7 +11,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 /// The desktop's side.
 class DesktopFileManager : public QObject {
@@ -77,7 +76,6 @@ TEST_F(FileManagerTest, ShowsTheFileOrItsFolderOrSaysWhyNot) {
   EXPECT_TRUE(waitFor([&] { return !said_.isEmpty(); }));
 }
 
-}  // namespace
 }  // namespace tromelo::testing
 
 #include "FileManagerTest.moc"

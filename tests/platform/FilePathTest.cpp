@@ -9,7 +9,6 @@
 #include "support/Table.h"
 
 namespace tromelo::testing {
-namespace {
 
 TEST(FilePath, KeepsEveryByteOfAPathThroughAUrl) {
   const std::string paths[] = {"/a/plain.mkv",
@@ -68,5 +67,4 @@ TEST(NumberText, IsTheShortestThatReadsBackAndAlwaysAFloat) {
   for (const auto& [value, text] : rows) EXPECT_EQ(numberText(value), text);
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -8,7 +8,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 TEST(HostEnvironment, GivesProcessesWeStartTheHostsDisplayBack) {
   qputenv("WAYLAND_DISPLAY", "host-0");
@@ -30,5 +29,4 @@ TEST(HostEnvironment, GivesProcessesWeStartTheHostsDisplayBack) {
   EXPECT_EQ(file.readAll(), "host-0");
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -14,7 +14,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 /// Two ways of which a test says what they answer, and when.
 struct TwoWays {
@@ -138,7 +137,6 @@ TEST_F(DesktopInhibition, GoesToThePortalAlone) {
   EXPECT_EQ(saver_.asked(), 0u);
 }
 
-}  // namespace
 }  // namespace tromelo::testing
 
 #include "IdleInhibitorTest.moc"

@@ -12,7 +12,6 @@
 using SettingGroups = QMap<QString, QVariantMap>;
 
 namespace tromelo::testing {
-namespace {
 
 class SettingsPortal : public QObject {
   Q_OBJECT
@@ -88,7 +87,6 @@ TEST_F(ReducedMotionTest, IsNotAskedOfTheDesktopWhereThePersonSaysIt) {
   EXPECT_FALSE(none.isWanted());
 }
 
-}  // namespace
 }  // namespace tromelo::testing
 
 #include "ReducedMotionTest.moc"

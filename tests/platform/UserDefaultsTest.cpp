@@ -13,7 +13,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 struct UserDefaultsTest : ::testing::Test {
   QString path() const { return directory_.filePath("store/defaults.json"); }
@@ -124,5 +123,4 @@ TEST_F(UserDefaultsTest, AFullDiskLosesNothing) {
   EXPECT_EQ(defaults.all().size(), 3);
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -13,16 +13,12 @@
 #include "support/Table.h"
 
 namespace tromelo::testing {
-namespace {
 
 TEST(Headroom, IsTheScreensOwnPeakAgainstWhite) {
-  for (const auto& [told, headroom] : Table<ScreenLuminances, double>{{{203, 812, 0}, 4},
-                                                                      {{203, 10000, 1015}, 5},
-                                                                      {{80, 80, 0}, 1},
-                                                                      {{203, 100, 0}, 1},
-                                                                      {{0, 1000, 1000}, 1},
-                                                                      {ScreenLuminances(), 1}})
-    EXPECT_DOUBLE_EQ(headroomOf(told), headroom);
+  const Table<ScreenLuminances, double> rows{{{203, 812, 0}, 4},   {{203, 10000, 1015}, 5},
+                                             {{80, 80, 0}, 1},     {{203, 100, 0}, 1},
+                                             {{0, 1000, 1000}, 1}, {ScreenLuminances(), 1}};
+  for (const auto& [told, headroom] : rows) EXPECT_DOUBLE_EQ(headroomOf(told), headroom);
 }
 
 /// A host with one output and colour management, and our connection to it.
@@ -169,5 +165,4 @@ TEST(WaylandHeadroom, AsksTheHostAndFollowsWhatItSays) {
   wl_registry_destroy(registry);
 }
 
-}  // namespace
 }  // namespace tromelo::testing

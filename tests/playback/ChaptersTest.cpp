@@ -4,8 +4,6 @@
 
 namespace tromelo::testing {
 
-namespace {
-
 using P = MpvProperty;
 
 using Position = std::optional<int>;
@@ -17,8 +15,6 @@ MpvValue threeChapters() {
 }
 
 struct Chapters : ModelTest {};
-
-}  // namespace
 
 TEST(Chapter, IsReadWithWhatIsUsableOfIt) {
   MpvList list = notEntries();
@@ -62,12 +58,10 @@ TEST(Chapter, IsSteppedToWithinTheList) {
 }
 
 TEST_F(Chapters, TheCurrentOneIsAPositionOrNone) {
-  for (const auto& [reported, expected] : Table<MpvValue, Position>{{std::int64_t{2}, 2},
-                                                                    {std::int64_t{-1}, {}},
-                                                                    {std::int64_t{0}, 0},
-                                                                    {1.0, {}},
-                                                                    {kHuge, 2147483647},
-                                                                    {MpvValue(), {}}}) {
+  const Table<MpvValue, Position> rows{{std::int64_t{2}, 2}, {std::int64_t{-1}, {}},
+                                       {std::int64_t{0}, 0}, {1.0, {}},
+                                       {kHuge, 2147483647},  {MpvValue(), {}}};
+  for (const auto& [reported, expected] : rows) {
     report(P::chapter, reported);
     EXPECT_EQ(model().currentChapter(), expected);
   }

@@ -5,13 +5,9 @@
 
 namespace tromelo::testing {
 
-namespace {
-
 using P = MpvProperty;
 
 struct Events : ModelTest {};
-
-}  // namespace
 
 TEST_F(Events, AnEngineThatDoesNotStartLeavesItsReason) {
   mpv_.optionResults["vo"] = MPV_ERROR_OPTION_ERROR;

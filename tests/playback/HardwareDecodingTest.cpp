@@ -6,8 +6,6 @@
 
 namespace tromelo::testing {
 
-namespace {
-
 using P = MpvProperty;
 
 struct Decoder : ModelTest {
@@ -15,8 +13,6 @@ struct Decoder : ModelTest {
 
   void fails() { report(event::HardwareDecodeError{}); }
 };
-
-}  // namespace
 
 TEST(HardwareDecoding, IsGivenUpAfterErrorsThatSeekingDoesNotExplain) {
   constexpr double kRestart = 100;
@@ -132,10 +128,9 @@ TEST_F(Decoder, WhatFellBackIsStoredWholeAndReadAtTheNextStart) {
   fails();
   EXPECT_EQ(defaults_.value(key), (QJsonArray{"/films/b.mkv", "file:///films/%FF%20%2541.mkv"}));
   remake();
-  for (const auto& [path, options] :
-       Table<const char*, const char*>{{"/films/\xff %41.mkv", "hwdec=no"},
-                                       {"/films/b.mkv", "hwdec=no"},
-                                       {"/films/c.mkv", ""}}) {
+  const Table<const char*, const char*> rows{
+      {"/films/\xff %41.mkv", "hwdec=no"}, {"/films/b.mkv", "hwdec=no"}, {"/films/c.mkv", ""}};
+  for (const auto& [path, options] : rows) {
     takeRequests();
     model().open(fileUrlFromPath(path));
     EXPECT_EQ(takeRequests().front().back(), options) << path;

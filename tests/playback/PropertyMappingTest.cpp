@@ -7,8 +7,6 @@
 
 namespace tromelo::testing {
 
-namespace {
-
 using P = MpvProperty;
 
 std::int64_t operator""_i(unsigned long long value) { return static_cast<std::int64_t>(value); }
@@ -16,8 +14,6 @@ std::int64_t operator""_i(unsigned long long value) { return static_cast<std::in
 struct Mapping : ModelTest {
   QVariant shown(const char* field) { return model().property(field); }
 };
-
-}  // namespace
 
 TEST_F(Mapping, EachKindOfValueChangesItsFieldOrLeavesIt) {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
@@ -58,14 +54,9 @@ TEST_F(Mapping, EachKindOfValueChangesItsFieldOrLeavesIt) {
 }
 
 TEST_F(Mapping, ThePositionIsThinnedForwardsOnly) {
-  for (const auto& [reported, shown] : Table<double, double>{{10.0, 10.0},
-                                                             {10.1, 10.0},
-                                                             {10.19, 10.0},
-                                                             {10.25, 10.25},
-                                                             {10.15, 10.15},
-                                                             {3.0, 3.0},
-                                                             {NAN, 3.0},
-                                                             {INFINITY, 3.0}}) {
+  const Table<double, double> rows{{10.0, 10.0},   {10.1, 10.0}, {10.19, 10.0}, {10.25, 10.25},
+                                   {10.15, 10.15}, {3.0, 3.0},   {NAN, 3.0},    {INFINITY, 3.0}};
+  for (const auto& [reported, shown] : rows) {
     report(P::timePos, reported);
     EXPECT_DOUBLE_EQ(model().elapsed(), shown) << reported;
     EXPECT_DOUBLE_EQ(model().scrubPosition(), shown) << reported;

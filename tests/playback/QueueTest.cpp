@@ -7,8 +7,6 @@
 
 namespace tromelo::testing {
 
-namespace {
-
 /// `size` items, the one at `current` playing.
 PlayQueue queueOf(qsizetype size, qsizetype current) {
   PlayQueue queue;
@@ -17,8 +15,6 @@ PlayQueue queueOf(qsizetype size, qsizetype current) {
   }
   return queue;
 }
-
-}  // namespace
 
 TEST(Queue, EntriesAreNamedByTitleOrFile) {
   MpvList list = notEntries();
@@ -48,13 +44,11 @@ TEST(Queue, EntriesAreNamedByTitleOrFile) {
 }
 
 TEST(Queue, KnowsItsNeighbours) {
-  for (const auto& [queue, next, previous] :
-       Table<PlayQueue, bool, bool>{{queueOf(0, -1), false, false},
-                                    {queueOf(1, 0), false, false},
-                                    {queueOf(3, 0), true, false},
-                                    {queueOf(3, 1), true, true},
-                                    {queueOf(3, 2), false, true},
-                                    {queueOf(3, -1), false, false}}) {
+  const Table<PlayQueue, bool, bool> rows{
+      {queueOf(0, -1), false, false}, {queueOf(1, 0), false, false},
+      {queueOf(3, 0), true, false},   {queueOf(3, 1), true, true},
+      {queueOf(3, 2), false, true},   {queueOf(3, -1), false, false}};
+  for (const auto& [queue, next, previous] : rows) {
     EXPECT_EQ(hasNext(queue), next) << queue.size();
     EXPECT_EQ(hasPrevious(queue), previous) << queue.size();
   }

@@ -9,8 +9,6 @@
 
 namespace tromelo::testing {
 
-namespace {
-
 namespace fs = std::filesystem;
 
 struct BadInput : RealPlayback {
@@ -32,8 +30,6 @@ struct BadInput : RealPlayback {
 
   fs::path home() const { return directory_.path().toStdString(); }
 };
-
-}  // namespace
 
 TEST_F(BadInput, WhatCannotBePlayedIsNamedAndTheNextFilePlays) {
   for (const auto& [name, reason] : Table<const char*, QString>{

@@ -4,16 +4,12 @@
 
 namespace tromelo::testing {
 
-namespace {
-
 /// A little more than a frame of the clips.
 constexpr double kFrame = 0.04;
 
 struct WithoutSound : RealPlayback {
   WithoutSound() : RealPlayback(false) {}
 };
-
-}  // namespace
 
 TEST_F(RealPlayback, OpensShowsAndPlays) {
   ASSERT_TRUE(plays(clip("sample.mp4"), 4));

@@ -5,8 +5,6 @@
 
 namespace tromelo::testing {
 
-namespace {
-
 QStringList described(const QList<MediaTrack>& tracks) {
   QStringList lines;
   for (const MediaTrack& track : tracks) lines << track.name() + " | " + track.details();
@@ -31,8 +29,6 @@ struct RealTracks : RealPlayback {
     return waitFor([&] { return selected(model_.audioTracks()) == QList{id}; });
   }
 };
-
-}  // namespace
 
 TEST_F(RealTracks, AreNamedDescribedAndSwitched) {
   QLocale::setDefault(QLocale("en_US"));

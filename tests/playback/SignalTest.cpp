@@ -4,14 +4,10 @@
 
 namespace tromelo::testing {
 
-namespace {
-
 using Kind = DynamicRange::Kind;
 using P = MpvProperty;
 
 struct Signal : ModelTest {};
-
-}  // namespace
 
 TEST(DynamicRange, ComesFromWhatTheEngineSaysOfTheVideo) {
   for (const auto& [what, gamma, colormatrix, profile, expected, label] :

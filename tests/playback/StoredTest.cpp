@@ -8,7 +8,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 const QString kRecents = "recentFiles";
 
@@ -170,5 +169,4 @@ TEST_F(StoredTest, WhatIsToldLeavesPlaybackAlone) {
   EXPECT_EQ(model().buffering(), "Ready");
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -6,8 +6,6 @@
 
 namespace tromelo::testing {
 
-namespace {
-
 using TrackKind = MediaTrack::Kind;
 using P = MpvProperty;
 
@@ -30,8 +28,6 @@ struct Tracks : ModelTest {
   }
 };
 
-}  // namespace
-
 TEST_F(Tracks, AreReadWithWhatIsUsableOfThem) {
   MediaTrack plain;
   plain.id = 4;
@@ -52,15 +48,14 @@ TEST_F(Tracks, AreReadWithWhatIsUsableOfThem) {
   MpvMap wrong;  // other kinds of values
   for (const auto& [key, value] : all)
     wrong[key] = key == "title" ? integer(1) : MpvNode{MpvList{}};
-  for (const auto& [what, node, expected] : Table<const char*, MpvNode, QList<MediaTrack>>{
-           {"everything", entry(4, "sub", all), {full}},
-           {"other kinds of values", entry(4, "sub", wrong), {plain}},
-           {"empty title", entry(4, "sub", {{"title", text("")}}), {plain}},
-           {"not UTF-8",
-            entry(4, "sub", {{"title", text("\xff")}, {"lang", text("")}}),
-            {undecodable}},
-           {"another kind", entry(4, "audio"), {}},
-           {"no id", map({{"type", text("sub")}}), {}}}) {
+  const Table<const char*, MpvNode, QList<MediaTrack>> rows{
+      {"everything", entry(4, "sub", all), {full}},
+      {"other kinds of values", entry(4, "sub", wrong), {plain}},
+      {"empty title", entry(4, "sub", {{"title", text("")}}), {plain}},
+      {"not UTF-8", entry(4, "sub", {{"title", text("\xff")}, {"lang", text("")}}), {undecodable}},
+      {"another kind", entry(4, "audio"), {}},
+      {"no id", map({{"type", text("sub")}}), {}}};
+  for (const auto& [what, node, expected] : rows) {
     MpvList list = notEntries();
     list.push_back(node);
     EXPECT_EQ(mediaTracks(listOf(list), TrackKind::sub), expected) << what;

@@ -8,8 +8,6 @@
 
 namespace tromelo::testing {
 
-namespace {
-
 using P = MpvProperty;
 
 QUrl film(const char* name) { return fileUrlFromPath(std::string("/films/") + name); }
@@ -22,8 +20,6 @@ struct Transport : ModelTest {
     return takeRequests();
   }
 };
-
-}  // namespace
 
 TEST_F(Transport, OpeningShowsWhatIsComing) {
   model().reportPlaybackError("an earlier error");
@@ -208,19 +204,11 @@ TEST_F(Transport, SpeedLoopAndDelaysShowAtOnce) {
 }
 
 TEST(SpeedLadder, ClimbsByRungsAndStaysOn) {
-  for (const auto& [speed, steps, expected] :
-       Table<double, int, double>{{1.0, 1, 1.25},
-                                  {1.0, -1, 0.75},
-                                  {1.1, 1, 1.5},
-                                  {1.0005, 1, 1.25},
-                                  {2.0, 1, 3.0},
-                                  {3.0, 1, 3.0},
-                                  {3.0, -1, 2.0},
-                                  {0.25, -1, 0.25},
-                                  {0.1, -1, 0.25},
-                                  {8.0, -1, 2.0},
-                                  {1.0, 100, 3.0},
-                                  {1.0, -2147483647 - 1, 0.25}}) {
+  const Table<double, int, double> rows{
+      {1.0, 1, 1.25},  {1.0, -1, 0.75}, {1.1, 1, 1.5},   {1.0005, 1, 1.25},
+      {2.0, 1, 3.0},   {3.0, 1, 3.0},   {3.0, -1, 2.0},  {0.25, -1, 0.25},
+      {0.1, -1, 0.25}, {8.0, -1, 2.0},  {1.0, 100, 3.0}, {1.0, -2147483647 - 1, 0.25}};
+  for (const auto& [speed, steps, expected] : rows) {
     EXPECT_EQ(steppedSpeed(speed, steps), expected) << speed << " " << steps;
   }
 }

@@ -5,7 +5,6 @@
 #include "support/Table.h"
 
 namespace tromelo::testing {
-namespace {
 
 using namespace std::chrono_literals;
 using Sent = PlayerTest::Sent;
@@ -217,5 +216,4 @@ TEST_F(ChromeTest, SubtitlesRiseAboveTheControlsAndSinkWithThem) {
   EXPECT_EQ(takeSent(), Sent{"set sub-pos 100.00"});
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -7,7 +7,6 @@
 #include "player/PlayerActions.h"
 
 namespace tromelo::testing {
-namespace {
 
 using namespace std::chrono_literals;
 using Sent = PlayerTest::Sent;
@@ -335,5 +334,4 @@ TEST(HeldKeyTest, IsToldFromOneThatIsPressedAgain) {
   EXPECT_FALSE(isRepeat(41, 801));
 }
 
-}  // namespace
 }  // namespace tromelo::testing

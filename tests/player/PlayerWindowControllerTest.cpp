@@ -6,7 +6,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 using namespace std::chrono_literals;
 using PlayerWindowControllerTest = PlayerTest;
@@ -267,5 +266,4 @@ TEST_F(PlayerWindowControllerTest, SurvivesAWindowThatDiesAtAnyMoment) {
   }
 }
 
-}  // namespace
 }  // namespace tromelo::testing

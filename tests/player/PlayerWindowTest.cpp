@@ -9,7 +9,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 struct PlayerWindowTest : ::testing::Test {
   PlayerWindowTest() { tellTitle("Sintel"); }
@@ -76,5 +75,4 @@ TEST_F(PlayerWindowTest, ShowsThePointerAgainWhenItMoves) {
   EXPECT_NE(host().cursor().shape(), Qt::BlankCursor);
 }
 
-}  // namespace
 }  // namespace tromelo::testing

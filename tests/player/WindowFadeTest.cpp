@@ -5,7 +5,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 using namespace std::chrono_literals;
 
@@ -28,5 +27,4 @@ TEST(WindowFadeTest, GivesUpTheOneBeforeAndIsAStepWhereNoMotionIsWanted) {
   }
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -13,7 +13,6 @@
 #include "support/Table.h"
 
 namespace tromelo::testing {
-namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
@@ -105,16 +104,13 @@ TEST(PlayerPreferencesTest, AnEntryOfAnotherTypeLosesOnlyItself) {
                                          QJsonArray{}};
   const QJsonObject fresh = storedPreferences({});
   QJsonObject allMistyped;
-  for (const auto& [name, mistyped] : Table<const char*, std::vector<QJsonValue>>{
-           {"autoHideDelay", noNumbers},
-           {"subtitleFont", {7, null, QJsonArray{"Arial"}}},
-           {"subtitleSize", noNumbers},
-           {"subtitleColor", noColors},
-           {"subtitleOutlineColor", noColors},
-           {"subtitleBorderStyle", {"Box", "", 2, null}},
-           {"subtitleBold", noFlags},
-           {"subtitleOverridesStyled", noFlags},
-       }) {
+  const Table<const char*, std::vector<QJsonValue>> rows{
+      {"autoHideDelay", noNumbers},       {"subtitleFont", {7, null, QJsonArray{"Arial"}}},
+      {"subtitleSize", noNumbers},        {"subtitleColor", noColors},
+      {"subtitleOutlineColor", noColors}, {"subtitleBorderStyle", {"Box", "", 2, null}},
+      {"subtitleBold", noFlags},          {"subtitleOverridesStyled", noFlags},
+  };
+  for (const auto& [name, mistyped] : rows) {
     for (const QJsonValue& value : mistyped) {
       QJsonObject stored = allStored();
       stored[key(name)] = value;
@@ -231,5 +227,4 @@ TEST_F(PlayerSettingsTest, AnnouncesEachWriteBeforeAndEachChangeAfterIt) {
   EXPECT_EQ(after, (QList<double>{30, 30}));
 }
 
-}  // namespace
 }  // namespace tromelo::testing

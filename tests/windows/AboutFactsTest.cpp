@@ -12,7 +12,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 TEST(AboutFactsTest, SaysWhatIsKnownAndAddsWhatIsFound) {
   FakeMpv mpv;
@@ -41,5 +40,4 @@ TEST(AboutFactsTest, SaysWhatIsKnownAndAddsWhatIsFound) {
   EXPECT_TRUE(copied.startsWith("Tromelo ") && copied.contains(facts.details()));
 }
 
-}  // namespace
 }  // namespace tromelo::testing

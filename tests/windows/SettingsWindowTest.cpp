@@ -19,7 +19,6 @@
 #include "windows/SettingsPages.h"
 
 namespace tromelo::testing {
-namespace {
 
 using Page = SettingsPages::Page;
 using enum SettingsPages::Page;
@@ -214,5 +213,4 @@ TEST_F(SettingsWindowTest, ListsTheShortcutsInTheirOrder) {
       item("shortcutList")->property("contentHeight").toDouble() - item("shortcutList")->height());
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -7,7 +7,6 @@
 #include "support/Table.h"
 
 namespace tromelo::testing {
-namespace {
 
 constexpr QSizeF kSize(480, 110);
 
@@ -64,5 +63,4 @@ TEST(SubtitlePictureTest, IsAsLargeAndAsBoldAsSubtitles) {
   EXPECT_TRUE(subtitleSampleFont(style).bold());
 }
 
-}  // namespace
 }  // namespace tromelo::testing
