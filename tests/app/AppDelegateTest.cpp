@@ -4,11 +4,11 @@
 
 #include <QJsonObject>
 #include <QTemporaryDir>
-#include <fstream>
 
 #include "../player/FakeWindows.h"
 #include "platform/FilePath.h"
 #include "support/FakeMpv.h"
+#include "support/Files.h"
 #include "support/ManualClock.h"
 #include "support/NoFileChooser.h"
 #include "support/WaitFor.h"
@@ -78,7 +78,7 @@ TEST_F(AppDelegateTest, OpensTheFirstOfTheFilesHandedOverAndNoneThatIsMissing) {
 
 TEST_F(AppDelegateTest, OpensTheLaunchFileOnceAndAfterTheLibraryIsShown) {
   const std::string movie = directory_.filePath("movie.mkv").toStdString();
-  std::ofstream(movie) << "a movie";
+  writeFile(movie);
   launch(fileAt(movie, 90));
   EXPECT_EQ(libraries_, 0);
   delegate_->applicationOpen({fileUrlFromPath(movie)});  // the desktop hands it over as well

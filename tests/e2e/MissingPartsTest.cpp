@@ -2,6 +2,7 @@
 #include <map>
 
 #include "EndToEnd.h"
+#include "support/Files.h"
 #include "support/Table.h"
 
 namespace tromelo::testing {
@@ -33,7 +34,7 @@ using MissingParts = EndToEnd;
 
 TEST_F(MissingParts, WithoutThemItPlaysOnAndSaysSo) {
   const QString file = player.homePath() + "/file";
-  ASSERT_TRUE(QFile(file).open(QIODevice::WriteOnly));
+  writeFile(file);
   // What it says in the window and on stderr.
   for (const auto& [what, variables, error, line] :
        Table<const char*, Variables, const char*, const char*>{

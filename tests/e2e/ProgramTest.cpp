@@ -3,6 +3,7 @@
 
 #include "EndToEnd.h"
 #include "support/BusDaemon.h"
+#include "support/Files.h"
 #include "support/Table.h"
 
 namespace tromelo::testing {
@@ -15,9 +16,7 @@ TEST_F(EndToEnd, QuitsInOrderDuringPlayback) {
   EXPECT_EQ(player.runtimeFiles(), QStringList());
   for (const char* ours : {"QObject", "QSocket", "qrc:", "qt.", "ERROR: "})
     EXPECT_FALSE(player.errors().contains(ours)) << player.errors().toStdString();
-  QFile log(player.logPath());
-  ASSERT_TRUE(log.open(QIODevice::ReadOnly));
-  EXPECT_FALSE(log.readAll().isEmpty());
+  EXPECT_FALSE(readFile(player.logPath()).isEmpty());
 }
 
 TEST_F(EndToEnd, RunsSideBySideAndClearsUpAfterACrash) {
@@ -95,14 +94,10 @@ TEST_F(EndToEnd, TheLanguageIsTheFirstOfThePersonsThatTheProgramKnows) {
 }
 
 TEST_F(EndToEnd, SettingsReachTheEngineAndWrongOnesFallBackAlone) {
-  const QByteArray text = R"({"playerSettings": {"subtitleSize": 60, "subtitleBold": true,
-    "subtitleColor": [1, 0, 0, 1], "subtitleBorderStyle": "box", "subtitleFont": 7}})";
   // The former edition's, which are taken over.
-  QDir().mkpath(player.homePath() + "/config/Orvo");
-  QFile former(player.homePath() + "/config/Orvo/defaults.json");
-  ASSERT_TRUE(former.open(QIODevice::WriteOnly));
-  former.write(text);
-  former.close();
+  writeFile(player.homePath() + "/config/Orvo/defaults.json",
+            R"({"playerSettings": {"subtitleSize": 60, "subtitleColor": [1, 0, 0, 1],
+                "subtitleBorderStyle": "box", "subtitleFont": 7}})");
   player.start({clip("tracks.mkv")});
   ASSERT_TRUE(player.waitUntilPlaying());
   EngineProbe engine = probe();

@@ -10,6 +10,7 @@
 #include "engine/EngineEnvironment.h"
 #include "engine/MpvEngine.h"
 #include "support/FakeMpv.h"
+#include "support/Files.h"
 #include "support/Table.h"
 #include "support/WaitFor.h"
 
@@ -142,12 +143,11 @@ TEST(EngineEnvironment, TheShippedDriverYieldsToThePersonsChoice) {
 
 TEST(EngineEnvironment, FindsTheDriverInTheDataDirectories) {
   EXPECT_EQ(shippedVulkanManifest(), QString());
-  const QString directory = qEnvironmentVariable("XDG_DATA_HOME") + "/tromelo/vulkan/icd.d";
-  ASSERT_TRUE(QDir().mkpath(directory));
-  QFile manifest(directory + "/tromelo_icd.json");
-  ASSERT_TRUE(manifest.open(QFile::WriteOnly));
-  EXPECT_EQ(shippedVulkanManifest(), manifest.fileName());
-  manifest.remove();
+  const QString manifest =
+      qEnvironmentVariable("XDG_DATA_HOME") + "/tromelo/vulkan/icd.d/tromelo_icd.json";
+  writeFile(manifest);
+  EXPECT_EQ(shippedVulkanManifest(), manifest);
+  QFile::remove(manifest);
 }
 
 TEST(EngineEnvironment, NumbersAreReadWithAPoint) {

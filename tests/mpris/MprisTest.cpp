@@ -107,14 +107,13 @@ struct MprisOnABus : Mpris {
 };
 
 TEST_F(MprisOnABus, DoesWhatTheViewsDo) {
-  using Asked = Requests;
   for (const char* method : {"Next", "Previous", "Pause", "PlayPause", "Play", "Stop"})
-    EXPECT_EQ(asked(method), Asked()) << method << " with nothing loaded";
+    EXPECT_EQ(asked(method), Requests()) << method << " with nothing loaded";
   EXPECT_EQ(takeShell(), QStringList());
   loadQueue();
   const QVariant here = QVariant::fromValue(trackId(model()));
   const auto seconds = [](int number) { return QVariant(qlonglong(number) * 1'000'000); };
-  for (const auto& [method, arguments, sent] : Table<const char*, QVariantList, Asked>{
+  for (const auto& [method, arguments, sent] : Table<const char*, QVariantList, Requests>{
            {"Play", {}, {{"set", "pause", "no"}}},
            {"Pause", {}, {{"set", "pause", "yes"}}},
            {"PlayPause", {}, {{"set", "pause", "no"}}},
@@ -136,7 +135,7 @@ TEST_F(MprisOnABus, DoesWhatTheViewsDo) {
   EXPECT_EQ(asked("OpenUri", {"file:///films/b%20b.mkv"}).front(),
             (std::vector<std::string>{"loadfile", "/films/b b.mkv", "replace", "-1", ""}));
 
-  for (const auto& [property, value, sent] : Table<const char*, QVariant, Asked>{
+  for (const auto& [property, value, sent] : Table<const char*, QVariant, Requests>{
            {"Volume", 0.25, {{"set", "volume", "25.0"}}},
            {"Volume", 3.0, {{"set", "volume", "100.0"}}},
            {"Rate", 1.5, {{"set", "speed", "1.5"}}},

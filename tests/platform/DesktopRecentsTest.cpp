@@ -6,16 +6,14 @@
 #include <QTemporaryDir>
 
 #include "platform/FilePath.h"
+#include "support/Files.h"
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
 
 struct DesktopRecents : ::testing::Test {
   QByteArray list() const { return QFile::encodeName(directory_.filePath("recently-used.xbel")); }
-  QByteArray text() const {
-    QFile file(QFile::decodeName(list()));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  }
+  QByteArray text() const { return readFile(list()); }
 
   QTemporaryDir directory_;
 };
@@ -35,10 +33,7 @@ TEST_F(DesktopRecents, AddsAFileToWhatIsThereAndRemovesIt) {
 
 TEST_F(DesktopRecents, FollowsThePersonInOrder) {
   const QString path = qEnvironmentVariable("XDG_DATA_HOME") + "/recently-used.xbel";
-  const auto has = [&path](const char* name) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) && file.readAll().contains(name);
-  };
+  const auto has = [&path](const char* name) { return readFile(path).contains(name); };
   const QUrl kept = fileUrlFromPath("/films/kept.mkv");
   const QUrl gone = fileUrlFromPath("/films/gone.mkv");
   for (int i = 0; i < 20; ++i) {
@@ -51,10 +46,7 @@ TEST_F(DesktopRecents, FollowsThePersonInOrder) {
 }
 
 TEST_F(DesktopRecents, LeavesADamagedListAlone) {
-  QFile file(QFile::decodeName(list()));
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write("no list");
-  file.close();
+  writeFile(list().toStdString(), "no list");
   EXPECT_FALSE(addToRecentsList(list(), fileUrlFromPath("/a.mkv")));
   EXPECT_FALSE(removeFromRecentsList(list(), fileUrlFromPath("/a.mkv")));
   EXPECT_EQ(text(), "no list");

@@ -8,6 +8,7 @@
 
 #include "platform/FilePath.h"
 #include "support/BusDaemon.h"
+#include "support/Files.h"
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
@@ -33,17 +34,12 @@ struct FileManagerTest : ::testing::Test {
 
   /// Says which folder it was told to open.
   void installOpener() {
-    QFile opener(directory_.filePath("xdg-open"));
-    ASSERT_TRUE(opener.open(QIODevice::WriteOnly));
-    opener.write("#!/bin/sh\nprintf %s \"$1\" > '" + openedPath().toUtf8() + "'\n");
-    opener.close();
-    opener.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    const QString opener = directory_.filePath("xdg-open");
+    writeFile(opener, "#!/bin/sh\nprintf %s \"$1\" > '" + openedPath().toStdString() + "'\n");
+    QFile::setPermissions(opener, QFile::ReadOwner | QFile::ExeOwner);
   }
   QString openedPath() const { return directory_.filePath("opened"); }
-  QByteArray opened() const {
-    QFile file(openedPath());
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  }
+  QByteArray opened() const { return readFile(openedPath()); }
 
   QTemporaryDir directory_;
   const QByteArray path_ = qgetenv("PATH");

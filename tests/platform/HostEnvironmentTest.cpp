@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "support/Files.h"
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
@@ -24,9 +25,7 @@ TEST(HostEnvironment, GivesProcessesWeStartTheHostsDisplayBack) {
        "printf %s \"$WAYLAND_DISPLAY$TROMELO_TEST_ONLY\" > \"$1.new\" && mv \"$1.new\" \"$1\"",
        "sh", said}));
   ASSERT_TRUE(waitFor([&] { return QFile::exists(said); }));
-  QFile file(said);
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  EXPECT_EQ(file.readAll(), "host-0");
+  EXPECT_EQ(readFile(said), "host-0");
 }
 
 }  // namespace tromelo::testing

@@ -10,23 +10,13 @@
 #include <QTemporaryDir>
 #include <thread>
 
+#include "support/Files.h"
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
 
 struct UserDefaultsTest : ::testing::Test {
   QString path() const { return directory_.filePath("store/defaults.json"); }
-
-  void write(const QByteArray& text) {
-    QDir(directory_.path()).mkpath("store");
-    QFile file(path());
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text);
-  }
-
-  QStringList filesNextToIt() const {
-    return QDir(directory_.filePath("store")).entryList(QDir::Files);
-  }
 
   QTemporaryDir directory_;
 };
@@ -79,7 +69,7 @@ TEST_F(UserDefaultsTest, ProgramsThatWriteAtOnceLoseNothingOfEachOthers) {
 
 TEST_F(UserDefaultsTest, SetsADamagedFileAsideAndGoesOn) {
   for (const char* damaged : {"{\"a\": 1", "[1, 2]", "\xff\xfe nonsense", ""}) {
-    write(damaged);
+    writeFile(path(), damaged);
     UserDefaults defaults(path());
     EXPECT_TRUE(defaults.all().isEmpty());
     EXPECT_TRUE(defaults.error().contains("damaged")) << damaged;
@@ -87,12 +77,11 @@ TEST_F(UserDefaultsTest, SetsADamagedFileAsideAndGoesOn) {
     defaults.flush();
     EXPECT_EQ(UserDefaults(path()).value("a"), QJsonValue(2));
   }
-  EXPECT_EQ(filesNextToIt().filter("damaged").size(), 4);
+  EXPECT_EQ(QDir(directory_.filePath("store")).entryList({"*damaged*"}).size(), 4);
 }
 
 TEST_F(UserDefaultsTest, KeepsTheValueInMemoryWhenItCannotBeWrittenAndSaysSoOnce) {
-  QFile inTheFoldersPlace(directory_.filePath("store"));
-  ASSERT_TRUE(inTheFoldersPlace.open(QIODevice::WriteOnly));
+  writeFile(directory_.filePath("store"));  // in the folder's place
   UserDefaults defaults(path());
   QStringList told;
   defaults.onError([&](const QString& sentence) { told << sentence; });

@@ -5,6 +5,7 @@
 #include <thread>
 
 #include "RealPlayback.h"
+#include "support/Files.h"
 #include "support/Table.h"
 
 namespace tromelo::testing {
@@ -21,10 +22,8 @@ struct BadInput : RealPlayback {
   /// Waits, with nobody listening to the engine, until its log says something.
   [[nodiscard]] bool engineLogs(const QByteArray& text) {
     QElapsedTimer waited;
-    for (waited.start(); waited.elapsed() < 30000; std::this_thread::yield()) {
-      QFile log(directory_.filePath("diagnostics/mpv.log"));
-      if (log.open(QFile::ReadOnly) && log.readAll().contains(text)) return true;
-    }
+    for (waited.start(); waited.elapsed() < 30000; std::this_thread::yield())
+      if (readFile(directory_.filePath("diagnostics/mpv.log")).contains(text)) return true;
     return false;
   }
 

@@ -1,6 +1,7 @@
 #include <QLocale>
 
 #include "RealPlayback.h"
+#include "support/Files.h"
 #include "support/Table.h"
 
 namespace tromelo::testing {
@@ -55,10 +56,7 @@ TEST_F(RealTracks, AreNamedDescribedAndSwitched) {
 
 TEST_F(RealTracks, ASubtitleFileIsAddedAndShown) {
   const QString path = directory_.filePath("extra.srt");
-  QFile file(path);
-  ASSERT_TRUE(file.open(QFile::WriteOnly));
-  file.write("1\n00:00:00,500 --> 00:00:05,000\nA line\n");
-  file.close();
+  writeFile(path, "1\n00:00:00,500 --> 00:00:05,000\nA line\n");
   ASSERT_TRUE(plays(clip("sample.mp4")));
   model_.presentSubtitleFilePanel();
   chooser_.answer({QUrl::fromLocalFile(path)});
@@ -99,9 +97,8 @@ TEST_F(RealTracks, AFileThatFellBackStaysInSoftware) {
   ASSERT_TRUE(waitFor([this] { return position_ > 1.2; }));
   model_.engine().onEvent(event::HardwareDecodeError{});
   EXPECT_TRUE(waitFor([this] {
-    QFile log(directory_.filePath("diagnostics/mpv.log"));
-    return log.open(QFile::ReadOnly) &&
-           log.readAll().contains("file-local-options/hwdec=\"no\" -> 1");
+    return readFile(directory_.filePath("diagnostics/mpv.log"))
+        .contains("file-local-options/hwdec=\"no\" -> 1");
   }));
   ASSERT_TRUE(plays(clip("sample.mp4")));
   EXPECT_TRUE(shows("decoder", "Software (stream rejected by VideoToolbox)"));

@@ -5,6 +5,7 @@
 #include "ModelTest.h"
 #include "platform/FilePath.h"
 #include "playback/RecentFiles.h"
+#include "support/Files.h"
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
@@ -61,9 +62,7 @@ TEST(RecentFilesTest, LoadsWhateverIsStored) {
 struct StoredTest : ModelTest {
   std::string make(const QByteArray& name) {
     const std::string path = directory_.path().toStdString() + '/' + name.toStdString();
-    std::FILE* made = std::fopen(path.c_str(), "w");
-    EXPECT_NE(made, nullptr);
-    if (made) std::fclose(made);
+    writeFile(path);
     return path;
   }
   void play(const std::string& path) {

@@ -7,7 +7,6 @@
 namespace tromelo::testing {
 
 using namespace std::chrono_literals;
-using Sent = PlayerTest::Sent;
 
 struct ChromeTest : PlayerTest {
   ChromeTest() {

@@ -5,6 +5,7 @@
 #include "PlayerTest.h"
 #include "engine/MpvValue.h"
 #include "player/PlayerActions.h"
+#include "support/Files.h"
 
 namespace tromelo::testing {
 
@@ -203,10 +204,7 @@ TEST_F(KeysTest, WhatIsWrittenOfAKeyIsSo) {
   for (int i = 0; i < tips.keyCount(); ++i)
     EXPECT_NE(PlayerActions::tip(PlayerActions::Tip(tips.value(i))), QString()) << tips.key(i);
 
-  QFile manual(QStringLiteral(MANUAL));
-  ASSERT_TRUE(manual.open(QFile::ReadOnly));
-  const QString text = QString::fromUtf8(manual.readAll());
-  const QString section = text.section(".SH KEYS", 1).section(".SH", 0, 0);
+  const QString section = QString(readFile(MANUAL)).section(".SH KEYS", 1).section(".SH", 0, 0);
   static const QRegularExpression bold("^\\.BR? (.*)$", QRegularExpression::MultilineOption);
   static const QRegularExpression gap("\\s*\", \"\\s*|\\s+");
   int found = 0;

@@ -9,7 +9,6 @@ namespace tromelo::testing {
 
 using namespace std::chrono_literals;
 using PlayerWindowControllerTest = PlayerTest;
-using Sent = PlayerWindowControllerTest::Sent;
 
 TEST_F(PlayerWindowControllerTest, DressesANewWindowUnseenAndRevealsItWhenTheVideoIsReady) {
   await();

@@ -10,6 +10,7 @@
 #include <limits>
 
 #include "platform/UserDefaults.h"
+#include "support/Files.h"
 #include "support/Table.h"
 
 namespace tromelo::testing {
@@ -183,9 +184,7 @@ TEST_F(PlayerSettingsTest, WhatAPersonEditsInTheFileMeanwhileStays) {
            {"with all stored", storedPreferences({}), font},
            {"with a note", font, {{"subtitleFont", "Comic Neue"}, {"note", "mine"}}}}) {
     const auto write = [&](const QJsonObject& entry) {
-      QFile file(path_);
-      ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-      file.write(QJsonDocument(QJsonObject{{kKey, entry}}).toJson());
+      writeFile(path_, QJsonDocument(QJsonObject{{kKey, entry}}).toJson().toStdString());
     };
     write(before);
     UserDefaults defaults(path_);
