@@ -3,14 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <QJsonObject>
-#include <QTemporaryDir>
 
-#include "../player/FakeWindows.h"
 #include "platform/FilePath.h"
+#include "playback/FakeChooser.h"
+#include "player/FakeWindows.h"
 #include "support/FakeMpv.h"
 #include "support/Files.h"
+#include "support/Home.h"
 #include "support/ManualClock.h"
-#include "support/NoFileChooser.h"
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
@@ -22,7 +22,7 @@ CommandLine fileAt(const std::string& path, std::optional<double> start = {}) {
   return line;
 }
 
-struct AppDelegateTest : ::testing::Test {
+struct AppDelegateTest : ::testing::Test, protected Home {
   void launch(const CommandLine& line) {
     delegate_ = std::make_unique<AppDelegate>(
         line, defaults_, std::vector{former_},
@@ -56,9 +56,7 @@ struct AppDelegateTest : ::testing::Test {
   FakeWindowSystem windows_;
   FakeMpv mpv_;
   MpvClientApi api_ = mpv_.api();
-  NoFileChooser files_;
-  QTemporaryDir directory_;
-  UserDefaults defaults_{directory_.filePath("defaults.json")};
+  FakeChooser files_;
   UserDefaults former_{directory_.filePath("former.json")};
   std::unique_ptr<AppDelegate> delegate_;
   FakeLibraryWindow* library_ = nullptr;

@@ -39,7 +39,7 @@ TEST_F(EngineStart, SetsItsOptionsAndObservesEveryProperty) {
       std::ranges::count(mpv.options, Options::value_type{"log-file", "/diagnostics/mpv.log"}), 1);
   EXPECT_EQ(mpv.logLevel, "warn");
   EXPECT_EQ(mpv.observed.size(), allMpvProperties().size());
-  EXPECT_EQ(mpv.observed.front(), (FakeMpv::Observed{1, "media-title", MPV_FORMAT_STRING}));
+  EXPECT_EQ(mpv.observed.front(), std::tuple(1U, "media-title", MPV_FORMAT_STRING));
 }
 
 TEST_F(EngineStart, ASecondStartDoesNothing) {

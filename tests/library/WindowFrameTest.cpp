@@ -5,13 +5,12 @@
 #include <QGuiApplication>
 #include <QJsonArray>
 #include <QScreen>
-#include <QTemporaryDir>
+
+#include "support/Home.h"
 
 namespace tromelo::testing {
 
-struct WindowFrameTest : ::testing::Test {
-  QTemporaryDir directory_;
-  UserDefaults defaults_{directory_.filePath("defaults.json")};
+struct WindowFrameTest : ::testing::Test, protected Home {
   WindowFrame frame_{defaults_, "Test"};
   const QRect screen_ = QGuiApplication::primaryScreen()->availableGeometry();
 };

@@ -90,7 +90,6 @@ TEST_F(ControlBarTest, DragsThePosition) {
   press(at(0.25));
   EXPECT_TRUE(playback_.isScrubbing());
   EXPECT_EQ(takeSent(), Sent{"seek 25.0 absolute+keyframes"});
-  EXPECT_EQ(text("elapsedTime"), "0:25");
   drag(at(0.5));
   EXPECT_EQ(text("elapsedTime"), "0:50");
   EXPECT_EQ(text("remainingTime"), "-0:50");

@@ -22,13 +22,8 @@ struct OverlayTest : ViewTest {
         engine_, layer_, playback_, player(), reducedMotion_, clock_, [this] { return pointer_; });
     overlay_->onActivity = [this] { said_ << "activity"; };
     overlay_->onClick = [this] { said_ << "click"; };
-    overlay_->onDoubleClick = [this] { said_ << "double click"; };
     overlay_->onScroll = [this](double steps) { said_ << "scroll " + QString::number(steps); };
     overlay_->onLayout = [this] { said_ << "layout"; };
-    overlay_->onDropFiles = [this](const QList<QUrl>& files) {
-      said_ << "drop";
-      for (const QUrl& file : files) said_ << file.toString();
-    };
     settle();
     said_.clear();
   }

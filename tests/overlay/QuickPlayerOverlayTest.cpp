@@ -1,5 +1,3 @@
-#include <QMimeData>
-
 #include "OverlayTest.h"
 #include "support/DrivenAnimations.h"
 #include "support/Table.h"
@@ -9,12 +7,6 @@ namespace tromelo::testing {
 using namespace std::chrono_literals;
 
 struct QuickPlayerOverlayTest : OverlayTest {
-  /// The second click of two, which the window system tells of twice.
-  void secondClick(QPointF place) {
-    press(place);
-    mouse(QEvent::MouseButtonDblClick, place, Qt::LeftButton, Qt::LeftButton);
-    release(place);
-  }
   void enter(QPointF place) {
     pointer_ = host_.position() + place;
     QEnterEvent event(place, place, pointer_);

@@ -2,19 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
-
 #include "FakeChooser.h"
 #include "FakePlayer.h"
 #include "Reports.h"
-#include "platform/UserDefaults.h"
 #include "support/FakeMpv.h"
+#include "support/Home.h"
 #include "support/ManualClock.h"
 
 namespace tromelo::testing {
 
 /// The model over an engine that plays nothing, told what the engine reports.
-struct ModelTest : ::testing::Test, protected Reports {
+struct ModelTest : ::testing::Test, protected Home, protected Reports {
   using Requests = std::vector<std::vector<std::string>>;
 
   ModelTest() { remake(); }
@@ -36,8 +34,6 @@ struct ModelTest : ::testing::Test, protected Reports {
   PlaybackModel& model() override { return *model_; }
   Requests takeRequests() { return std::exchange(mpv_.requests, {}); }
 
-  QTemporaryDir directory_;
-  UserDefaults defaults_{directory_.filePath("defaults.json")};
   FakeMpv mpv_;
   ManualClock clock_;
   FakeChooser chooser_;

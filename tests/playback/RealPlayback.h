@@ -2,22 +2,20 @@
 
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
-
 #include "FakeChooser.h"
 #include "FakePlayer.h"
 #include "platform/Clock.h"
 #include "platform/FilePath.h"
-#include "platform/UserDefaults.h"
 #include "playback/PlaybackModel.h"
 #include "support/Clips.h"
 #include "support/HeadlessMpv.h"
+#include "support/Home.h"
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
 
 /// The model over the real libmpv, without picture and sound.
-struct RealPlayback : ::testing::Test {
+struct RealPlayback : ::testing::Test, protected Home {
   explicit RealPlayback(bool hasSoundDevice = true)
       : model_({.api = headlessMpv(hasSoundDevice),
                 .clock = clock_,
@@ -60,8 +58,6 @@ struct RealPlayback : ::testing::Test {
     return waitFor([this] { return model_.isPaused(); });
   }
 
-  QTemporaryDir directory_;
-  UserDefaults defaults_{directory_.filePath("defaults.json")};
   SystemClock clock_;
   FakeChooser chooser_;
   FakePlayer::Log player_;

@@ -72,7 +72,6 @@ TEST_F(Tracks, AreNamedByTitleAndLanguage) {
            {QLocale("en_US"), "ENGLISH", "eng", "ENGLISH"},
            {QLocale("en_US"), "Commentary", "en", "Commentary (English)"},
            {QLocale("en_US"), "100%2 %1", "en", "100%2 %1 (English)"},
-           {QLocale("en_US"), "Signs", "qaa", "Signs (qaa)"},
            {QLocale("de_DE"), "Commentary", "en", "Commentary (Englisch)"},
            {QLocale("tr_TR"), "İNGİLİZCE", "en", "İNGİLİZCE"},
        }) {

@@ -2,20 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
-
 #include "FakeWindows.h"
-#include "platform/UserDefaults.h"
 #include "playback/FakeChooser.h"
 #include "playback/Reports.h"
 #include "player/PlayerWindowController.h"
 #include "support/FakeMpv.h"
+#include "support/Home.h"
 #include "support/ManualClock.h"
 
 namespace tromelo::testing {
 
 /// The player's rules over windows, an engine and time that do as a test says.
-struct PlayerTest : ::testing::Test, protected Reports {
+struct PlayerTest : ::testing::Test, protected Home, protected Reports {
   using Sent = std::vector<std::string>;
 
  protected:
@@ -72,8 +70,6 @@ struct PlayerTest : ::testing::Test, protected Reports {
   FakeMpv mpv_;
   MpvClientApi api_ = mpv_.api();
   FakeChooser files_;
-  QTemporaryDir directory_;
-  UserDefaults defaults_{directory_.filePath("defaults.json")};
   FakeLibraryWindow library_{clock_};
   FakeVideoWindow window_{clock_};
   PlaybackModel playback_{

@@ -5,12 +5,11 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QTemporaryDir>
 #include <algorithm>
 #include <limits>
 
-#include "platform/UserDefaults.h"
 #include "support/Files.h"
+#include "support/Home.h"
 #include "support/Table.h"
 
 namespace tromelo::testing {
@@ -78,12 +77,8 @@ TEST(EnginePropertiesTest, WritesEveryPreferenceInOrder) {
               std::ranges::count(fresh, "sub-ass-override scale"));
 }
 
-struct PlayerSettingsTest : ::testing::Test {
+struct PlayerSettingsTest : ::testing::Test, protected Home {
   QJsonObject stored() const { return defaults_.value(kKey).toObject(); }
-
-  QTemporaryDir directory_;
-  QString path_ = directory_.filePath("defaults.json");
-  UserDefaults defaults_{path_};
 };
 
 TEST(PlayerPreferencesTest, KeepsEveryEntryExactly) {

@@ -6,6 +6,7 @@
 #include <mutex>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -32,7 +33,7 @@ struct FakeMpv {
         .initialize = [this](mpv_handle*) { return initializeResult; },
         .observeProperty =
             [this](mpv_handle*, std::uint64_t reply, const char* name, mpv_format format) {
-              observed.push_back({reply, name, format});
+              observed.emplace_back(reply, name, format);
               return 0;
             },
         .requestLogMessages =
@@ -91,13 +92,7 @@ struct FakeMpv {
 
   // What it was told, in order.
   std::vector<std::pair<std::string, std::string>> options;
-  struct Observed {
-    std::uint64_t reply;
-    std::string name;
-    mpv_format format;
-    friend bool operator==(const Observed&, const Observed&) = default;
-  };
-  std::vector<Observed> observed;
+  std::vector<std::tuple<std::uint64_t, std::string, mpv_format>> observed;
   /// Commands as they came; property writes as {"set", name, value}, reads
   /// as {"get", name, reply}.
   std::vector<std::vector<std::string>> requests;

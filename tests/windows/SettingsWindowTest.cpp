@@ -4,12 +4,11 @@
 #include <QColorDialog>
 #include <QQmlEngine>
 #include <QQuickItem>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include "platform/UserDefaults.h"
 #include "player/PlayerShortcuts.h"
 #include "settings/PlayerSettings.h"
+#include "support/Home.h"
 #include "support/Reader.h"
 #include "support/Table.h"
 #include "support/ViewDriver.h"
@@ -23,7 +22,7 @@ namespace tromelo::testing {
 using Page = SettingsPages::Page;
 using enum SettingsPages::Page;
 
-struct SettingsWindowTest : ::testing::Test, protected ViewDriver {
+struct SettingsWindowTest : ::testing::Test, protected Home, protected ViewDriver {
   void SetUp() override { allowWarning("This plugin does not support"); }
   QQuickWindow& window() override { return shell_.isOpen() ? shell_.show() : host_; }
   void show(Page page) {
@@ -37,8 +36,6 @@ struct SettingsWindowTest : ::testing::Test, protected ViewDriver {
     EXPECT_EQ(window().activeFocusItem(), item(name)) << name;
   }
 
-  QTemporaryDir directory_;
-  UserDefaults defaults_{directory_.filePath("defaults.json")};
   PlayerSettings settings_{defaults_};
   QQmlEngine engine_;
   SettingsPages pages_;
