@@ -5,35 +5,21 @@
 #include <QJsonObject>
 
 #include "platform/FilePath.h"
-#include "playback/FakeChooser.h"
-#include "player/FakeWindows.h"
-#include "support/FakeMpv.h"
+#include "player/PlayerTest.h"
 #include "support/Files.h"
-#include "support/Home.h"
-#include "support/ManualClock.h"
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
 
 CommandLine fileAt(const std::string& path, std::optional<double> start = {}) {
-  CommandLine line;
-  line.file = fileUrlFromPath(path);
-  line.start = start;
-  return line;
+  return {.file = fileUrlFromPath(path), .start = start};
 }
 
-struct AppDelegateTest : ::testing::Test, protected Home {
+struct AppDelegateTest : ::testing::Test, protected PlayerParts {
   void launch(const CommandLine& line) {
     delegate_ = std::make_unique<AppDelegate>(
         line, defaults_, std::vector{former_},
-        AppDelegate::Parts{[this] {
-                             return std::make_unique<PlaybackModel>(PlaybackModel::Parts{
-                                 api_, clock_, files_, defaults_, directory_.path(),
-                                 [this](PlaybackModel& playback) {
-                                   return std::make_unique<PlayerWindowController>(
-                                       playback, windows_, clock_);
-                                 }});
-                           },
+        AppDelegate::Parts{[this] { return std::make_unique<PlaybackModel>(parts()); },
                            [this](PlaybackModel&, PlayerWindowController&) {
                              ++libraries_;
                              auto window = std::make_unique<FakeLibraryWindow>(clock_);
@@ -52,11 +38,6 @@ struct AppDelegateTest : ::testing::Test, protected Home {
     return loaded;
   }
 
-  ManualClock clock_;
-  FakeWindowSystem windows_;
-  FakeMpv mpv_;
-  MpvClientApi api_ = mpv_.api();
-  FakeChooser files_;
   UserDefaults former_{directory_.filePath("former.json")};
   std::unique_ptr<AppDelegate> delegate_;
   FakeLibraryWindow* library_ = nullptr;

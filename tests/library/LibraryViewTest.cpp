@@ -81,16 +81,12 @@ TEST_F(LibraryViewTest, ListsWhatWasPlayedNewestFirst) {
 TEST_F(LibraryViewTest, SaysNothingOfRecentFilesUntilTheyAreKnown) {
   auto answers = std::make_shared<std::counting_semaphore<>>(0);
   defaults_.set("recentFiles", QJsonArray{"/share/film.mkv"});
-  PlaybackModel starting({.api = api_,
-                          .clock = clock_,
-                          .files = files_,
-                          .defaults = defaults_,
-                          .diagnosticsDirectory = directory_.path(),
-                          .makePlayer = {},
-                          .fileExists = [answers](const std::string&) {
-                            answers->acquire();
-                            return false;
-                          }});
+  PlaybackModel::Parts unknown = parts();
+  unknown.fileExists = [answers](const std::string&) {
+    answers->acquire();
+    return false;
+  };
+  PlaybackModel starting(std::move(unknown));
   show("RecentsList", {{"playback", QVariant::fromValue(&starting)},
                        {"fileManager", QVariant::fromValue(&fileManager_)}});
   EXPECT_FALSE(isShown("noRecents"));

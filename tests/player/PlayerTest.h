@@ -12,11 +12,25 @@
 
 namespace tromelo::testing {
 
+/// What a player is made of.
+struct PlayerParts : Home {
+  PlaybackModel::Parts parts() {
+    return {api_, clock_, files_, defaults_, directory_.path(), [this](PlaybackModel& playback) {
+              return std::make_unique<PlayerWindowController>(playback, windows_, clock_);
+            }};
+  }
+
+  ManualClock clock_;
+  FakeWindowSystem windows_;
+  FakeMpv mpv_;
+  MpvClientApi api_ = mpv_.api();
+  FakeChooser files_;
+};
+
 /// The player's rules over windows, an engine and time that do as a test says.
-struct PlayerTest : ::testing::Test, protected Home, protected Reports {
+struct PlayerTest : ::testing::Test, protected PlayerParts, protected Reports {
   using Sent = std::vector<std::string>;
 
- protected:
   PlayerTest() {
     library_.visible = true;
     player().setLibraryWindow(&library_);
@@ -65,17 +79,9 @@ struct PlayerTest : ::testing::Test, protected Home, protected Reports {
     Q_EMIT windows_.windowsChanged();
   }
 
-  ManualClock clock_;
-  FakeWindowSystem windows_;
-  FakeMpv mpv_;
-  MpvClientApi api_ = mpv_.api();
-  FakeChooser files_;
   FakeLibraryWindow library_{clock_};
   FakeVideoWindow window_{clock_};
-  PlaybackModel playback_{
-      {api_, clock_, files_, defaults_, directory_.path(), [this](PlaybackModel& playback) {
-         return std::make_unique<PlayerWindowController>(playback, windows_, clock_);
-       }}};
+  PlaybackModel playback_{parts()};
 };
 
 }  // namespace tromelo::testing
