@@ -75,6 +75,15 @@ TEST_F(Keyboard, KeysOfTheProgramPass) {
   ASSERT_TRUE(player.waitUntil([&] { return window("^Tromelo$").isEmpty(); }));
   screen::press("ctrl+shift+l");
   EXPECT_TRUE(player.waitUntil([&] { return isActive("^Tromelo$"); }));
+  if (screen::isX11()) {
+    screen::press("ctrl+comma");
+    EXPECT_TRUE(player.waitUntil([&] { return isActive("^Settings$"); }));
+    screen::press("Escape");
+    EXPECT_TRUE(player.waitUntil([&] { return isActive("^Tromelo$"); }));
+    screen::press("alt+h");
+    screen::press("a");
+    EXPECT_TRUE(player.waitUntil([&] { return isActive("^About Tromelo$"); }));
+  }
   screen::activate(player.processId(), "tracks");
   ASSERT_TRUE(player.waitUntil([&] { return isActive("tracks"); }));
   screen::press("ctrl+q");

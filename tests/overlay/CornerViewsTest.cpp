@@ -13,7 +13,6 @@ TEST_F(CornerViewsTest, TheBadgeTellsRangeTitleAndChapter) {
   const QQuickItem& badge = show("PlayerSignalBadge", {{"playback", playback()}});
   EXPECT_FALSE(isShown("rangeTag") || isShown("badgeChapter"));
   EXPECT_EQ(text("badgeTitle"), "No video selected");
-  const double plain = badge.implicitWidth();
   const double low = badge.implicitHeight();
 
   for (const auto& [gamma, tag] : {std::pair{"pq", "HDR10"}, {"hlg", "HLG"}}) {
@@ -22,7 +21,6 @@ TEST_F(CornerViewsTest, TheBadgeTellsRangeTitleAndChapter) {
     EXPECT_EQ(text("rangeText"), tag);
   }
   EXPECT_FALSE(item("rangeTag")->property("isGold").toBool());
-  EXPECT_EQ(badge.implicitWidth(), plain + item("rangeTag")->width() + 9);
   report(MpvProperty::dolbyVisionProfile, std::int64_t{8});
   EXPECT_EQ(text("rangeText"), "DOLBY VISION");
   EXPECT_TRUE(item("rangeTag")->property("isGold").toBool());
@@ -44,7 +42,6 @@ TEST_F(CornerViewsTest, TheBadgeTellsRangeTitleAndChapter) {
   report(MpvProperty::mediaTitle, std::string(300, 'm') + '\n' + std::string(300, 'm'));
   EXPECT_EQ(badge.implicitHeight(), high);
   view_->setWidth(badge.implicitWidth());
-  EXPECT_EQ(item("badgeTitle")->width(), 360);
   EXPECT_TRUE(item("badgeTitle")->property("truncated").toBool());
   EXPECT_EQ(item("badgeTitle")->property("lineCount"), 1);
 }
@@ -80,7 +77,6 @@ TEST_F(CornerViewsTest, TheInfoPanelTellsWhatIsPlayed) {
     values << value;
   }
   EXPECT_EQ(values.size(), 8) << "none can stand in for another";
-  EXPECT_EQ(panel.width(), 330);
   panel.setHeight(100);
   layOut();
   EXPECT_FALSE(frame(&panel).contains(frame(item("infoDropped"))));

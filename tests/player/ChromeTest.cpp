@@ -94,9 +94,8 @@ TEST_F(ChromeTest, ShowsTheControlsForAPauseAndForAPanel) {
 }
 
 TEST_F(ChromeTest, TheChaptersPanelGoesWithTheChapters) {
-  const MpvValue chapters(MpvNode{MpvList{MpvNode{MpvMap{{"time", MpvNode{0.0}}}}}});
   for (const auto panel : {PlayerPanel::chapters, PlayerPanel::queue}) {
-    report(MpvProperty::chapterList, chapters);
+    reportChapters({0});
     chrome().setPanel(panel);
     report(MpvProperty::chapterList, {});
     EXPECT_EQ(chrome().panel() == panel, panel == PlayerPanel::queue);

@@ -5,11 +5,15 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QQmlEngine>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include "engine/MpvEngine.h"
 #include "support/FakeMpv.h"
 #include "support/WaitFor.h"
+#include "support/Warnings.h"
+#include "windows/ProgramWindow.h"
 
 namespace tromelo::testing {
 
@@ -35,9 +39,18 @@ TEST(AboutFactsTest, SaysWhatIsKnownAndAddsWhatIsFound) {
   EXPECT_EQ(mpv.queuedEvents(), 2U);
   engine.drainEvents();
   EXPECT_TRUE(facts.details().contains("libmpv: client API 2.5, mpv 0.40\n"));
-  facts.copy();
+
+  allowWarning("This plugin does not support");
+  QQmlEngine views;
+  ProgramWindow shell(views, "AboutWindow", {{"facts", QVariant::fromValue(&facts)}});
+  QQuickWindow& window = shell.show();
+  ASSERT_TRUE(waitFor([&] { return window.isActive(); }));
+  QTest::keyClick(&window, Qt::Key_Return);  // on the button that copies
   const QString copied = QGuiApplication::clipboard()->text();
   EXPECT_TRUE(copied.startsWith("Tromelo ") && copied.contains(facts.details()));
+  QTest::keyClick(&window, Qt::Key_Escape);
+  settle();
+  EXPECT_FALSE(shell.isOpen());
 }
 
 }  // namespace tromelo::testing

@@ -60,7 +60,6 @@ TEST(SubtitlePictureTest, IsAsLargeAndAsBoldAsSubtitles) {
   EXPECT_GT(changed(subtitlePicture(kSize, 1, style)).width(), width);
   style.subtitleSize = 24;
   EXPECT_LT(changed(subtitlePicture(kSize, 1, style)).width(), width);
-  EXPECT_TRUE(subtitleSampleFont(style).bold());
 }
 
 }  // namespace tromelo::testing
