@@ -364,13 +364,6 @@
     </message>
 </context>
 <context>
-    <name>PlayerCloseButton</name>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
-    </message>
-</context>
-<context>
     <name>PlayerControlBar</name>
     <message>
         <source>Playback controls</source>
@@ -418,6 +411,13 @@
     <message>
         <source>Playback info</source>
         <translation>Wiedergabeinfo</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerOverlayView</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>

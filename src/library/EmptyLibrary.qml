@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Tromelo.Controls
-import Tromelo.Glass
 import Tromelo.Player
 import Tromelo.Theme
 
@@ -46,20 +45,14 @@ Column {
         Accessible.name: text
     }
 
-    GlassButton {
-        id: openVideos
-
+    PushButton {
         objectName: "openVideos"
         anchors.horizontalCenter: parent.horizontalCenter
-        backdrop: empty.backdrop
-        prominent: true
+        look: Theme.prominentButton
+        implicitWidth: implicitContentWidth + leftPadding + rightPadding
         symbol: "folder"
         text: qsTr("Open Videos…")
+        tip: PlayerActions.tip(PlayerActions.OpenVideos)
         onClicked: empty.playback.presentOpenPanel()
-
-        HoverTip {
-            control: openVideos
-            tip: PlayerActions.tip(PlayerActions.OpenVideos)
-        }
     }
 }

@@ -100,27 +100,23 @@ GlassSurface {
             width: parent.width
             spacing: Theme.cardButtonSpacing
 
-            GlassButton {
+            PushButton {
                 objectName: "playAgain"
-                backdrop: card.backdrop
-                prominent: true
+                look: Theme.prominentButton
+                implicitWidth: implicitContentWidth + leftPadding + rightPadding
                 symbol: "play.fill"
                 text: qsTr("Play Again")
                 onClicked: card.playback.openFile(card.playback.lastURL)
             }
-            GlassButton {
-                id: openOther
-
+            PushButton {
                 objectName: "openOther"
+                look: Theme.glassButton
+                implicitWidth: implicitContentWidth + leftPadding + rightPadding
                 backdrop: card.backdrop
                 symbol: "folder"
                 text: qsTr("Open Other…")
+                tip: PlayerActions.tip(PlayerActions.OpenVideos)
                 onClicked: card.playback.presentOpenPanel()
-
-                HoverTip {
-                    control: openOther
-                    tip: PlayerActions.tip(PlayerActions.OpenVideos)
-                }
             }
         }
     }

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Tromelo.Controls
 import Tromelo.Player
 import Tromelo.Theme
@@ -26,40 +25,16 @@ Item {
         Accessible.name: text
     }
 
-    T.Button {
-        id: open
-
+    PushButton {
         objectName: "libraryOpen"
         anchors.right: parent.right
         anchors.rightMargin: Theme.spacing
         anchors.verticalCenter: parent.verticalCenter
-        implicitWidth: Theme.toolWidth
-        implicitHeight: Theme.toolHeight
-        focusPolicy: Qt.TabFocus
-        hoverEnabled: true
-        text: qsTr("Open")
-        Accessible.name: text
-        Keys.onReturnPressed: click()
-        Keys.onEnterPressed: click()
+        look: Theme.toolButton
+        symbol: "folder.badge.plus"
+        tip: PlayerActions.tip(PlayerActions.OpenVideo)
+        tipBelow: true
+        Accessible.name: qsTr("Open")
         onClicked: header.playback.presentOpenPanel()
-
-        contentItem: Symbol {
-            name: "folder.badge.plus"
-            size: Theme.symbolSize
-            color: Theme.symbol
-        }
-
-        background: Rectangle {
-            radius: height / 2
-            color: open.down ? Theme.surfacePressed : open.hovered ? Theme.surfaceHovered : Theme.surface
-            border.width: open.visualFocus ? Theme.focusWidth : Theme.hairline
-            border.color: open.visualFocus ? Theme.accent : Theme.surfaceEdge
-        }
-
-        HoverTip {
-            control: open
-            tip: PlayerActions.tip(PlayerActions.OpenVideo)
-            below: true
-        }
     }
 }

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
+import Tromelo.Controls
 import Tromelo.Player
 import Tromelo.Theme
 
@@ -25,8 +26,9 @@ RowLayout {
         color: Theme.secondaryText
     }
 
-    PanelButton {
+    PushButton {
         objectName: "earlier"
+        look: Theme.panelButton
         symbol: "minus"
         Accessible.name: qsTr("Earlier")
         onClicked: row.chosen(row.delay - PlayerActions.delayStep)
@@ -43,15 +45,17 @@ RowLayout {
         Accessible.name: text
     }
 
-    PanelButton {
+    PushButton {
         objectName: "later"
+        look: Theme.panelButton
         symbol: "plus"
         Accessible.name: qsTr("Later")
         onClicked: row.chosen(row.delay + PlayerActions.delayStep)
     }
 
-    PanelButton {
+    PushButton {
         objectName: "resetDelay"
+        look: Theme.panelButton
         enabled: row.delay !== 0
         text: qsTr("Reset")
         onClicked: row.chosen(0)

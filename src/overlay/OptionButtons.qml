@@ -1,7 +1,9 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Tromelo.Controls
 import Tromelo.Player
+import Tromelo.Theme
 
 // Speed, panels and full screen.
 Row {
@@ -17,7 +19,8 @@ Row {
     signal fullscreenToggled
 
     // Opens and closes something. A press changes what it is only through that.
-    component Opener: IconButton {
+    component Opener: PushButton {
+        look: Theme.barButton
         checkable: true
         checked: active
         onToggled: checked = Qt.binding(() => active)
@@ -56,8 +59,9 @@ Row {
         onClicked: options.chrome.showsInfo = !options.chrome.showsInfo
     }
 
-    IconButton {
+    PushButton {
         objectName: "fullscreenButton"
+        look: Theme.barButton
         symbol: options.playback.isFullscreen ? "arrow.down.right.and.arrow.up.left" : "arrow.up.left.and.arrow.down.right"
         tip: PlayerActions.tip(options.playback.isFullscreen ? PlayerActions.ExitFullScreen : PlayerActions.EnterFullScreen)
         onClicked: options.fullscreenToggled()

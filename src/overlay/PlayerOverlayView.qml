@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Tromelo.Controls
 import Tromelo.Player
 import Tromelo.Theme
 
@@ -35,11 +36,20 @@ PlayerOverlayItem {
         objectName: "playerChrome"
         anchors.fill: parent
 
-        PlayerCloseButton {
+        // Ends the player and goes back to the library.
+        PushButton {
             id: closeButton
+
+            objectName: "playerCloseButton"
+            look: Theme.closeButton
             backdrop: overlay.backdrop
             x: Theme.overlayMargin
             y: Theme.overlayMargin
+            symbol: "xmark"
+            text: qsTr("Close")
+            tip: PlayerActions.tip(PlayerActions.ClosePlayer)
+            tipBelow: true
+            Accessible.name: Wording.withoutKey(tip)
             onClicked: overlay.player.close()
         }
 

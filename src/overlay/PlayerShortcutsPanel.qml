@@ -51,10 +51,11 @@ OverlaySurface {
         Accessible.name: text
     }
 
-    IconButton {
+    PushButton {
         id: close
 
         objectName: "closeShortcuts"
+        look: Theme.barButton
         anchors.right: parent.right
         // The symbol is in line with what is below it.
         anchors.rightMargin: Theme.shortcutsPadding - (width - Theme.symbolSize) / 2

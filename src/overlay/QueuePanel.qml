@@ -38,15 +38,17 @@ Item {
                 Accessible.name: text
             }
 
-            PanelButton {
+            PushButton {
                 objectName: "addToQueue"
+                look: Theme.panelButton
                 symbol: "plus"
                 text: qsTr("Add…")
                 onClicked: panel.playback.presentQueuePanel()
             }
 
-            PanelButton {
+            PushButton {
                 objectName: "clearUpNext"
+                look: Theme.panelButton
                 enabled: panel.playback.hasNext
                 text: qsTr("Clear Up Next")
                 onClicked: panel.playback.clearQueue()

@@ -49,8 +49,9 @@ PanelRow {
             color: Theme.overlayText
         }
 
-        PanelButton {
+        PushButton {
             objectName: "removeFromQueue"
+            look: Theme.panelButton
             visible: !row.isCurrent
             topPadding: 0
             symbol: "xmark.circle.fill"

@@ -1,11 +1,12 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Tromelo.Controls
 import Tromelo.Player
 import Tromelo.Theme
 
 // Says how fast playback is and opens the list of speeds.
-PlainButton {
+PushButton {
     id: button
 
     required property PlaybackModel playback
@@ -15,25 +16,19 @@ PlainButton {
     readonly property bool isOpen: chrome.showsSpeeds
 
     objectName: "speedMenu"
+    look: Theme.barButton
     implicitWidth: Math.ceil(Math.max(implicitContentWidth, Theme.speedWidth)) + leftPadding + rightPadding
     implicitHeight: Theme.speedHeight
     leftPadding: Theme.speedPadding
-    rightPadding: Theme.speedPadding
     text: Format.speed(playback.speed)
+    tint: Theme.overlayText
     tip: PlayerActions.tip(PlayerActions.Speed)
     active: isOpen || !Format.isSameSpeed(playback.speed, 1)
+    Accessible.name: Wording.withoutKey(tip)
     Accessible.role: Accessible.ButtonMenu
     Accessible.description: text
     Accessible.onPressAction: click()
     onClicked: chrome.showsSpeeds = true
-
-    contentItem: Text {
-        text: button.text
-        font: Theme.overlaySpeed
-        color: Theme.overlayText
-        horizontalAlignment: Text.AlignHCenter
-        verticalAlignment: Text.AlignVCenter
-    }
 
     Connections {
         target: button.room

@@ -43,8 +43,9 @@ Flickable {
                 onChosen: track => panel.playback.selectSubtitle(track)
             }
 
-            PanelButton {
+            PushButton {
                 objectName: "addSubtitleFile"
+                look: Theme.panelButton
                 leftPadding: 0
                 symbol: "plus"
                 text: qsTr("Add Subtitle File…")
@@ -92,8 +93,9 @@ Flickable {
                 focusPolicy: Qt.NoFocus
             }
 
-            PanelButton {
+            PushButton {
                 objectName: "resetStyle"
+                look: Theme.panelButton
                 leftPadding: 0
                 text: qsTr("Reset Style")
                 onClicked: panel.playback.settings.resetSubtitleStyle()

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Tromelo.Controls
 import Tromelo.Player
 import Tromelo.Theme
 
@@ -10,7 +11,8 @@ Row {
 
     required property PlaybackModel playback
 
-    component Step: IconButton {
+    component Step: PushButton {
+        look: Theme.barButton
         anchors.verticalCenter: parent.verticalCenter
     }
 
@@ -19,7 +21,7 @@ Row {
         visible: transport.playback.queue.length > 1
         enabled: transport.playback.hasPrevious
         symbol: "backward.end.fill"
-        size: Theme.skipSymbolSize
+        symbolSize: Theme.skipSymbolSize
         tip: PlayerActions.tip(PlayerActions.Previous)
         onClicked: transport.playback.playPrevious()
     }
@@ -31,8 +33,16 @@ Row {
         onClicked: transport.playback.seekBy(-PlayerActions.seekStep)
     }
 
-    PlayPauseButton {
-        playback: transport.playback
+    // Says what a press on it does.
+    Step {
+        objectName: "playerPlayPause"
+        implicitWidth: Theme.playButtonWidth
+        implicitHeight: Theme.playButtonHeight
+        symbol: transport.playback.isPaused ? "play.fill" : "pause.fill"
+        symbolSize: Theme.playSymbolSize
+        tint: Theme.overlayText
+        tip: PlayerActions.tip(transport.playback.isPaused ? PlayerActions.Play : PlayerActions.Pause)
+        onClicked: transport.playback.togglePlayback()
     }
 
     Step {
@@ -47,7 +57,7 @@ Row {
         visible: transport.playback.queue.length > 1
         enabled: transport.playback.hasNext
         symbol: "forward.end.fill"
-        size: Theme.skipSymbolSize
+        symbolSize: Theme.skipSymbolSize
         tip: PlayerActions.tip(PlayerActions.Next)
         onClicked: transport.playback.playNext()
     }

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Tromelo.Controls
 import Tromelo.Player
 import Tromelo.Theme
 
@@ -14,21 +15,16 @@ Row {
 
     spacing: Theme.groupSpacing
 
-    PlainButton {
-        id: mute
-
+    PushButton {
         objectName: "muteButton"
+        look: Theme.barButton
         implicitWidth: Theme.muteWidth
         implicitHeight: Theme.muteHeight
+        symbol: Format.volumeSymbol(controls.playback.volume, controls.playback.isMuted)
+        symbolSize: Theme.muteSymbolSize
+        tint: Theme.overlayText
         tip: PlayerActions.tip(controls.playback.isMuted ? PlayerActions.Unmute : PlayerActions.Mute)
         onClicked: controls.playback.toggleMute()
-
-        contentItem: Symbol {
-            objectName: "muteSymbol"
-            name: Format.volumeSymbol(controls.playback.volume, controls.playback.isMuted)
-            size: Theme.muteSymbolSize
-            color: Theme.overlayText
-        }
     }
 
     PlayerSlider {

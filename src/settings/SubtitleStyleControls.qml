@@ -27,11 +27,14 @@ Column {
             onActivated: index => controls.settings.subtitleFont = controls.settings.fonts[index]
         }
 
-        PushToggle {
+        PushButton {
             objectName: "subtitleBold"
             focusPolicy: controls.focusPolicy
+            checkable: true
             text: qsTr("Bold")
             checked: controls.settings.subtitleBold
+            Accessible.onPressAction: press()
+            Accessible.onToggleAction: press()
             onToggled: controls.settings.subtitleBold = checked
         }
     }

@@ -1,9 +1,12 @@
 pragma Singleton
+pragma ComponentBehavior: Bound
 
 import QtQuick
 
 // Every colour, size and font that more than one view uses.
 QtObject {
+    id: theme
+
     // Surfaces, from back to front.
     readonly property color backdrop: Qt.rgba(0.035, 0.043, 0.06, 1)
     readonly property color surface: Qt.rgba(1, 1, 1, 0.08)
@@ -62,7 +65,6 @@ QtObject {
     readonly property string fontFamily: "Inter"
     readonly property font title: ({ family: fontFamily, pixelSize: 34, weight: Font.DemiBold })
     readonly property font body: ({ family: fontFamily, pixelSize: 14 })
-    readonly property font callout: ({ family: fontFamily, pixelSize: 13, weight: Font.Medium })
 
     // Over the video. Digits are equally wide, so that nothing jitters while they change.
     readonly property font overlayTitle: ({ family: fontFamily, pixelSize: 12, weight: Font.DemiBold })
@@ -103,7 +105,6 @@ QtObject {
     readonly property real popoverMargin: 10 // to the window's edges
     readonly property real popoverGap: 8 // to the bar
     readonly property real popoverRadius: 14
-    readonly property real panelDisabled: 0.35 // opacity
     readonly property real tracksWidth: 360
     readonly property real tracksHeight: 520 // at most, as are the next two
     readonly property real chaptersWidth: 320
@@ -129,9 +130,6 @@ QtObject {
     readonly property real chapterNumberWidth: 22
     readonly property real queueSymbolWidth: 18
     readonly property real delayWidth: 64 // at least
-    readonly property real panelButtonSpacing: 5
-    readonly property real panelButtonSide: 5
-    readonly property real panelButtonRise: 3
     readonly property real rowSymbolSize: 12
 
     // Fields and controls of settings.
@@ -189,7 +187,6 @@ QtObject {
     readonly property real barRadius: 24
     readonly property real groupSpacing: 8
     readonly property real controlRadius: 7
-    readonly property real iconButton: 28
     readonly property real symbolSize: 15
     readonly property real skipSymbolSize: 13
     readonly property real playButtonWidth: 44
@@ -237,10 +234,6 @@ QtObject {
     readonly property real toolTipGap: 8
     readonly property real toolTipRadius: 6
 
-    readonly property real closePadding: 12
-    readonly property real closeRise: 8
-    readonly property real closeSpacing: 5
-    readonly property real closeSymbolSize: 12
     readonly property real badgeLeading: 8
     readonly property real badgeTrailing: 12
     readonly property real badgeRise: 7
@@ -275,11 +268,101 @@ QtObject {
 
     readonly property real symbolScale: 1.32 // a symbol fills less of its font's square than a letter
 
-    readonly property real buttonPadding: 20 // of a button with a text, beside it
-    readonly property real buttonRise: 9 // above and below
-    readonly property real buttonGap: 7 // between a symbol and the text
     readonly property real buttonSymbolSize: 14
     readonly property real disabledOpacity: 0.4
+
+    // Buttons, by where they are.
+    readonly property ButtonLook fieldButton: ButtonLook {
+        focusPolicy: Qt.StrongFocus
+        font: theme.field
+        ink: theme.primaryText
+        height: theme.fieldHeight
+        side: theme.fieldSide
+        radius: theme.fieldRadius
+        surface: theme.fieldSurface
+        hovered: theme.fieldHovered
+        pressed: theme.fieldPressed
+        chosen: theme.fieldOn
+        edgeWidth: theme.hairline
+        edge: theme.fieldEdge
+        focusEdge: theme.accent
+        chosenFocusEdge: theme.primaryText
+    }
+    readonly property ButtonLook barButton: ButtonLook {
+        font: theme.overlaySpeed
+        ink: theme.symbol
+        chosenInk: theme.symbolActive
+        symbolSize: theme.symbolSize
+        width: 28
+        height: 28
+        radius: theme.controlRadius
+        hovered: theme.controlHovered
+        pressed: theme.controlPressed
+        chosen: theme.controlActive
+        disabled: theme.overlayDisabled
+    }
+    readonly property ButtonLook panelButton: ButtonLook {
+        font: theme.panelText
+        ink: theme.overlayText
+        symbolSize: theme.rowSymbolSize
+        spacing: 5
+        side: 5
+        rise: 3
+        radius: theme.fieldRadius
+        hovered: theme.rowHovered
+        pressed: theme.rowPressed
+        disabled: theme.overlayDisabled
+    }
+    readonly property ButtonLook closeButton: ButtonLook {
+        font: theme.overlayTitle
+        ink: theme.overlayText
+        symbolSize: 12
+        spacing: 5
+        side: 12
+        rise: 8
+        isGlass: true
+        hovered: theme.controlHovered
+        pressed: theme.controlPressed
+    }
+    component LibraryButton: ButtonLook {
+        focusPolicy: Qt.TabFocus
+        font: ({ family: theme.fontFamily, pixelSize: 13, weight: Font.Medium })
+        symbolSize: theme.buttonSymbolSize
+        spacing: 7
+        side: 20
+        rise: 8
+        lift: 2
+        fades: true
+        disabled: theme.disabledOpacity
+    }
+    readonly property ButtonLook glassButton: LibraryButton {
+        ink: theme.primaryText
+        isGlass: true
+        hovered: theme.surfaceHovered
+        pressed: theme.surfacePressed
+        focusEdge: theme.accent
+    }
+    // The thing to do.
+    readonly property ButtonLook prominentButton: LibraryButton {
+        ink: theme.onAccent
+        surface: theme.accent
+        hovered: theme.accentHovered
+        pressed: theme.accentPressed
+        focusEdge: theme.primaryText
+    }
+    readonly property ButtonLook toolButton: ButtonLook {
+        focusPolicy: Qt.TabFocus
+        ink: theme.symbol
+        symbolSize: theme.symbolSize
+        width: 38
+        height: 32
+        surface: theme.surface
+        hovered: theme.surfaceHovered
+        pressed: theme.surfacePressed
+        edgeWidth: theme.hairline
+        edge: theme.surfaceEdge
+        focusEdge: theme.accent
+    }
 
     // The library.
     readonly property color sidebar: Qt.rgba(0.078, 0.086, 0.106, 1)
@@ -302,8 +385,6 @@ QtObject {
     readonly property font chip: ({ family: fontFamily, pixelSize: 11, weight: Font.DemiBold, features: { "tnum": 1 } })
     readonly property font emptyTitle: ({ family: fontFamily, pixelSize: 22, weight: Font.Bold })
     readonly property real headerHeight: 52
-    readonly property real toolWidth: 38
-    readonly property real toolHeight: 32
     readonly property real sidebarPadding: 10
     readonly property real sidebarRowHeight: 28
     readonly property real sidebarRowSpacing: 7

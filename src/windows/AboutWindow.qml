@@ -79,20 +79,12 @@ Window {
             }
 
             PushButton {
-                id: copyButton
-
                 objectName: "aboutCopy"
                 focus: true
                 text: qsTr("Copy")
-                Accessible.description: tip.tip
+                tip: qsTr("Copy all of this for a bug report")
+                Accessible.description: tip
                 onClicked: window.facts.copy()
-
-                HoverTip {
-                    id: tip
-
-                    control: copyButton
-                    tip: qsTr("Copy all of this for a bug report")
-                }
             }
         }
     }

@@ -60,9 +60,9 @@ TEST_F(ControlBarTest, ShowsWhatThereIs) {
   EXPECT_EQ(text("remainingTime"), "-0:50");
 
   report(MpvProperty::pause, false);
-  EXPECT_EQ(text("playPauseSymbol", "name"), "pause.fill");
+  EXPECT_EQ(text("playerPlayPause", "symbol"), "pause.fill");
   report(MpvProperty::mute, true);
-  EXPECT_EQ(text("muteSymbol", "name"), "speaker.slash.fill");
+  EXPECT_EQ(text("muteButton", "symbol"), "speaker.slash.fill");
   EXPECT_EQ(text("muteButton", "tip"), "Unmute (M)");
   report(MpvProperty::fullscreen, true);
   EXPECT_EQ(text("fullscreenButton", "tip"), "Exit full screen (F)");
