@@ -10,7 +10,7 @@
 #include "display/VideoSinkKind.h"
 #include "display/VulkanDevices.h"
 #include "engine/MpvClientApi.h"
-#include "glass/GlassRendering.h"
+#include "glass/Glass.h"
 #include "library/LibraryWindow.h"
 #include "overlay/QuickPlayerOverlay.h"
 #include "platform/DesktopRecents.h"
@@ -65,8 +65,7 @@ const SceneDrawing& Program::drawing() {
 
 void Program::applyDrawing() {
   const bool inSoftware = !drawing().withOpenGl || drawsInSoftware(platformEglDisplay());
-  setGlassRendering(
-      chooseGlassRendering(qgetenv("TROMELO_GLASS"), inSoftware || !videoCanBeSampled_));
+  Glass::setRendering(Glass::choose(qgetenv("TROMELO_GLASS"), inSoftware || !videoCanBeSampled_));
   if (drawing().lacksOpenGl)
     delegate_->playback().tell(QCoreApplication::translate(
         "Program",

@@ -2,13 +2,13 @@
 
 #include <QtQml/qqmlregistration.h>
 
+#include <QByteArrayView>
 #include <QObject>
-
-#include "glass/GlassRendering.h"
 
 namespace tromelo {
 
-/// The choice between the two renderings, for QML.
+/// How the translucent surfaces are drawn: as glass, which blurs what is behind it, or as a plain
+/// dark material, which costs next to nothing. Main thread.
 class Glass : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -19,7 +19,15 @@ class Glass : public QObject {
  public:
   using QObject::QObject;
 
-  bool blurs() const { return glassRendering() == GlassRendering::glass; }
+  enum class Rendering { glass, material };
+
+  /// What a person asks for ("glass" or "material") holds; otherwise a machine that draws with its
+  /// processor gets the material.
+  static Rendering choose(QByteArrayView asked, bool drawsInSoftware);
+
+  /// For all surfaces made from now on.
+  static void setRendering(Rendering rendering);
+  static bool blurs();
 };
 
 }  // namespace tromelo

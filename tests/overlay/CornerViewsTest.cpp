@@ -1,7 +1,7 @@
 #include <QSet>
 
 #include "ViewTest.h"
-#include "glass/GlassRendering.h"
+#include "glass/Glass.h"
 #include "support/Table.h"
 
 namespace tromelo::testing {
@@ -94,11 +94,11 @@ TEST_F(CornerViewsTest, TheToastIsSaid) {
 }
 
 TEST_F(CornerViewsTest, SurfacesAreDrawnAsWasChosen) {
-  for (const auto rendering : {GlassRendering::glass, GlassRendering::material}) {
-    setGlassRendering(rendering);
+  for (const auto rendering : {Glass::Rendering::glass, Glass::Rendering::material}) {
+    Glass::setRendering(rendering);
     show("OverlaySurface");
-    EXPECT_EQ(isShown("glassPane"), rendering == GlassRendering::glass);
-    EXPECT_EQ(isShown("glassMaterial"), rendering == GlassRendering::material);
+    EXPECT_EQ(isShown("glassPane"), rendering == Glass::Rendering::glass);
+    EXPECT_EQ(isShown("glassMaterial"), rendering == Glass::Rendering::material);
     view_.reset();
   }
 }
