@@ -3,8 +3,6 @@
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
 
-#include "platform/PlatformWording.h"
-
 namespace tromelo {
 
 /// The words of views, as a person reads or hears them.
@@ -16,11 +14,11 @@ class Wording : public QObject {
  public:
   using QObject::QObject;
 
-  /// Only for the program's own texts: what people named stays as they wrote it.
-  Q_INVOKABLE static QString shown(const QString& text) { return platformWording(text); }
-  Q_INVOKABLE static QString withoutKey(const QString& tooltip) {
-    return platformWording(tromelo::withoutKey(tooltip));
-  }
+  /// As platformWording(). Only for the program's own texts: what people named stays as they
+  /// wrote it.
+  Q_INVOKABLE static QString shown(const QString& text);
+  /// A tip without the key at its end: "Mute (M)" is "Mute".
+  Q_INVOKABLE static QString withoutKey(const QString& tip);
   /// A title or message with a space in place of each line break.
   Q_INVOKABLE static QString onOneLine(const QString& text);
 };

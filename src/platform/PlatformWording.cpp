@@ -21,9 +21,4 @@ QString platformWording(QString text) {
   return text;
 }
 
-QString withoutKey(const QString& tooltip) {
-  const qsizetype key = tooltip.lastIndexOf(QStringLiteral(" ("));
-  return key < 0 ? tooltip : tooltip.first(key);
-}
-
 }  // namespace tromelo

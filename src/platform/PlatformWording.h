@@ -9,7 +9,4 @@ namespace tromelo {
 /// goes through this.
 QString platformWording(QString text);
 
-/// A tooltip without the key at its end: "Mute (M)" is "Mute".
-QString withoutKey(const QString& tooltip);
-
 }  // namespace tromelo

@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include "controls/Mnemonic.h"
+#include "controls/Wording.h"
 #include "support/Reader.h"
 #include "support/Table.h"
 #include "support/ViewDriver.h"
@@ -109,6 +110,12 @@ TEST(MnemonicTest, TakesTheLetterFromTheText) {
     EXPECT_EQ(Mnemonic::plainText(text), plain);
     EXPECT_EQ(Mnemonic::markedText(text, true), marked);
   }
+}
+
+TEST(WordingTest, WithoutTheKeyATipIsTheNameOfAControl) {
+  EXPECT_EQ(Wording::withoutKey("Mute (M)"), "Mute");
+  EXPECT_EQ(Wording::withoutKey("Playback speed ([ and ])"), "Playback speed");
+  EXPECT_EQ(Wording::withoutKey("Volume"), "Volume");
 }
 
 }  // namespace tromelo::testing

@@ -32,10 +32,4 @@ TEST(PlatformWording, NamesThingsAsTheyAreCalledHere) {
     EXPECT_EQ(platformWording(text), expected) << text;
 }
 
-TEST(WithoutKey, IsTheNameOfAControl) {
-  EXPECT_EQ(withoutKey("Mute (M)"), "Mute");
-  EXPECT_EQ(withoutKey("Playback speed ([ and ])"), "Playback speed");
-  EXPECT_EQ(withoutKey("Volume"), "Volume");
-}
-
 }  // namespace tromelo::testing
