@@ -11,28 +11,20 @@ namespace tromelo {
 
 namespace {
 
-/// Each text as `wording` has it.
-template <typename Wording>
-QList<ShortcutGroup> listed(const Wording& wording) {
-  QList<ShortcutGroup> groups;
-  for (const PlayerActions::Group& group : PlayerActions::groups) {
-    if (!group.title) continue;
-    ShortcutGroup told{wording(group.title), {}};
-    for (const PlayerActions::Line& line : group.lines)
-      told.items.append({wording(line.keys), wording(line.meaning)});
-    groups.append(told);
-  }
-  return groups;
-}
+QString shown(const char* text) { return platformWording(PlayerActions::tr(text)); }
 
 }  // namespace
 
 QList<ShortcutGroup> PlayerShortcuts::groups() {
-  return listed([](const char* text) { return QString::fromUtf8(text); });
-}
-
-QList<ShortcutGroup> PlayerShortcuts::shownGroups() {
-  return listed([](const char* text) { return platformWording(PlayerActions::tr(text)); });
+  QList<ShortcutGroup> groups;
+  for (const PlayerActions::Group& group : PlayerActions::groups) {
+    if (!group.title) continue;
+    ShortcutGroup told{shown(group.title), {}};
+    for (const PlayerActions::Line& line : group.lines)
+      told.items.append({shown(line.keys), shown(line.meaning)});
+    groups.append(told);
+  }
+  return groups;
 }
 
 double PlayerShortcuts::keysWidth(const QList<ShortcutGroup>& groups, const QFont& font,

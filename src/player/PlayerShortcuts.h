@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtQml/qqmlregistration.h>
 #include <QFont>
 #include <QList>
 #include <QObject>
@@ -10,6 +11,7 @@ namespace tromelo {
 /// A row in the list of the player's keys.
 class Shortcut {
   Q_GADGET
+  QML_VALUE_TYPE(shortcut)
   Q_PROPERTY(QString keys MEMBER keys CONSTANT)
   Q_PROPERTY(QString action MEMBER action CONSTANT)
 
@@ -23,6 +25,7 @@ class Shortcut {
 /// Titles are distinct, as are the keys within a group.
 class ShortcutGroup {
   Q_GADGET
+  QML_VALUE_TYPE(shortcutGroup)
   Q_PROPERTY(QString title MEMBER title CONSTANT)
   Q_PROPERTY(QList<tromelo::Shortcut> items MEMBER items CONSTANT)
 
@@ -34,19 +37,22 @@ class ShortcutGroup {
 };
 
 /// What people are told of the keys in PlayerActions.
-namespace PlayerShortcuts {
+class PlayerShortcuts : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_SINGLETON
+  Q_PROPERTY(QList<tromelo::ShortcutGroup> groups READ groups CONSTANT)
 
-/// The fixed texts.
-QList<ShortcutGroup> groups();
+ public:
+  using QObject::QObject;
 
-/// The same in the person's language, with the keys' names on this platform.
-QList<ShortcutGroup> shownGroups();
+  /// In the person's language, with the keys' names on this platform.
+  static QList<ShortcutGroup> groups();
 
-/// How much of a column the keys take, the same for all groups: `least`, or more where their names
-/// are longer, but at most half of the column. Lengths in points.
-double keysWidth(const QList<ShortcutGroup>& groups, const QFont& font, double least,
-                 double column);
-
-}  // namespace PlayerShortcuts
+  /// How much of a column the keys take, the same for all groups: `least`, or more where their
+  /// names are longer, but at most half of the column. Lengths in points.
+  Q_INVOKABLE static double keysWidth(const QList<tromelo::ShortcutGroup>& groups,
+                                      const QFont& font, double least, double column);
+};
 
 }  // namespace tromelo

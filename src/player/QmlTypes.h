@@ -5,7 +5,6 @@
 #include "display/EngineWindowItem.h"
 #include "playback/PlaybackModel.h"
 #include "player/PlayerChrome.h"
-#include "player/PlayerShortcuts.h"
 #include "player/PlayerWindowController.h"
 
 namespace tromelo {
@@ -67,34 +66,6 @@ struct PlayerChromeForQml {
   QML_FOREIGN(tromelo::PlayerChrome)
   QML_NAMED_ELEMENT(PlayerChrome)
   QML_UNCREATABLE("The player window controller has one.")
-};
-
-struct ShortcutForQml {
-  Q_GADGET
-  QML_FOREIGN(tromelo::Shortcut)
-  QML_VALUE_TYPE(shortcut)
-};
-
-struct ShortcutGroupForQml {
-  Q_GADGET
-  QML_FOREIGN(tromelo::ShortcutGroup)
-  QML_VALUE_TYPE(shortcutGroup)
-};
-
-class PlayerShortcutsForQml : public QObject {
-  Q_OBJECT
-  QML_NAMED_ELEMENT(PlayerShortcuts)
-  QML_SINGLETON
-  Q_PROPERTY(QList<tromelo::ShortcutGroup> groups READ groups CONSTANT)
-
- public:
-  using QObject::QObject;
-
-  static QList<ShortcutGroup> groups() { return PlayerShortcuts::shownGroups(); }
-  Q_INVOKABLE static double keysWidth(const QList<tromelo::ShortcutGroup>& groups,
-                                      const QFont& font, double least, double column) {
-    return PlayerShortcuts::keysWidth(groups, font, least, column);
-  }
 };
 
 }  // namespace tromelo

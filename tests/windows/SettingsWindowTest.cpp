@@ -195,7 +195,7 @@ TEST_F(SettingsWindowTest, ListsTheShortcutsInTheirOrder) {
   show(Shortcuts);
   const QStringList actions = texts(items("shortcutAction"));
   QStringList expected;
-  for (const ShortcutGroup& group : PlayerShortcuts::shownGroups())
+  for (const ShortcutGroup& group : PlayerShortcuts::groups())
     for (const Shortcut& shortcut : group.items) expected << shortcut.action;
   EXPECT_EQ(actions, expected);
   EXPECT_EQ(items("shortcutTitle").value(0)->property("text"), QVariant("Playback"));
