@@ -59,7 +59,7 @@ GlassSurface {
             Chip {
                 backdrop: card.backdrop
                 text: card.playback.dynamicRange.label
-                highlighted: LibraryTexts.isHighDynamicRange(card.playback.dynamicRange)
+                highlighted: card.playback.dynamicRange.isHigh
             }
             Chip {
                 backdrop: card.backdrop

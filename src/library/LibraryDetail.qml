@@ -13,7 +13,7 @@ Item {
     required property bool isTargeted
 
     readonly property bool hasError: playback.errorMessage !== ""
-    readonly property bool isDescribed: LibraryTexts.isDescribed(playback.lastURL, playback.hasVideo)
+    readonly property bool isDescribed: playback.hasVideo && playback.lastURL.toString() !== ""
 
     Backdrop {
         id: backdrop

@@ -11,7 +11,7 @@ Item {
     required property PlaybackModel playback
 
     Repeater {
-        model: Format.chapterMarks(marks.playback.chapters, marks.playback.duration, marks.width)
+        model: SliderTravel.marks(marks.playback.chapters, marks.playback.duration, marks.width)
 
         Rectangle {
             required property real modelData

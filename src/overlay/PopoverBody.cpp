@@ -27,7 +27,7 @@ void PopoverBody::place() {
   const double middle = parentItem()->mapRectFromItem(&anchor, anchor.boundingRect()).center().x();
   const double barTop = parentItem()->mapRectFromItem(bar_, bar_->boundingRect()).top();
   const QRectF room(margin_, margin_, parentItem()->width() - 2 * margin_, barTop - gap_ - margin_);
-  const QRectF frame = popoverFrame(middle, {implicitWidth(), implicitHeight()}, room);
+  const QRectF frame = PopoverFrame::within(room, middle, {implicitWidth(), implicitHeight()});
   setPosition(frame.topLeft());
   setSize(frame.size());
 }

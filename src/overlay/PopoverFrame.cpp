@@ -11,7 +11,7 @@ constexpr double kGap = 8;
 
 }  // namespace
 
-QRectF popoverFrame(double buttonMiddle, QSizeF wanted, const QRectF& room) {
+QRectF PopoverFrame::within(const QRectF& room, double buttonMiddle, QSizeF wanted) {
   const QSizeF size = wanted.boundedTo(room.size()).expandedTo({0, 0});
   const double last = std::max(room.left(), room.right() - size.width());
   const double left = std::clamp(buttonMiddle - size.width() / 2, room.left(), last);
@@ -19,9 +19,9 @@ QRectF popoverFrame(double buttonMiddle, QSizeF wanted, const QRectF& room) {
           std::floor(size.height())};
 }
 
-QPointF placeAbove(const QRectF& anchor, QSizeF size, QSizeF room) {
+QPointF PopoverFrame::placeAbove(QRectF anchor, QSizeF size, QSizeF room) {
   const QRectF above(kGap, kGap, room.width() - 2 * kGap, anchor.top() - 2 * kGap);
-  return popoverFrame(anchor.center().x(), size, above).topLeft();
+  return within(above, anchor.center().x(), size).topLeft();
 }
 
 }  // namespace tromelo

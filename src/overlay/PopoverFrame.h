@@ -1,16 +1,27 @@
 #pragma once
 
+#include <QtQml/qqmlregistration.h>
+#include <QObject>
 #include <QRectF>
 
 namespace tromelo {
 
-/// Where something of the `wanted` size opens above a button: at the bottom of `room`, its middle
-/// as near to the button's as the room allows, smaller where it has to be. All in whole points of
-/// one space.
-QRectF popoverFrame(double buttonMiddle, QSizeF wanted, const QRectF& room);
+/// Where something opens above a button. All in whole points of one space.
+class PopoverFrame : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_SINGLETON
 
-/// The top left corner of something that opens above `anchor` in its own size, a little away from
-/// it and from the edges of `room`.
-QPointF placeAbove(const QRectF& anchor, QSizeF size, QSizeF room);
+ public:
+  using QObject::QObject;
+
+  /// Of the `wanted` size at the bottom of `room`, its middle as near to the button's as the room
+  /// allows, smaller where it has to be.
+  static QRectF within(const QRectF& room, double buttonMiddle, QSizeF wanted);
+
+  /// The top left corner of something that opens above `anchor` in its own size, a little away
+  /// from it and from the edges of `room`.
+  Q_INVOKABLE static QPointF placeAbove(QRectF anchor, QSizeF size, QSizeF room);
+};
 
 }  // namespace tromelo

@@ -36,7 +36,7 @@ Rectangle {
         objectName: "rangeText"
         x: Theme.tagPadding
         y: Theme.tagRise
-        text: Format.rangeTag(tag.range)
+        text: tag.range.tag
         font: Theme.overlayTag
         color: Theme.tagText
     }

@@ -41,7 +41,8 @@ void SliderInput::setStepSize(double size) {
 
 void SliderInput::placeKnob() {
   const double pixels = window() ? window()->effectiveDevicePixelRatio() : 1;
-  const double place = std::round(sliderPlace(shown_ / maximumValue_, width()) * pixels) / pixels;
+  const double place =
+      std::round(SliderTravel::place(shown_ / maximumValue_, width()) * pixels) / pixels;
   if (knobX_ == place) return;
   knobX_ = place;
   Q_EMIT knobXChanged();
@@ -71,7 +72,7 @@ void SliderInput::setDragged(bool isDragged) {
 }
 
 void SliderInput::moveTo(double place) {
-  Q_EMIT moved(sliderValueAt(place - grip_, width()) * maximumValue_);
+  Q_EMIT moved(SliderTravel::valueAt(place - grip_, width()) * maximumValue_);
 }
 
 void SliderInput::ask(double value) {

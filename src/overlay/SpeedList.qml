@@ -22,7 +22,7 @@ MouseArea {
     onWheel: wheel => wheel.accepted = true
 
     Rectangle {
-        readonly property point place: Format.placeAbove(list.anchor, Qt.size(width, height), Qt.size(list.parent.width, list.parent.height))
+        readonly property point place: PopoverFrame.placeAbove(list.anchor, Qt.size(width, height), Qt.size(list.parent.width, list.parent.height))
 
         x: place.x
         y: place.y

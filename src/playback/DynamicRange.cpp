@@ -21,6 +21,20 @@ QString DynamicRange::label() const {
   return QCoreApplication::translate("DynamicRange", "Dolby Vision · Profile %1").arg(*profile);
 }
 
+QString DynamicRange::tag() const {
+  switch (kind) {
+    case Kind::sdr:
+      return {};
+    case Kind::hdr10:
+      return QStringLiteral("HDR10");
+    case Kind::hlg:
+      return QStringLiteral("HLG");
+    case Kind::dolbyVision:
+      return QStringLiteral("DOLBY VISION");
+  }
+  return {};
+}
+
 DynamicRange dynamicRangeOf(const FileFacts& facts) {
   using Kind = DynamicRange::Kind;
   if (facts.colormatrix == "dolbyvision" || facts.dolbyVisionProfile.value_or(0) >= 1) {

@@ -14,6 +14,8 @@ class DynamicRange {
   Q_GADGET
   Q_PROPERTY(Kind kind MEMBER kind CONSTANT)
   Q_PROPERTY(QString label READ label CONSTANT)
+  Q_PROPERTY(QString tag READ tag CONSTANT)
+  Q_PROPERTY(bool isHigh READ isHigh CONSTANT)
 
  public:
   enum class Kind { sdr, hdr10, hlg, dolbyVision };
@@ -24,6 +26,10 @@ class DynamicRange {
 
   /// For people.
   QString label() const;
+  /// The same in a word; empty where there is nothing special about the signal.
+  QString tag() const;
+  /// More than an ordinary screen can show.
+  bool isHigh() const { return kind != Kind::sdr; }
 
   friend bool operator==(const DynamicRange&, const DynamicRange&) = default;
 };

@@ -6,7 +6,7 @@
 
 #include "platform/PlatformWording.h"
 #include "playback/PlaybackModel.h"
-#include "player/PlayerFormats.h"
+#include "player/Format.h"
 #include "player/PlayerWindowController.h"
 
 namespace tromelo {
@@ -77,7 +77,7 @@ QString stepFrame(Player&, PlaybackModel& playback) {
   return {};
 }
 
-QString speedText(double speed) { return PlayerActions::tr("Speed %1").arg(formatSpeed(speed)); }
+QString speedText(double speed) { return PlayerActions::tr("Speed %1").arg(Format::speed(speed)); }
 
 template <int steps>
 QString stepSpeed(Player&, PlaybackModel& playback) {
@@ -95,7 +95,8 @@ QString toggleLoop(Player&, PlaybackModel& playback) {
 }
 
 QString tellTime(Player&, PlaybackModel& playback) {
-  return formatClock(playback.elapsed()) + QStringLiteral(" / ") + formatClock(playback.duration());
+  return Format::clock(playback.elapsed()) + QStringLiteral(" / ") +
+         Format::clock(playback.duration());
 }
 
 template <int steps>
@@ -120,13 +121,13 @@ QString toggleMute(Player&, PlaybackModel& playback) {
 template <int steps>
 QString stepSubtitleDelay(Player&, PlaybackModel& playback) {
   playback.setSubtitleDelay(playback.subtitleDelay() + steps * PlayerActions::delayStep());
-  return PlayerActions::tr("Subtitle delay %1").arg(formatDelay(playback.subtitleDelay()));
+  return PlayerActions::tr("Subtitle delay %1").arg(Format::delay(playback.subtitleDelay()));
 }
 
 template <int steps>
 QString stepAudioDelay(Player&, PlaybackModel& playback) {
   playback.setAudioDelay(playback.audioDelay() + steps * PlayerActions::delayStep());
-  return PlayerActions::tr("Audio delay %1").arg(formatDelay(playback.audioDelay()));
+  return PlayerActions::tr("Audio delay %1").arg(Format::delay(playback.audioDelay()));
 }
 
 bool repeats(Held held, const PlaybackModel& playback) {

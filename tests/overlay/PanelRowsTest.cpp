@@ -90,8 +90,8 @@ TEST(PopoverFrameTest, StaysAboveItsButtonAndInsideTheRoom) {
            {"too wide", 250, {900, 50}, {10, 160, 500, 50}},
            {"between pixels", 250.3, {101, 50.5}, {200, 160, 101, 50}},
        })
-    EXPECT_EQ(popoverFrame(middle, wanted, room), frame) << name;
-  EXPECT_TRUE(popoverFrame(0, {100, 50}, QRectF(10, 10, -20, -20)).isEmpty());
+    EXPECT_EQ(PopoverFrame::within(room, middle, wanted), frame) << name;
+  EXPECT_TRUE(PopoverFrame::within(QRectF(10, 10, -20, -20), 0, {100, 50}).isEmpty());
 }
 
 }  // namespace tromelo::testing
