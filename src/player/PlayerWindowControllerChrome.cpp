@@ -3,7 +3,6 @@
 
 #include "playback/PlaybackModel.h"
 #include "player/PlayerWindowController.h"
-#include "player/SubtitleLift.h"
 
 namespace tromelo {
 
@@ -14,6 +13,16 @@ using namespace std::chrono_literals;
 constexpr auto kToast = 1400ms;
 constexpr auto kInfoRefresh = 1000ms;
 constexpr double kLongestDelay = 24 * 60 * 60;  // seconds; a timer can't count to everything
+
+constexpr double kLiftGap = 10;      // points between the controls and subtitles
+constexpr double kHighestLift = 45;  // percent
+constexpr double kLiftStep = 0.25;   // lifts nearer to each other look the same; percent
+
+/// By how much subtitles have to rise to clear controls whose top edge is `controlsTop` points
+/// above the bottom of a picture of `height` points (above 0): percent of the height.
+double subtitleLift(double controlsTop, double height) {
+  return std::min((controlsTop + kLiftGap) / height * 100, kHighestLift);
+}
 
 }  // namespace
 
@@ -97,7 +106,7 @@ void PlayerWindowController::showToast(const QString& text) {
 void PlayerWindowController::updateSubtitleLift() {
   const bool covered = overlay_ && chromeVisible_ && overlay_->height() > 0;
   const double lift = covered ? subtitleLift(overlay_->controlsTop(), overlay_->height()) : 0;
-  if (std::abs(lift - playback_.subtitleLift()) <= kSubtitleLiftStep) return;
+  if (std::abs(lift - playback_.subtitleLift()) <= kLiftStep) return;
   playback_.setSubtitleLift(lift);
 }
 
