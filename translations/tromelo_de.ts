@@ -292,6 +292,13 @@
     </message>
 </context>
 <context>
+    <name>LibraryView</name>
+    <message>
+        <source>Width of the sidebar</source>
+        <translation>Breite der Seitenleiste</translation>
+    </message>
+</context>
+<context>
     <name>LibraryWindow</name>
     <message>
         <source>Tromelo</source>
@@ -548,13 +555,6 @@
     <message>
         <source>Press ? in the player to show this list over the video.</source>
         <translation>? im Player zeigt diese Liste über dem Video.</translation>
-    </message>
-</context>
-<context>
-    <name>SidebarDivider</name>
-    <message>
-        <source>Width of the sidebar</source>
-        <translation>Breite der Seitenleiste</translation>
     </message>
 </context>
 <context>

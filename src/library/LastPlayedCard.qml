@@ -17,6 +17,31 @@ GlassSurface {
     Accessible.role: Accessible.Grouping
     Accessible.name: qsTr("Last played")
 
+    // A fact about a video in one or two words.
+    component Chip: GlassSurface {
+        id: chip
+
+        required property string text
+        property bool highlighted: false
+
+        backdrop: card.backdrop
+        implicitWidth: words.implicitWidth + 2 * Theme.chipPadding
+        implicitHeight: words.implicitHeight + 2 * Theme.chipRise
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+
+        Text {
+            id: words
+
+            objectName: "chipText"
+            anchors.centerIn: parent
+            text: chip.text
+            textFormat: Text.PlainText
+            font: Theme.chip
+            color: chip.highlighted ? Theme.gold : Theme.primaryText
+        }
+    }
+
     Column {
         id: rows
 
@@ -51,26 +76,22 @@ GlassSurface {
             }
         }
 
-        GlassGroup {
+        Flow {
             objectName: "cardChips"
             width: parent.width
             spacing: Theme.chipSpacing
 
             Chip {
-                backdrop: card.backdrop
                 text: card.playback.dynamicRange.label
                 highlighted: card.playback.dynamicRange.isHigh
             }
             Chip {
-                backdrop: card.backdrop
                 text: card.playback.videoSize
             }
             Chip {
-                backdrop: card.backdrop
                 text: card.playback.frameRate
             }
             Chip {
-                backdrop: card.backdrop
                 text: card.playback.codec
             }
         }

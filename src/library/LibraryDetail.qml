@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Tromelo.Glass
 import Tromelo.Player
 import Tromelo.Theme
 
@@ -15,8 +16,53 @@ Item {
     readonly property bool hasError: playback.errorMessage !== ""
     readonly property bool isDescribed: playback.hasVideo && playback.lastURL.toString() !== ""
 
+    // A sentence at the bottom, with a symbol before it; two lines at most.
+    component MessageCapsule: GlassSurface {
+        id: capsule
+
+        required property string symbol
+        required property string message
+        property color tint: Theme.primaryText
+        readonly property string told: visible ? message : ""
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        backdrop: behind
+        implicitWidth: Math.min(detail.width - 2 * Theme.margin, Math.ceil(words.implicitWidth) + words.x + Theme.messagePadding)
+        implicitHeight: words.height + 2 * Theme.messageRise
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: message
+        onToldChanged: if (told !== "")
+            Accessible.announce(told, Accessible.Assertive)
+
+        Symbol {
+            id: sign
+
+            x: Theme.messagePadding
+            anchors.verticalCenter: parent.verticalCenter
+            name: capsule.symbol
+            size: Theme.buttonSymbolSize
+            color: capsule.tint
+        }
+
+        Text {
+            id: words
+
+            objectName: "messageText"
+            x: Theme.messagePadding + sign.width + Theme.messageSpacing
+            y: Theme.messageRise
+            width: capsule.width - x - Theme.messagePadding
+            text: capsule.message
+            textFormat: Text.PlainText
+            font: Theme.libraryMessage
+            color: capsule.tint
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            elide: Text.ElideRight
+        }
+    }
+
     Backdrop {
-        id: backdrop
+        id: behind
         anchors.fill: parent
     }
 
@@ -38,7 +84,7 @@ Item {
             visible: detail.isDescribed
             anchors.centerIn: parent
             width: Math.min(parent.width - 2 * Theme.cardMargin, Theme.cardWidth)
-            backdrop: backdrop
+            backdrop: behind
             playback: detail.playback
         }
 
@@ -47,7 +93,7 @@ Item {
             visible: !detail.isDescribed
             anchors.centerIn: parent
             width: Math.min(parent.width - 2 * Theme.cardMargin, Theme.emptyWidth)
-            backdrop: backdrop
+            backdrop: behind
             playback: detail.playback
         }
     }
@@ -64,9 +110,6 @@ Item {
         MessageCapsule {
             objectName: "libraryStatus"
             visible: detail.player.playsWithoutWindow
-            anchors.horizontalCenter: parent.horizontalCenter
-            room: detail.width - 2 * Theme.margin
-            backdrop: backdrop
             symbol: "speaker.wave.2.fill"
             message: qsTr("%1 has no picture. Space pauses, the arrows seek and set the volume, Esc stops.").arg(detail.playback.title)
         }
@@ -74,9 +117,6 @@ Item {
         MessageCapsule {
             objectName: "libraryError"
             visible: detail.hasError
-            anchors.horizontalCenter: parent.horizontalCenter
-            room: detail.width - 2 * Theme.margin
-            backdrop: backdrop
             symbol: "exclamationmark.triangle.fill"
             message: detail.playback.errorMessage
             tint: Theme.warning

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Tromelo.Player
+import Tromelo.Theme
 
 // The home window's content.
 FocusScope {
@@ -61,13 +62,48 @@ FocusScope {
             isTargeted: drop.isTargeted
         }
 
-        SidebarDivider {
+        // The line beside the sidebar, which a hand drags and the arrow keys move; two clicks put
+        // it back.
+        Item {
             id: divider
 
+            objectName: "sidebarDivider"
             anchors.top: parent.top
             anchors.bottom: parent.bottom
             anchors.left: recents.right
-            sidebar: library.sidebarWidth
+            width: Theme.hairline
+            activeFocusOnTab: true
+            Accessible.role: Accessible.Splitter
+            Accessible.name: qsTr("Width of the sidebar")
+            Accessible.focusable: true
+            Keys.onLeftPressed: library.sidebarWidth.widen(-Theme.dividerStep)
+            Keys.onRightPressed: library.sidebarWidth.widen(Theme.dividerStep)
+
+            Rectangle {
+                anchors.fill: parent
+                anchors.leftMargin: divider.activeFocus ? -Theme.focusWidth / 2 : 0
+                anchors.rightMargin: anchors.leftMargin
+                color: divider.activeFocus || area.pressed ? Theme.accent : area.containsMouse ? Theme.surfaceHovered : Theme.sidebarEdge
+            }
+
+            MouseArea {
+                id: area
+
+                // Where in it the hand took hold.
+                property real grip: 0
+
+                anchors.fill: parent
+                anchors.leftMargin: -Theme.dividerReach
+                anchors.rightMargin: -Theme.dividerReach
+                cursorShape: Qt.SplitHCursor
+                hoverEnabled: true
+                onPressed: mouse => grip = mouse.x
+                onPositionChanged: mouse => {
+                    if (pressed)
+                        library.sidebarWidth.width = divider.x + mouse.x - grip;
+                }
+                onDoubleClicked: library.sidebarWidth.reset()
+            }
         }
     }
 }
