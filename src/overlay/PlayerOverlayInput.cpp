@@ -3,6 +3,9 @@
 #include <QGuiApplication>
 #include <QQuickWindow>
 #include <QStyleHints>
+#include <QWheelEvent>
+#include <cmath>
+#include <utility>
 
 #include "player/DraggedFiles.h"
 #include "player/EdgeResize.h"
@@ -11,6 +14,11 @@ namespace tromelo {
 
 namespace {
 
+constexpr double kJitter = 3.0;  // points
+constexpr double kStepsPerPoint = 0.25;
+constexpr double kStepsPerLine = 2.0;
+constexpr double kUnitsPerLine = QWheelEvent::DefaultDeltasPerStep;
+
 ClickCounter::Limits clickLimits() {
   const QStyleHints& hints = *QGuiApplication::styleHints();
   return {std::chrono::milliseconds(hints.mouseDoubleClickInterval()),
@@ -18,6 +26,49 @@ ClickCounter::Limits clickLimits() {
 }
 
 }  // namespace
+
+int ClickCounter::press(std::chrono::milliseconds time, QPointF place, const Limits& limits) {
+  const bool follows = last_ && time >= last_->time && time - last_->time < limits.interval &&
+                       std::abs(place.x() - last_->place.x()) <= limits.distance &&
+                       std::abs(place.y() - last_->place.y()) <= limits.distance;
+  count_ = follows ? count_ + 1 : 1;
+  last_ = {time, place};
+  return count_;
+}
+
+bool WindowPress::begin(int clickCount, QPointF pointer, QPoint windowOrigin) {
+  start_.reset();
+  if (clickCount == 2) return false;
+  start_ = Start{pointer, windowOrigin, clickCount};
+  didDrag_ = false;
+  return true;
+}
+
+std::optional<QPoint> WindowPress::drag(QPointF pointer) {
+  if (!start_) return {};
+  const QPointF delta = pointer - start_->pointer;
+  if (!didDrag_ && std::hypot(delta.x(), delta.y()) <= kJitter) return {};
+  didDrag_ = true;
+  return start_->windowOrigin + delta.toPoint();
+}
+
+bool WindowPress::end() {
+  const auto start = std::exchange(start_, {});
+  return start && start->clickCount == 1 && !didDrag_;
+}
+
+ScrollMovement scrollMovement(const QWheelEvent& event, bool hostPoints) {
+  if (hostPoints && !event.pixelDelta().isNull()) return {event.pixelDelta(), true};
+  return {QPointF(event.angleDelta()) / kUnitsPerLine, false};
+}
+
+double ScrollSteps::take(const ScrollMovement& movement) {
+  if (std::abs(movement.delta.x()) >= std::abs(movement.delta.y())) return 0;
+  remainder_ += movement.delta.y() * (movement.isPrecise ? kStepsPerPoint : kStepsPerLine);
+  const double whole = std::trunc(remainder_);
+  remainder_ -= whole;
+  return whole;
+}
 
 PlayerOverlayInput::PlayerOverlayInput(QQuickItem* parent) : QQuickItem(parent) {
   setAcceptedMouseButtons(Qt::LeftButton);

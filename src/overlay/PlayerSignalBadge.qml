@@ -21,12 +21,43 @@ OverlaySurface {
     implicitWidth: Theme.badgeLeading + tagRoom + Math.min(titleWidth, Theme.badgeTitleWidth) + Theme.badgeTrailing
     implicitHeight: Math.ceil(titles.implicitHeight) + 2 * Theme.badgeRise
 
-    RangeTag {
+    // Gold or silver, for a signal with more range than others.
+    Rectangle {
         id: tag
 
+        readonly property bool isGold: label.text === "DOLBY VISION"
+
+        objectName: "rangeTag"
         x: Theme.badgeLeading
         anchors.verticalCenter: parent.verticalCenter
-        range: badge.playback.dynamicRange
+        visible: label.text !== ""
+        width: Math.ceil(label.implicitWidth) + 2 * Theme.tagPadding
+        height: Math.ceil(label.implicitHeight) + 2 * Theme.tagRise
+        radius: Theme.tagRadius
+
+        gradient: Gradient {
+            orientation: Gradient.Horizontal
+
+            GradientStop {
+                position: 0
+                color: tag.isGold ? Theme.goldLight : Theme.silverLight
+            }
+            GradientStop {
+                position: 1
+                color: tag.isGold ? Theme.goldDark : Theme.silverDark
+            }
+        }
+
+        Text {
+            id: label
+
+            objectName: "rangeText"
+            x: Theme.tagPadding
+            y: Theme.tagRise
+            text: badge.playback.dynamicRange.tag
+            font: Theme.overlayTag
+            color: Theme.tagText
+        }
     }
 
     component Line: OneLine {

@@ -17,7 +17,12 @@ class QueueModel : public RecordModel {
       : RecordModel(QueueItem::staticMetaObject, parent) {}
 
   const PlayQueue& items() const { return items_; }
-  void setItems(const PlayQueue& items);
+  void setItems(const PlayQueue& items) {
+    // A file's position, title and turn change while it stays in the queue.
+    replace(items_, items,
+            [](const QueueItem& one, const QueueItem& other) { return one.path == other.path; });
+    Q_EMIT itemsChanged();
+  }
   int current() const { return static_cast<int>(currentIndex(items_).value_or(-1)); }
   int rowCount(const QModelIndex& = {}) const override { return static_cast<int>(items_.size()); }
 

@@ -2,8 +2,7 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QAbstractListModel>
-
-#include "overlay/RowChange.h"
+#include <algorithm>
 
 namespace tromelo {
 
@@ -23,7 +22,8 @@ class RecordModel : public QAbstractListModel {
 
   virtual const void* recordAt(int row) const = 0;
 
-  /// Takes `rows` to `fresh`; `same` as for rowChange().
+  /// Takes `rows` to `fresh`. The rows that both begin with and both end with stay; `same` tells
+  /// whether two are the same one, whatever else of it has changed.
   template <typename Record, typename Same>
   void replace(QList<Record>& rows, const QList<Record>& fresh, Same same);
 
@@ -33,17 +33,20 @@ class RecordModel : public QAbstractListModel {
 
 template <typename Record, typename Same>
 void RecordModel::replace(QList<Record>& rows, const QList<Record>& fresh, Same same) {
-  const RowChange change = rowChange(rows, fresh, same);
-  const int first = static_cast<int>(change.first);
-  if (change.removed > 0) {
-    beginRemoveRows({}, first, first + static_cast<int>(change.removed) - 1);
-    rows.remove(change.first, change.removed);
+  const auto head = std::mismatch(rows.cbegin(), rows.cend(), fresh.cbegin(), fresh.cend(), same);
+  const auto tail = std::mismatch(rows.crbegin(), std::make_reverse_iterator(head.first),
+                                  fresh.crbegin(), std::make_reverse_iterator(head.second), same);
+  const auto first = static_cast<int>(head.first - rows.cbegin());
+  const auto removed = static_cast<int>(tail.first.base() - head.first);
+  const auto inserted = static_cast<int>(tail.second.base() - head.second);
+  if (removed > 0) {
+    beginRemoveRows({}, first, first + removed - 1);
+    rows.remove(first, removed);
     endRemoveRows();
   }
-  if (change.inserted > 0) {
-    beginInsertRows({}, first, first + static_cast<int>(change.inserted) - 1);
-    rows = rows.first(change.first) + fresh.sliced(change.first, change.inserted) +
-           rows.sliced(change.first);
+  if (inserted > 0) {
+    beginInsertRows({}, first, first + inserted - 1);
+    rows = rows.first(first) + fresh.sliced(first, inserted) + rows.sliced(first);
     endInsertRows();
   }
   for (int row = 0; row < static_cast<int>(fresh.size()); ++row) {

@@ -29,9 +29,21 @@ Item {
         text: Format.clock(row.shownTime)
     }
 
-    ChapterMarks {
-        anchors.fill: slider
-        playback: row.playback
+    // Where chapters begin, behind the slider.
+    Repeater {
+        model: SliderTravel.marks(row.playback.chapters, row.playback.duration, slider.width)
+
+        Rectangle {
+            required property real modelData
+
+            objectName: "chapterMark"
+            x: slider.x + modelData - width / 2
+            y: slider.y + (slider.height - height) / 2
+            width: Theme.markWidth
+            height: Theme.markHeight
+            radius: width / 2
+            color: Theme.mark
+        }
     }
 
     PlayerSlider {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 #include "overlay/RecordModel.h"
 #include "playback/MediaTrack.h"
 
@@ -17,8 +19,12 @@ class TrackModel : public RecordModel {
       : RecordModel(MediaTrack::staticMetaObject, parent) {}
 
   const QList<MediaTrack>& tracks() const { return tracks_; }
-  void setTracks(const QList<MediaTrack>& tracks);
-  bool hasSelection() const;
+  void setTracks(const QList<MediaTrack>& tracks) {
+    replace(tracks_, tracks,
+            [](const MediaTrack& one, const MediaTrack& other) { return one.id == other.id; });
+    Q_EMIT tracksChanged();
+  }
+  bool hasSelection() const { return std::ranges::any_of(tracks_, &MediaTrack::isSelected); }
   Q_INVOKABLE qint64 idAt(int row) const { return tracks_[row].id; }
   int rowCount(const QModelIndex& = {}) const override { return static_cast<int>(tracks_.size()); }
 

@@ -22,6 +22,26 @@ Flickable {
 
     T.ScrollBar.vertical: ThinScrollBar {}
 
+    // Things that belong together under a title.
+    component Section: Column {
+        id: section
+
+        required property string title
+
+        width: parent.width
+        spacing: Theme.groupedSpacing
+        Accessible.role: Accessible.Grouping
+        Accessible.name: title
+
+        Text {
+            text: section.title
+            font: Theme.panelSection
+            color: Theme.secondaryText
+            Accessible.role: Accessible.Heading
+            Accessible.name: section.title
+        }
+    }
+
     Column {
         id: sections
 
@@ -30,9 +50,8 @@ Flickable {
         width: panel.width - 2 * Theme.panelPadding
         spacing: Theme.sectionSpacing
 
-        PanelSection {
+        Section {
             objectName: "subtitlesSection"
-            width: sections.width
             title: qsTr("Subtitles")
 
             TrackList {
@@ -61,9 +80,8 @@ Flickable {
             }
         }
 
-        PanelSection {
+        Section {
             objectName: "audioSection"
-            width: sections.width
             visible: panel.playback.audioTracks.length > 0
             title: qsTr("Audio")
 
@@ -82,9 +100,8 @@ Flickable {
             }
         }
 
-        PanelSection {
+        Section {
             objectName: "subtitleStyleSection"
-            width: sections.width
             title: qsTr("Subtitle Style")
 
             SubtitleStyleControls {

@@ -4,9 +4,7 @@
 #include <QWheelEvent>
 #include <vector>
 
-#include "overlay/ClickCounter.h"
-#include "overlay/ScrollSteps.h"
-#include "overlay/WindowPress.h"
+#include "overlay/PlayerOverlayInput.h"
 #include "platform/FilePath.h"
 #include "player/DraggedFiles.h"
 #include "support/Table.h"
