@@ -17,6 +17,7 @@
 #include "platform/HostEnvironment.h"
 #include "platform/SessionBus.h"
 #include "platform/UserPaths.h"
+#include "theme/Motion.h"
 
 namespace tromelo {
 
@@ -74,9 +75,9 @@ void Program::applyDrawing() {
 }
 
 void Program::followReducedMotion() {
-  auto* const theme = qmlEngine_.singletonInstance<QObject*>("Tromelo.Theme", "Theme");
-  const auto tell = [this, theme] { theme->setProperty("motion", !reducedMotion_.isWanted()); };
-  QObject::connect(&reducedMotion_, &ReducedMotion::changed, theme, tell);
+  auto* const motion = &Motion::of(qmlEngine_);
+  const auto tell = [this, motion] { motion->setWanted(!reducedMotion_.isWanted()); };
+  QObject::connect(&reducedMotion_, &ReducedMotion::changed, motion, tell);
   tell();
 }
 

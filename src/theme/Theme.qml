@@ -417,7 +417,5 @@ QtObject {
     readonly property real spacing: 16
     readonly property real margin: 24
     readonly property real focusWidth: 2
-    // What every duration is multiplied by: 0 where the person wants no motion.
-    property real motion: 1
-    readonly property int quick: 150 * motion // milliseconds
+    readonly property int quick: Motion.isWanted ? 150 : 0 // milliseconds
 }

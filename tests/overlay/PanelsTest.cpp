@@ -5,6 +5,7 @@
 #include "OverlayTest.h"
 #include "support/Reader.h"
 #include "support/Table.h"
+#include "theme/Motion.h"
 
 namespace tromelo::testing {
 
@@ -245,7 +246,7 @@ TEST_F(PopoverTest, HasRoomForItsTextsInGerman) {
 }
 
 TEST_F(PopoverTest, ComesAndGoesInOneStepWithoutMotion) {
-  engine_.singletonInstance<QObject*>("Tromelo.Theme", "Theme")->setProperty("motion", 0);
+  Motion::of(engine_).setWanted(false);
   chrome().setPanel(PlayerPanel::tracks);
   ASSERT_EQ(all("playerPopover").size(), 1);
   EXPECT_EQ(all("playerPopover").first()->parentItem()->parentItem()->parentItem()->opacity(), 1);
