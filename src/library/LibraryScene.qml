@@ -5,9 +5,9 @@ import QtQuick.Layouts
 import Tromelo.Controls
 import Tromelo.Player
 
-// The library's window: its scene fades, the window itself stays.
-Window {
-    id: window
+// All that is in the library's window. It fades; the window itself stays.
+ColumnLayout {
+    id: scene
 
     required property PlaybackModel playback
     required property PlayerWindowController player
@@ -15,29 +15,20 @@ Window {
     required property FileManager fileManager
     required property Commands commands
 
-    title: qsTr("Tromelo")
-    color: "transparent"
-    minimumWidth: 760
-    minimumHeight: 480
-    visible: false
+    anchors.fill: parent
+    spacing: 0
 
-    ColumnLayout {
-        objectName: "libraryScene"
-        anchors.fill: parent
-        spacing: 0
+    LibraryMenuBar {
+        Layout.fillWidth: true
+        commands: scene.commands
+    }
 
-        LibraryMenuBar {
-            Layout.fillWidth: true
-            commands: window.commands
-        }
-
-        LibraryView {
-            Layout.fillWidth: true
-            Layout.fillHeight: true
-            playback: window.playback
-            player: window.player
-            sidebarWidth: window.sidebarWidth
-            fileManager: window.fileManager
-        }
+    LibraryView {
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        playback: scene.playback
+        player: scene.player
+        sidebarWidth: scene.sidebarWidth
+        fileManager: scene.fileManager
     }
 }

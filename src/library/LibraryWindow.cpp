@@ -2,6 +2,7 @@
 
 #include <malloc.h>
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QQmlComponent>
 
@@ -14,6 +15,7 @@ namespace tromelo {
 namespace {
 
 constexpr QSize kContentSize(1100, 720);  // points
+constexpr QSize kLeastSize(760, 480);
 
 // Until the window has come up and what played before is gone.
 constexpr std::chrono::milliseconds kSettled = std::chrono::seconds(3);
@@ -48,19 +50,23 @@ LibraryWindow::LibraryWindow(QQmlEngine& engine, PlaybackModel& playback,
 LibraryWindow::~LibraryWindow() { saveFrame(); }
 
 void LibraryWindow::make() {
+  window_ = std::make_unique<QQuickWindow>();
+  window_->setTitle(QCoreApplication::translate("LibraryWindow", "Tromelo"));
+  window_->setColor(Qt::transparent);
+  window_->setMinimumSize(kLeastSize);
   QQmlComponent component(&engine_, QStringLiteral("Tromelo.Library"),
-                          QStringLiteral("LibraryWindow"));
-  window_.reset(qobject_cast<QQuickWindow*>(component.createWithInitialProperties(
-      {{QStringLiteral("playback"), QVariant::fromValue(&playback_)},
+                          QStringLiteral("LibraryScene"));
+  scene_.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(
+      {{QStringLiteral("parent"), QVariant::fromValue(window_->contentItem())},
+       {QStringLiteral("playback"), QVariant::fromValue(&playback_)},
        {QStringLiteral("player"), QVariant::fromValue(&player_)},
        {QStringLiteral("commands"), QVariant::fromValue(&commands_)},
        {QStringLiteral("sidebarWidth"), QVariant::fromValue(&sidebarWidth_)},
        {QStringLiteral("fileManager"), QVariant::fromValue(&fileManager_)}})));
-  if (!window_) qFatal("%s", qPrintable(component.errorString()));
-  fade_ = std::make_unique<WindowFade>(
-      *window_->findChild<QQuickItem*>(QStringLiteral("libraryScene")), reducedMotion_);
+  if (!scene_) qFatal("%s", qPrintable(component.errorString()));
+  fade_ = std::make_unique<WindowFade>(*scene_, reducedMotion_);
   fade_->setOpacity(opacity_);
-  window_->setGeometry(frame_.restored(kContentSize, window_->minimumSize()));
+  window_->setGeometry(frame_.restored(kContentSize, kLeastSize));
   // Hidden, which it is while a film plays, it keeps no graphics memory.
   window_->setPersistentSceneGraph(false);
   window_->setPersistentGraphics(false);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QQmlEngine>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QTimer>
 #include <memory>
@@ -60,6 +61,7 @@ class LibraryWindow : public ControlledWindow {
   QTimer settled_;
   double opacity_ = 1;
   std::unique_ptr<QQuickWindow> window_;
+  std::unique_ptr<QQuickItem> scene_;
   std::unique_ptr<WindowFade> fade_;
 };
 
