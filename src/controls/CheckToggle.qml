@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Tromelo.Theme
 
-// A box to tick, and what that means.
+// A check box with its label.
 T.CheckBox {
     id: box
 

@@ -7,8 +7,8 @@
 
 namespace tromelo {
 
-/// A window in which a person chooses a colour without opacity. Nothing waits for it: each colour
-/// that they try shows at once, and the one before comes back when they cancel. It goes with its
+/// A window in which a person chooses an opaque colour. Nothing waits for it: each colour that they
+/// try shows at once, and the one before comes back when they cancel. It goes with its
 /// parent item. Needs a QApplication. Main thread only.
 class ColorChooser : public QObject {
   Q_OBJECT
@@ -30,7 +30,7 @@ class ColorChooser : public QObject {
 
   QString title_;
   QPointer<QColorDialog> dialog_;
-  bool hasTried_ = false;  // another colour, since the dialog was opened
+  bool hasTried_ = false;  // a colour was tried since the dialog opened
 };
 
 }  // namespace tromelo

@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Tromelo.Theme
 
-// A colour to take with one press.
+// A colour to choose with one press.
 T.Button {
     id: swatch
 

@@ -8,7 +8,7 @@ import Tromelo.Theme
 T.MenuItem {
     id: item
 
-    // That run it without the menu, as people read them; it does not listen to them itself.
+    // The keys that run it without the menu, for people to read; it doesn't listen for them itself.
     property string keys
 
     font: Theme.field

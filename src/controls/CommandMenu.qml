@@ -4,8 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Tromelo.Theme
 
-// A menu: below a title of a CommandMenuBar, or where the hand asks for what can be done with
-// something:
+// A menu, opened by a title in a CommandMenuBar or as the context menu of something:
 //
 //     CommandMenu {
 //         id: rowMenu
@@ -23,14 +22,15 @@ import Tromelo.Theme
 //         onTapped: rowMenu.popup()
 //     }
 //
-// From the keyboard, popup(item, item.width / 2, item.height / 2, firstEntry) begins at an entry.
-// Arrows, Home, End and letters after "&" go through it, Esc closes it and gives the keyboard back.
+// Opened by a key, popup(item, item.width / 2, item.height / 2, firstEntry) starts on an entry. The
+// arrows, Home, End and the letters after "&" move through it; Esc closes it and gives the keyboard
+// back.
 T.Menu {
     id: menu
 
-    // It is used by keys: begins at its first entry, and shows which letter runs which.
+    // It is used from the keyboard: it starts on its first entry and shows which letter runs which.
     property bool showsLetters: false
-    // Its title in a bar; the letter after "&" opens it together with Alt.
+    // Its title in a bar; Alt with the letter after "&" opens it.
     property string text
 
     title: Mnemonic.plainText(text)

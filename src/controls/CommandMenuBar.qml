@@ -4,8 +4,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Tromelo.Theme
 
-// The titles of a window's menus, its CommandMenus. Alt by itself and F10 open the first one; Alt
-// with the letter after "&" opens the one that has it.
+// The titles of a window's CommandMenus. Alt by itself or F10 opens the first one; Alt with the
+// letter after "&" in a title opens that one.
 T.MenuBar {
     id: bar
 

@@ -11,7 +11,7 @@ T.MenuBarItem {
     required property bool showsLetters
     readonly property CommandMenu commands: menu as CommandMenu
 
-    // By a key: a first click can be no more than a highlight.
+    // For keys: the first click may do no more than highlight the title.
     function open() {
         click();
         if (!menu.visible)

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tromelo.Theme
 
-// Shows where the keyboard is, from outside of its parent, where it stands out from any colour.
+// Shows that its parent has the keyboard: a ring around it, which stands out beside any colour.
 Rectangle {
     property real distance: 2 * Theme.focusWidth
 

@@ -4,15 +4,15 @@ import QtQuick
 import QtQuick.Templates as T
 import Tromelo.Theme
 
-// What a control is for, once the pointer has rested on it: the innermost one of those that have a
-// tip, which is the only one that is hovered there. It is in nobody's way, and once the control was
-// pressed it stays away until the pointer comes back. The tip is shown as it is.
+// What a control is for, shown once the pointer has rested on it. Where controls with tips lie in
+// each other, only the innermost counts as hovered. The tip gets in nobody's way, and after a press
+// it stays away until the pointer comes back. The text is shown as it is.
 Loader {
     id: loader
 
     required property T.AbstractButton control
     required property string tip // nothing shows where it is empty
-    // Beneath the control in place of above it.
+    // Below the control instead of above it.
     property bool below: false
 
     active: false

@@ -56,7 +56,7 @@ bool MenuKeys::takeKey(int key, Qt::KeyboardModifiers modifiers) {
 }
 
 bool MenuKeys::eventFilter(QObject* watched, QEvent* event) {
-  // Of a key that is somebody's shortcut the window learns nothing else.
+  // For a key that is a shortcut, the window gets no other event.
   if (event->type() == QEvent::ShortcutOverride)
     altIsAlone_ &= static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt;
   if (!window_ || watched != window_) return false;

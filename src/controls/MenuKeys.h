@@ -7,8 +7,8 @@
 
 namespace tromelo {
 
-/// Watches the keys by which people reach a menu bar, and gives the keyboard back to the item that
-/// had it before. Main thread only.
+/// Watches for the keys that open a menu bar, and gives the keyboard back to the item that had it
+/// before. Main thread only.
 class MenuKeys : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -19,10 +19,10 @@ class MenuKeys : public QObject {
   /// Listens to the application object from now on.
   explicit MenuKeys(QObject* parent = nullptr);
 
-  /// In its window, whichever that is.
+  /// Keys are watched in its window, whichever that is.
   void setBar(QQuickItem* bar);
 
-  /// A person is about to use them: since Alt or F10 went down, until the hand does something.
+  /// From when Alt or F10 goes down until the mouse is used or the window loses the keyboard.
   bool showsLetters() const { return showsLetters_; }
 
  Q_SIGNALS:
@@ -41,7 +41,7 @@ class MenuKeys : public QObject {
 
   QPointer<QQuickItem> bar_;
   QPointer<QQuickWindow> window_;
-  QPointer<QQuickItem> before_;  // had the keyboard, outside of menus
+  QPointer<QQuickItem> before_;  // the last item outside of menus that had the keyboard
   bool altIsAlone_ = false;
   bool showsLetters_ = false;
 };

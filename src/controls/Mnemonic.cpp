@@ -4,7 +4,7 @@ namespace tromelo {
 
 namespace {
 
-/// Of the "&" before the letter, or -1. Two of them are one to read.
+/// Where the "&" before the letter is, or -1. "&&" stands for an "&" to read.
 qsizetype markerIn(const QString& text) {
   for (qsizetype i = text.indexOf(u'&'); i >= 0 && i + 1 < text.size(); i = text.indexOf(u'&', i)) {
     if (text[i + 1] != u'&') return i;

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-// A text of somebody's own, on one line whatever breaks it has; cut where there is no room for it.
+// Somebody's own text on one line, whatever line breaks it has; shortened where room is lacking.
 Text {
     required property string content
 

@@ -15,7 +15,7 @@ T.ComboBox {
     leftPadding: Theme.fieldSide
     rightPadding: Theme.fieldSide + chevrons.width
     hoverEnabled: true
-    // The wheel scrolls what it lies on.
+    // The wheel scrolls the page that it is on.
     wheelEnabled: false
     Keys.onReturnPressed: popup.open()
     Keys.onEnterPressed: popup.open()
@@ -103,7 +103,7 @@ T.ComboBox {
 
             T.ScrollBar.vertical: ThinScrollBar {}
 
-            // Its own while it is open, whoever else in the window would take the key.
+            // While the list is open the key closes it, whatever else in the window listens for it.
             Shortcut {
                 enabled: picker.popup.visible
                 sequence: "Escape"

@@ -18,7 +18,7 @@ T.Button {
     // Shown where the pointer rests, if there is one.
     property string tip: ""
     property bool tipBelow: false
-    // What lies under it, where glass can sample that.
+    // What is behind it, for glass to blur.
     property Item backdrop: null
 
     function press() {
@@ -49,7 +49,7 @@ T.Button {
         Row {
             id: line
 
-            // In the middle of a button that isn't made to its measure.
+            // In the middle where the look gives the button a size.
             x: button.look.height > 0 ? (parent.width - width) / 2 : 0
             height: parent.height
             spacing: button.look.spacing

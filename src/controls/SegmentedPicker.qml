@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Tromelo.Theme
 
-// One of a few choices that are all in sight. Tab comes to the chosen one, arrows choose another.
+// A few choices side by side, one of them chosen. Tab goes to that one, the arrows choose another.
 Rectangle {
     id: picker
 
@@ -49,7 +49,7 @@ Rectangle {
                 implicitWidth: Math.ceil(implicitContentWidth) + 2 * Theme.fieldSide
                 implicitHeight: picker.height - 2 * Theme.fieldInset
                 hoverEnabled: true
-                // A press changes it only through what is chosen.
+                // A press doesn't check it by itself: `current` does.
                 checkable: true
                 checked: isChosen
                 onToggled: checked = Qt.binding(() => isChosen)

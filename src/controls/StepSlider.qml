@@ -9,7 +9,7 @@ T.Slider {
     id: slider
 
     required property real shown
-    // By these names assistive technology finds them.
+    // Assistive technology looks for these names.
     readonly property real minimumValue: from
     readonly property real maximumValue: to
 
@@ -22,7 +22,7 @@ T.Slider {
     snapMode: T.Slider.SnapAlways
     implicitHeight: Theme.fieldHeight
     hoverEnabled: true
-    // The wheel scrolls what it lies on.
+    // The wheel scrolls the page that it is on.
     wheelEnabled: false
 
     background: Rectangle {

@@ -4,8 +4,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Tromelo.Theme
 
-// The pages of a window, each by a symbol and a word. Tab comes to the current one, arrows turn to
-// another.
+// The tabs of a window's pages, each a symbol and a word. Tab goes to the current one, the arrows
+// turn to another.
 Row {
     id: strip
 

@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Tromelo.Theme
 
-// Says how much of what scrolls is seen, and can be dragged.
+// Shows how much of the content is visible, and can be dragged.
 T.ScrollBar {
     id: bar
 

@@ -3,8 +3,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tromelo.Theme
 
-// The translucent background of everything that floats. What is behind it stays legible neither
-// over white nor over black: what lies on it does.
+// The translucent background of everything that floats. Text on it is legible whatever is behind
+// it; text behind it isn't.
 Item {
     id: surface
 

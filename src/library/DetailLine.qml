@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tromelo.Theme
 
-// What it is, and its value.
+// A label and its value.
 Item {
     id: line
 

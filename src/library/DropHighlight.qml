@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Shapes
 import Tromelo.Theme
 
-// A dashed outline round what would take the files.
+// A dashed outline around what would take the files.
 Shape {
     id: highlight
 

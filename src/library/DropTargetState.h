@@ -21,7 +21,7 @@ class DropTargetState : public QQuickItem {
 
  Q_SIGNALS:
   void isTargetedChanged();
-  /// In the order of the drag, one at least.
+  /// At least one, in the order of the drag.
   void filesDropped(const QList<QUrl>& files);
 
  protected:

@@ -5,7 +5,7 @@ import Tromelo.Controls
 import Tromelo.Player
 import Tromelo.Theme
 
-// What to do where there is nothing to play again.
+// What to do while there is nothing to play again.
 Column {
     id: empty
 

@@ -5,7 +5,7 @@ import Tromelo.Controls
 import Tromelo.Player
 import Tromelo.Theme
 
-// The strip above the detail pane: whose window it is, and its one tool.
+// The strip above the detail pane, with the program's name and the one tool.
 Item {
     id: header
 

@@ -89,7 +89,7 @@ FocusScope {
             MouseArea {
                 id: area
 
-                // Where in it the hand took hold.
+                // Where the hand took hold of it.
                 property real grip: 0
 
                 anchors.fill: parent

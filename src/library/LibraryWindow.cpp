@@ -17,10 +17,10 @@ namespace {
 constexpr QSize kContentSize(1100, 720);  // points
 constexpr QSize kLeastSize(760, 480);
 
-// Until the window has come up and what played before is gone.
+// By then the window has come up, and what played before is gone.
 constexpr std::chrono::milliseconds kSettled = std::chrono::seconds(3);
 
-/// What starting up, the scene and the films used and left is of no use to what comes next.
+/// Memory that the start, the scene and the films have freed is of no use to what comes next.
 void giveFreedMemoryBack() {
 #ifdef __GLIBC__
   malloc_trim(0);

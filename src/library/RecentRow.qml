@@ -12,12 +12,12 @@ T.AbstractButton {
     required property url file
     required property string name
     required property string path
-    // The keyboard is here.
+    // The keyboard is on it.
     property bool chosen: false
     // Its menu is open.
     property bool marked: false
 
-    // With the entry of this number chosen; -1 for none.
+    // `first` is the entry to start on; -1 for none.
     signal menuRequested(point place, int first)
 
     implicitHeight: Theme.sidebarRowHeight

@@ -15,7 +15,7 @@ Rectangle {
 
     color: Theme.sidebar
 
-    // To the file where the keyboard was last.
+    // Gives the keyboard to the row that had it last.
     function enter() {
         list.forceActiveFocus(Qt.TabFocusReason);
     }
@@ -66,13 +66,13 @@ Rectangle {
         interactive: contentHeight > height
         keyNavigationEnabled: true
         highlightMoveDuration: 0
-        // The keyboard begins at the top, whatever came into the list before.
+        // The keyboard starts at the top, whatever has come into the list before.
         currentIndex: -1
         onActiveFocusChanged: if (activeFocus && currentIndex < 0)
             currentIndex = 0
         Accessible.role: Accessible.List
         Accessible.name: heading.text
-        // Nothing is left to stand on.
+        // No row is left for the keyboard.
         onCountChanged: if (count === 0 && activeFocus)
             nextItemInFocusChain().forceActiveFocus(Qt.TabFocusReason)
 
@@ -117,7 +117,7 @@ Rectangle {
     CommandMenu {
         id: menu
 
-        // Whose menu it is, whatever becomes of its row.
+        // The file that the menu is for, whatever becomes of its row.
         property url file
         // Had the keyboard, and gets it back.
         property Item before: null

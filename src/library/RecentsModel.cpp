@@ -20,7 +20,7 @@ void RecentsModel::removeAllBut(const QList<QUrl>& files) {
   }
 }
 
-/// All rows before are in their places.
+/// The rows before it are in their places already.
 void RecentsModel::place(const QUrl& file, int row) {
   const int present = static_cast<int>(files_.indexOf(file, row));
   if (present == row) return;

@@ -20,11 +20,11 @@ class SidebarWidth : public QObject {
   static double least() { return 200; }
   static double most() { return 300; }
   double width() const { return width_; }
-  /// The nearest that is possible.
+  /// Takes the nearest width that is allowed.
   void setWidth(double points);
-  /// By points, wider or narrower.
+  /// Makes it wider by so many points, or narrower.
   Q_INVOKABLE void widen(double points) { setWidth(width_ + points); }
-  /// As it was at first.
+  /// Back to the width that it had at first.
   Q_INVOKABLE void reset();
 
  Q_SIGNALS:

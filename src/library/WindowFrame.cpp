@@ -11,7 +11,7 @@ namespace tromelo {
 
 namespace {
 
-// So much of a remembered window has to be on a screen that a person can get hold of it.
+// How much of a remembered window has to be on a screen for a person to get hold of it.
 constexpr int kReachable = 80;
 
 /// The part of a screen where windows may be, if the frame can be reached on one.

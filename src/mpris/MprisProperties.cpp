@@ -7,7 +7,7 @@ namespace tromelo {
 
 namespace {
 
-/// As the property takes it; invalid where it can't.
+/// The value in the property's own type; invalid where it has none in that.
 QVariant converted(QVariant value, QMetaType type) {
   if (!value.convert(type)) return {};
   if (type == QMetaType::fromType<double>() && !std::isfinite(value.toDouble())) return {};

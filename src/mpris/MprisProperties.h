@@ -12,7 +12,7 @@
 namespace tromelo {
 
 /// org.freedesktop.DBus.Properties on the bus: reads and writes the properties of the adaptors
-/// beside it. In place of Qt's own, which can't refuse a value.
+/// beside it. It stands in for Qt's own, which can't refuse a value.
 class MprisProperties : public QDBusAbstractAdaptor {
   Q_OBJECT
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.DBus.Properties")
@@ -22,7 +22,7 @@ class MprisProperties : public QDBusAbstractAdaptor {
  public:
   MprisProperties(const QDBusConnection& bus, QObject* exported);
 
-  /// All that an adaptor of ours has, by name.
+  /// All properties of one of our adaptors, by name.
   static QVariantMap of(const QDBusAbstractAdaptor& adaptor);
   static QString interfaceOf(const QDBusAbstractAdaptor& adaptor);
 
@@ -39,7 +39,7 @@ class MprisProperties : public QDBusAbstractAdaptor {
   };
 
   QList<QDBusAbstractAdaptor*> adaptors(const QString& interface) const;
-  /// None where there is no such property, which the caller is told.
+  /// None where there is no such property; the caller is told so.
   std::optional<Property> find(const QString& interface, const QString& name,
                                const QDBusMessage& call);
   void refuse(const QDBusMessage& call, QDBusError::ErrorType error, const QString& reason);

@@ -38,7 +38,7 @@ class MprisService : public QObject {
   QDBusConnection bus_;
   PlaybackModel& playback_;
   const MprisShell shell_;
-  MprisRoot* root_;      // ours as children
+  MprisRoot* root_;      // owned as children
   MprisPlayer* player_;  //
   QVariantMap rootTold_;
   QVariantMap playerTold_;

@@ -22,15 +22,15 @@ QVariantMap trackMetadata(const PlaybackState& state);
 
 bool canSeek(const PlaybackState& state);
 
-/// Where a client wants to be in a file, seconds. None where it speaks of another file than the one
-/// that plays, or of a place outside of it.
+/// The position that a client asks for, in seconds. None where it means another file than the one
+/// that plays, or a position outside it.
 std::optional<double> wantedPosition(const PlaybackState& state, const QDBusObjectPath& track,
                                      qint64 microseconds);
 
 qint64 microsecondsFrom(double seconds);
 double secondsFrom(qint64 microseconds);
 
-/// Between 0 to 1 and the model's 0 to 100; the model does the clamping.
+/// From the bus's 0 to 1 to the model's 0 to 100 and back; the model does the clamping.
 double volumeForDesktop(double volume);
 double volumeFromDesktop(double volume);
 

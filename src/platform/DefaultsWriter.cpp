@@ -10,7 +10,7 @@ namespace {
 /// Changes that follow each other more quickly are written together.
 constexpr std::chrono::milliseconds kTogether(200);
 
-/// What only fills a gap does so after what was there before.
+/// What is only to fill a gap gives way to a change that is there already.
 void put(DefaultsChanges& changes, const DefaultsPath& path, const DefaultsChange& change) {
   if (change.fills)
     changes.try_emplace(path, change);

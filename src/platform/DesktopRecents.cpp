@@ -38,8 +38,8 @@ class Line : public std::enable_shared_from_this<Line> {
   void append(std::function<void()> job) {
     const std::scoped_lock lock(mutex_);
     jobs_.push_back(std::move(job));
-    if (jobs_.size() > 1) return;  // the thread that works will come to it
-    // Left to itself: our end doesn't wait for the disk.
+    if (jobs_.size() > 1) return;  // the thread that is at work will get to it
+    // Detached: our end doesn't wait for the disk.
     std::thread([line = shared_from_this()] { line->work(); }).detach();
   }
 

@@ -43,7 +43,7 @@ FileExistence::~FileExistence() { mailbox_->listener = nullptr; }
 
 void FileExistence::ask(const QList<QUrl>& files) {
   for (const QUrl& file : files) {
-    // Left to itself, one thread a file: neither another file nor our end waits for it.
+    // Detached, one thread for each file: neither another file nor our end waits for it.
     std::thread([file, exists = exists_, mailbox = mailbox_] {
       mailbox->put({file, exists(pathFromFileUrl(file))});
     }).detach();

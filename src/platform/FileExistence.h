@@ -22,7 +22,7 @@ class FileExistence {
 
   /// `exists` is called on other threads, and may still run when this object is gone.
   FileExistence(std::function<bool(const std::string& path)> exists, Listener listener);
-  /// What has not been answered yet is not told any more.
+  /// Answers that are still to come are dropped.
   ~FileExistence();
 
   void ask(const QList<QUrl>& files);

@@ -12,7 +12,7 @@ namespace {
 
 const QString kFileScheme = QStringLiteral("file://");
 
-/// "file:///a" and "smb://host/a" are; a path may have colons too.
+/// "file:///a" and "smb://host/a" are URLs; a path may have colons too.
 bool isUrl(std::string_view text) {
   const auto isOfScheme = [](unsigned char byte) {
     return std::isalnum(byte) || byte == '+' || byte == '-' || byte == '.';

@@ -18,7 +18,7 @@ std::map<QByteArray, HostValue>& hostValues() {
 }  // namespace
 
 void HostEnvironment::set(const char* name, const QByteArray& value) {
-  // What stands there the first time is the host's.
+  // The value that is found the first time is the host's.
   hostValues().try_emplace(
       name, qEnvironmentVariableIsSet(name) ? HostValue(qgetenv(name)) : HostValue());
   qputenv(name, value);

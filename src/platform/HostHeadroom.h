@@ -11,8 +11,8 @@ namespace tromelo {
 
 class WaylandHeadroom;
 
-/// How bright the host's screens get, where the host tells: on Wayland with colour management. Main
-/// thread only, after the application object.
+/// How bright the host's screens get, where the host says so: on Wayland with colour management.
+/// Main thread only, after the application object.
 class HostHeadroom : public QObject {
   Q_OBJECT
 
@@ -24,11 +24,11 @@ class HostHeadroom : public QObject {
   ScreenHeadroom of(QScreen* screen);
 
  Q_SIGNALS:
-  /// Some screen's headroom.
+  /// The headroom of one of the screens is another.
   void changed();
 
  private:
-  std::unique_ptr<WaylandHeadroom> wayland_;  // on such a host
+  std::unique_ptr<WaylandHeadroom> wayland_;  // only on Wayland
 };
 
 }  // namespace tromelo

@@ -28,7 +28,7 @@ wl_surface* surfaceOf(QWindow& window) {
 }
 
 /// Keeps the screen awake by the Wayland host's own protocol, for as long as one of our windows is
-/// seen. Main thread only.
+/// visible. Main thread only.
 class HostInhibition : public QObject {
  public:
   /// Begins to ask the host what it offers; waits for nothing.

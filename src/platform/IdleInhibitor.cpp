@@ -39,7 +39,7 @@ void IdleInhibitor::ask(std::size_t way) {
 void IdleInhibitor::takeAnswer(unsigned question, ReleaseInhibition release) {
   const bool isLate = question != question_ || !asked_;
   if (!release) return isLate ? void() : goOn();
-  // A late one is as good as any while there is no other.
+  // A late answer is as good as any while there is no other.
   const bool keeps = wanted_ && !release_;
   if (keeps || !isLate) {
     asked_.reset();

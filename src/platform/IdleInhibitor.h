@@ -17,9 +17,8 @@ using ReleaseInhibition = std::function<void()>;
 /// comes once, now or later, with what ends the inhibition, or empty where it was refused.
 using AskForInhibition = std::function<void(std::function<void(ReleaseInhibition)> answer)>;
 
-/// Keeps the screen and the system awake while that is wanted, the first way that works. An answer
-/// that comes when it isn't wanted any more is given back, be it after our own end. Main thread
-/// only.
+/// Keeps the screen and the system awake while that is wanted, in the first way that works. What is
+/// granted when it isn't wanted any more is given back, even after our own end. Main thread only.
 class IdleInhibitor : public QObject {
  public:
   /// `clock` outlives it.
@@ -43,14 +42,14 @@ class IdleInhibitor : public QObject {
 };
 
 /// The desktop's portal: neither the screen nor the system goes to sleep. This and the next end by
-/// themselves when our connection to the bus does, be it by a crash.
+/// themselves when our connection to the bus does, even by a crash.
 AskForInhibition portalInhibition(const QDBusConnection& bus);
 
 /// The older screen saver service.
 AskForInhibition screenSaverInhibition(const QDBusConnection& bus);
 
-/// The Wayland host's own protocol, for as long as one of our windows is seen. After the
-/// application object.
+/// The Wayland host's own protocol, for as long as one of our windows is visible. To be made after
+/// the application object.
 AskForInhibition hostInhibition();
 
 }  // namespace tromelo

@@ -7,7 +7,7 @@ namespace tromelo {
 
 /// What people who read `reader` call a language ("English", "Englisch", "Brazilian Portuguese").
 /// `code` has two or three letters ("en", "deu", "ger"), with or without a region or script
-/// ("pt-BR", "zh-Hans"). A code that nobody has a name for is its own.
+/// ("pt-BR", "zh-Hans"). A code without a name stands for itself.
 QString languageName(const QString& code, const QLocale& reader = QLocale());
 
 }  // namespace tromelo

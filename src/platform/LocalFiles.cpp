@@ -26,7 +26,7 @@ void LocalFiles::find(const QList<QUrl>& addresses, const Listener& listener) {
     files.removeAll(QUrl());
     return files;
   };
-  // Left to itself: neither what comes next nor our end waits for it.
+  // Detached: neither what comes next nor our end waits for it.
   std::thread([lookUp, listener, wanted = addresses.size(), owner = std::weak_ptr(isThere_)] {
     postToMainThread([files = lookUp(), listener, wanted, owner] {
       if (!owner.expired()) listener(files, files.size() == wanted);

@@ -17,7 +17,7 @@ std::string mountedPath(const QUrl& address);
 class LocalFiles {
  public:
   using PathOf = std::function<std::string(const QUrl& address)>;
-  /// The files that were found, in the order of their addresses; `areAll`: none lacks.
+  /// The files that were found, in the order of their addresses; `areAll`: none is missing.
   using Listener = std::function<void(const QList<QUrl>& files, bool areAll)>;
 
   /// `pathOf` is called on other threads, and may still run when this object is gone.

@@ -12,7 +12,8 @@ class QDBusMessage;
 namespace tromelo {
 
 /// Whether the person wants things on the screen to change in one step instead of moving or fading.
-/// The desktop's portal is asked and followed; until it has answered, they don't. Main thread only.
+/// The desktop's portal is asked and followed; until it has answered, things move. Main thread
+/// only.
 class ReducedMotion : public QObject {
   Q_OBJECT
 

@@ -33,8 +33,8 @@ class UserDefaults {
   /// The value stays in memory even when it can't be written; then error() says why.
   void set(const QString& key, const QJsonValue& value);
 
-  /// Of a dictionary, stores the fields that aren't as `before`, and the others where the file has
-  /// none: what a person edits in the file meanwhile stays.
+  /// Stores those fields of a dictionary that differ from `before`, and the others only where the
+  /// file lacks them: what a person edits in the file meanwhile stays.
   void setFields(const QString& key, const QJsonObject& fields, const QJsonObject& before);
 
   /// Waits until all changes are on disk, or have failed.

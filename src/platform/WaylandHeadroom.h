@@ -12,7 +12,7 @@ struct wp_color_manager_v1;
 
 namespace tromelo {
 
-/// Luminances of a screen as a Wayland host tells them, cd/m²; 0 is not told.
+/// Luminances of a screen in cd/m², as a Wayland host tells them; 0 where it doesn't.
 struct ScreenLuminances {
   double reference = 0;   // of plain white
   double most = 0;        // of the host's pictures
@@ -26,7 +26,7 @@ double headroomOf(const ScreenLuminances& luminances);
 /// with the host's other events; nothing waits for them. Main thread only.
 class WaylandHeadroom {
  public:
-  /// `changed` is called when an output's headroom becomes known or another. `display` outlives it;
+  /// `changed` is called when an output's headroom becomes known or changes. `display` outlives it;
   /// its default queue is dispatched by somebody else.
   WaylandHeadroom(wl_display* display, std::function<void()> changed);
   ~WaylandHeadroom();

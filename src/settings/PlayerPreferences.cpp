@@ -11,7 +11,7 @@ namespace tromelo {
 
 namespace {
 
-// How each type is stored; none where something else was.
+// How each type is read; none where something else was stored.
 
 void read(const QJsonValue& stored, std::optional<double>& value) {
   if (stored.isDouble()) value = stored.toDouble();
@@ -34,7 +34,7 @@ QJsonValue written(const T& value) {
 QJsonValue written(const RgbaColor& color) { return storedColor(color); }
 QJsonValue written(SubtitleBorderStyle style) { return rawValue(style); }
 
-// And how the engine reads it.
+// How the engine reads each type.
 
 std::string mpvText(const QString& text) { return text.toStdString(); }
 std::string mpvText(double number) { return numberText(number); }
@@ -46,10 +46,10 @@ std::string noText(const T&) {
   return {};
 }
 
-/// What hangs on the border style. Where nothing is written the engine keeps what it has.
+/// A value that depends on the border style. Where none is written the engine keeps what it has.
 struct BorderValue {
   const char* text = nullptr;
-  bool isOutlineColor = false;  // the person's, in place of a text
+  bool isOutlineColor = false;  // the person's own, instead of `text`
 };
 constexpr BorderValue kNotWritten;
 constexpr BorderValue kOutlineColor{.isOutlineColor = true};

@@ -10,19 +10,19 @@
 
 namespace tromelo {
 
-/// What a person can prefer, a row each; all that is said of one is said here:
+/// The preferences, one row each. All there is to say about one is said here:
 ///
-///   ROW(type, name, setter's name, what holds until they do, limits, announced by, part of,
+///   ROW(type, name, setter's name, default, limits, announced by, part of,
 ///       engine property, its value)
 ///
-/// Limits are a function that takes what makes no sense to the nearest that does. Part of
-/// "subtitles" is what resetSubtitleStyle() puts back. The engine's property follows from it, as
-/// the text that the function makes; those that hang on the border style are in kBorderRows.
+/// "Limits" is a function that takes a senseless value to the nearest sensible one. What is part of
+/// "subtitles" is put back by resetSubtitleStyle(). The engine's property gets the text that the
+/// last function makes; properties that depend on the border style are in kBorderRows.
 #define TROMELO_PREFERENCES(ROW)                                                                  \
   /* Idle seconds after which the player's controls hide; 0 is never. */                          \
   ROW(double, autoHideDelay, AutoHideDelay, 2.0, keptAutoHideDelay, autoHideDelayChanged,         \
       controls, nullptr, noText)                                                                  \
-  /* A family; the nearest one where it is missing. */                                            \
+  /* A family; where it is missing, the nearest one. */                                           \
   ROW(QString, subtitleFont, SubtitleFont, QStringLiteral("Helvetica Neue"), asItIs, changed,     \
       subtitles, "sub-font", mpvText)                                                             \
   /* In the engine's unit. */                                                                     \
@@ -39,7 +39,7 @@ namespace tromelo {
   ROW(bool, subtitleOverridesStyled, SubtitleOverridesStyled, false, asItIs, changed, subtitles,  \
       "sub-ass-override", forceOrScale)
 
-/// The values, with what holds until a person prefers something else.
+/// The values of all preferences.
 struct PlayerPreferences {
 #define TROMELO_FIELD(type, name, setter, initial, ...) type name = initial;
   TROMELO_PREFERENCES(TROMELO_FIELD)
@@ -48,20 +48,20 @@ struct PlayerPreferences {
   friend bool operator==(const PlayerPreferences&, const PlayerPreferences&) = default;
 };
 
-/// Stored values that are missing or of another type give the default, each for itself. Numbers
-/// that make no sense are taken to the nearest that does.
+/// A preference whose stored value is missing or of another type has its default. Numbers that make
+/// no sense are taken to the nearest that does.
 PlayerPreferences preferencesOf(const QJsonObject& stored);
 
 /// All of them, to be stored.
 QJsonObject storedPreferences(const PlayerPreferences& preferences);
 
-/// 0 to a day; the default for what is no number.
+/// 0 to a day; the default for what isn't a number.
 double keptAutoHideDelay(double seconds);
 
 /// A size that the engine takes; the default for what nobody could read.
 double keptSubtitleSize(double size);
 
-/// Any value does.
+/// Any value will do.
 template <typename T>
 T asItIs(T value) {
   return value;

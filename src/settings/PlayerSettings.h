@@ -14,7 +14,7 @@ namespace tromelo {
 class MpvEngine;
 class UserDefaults;
 
-/// A time after which the player's controls may hide, as it is offered.
+/// A delay that people are offered, after which the player's controls hide.
 class AutoHideChoice {
   Q_GADGET
   Q_PROPERTY(QString label MEMBER label CONSTANT)
@@ -35,12 +35,12 @@ class PlayerSettings : public QObject {
   Q_PROPERTY(type name READ name WRITE set##setter NOTIFY signal)
   TROMELO_PREFERENCES(TROMELO_PROPERTY)
 #undef TROMELO_PROPERTY
-  /// In autoHideLabels; -1 for a delay that isn't offered.
+  /// Which of autoHideLabels it is; -1 for a delay that isn't offered.
   Q_PROPERTY(
       int autoHideIndex READ autoHideIndex WRITE setAutoHideIndex NOTIFY autoHideDelayChanged)
   Q_PROPERTY(QString autoHideText READ autoHideText NOTIFY autoHideDelayChanged)
   Q_PROPERTY(QStringList autoHideLabels READ autoHideLabels CONSTANT)
-  /// In borderStyleLabels.
+  /// Which of borderStyleLabels it is.
   Q_PROPERTY(int subtitleBorderStyleIndex READ subtitleBorderStyleIndex WRITE
                  setSubtitleBorderStyleIndex NOTIFY changed)
   Q_PROPERTY(bool subtitlesHaveEdge READ subtitlesHaveEdge NOTIFY changed)
@@ -51,7 +51,7 @@ class PlayerSettings : public QObject {
   Q_PROPERTY(QStringList borderStyleLabels READ borderStyleLabels CONSTANT)
 
  public:
-  /// Writes nothing back. `defaults` outlives it.
+  /// Loads, and writes nothing back. `defaults` outlives it.
   explicit PlayerSettings(UserDefaults& defaults, QObject* parent = nullptr);
 
   // What is offered, in order.
@@ -74,15 +74,14 @@ class PlayerSettings : public QObject {
   TROMELO_PREFERENCES(TROMELO_MEMBER)
 #undef TROMELO_MEMBER
 
-  /// The subtitles as they are before anyone prefers anything; the controls' delay stays.
+  /// Gives the preferences for subtitles their defaults; the controls' delay stays.
   Q_INVOKABLE void resetSubtitleStyle();
 
-  /// Writes every preference that the engine draws by to it.
+  /// Writes to the engine every preference that it draws by.
   void apply(MpvEngine& engine) const;
 
  Q_SIGNALS:
-  /// Before each write, also of the value that is there. Whoever reads the new value when it is
-  /// written connects queued.
+  /// Before each write, even of the same value. A queued connection finds the new one.
   void willChange();
   /// Some preference has another value.
   void changed();

@@ -9,7 +9,8 @@
 
 namespace tromelo {
 
-/// A colour in the sRGB space, to the last digit as it was stored. Opaque white by default.
+/// A colour in the sRGB space, with exactly the components that were stored. Opaque white by
+/// default.
 class RgbaColor {
   Q_GADGET
   Q_PROPERTY(QColor color READ toQColor CONSTANT)
@@ -18,10 +19,10 @@ class RgbaColor {
   using Components = std::array<double, 4>;  // red, green, blue, opacity; each from 0 to 1
 
   constexpr RgbaColor() = default;
-  /// What lies outside 0 to 1 is taken to the nearer end.
+  /// Components below 0 count as 0, those above 1 as 1.
   constexpr RgbaColor(double red, double green, double blue, double opacity = 1)
       : components_{kept(red), kept(green), kept(blue), kept(opacity)} {}
-  /// Of any colour space; an invalid colour is white.
+  /// From a colour in any colour space; an invalid one gives white.
   Q_INVOKABLE RgbaColor(const QColor& color);  // NOLINT(google-explicit-constructor)
 
   constexpr const Components& components() const { return components_; }
@@ -30,16 +31,16 @@ class RgbaColor {
   friend bool operator==(const RgbaColor&, const RgbaColor&) = default;
 
  private:
-  /// NaN is 0.
+  /// NaN becomes 0.
   static constexpr double kept(double value) { return value > 0 ? (value < 1 ? value : 1) : 0; }
 
   Components components_{1, 1, 1, 1};
 };
 
-/// From a stored value: a list of exactly four numbers, else none.
+/// None unless the stored value is a list of exactly four numbers.
 std::optional<RgbaColor> color(const QJsonValue& from);
 
-/// To be stored.
+/// The value to store.
 QJsonValue storedColor(const RgbaColor& color);
 
 /// As the engine reads it: "1.000/0.930/0.350/1.000".

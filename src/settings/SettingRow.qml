@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tromelo.Theme
 
-// Something to set: what it is, then its controls, each in the middle of the row's height.
+// One setting: its label, then its controls, each in the middle of the row's height.
 Row {
     id: row
 

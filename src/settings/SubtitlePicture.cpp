@@ -28,7 +28,7 @@ struct Shadow {
   int copies;
 };
 
-/// A layer whose fonts have a point for a point.
+/// An empty picture in which a point of a font is one of its own points.
 QImage layer(QSizeF size, double scale) {
   QImage image((size * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
   image.setDevicePixelRatio(scale);
@@ -51,7 +51,7 @@ void drawText(QPainter& painter, QRectF area, const PlayerPreferences& style) {
   painter.drawText(area, kCentred, subtitleSampleText());
 }
 
-/// Half of a bell, from its middle out, so that all of it makes one.
+/// Half of a bell curve, from its middle outwards. The whole curve adds up to 1.
 std::vector<double> bell(double deviation) {
   std::vector<double> weights(static_cast<std::size_t>(std::ceil(deviation * 3)) + 1);
   double sum = 0;

@@ -7,10 +7,10 @@
 
 namespace tromelo {
 
-/// What subtitles are shown by before there are any.
+/// The text that stands for subtitles in a preview.
 QString subtitleSampleText();
 
-/// Of the sample, as large as subtitles are in a small picture; in points of 1/72 of an inch.
+/// The sample's font, as large as subtitles are in a small picture; in points of 1/72 of an inch.
 QFont subtitleSampleFont(const PlayerPreferences& style);
 
 /// The sample in this style at the bottom of a picture: `size` in points, `scale` pixels for each.

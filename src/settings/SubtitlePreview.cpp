@@ -22,7 +22,7 @@ void SubtitlePreview::setSettings(PlayerSettings* settings) {
 
 void SubtitlePreview::paint(QPainter* painter) {
   if (!settings_) return;
-  // Drawn by itself first: a clip with a round edge has no smooth one.
+  // Drawn as a picture first: clipping to a rounded shape would leave a jagged edge.
   const double scale = painter->transform().m11() * painter->device()->devicePixelRatio();
   const QImage picture = subtitlePicture(size(), scale, settings_->preferences());
   QBrush brush(picture);

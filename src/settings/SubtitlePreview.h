@@ -9,8 +9,8 @@
 
 namespace tromelo {
 
-/// How subtitles will look, drawn from the settings as they are; what lies over the video is drawn
-/// by the engine. Main thread only.
+/// A preview of how subtitles will look, drawn from the settings; the engine draws those over the
+/// video. Main thread only.
 class SubtitlePreview : public QQuickPaintedItem {
   Q_OBJECT
   QML_ELEMENT

@@ -4,12 +4,12 @@ import QtQuick
 import Tromelo.Controls
 import Tromelo.Theme
 
-// How subtitles are drawn, to be changed in place.
+// The controls for how subtitles are drawn.
 Column {
     id: controls
 
     required property PlayerSettings settings
-    // Of all the controls: the player's never take the keyboard.
+    // Holds for all of these controls: those in the player never take the keyboard.
     property int focusPolicy: Qt.StrongFocus
 
     spacing: Theme.settingSpacing

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-// How one kind of button looks, at rest and under the hand, and how the keyboard gets to it.
+// How one kind of button looks, at rest and in use, and how the keyboard reaches it.
 QtObject {
     property int focusPolicy: Qt.NoFocus
 
@@ -12,7 +12,7 @@ QtObject {
     property color chosenInk: ink
     property real symbolSize
     property real spacing // between a symbol and a text
-    property real lift // room below the text, which is that much nearer to the top
+    property real lift // room below the text, which raises it by half as much
 
     // Its size; 0 for that of what is on it, with room beside and above it.
     property real width

@@ -9,8 +9,8 @@ namespace tromelo {
 
 class MpvEngine;
 
-/// Which versions of what the program runs with, as text for people and for reports of bugs. What
-/// takes its time to find out comes when it is known. Main thread only.
+/// The versions of what the program runs on, as text for people and for bug reports. What takes a
+/// while to find out is added once it is known. Main thread only.
 class AboutFacts : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -26,7 +26,7 @@ class AboutFacts : public QObject {
   static QString version();
   /// A line for each fact.
   QString details() const;
-  /// All of it goes to the clipboard.
+  /// Copies all of it to the clipboard.
   Q_INVOKABLE void copy() const;
 
  Q_SIGNALS:

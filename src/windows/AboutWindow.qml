@@ -4,7 +4,7 @@ import QtQuick
 import Tromelo.Controls
 import Tromelo.Theme
 
-// What the program is, and what it runs with.
+// What the program is, and what it runs on.
 Window {
     id: window
 

@@ -5,7 +5,7 @@ import Tromelo.Controls
 import Tromelo.Settings
 import Tromelo.Theme
 
-// What has to do with no single part of the player.
+// Settings that belong to no particular part of the player.
 Item {
     id: page
 

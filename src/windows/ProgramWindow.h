@@ -12,7 +12,8 @@ class ProgramWindow : public QObject {
   Q_OBJECT
 
  public:
-  /// `type` is the window's in Tromelo.Windows. `engine` and what is in `properties` outlive it.
+  /// `type` is the window's name in Tromelo.Windows. `engine` and what is in `properties` outlive
+  /// it.
   ProgramWindow(QQmlEngine& engine, const char* type, QVariantMap properties);
   ~ProgramWindow() override;
 

@@ -5,7 +5,7 @@ import Tromelo.Controls
 import Tromelo.Settings
 import Tromelo.Theme
 
-// The settings, on three pages. Whatever is changed holds at once.
+// The settings, on three pages. A change takes effect at once.
 FocusScope {
     id: view
 

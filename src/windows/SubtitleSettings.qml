@@ -5,7 +5,7 @@ import Tromelo.Controls
 import Tromelo.Settings
 import Tromelo.Theme
 
-// How subtitles are drawn, with a look at it.
+// How subtitles are drawn, with a preview.
 Column {
     id: page
 
