@@ -193,6 +193,37 @@
     </message>
 </context>
 <context>
+    <name>HdrNote</name>
+    <message>
+        <source>needs a Wayland session</source>
+        <translation>braucht eine Wayland-Sitzung</translation>
+    </message>
+    <message>
+        <source>off: TROMELO_PICTURE</source>
+        <translation>aus: TROMELO_PICTURE</translation>
+    </message>
+    <message>
+        <source>desktop lacks %1</source>
+        <translation>Desktop fehlt %1</translation>
+    </message>
+    <message>
+        <source>refused by the desktop</source>
+        <translation>vom Desktop abgelehnt</translation>
+    </message>
+    <message>
+        <source>no colour management here</source>
+        <translation>Desktop ohne Farbverwaltung</translation>
+    </message>
+    <message>
+        <source>screen is in SDR mode</source>
+        <translation>Bildschirm im SDR-Modus</translation>
+    </message>
+    <message>
+        <source>not from this driver</source>
+        <translation>nicht mit diesem Treiber</translation>
+    </message>
+</context>
+<context>
     <name>IdleInhibitor</name>
     <message>
         <source>Playing a video</source>
@@ -419,6 +450,10 @@
         <source>Playback info</source>
         <translation>Wiedergabeinfo</translation>
     </message>
+    <message>
+        <source>HDR</source>
+        <translation>HDR</translation>
+    </message>
 </context>
 <context>
     <name>PlayerOverlayView</name>
@@ -473,6 +508,10 @@
     <message>
         <source>Pictures can&apos;t be shown straight from your graphics card&apos;s memory, which makes playing slower; update its driver.</source>
         <translation>Bilder können nicht direkt aus dem Speicher Ihrer Grafikkarte gezeigt werden, daher wird langsamer wiedergegeben; aktualisieren Sie deren Treiber.</translation>
+    </message>
+    <message>
+        <source>The desktop refused the picture, so it is drawn without HDR; report this with what tromelo --display-selftest says.</source>
+        <translation>Der Desktop hat das Bild abgelehnt; es wird ohne HDR gezeichnet. Bitte melden, mit der Ausgabe von tromelo --display-selftest.</translation>
     </message>
 </context>
 <context>

@@ -84,8 +84,11 @@ void Program::followReducedMotion() {
 void Program::startDisplay() {
   // What the scene is drawn with is found out now only where the sink depends on it: that takes
   // a moment, which the engine can use to open the file.
-  const VideoSinkKind sink = chooseVideoSink({[this] { return drawing().withOpenGl; }});
+  const VideoSinkKind sink =
+      chooseVideoSink({.asked = qgetenv("TROMELO_PICTURE"),
+                       .drawsWithOpenGl = [this] { return drawing().withOpenGl; }});
   videoCanBeSampled_ = sink.canBeSampled;
+  pictureWay_ = sink.way;
   const auto output = PlayerStage::outputOf(*QGuiApplication::primaryScreen());
   if (const auto fault = display_.start(output, sink)) {
     displayFault_ = QCoreApplication::translate("Program", "Videos can't be shown: %1").arg(*fault);
@@ -105,6 +108,8 @@ void Program::makeDelegate() {
       });
   QObject::connect(stage_.get(), &PlayerStage::dmabufsWithdrawn, stage_.get(),
                    [this] { doWithoutDmabufs(); });
+  QObject::connect(stage_.get(), &PlayerStage::refusedByHost, stage_.get(),
+                   [this] { doWithoutHost(); });
   AppDelegate::Parts parts;
   parts.makePlayback = [this] {
     return std::make_unique<PlaybackModel>(PlaybackModel::Parts{
@@ -124,6 +129,7 @@ void Program::makeDelegate() {
     return makeLibraryWindow(playback, player);
   };
   delegate_ = std::make_unique<AppDelegate>(commandLine_, defaults_, storesOfOrvo(), parts);
+  delegate_->playback().setPictureWay(pictureWay_);
   QObject::connect(delegate_.get(), &AppDelegate::readyToTerminate, qApp,
                    [] { QCoreApplication::exit(0); });
   // What is asked of the program from now on is for the next one.
@@ -136,6 +142,15 @@ void Program::makeDelegate() {
           {QStringLiteral("settings"), QVariant::fromValue(&delegate_->playback().settings())},
           {QStringLiteral("pages"), QVariant::fromValue(&settingsPages_)}});
   makeCommands();
+}
+
+void Program::doWithoutHost() {
+  pictureWay_.obstacle = PictureWay::Obstacle::refused;
+  delegate_->playback().setPictureWay(pictureWay_);
+  delegate_->playback().tell(QCoreApplication::translate(
+      "Program",
+      "The desktop refused the picture, so it is drawn without HDR; report this with what "
+      "tromelo --display-selftest says."));
 }
 
 void Program::doWithoutDmabufs() {
@@ -171,7 +186,8 @@ void Program::showSettings(SettingsPages::Page page) {
 
 void Program::showAbout() {
   if (!facts_) {
-    facts_ = std::make_unique<AboutFacts>(delegate_->playback().engine(), &vulkanLines);
+    facts_ = std::make_unique<AboutFacts>(delegate_->playback().engine(), reportOf(pictureWay_),
+                                          &vulkanLines);
     aboutWindow_ = std::make_unique<ProgramWindow>(
         qmlEngine_, "AboutWindow",
         QVariantMap{{QStringLiteral("facts"), QVariant::fromValue(facts_.get())}});

@@ -42,6 +42,7 @@ class Program {
   const SceneDrawing& drawing();
   void applyDrawing();
   void doWithoutDmabufs();
+  void doWithoutHost();
   void followReducedMotion();
   void makeDelegate();
   std::unique_ptr<ControlledWindow> makeLibraryWindow(PlaybackModel& playback,
@@ -71,6 +72,7 @@ class Program {
   std::optional<SceneDrawing> drawing_;
   PrivateDisplay display_;
   bool videoCanBeSampled_ = true;
+  PictureWay pictureWay_;
   std::string vulkanDevice_;
   QString displayFault_;  // a sentence: why there is none
   QQmlEngine qmlEngine_;

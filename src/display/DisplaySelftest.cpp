@@ -48,8 +48,7 @@ class FirstFrameSink final : public VideoSink {
 std::shared_ptr<Frame> firstFrame(PrivateDisplay& display) {
   QEventLoop loop;
   const auto sink = std::make_shared<FirstFrameSink>(
-      &loop,
-      VideoSink::Events{.committed = [&loop] { loop.quit(); }, .firstShown = {}, .refused = {}});
+      &loop, VideoSink::Events{.committed = [&loop] { loop.quit(); }});
   QObject::connect(
       &display, &PrivateDisplay::windowAdded, &loop,
       [&sink](EngineWindow* window) { window->setSink(sink); }, Qt::SingleShotConnection);
@@ -77,7 +76,9 @@ QStringList engineLines(PrivateDisplay& display, const std::string& vulkanDevice
 
 QString displaySelftest(const SceneDrawing& drawing, const SelftestEngine& engine) {
   QStringList lines = hostLines() + eglLines() + vulkanLines();
-  const VideoSinkKind kind = chooseVideoSink({[&drawing] { return drawing.withOpenGl; }});
+  const VideoSinkKind kind =
+      chooseVideoSink({.asked = qgetenv("TROMELO_PICTURE"),
+                       .drawsWithOpenGl = [&drawing] { return drawing.withOpenGl; }});
   const std::string device =
       kind.dmabuf ? vulkanUuidForScene(kind.dmabuf->mainDevice) : std::string();
   PrivateDisplay display;
@@ -85,8 +86,10 @@ QString displaySelftest(const SceneDrawing& drawing, const SelftestEngine& engin
     lines += QStringLiteral("private display: ") + *fault;
   } else {
     lines += displayLines(display.socketPath());
+    lines += kind.report;
+    lines += QStringLiteral("picture: ") + reportOf(kind.way);
     lines += QStringLiteral("sink: ") + kind.name;
-    if (kind.canBeSampled)
+    if (kind.way.obstacle != PictureWay::Obstacle::none)
       lines.last() += drawing.withOpenGl ? QStringLiteral(", drawn with OpenGL")
                                          : QStringLiteral(", drawn by the processor");
     lines += QStringLiteral("engine's Vulkan device: ") +

@@ -25,11 +25,11 @@ bool announces(const DmabufSupport& support, const wlr_dmabuf_attributes& attrib
 /// The layout of the memory is what was announced, as far as that can be told from outside.
 bool accepts(const DmabufSupport& support, const wlr_dmabuf_attributes& attributes) {
   if (!announces(support, attributes)) return false;
-  // Of other formats than the scene's, the host knows more than we do.
-  if (!pixelFormat(attributes.format)) return true;
+  const auto format = pixelFormat(attributes.format);
+  if (!format) return true;
   if (attributes.modifier == kImplicitModifier) return attributes.n_planes == 1;
   const bool hasWholeLines =
-      attributes.stride[0] / kBytesPerPixel >= std::uint32_t(attributes.width);
+      attributes.stride[0] / unsigned(format->bytesPerPixel()) >= std::uint32_t(attributes.width);
   return attributes.modifier != kLinearModifier || (attributes.n_planes == 1 && hasWholeLines);
 }
 

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "display/ColorManagerGlobal.h"
 #include "display/TaskQueue.h"
 
 namespace tromelo {
@@ -85,7 +86,7 @@ std::shared_ptr<Frame> EngineSurface::makeFrame() {
       .size = QSize(surface_->current.width, surface_->current.height),
       .damage = toRegion(surface_->buffer_damage),
       .opaque = coversSurface(surface_->opaque_region, *surface_),
-      .surface = surface_,
+      .color = surfaceColorOf(surface_),
   };
   if (!content.buffer) return nullptr;
   return std::make_shared<Frame>(std::move(content), buffer, queue_, ledger_);

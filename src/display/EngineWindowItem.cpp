@@ -1,11 +1,22 @@
 #include "display/EngineWindowItem.h"
 
+#include <qpa/qplatformwindow_p.h>
 #include <QEvent>
 #include <QQuickWindow>
 #include <QSGNode>
 #include <utility>
 
 namespace tromelo {
+
+namespace {
+
+/// The window's surface on a Wayland host; none elsewhere, or while there is none.
+wl_surface* hostSurfaceOf(QWindow& window) {
+  auto* host = window.nativeInterface<QNativeInterface::Private::QWaylandWindow>();
+  return host ? host->surface() : nullptr;
+}
+
+}  // namespace
 
 EngineWindowItem::EngineWindowItem(QQuickItem* parent) : QQuickItem(parent) {
   setFlag(ItemHasContents);
@@ -27,9 +38,13 @@ void EngineWindowItem::setEngineWindow(EngineWindow* window) {
                                                    Q_EMIT pictureCommitted();
                                                  },
                                              .firstShown = [this] { Q_EMIT firstFrameShown(); },
-                                             .refused = [this] { Q_EMIT pictureRefused(); }});
+                                             .refused = [this] { Q_EMIT pictureRefused(); },
+                                             .moved = [this] { adoptHole(); },
+                                             .refusedByHost = [this] { Q_EMIT refusedByHost(); }});
     window->setSink(sink_);
+    connect(window, &EngineWindow::sizeChanged, this, &EngineWindowItem::updatePlace);
     updateExposure();
+    updatePlace();
   }
   update();
 }
@@ -37,9 +52,12 @@ void EngineWindowItem::setEngineWindow(EngineWindow* window) {
 void EngineWindowItem::detach() {
   if (sink_) sink_->disconnect();
   sink_.reset();
+  adoptHole();
   nodeIsOfAnotherSink_ = true;
   wasExposed_ = false;
-  if (engineWindow_) engineWindow_->setSink(nullptr);
+  if (!engineWindow_) return;
+  engineWindow_->disconnect(this);
+  engineWindow_->setSink(nullptr);
 }
 
 QSGNode* EngineWindowItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) {
@@ -50,19 +68,25 @@ QSGNode* EngineWindowItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData*) 
 void EngineWindowItem::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
   QQuickItem::geometryChange(newGeometry, oldGeometry);
   if (newGeometry.size() != oldGeometry.size()) update();
+  updatePlace();
 }
 
 void EngineWindowItem::itemChange(ItemChange change, const ItemChangeData& data) {
   if (change == ItemSceneChange) watch(data.window);
   if (change == ItemVisibleHasChanged) updateExposure();
-  if (change == ItemDevicePixelRatioHasChanged) update();
+  if (change == ItemDevicePixelRatioHasChanged) {
+    update();
+    updatePlace();
+  }
   QQuickItem::itemChange(change, data);
 }
 
 bool EngineWindowItem::eventFilter(QObject* watched, QEvent* event) {
   const bool isHandled = QQuickItem::eventFilter(watched, event);
-  if (event->type() == QEvent::Expose)
+  if (event->type() == QEvent::Expose) {
     QMetaObject::invokeMethod(this, &EngineWindowItem::updateExposure, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &EngineWindowItem::updatePlace, Qt::QueuedConnection);
+  }
   return isHandled;
 }
 
@@ -75,9 +99,67 @@ void EngineWindowItem::watch(QQuickWindow* window) {
 
 /// The player window is often made after the engine's: not having been seen yet doesn't count.
 void EngineWindowItem::updateExposure() {
-  const bool isExposed = watched_ && watched_->isExposed() && isVisible();
+  // Where the host shows the picture, the item draws nothing itself.
+  const bool isExposed = watched_ && watched_->isExposed() && (isVisible() || !hole_.isEmpty());
   wasExposed_ = wasExposed_ || isExposed;
   if (engineWindow_ && wasExposed_) engineWindow_->setExposed(isExposed);
+}
+
+void EngineWindowItem::setSceneOpacity(qreal opacity) {
+  if (std::exchange(sceneOpacity_, opacity) != opacity) updatePlace();
+}
+
+void EngineWindowItem::setIsRead(bool isRead) {
+  if (std::exchange(isRead_, isRead) == isRead) return;
+  updatePlace();
+  update();
+}
+
+/// Qt ends the surface with a window that is hidden, and ours must not be its child any more when
+/// the next one comes.
+void EngineWindowItem::followHostSurface() {
+  auto* host =
+      watched_ ? watched_->nativeInterface<QNativeInterface::Private::QWaylandWindow>() : nullptr;
+  if (!host || hostWindow_ == host) return;
+  hostWindow_ = host;
+  connect(host, &QNativeInterface::Private::QWaylandWindow::surfaceDestroyed, this,
+          &EngineWindowItem::updatePlace);
+}
+
+void EngineWindowItem::updatePlace() {
+  if (!sink_) return;
+  followHostSurface();
+  const QSize picture = engineWindow_ ? engineWindow_->size() : QSize();
+  sink_->setPlace({
+      .parent = watched_ ? hostSurfaceOf(*watched_) : nullptr,
+      .room = mapRectToScene(boundingRect()),
+      .devicePixelRatio = watched_ ? watched_->effectiveDevicePixelRatio() : 1,
+      .picture = picture,
+      .opacity = sceneOpacity_,
+      .isRead = isRead_,
+      .afterDrawing = [this](auto then) { afterDrawing(std::move(then)); },
+  });
+}
+
+/// The next swap may be of what was drawn before: the one after it isn't.
+void EngineWindowItem::afterDrawing(std::function<void()> then) {
+  if (!watched_) return;
+  const auto drawn = [this, then = std::move(then)] {
+    connect(watched_, &QQuickWindow::frameSwapped, this, then,
+            Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+    watched_->update();
+  };
+  connect(watched_, &QQuickWindow::frameSwapped, this, drawn,
+          Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+  watched_->update();
+}
+
+void EngineWindowItem::adoptHole() {
+  const QRectF hole = sink_ ? sink_->hole() : QRectF();
+  if (std::exchange(hole_, hole) == hole) return;
+  setVisible(hole.isEmpty());
+  update();
+  Q_EMIT holeChanged();
 }
 
 }  // namespace tromelo

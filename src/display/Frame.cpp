@@ -26,6 +26,23 @@ void Frame::releaseBuffer() {
     queue_->post([buffer] { wlr_buffer_unlock(buffer); });
 }
 
+std::shared_ptr<Frame> Frame::secondReader(Reporter reporter) {
+  const std::scoped_lock lock(mutex_);
+  if (!buffer_) return nullptr;
+  const bool reports = reporter == Reporter::other && !std::exchange(isSettled_, true);
+  auto second = std::make_shared<Frame>(content_, buffer_, queue_, ledger_);
+  second->isSettled_ = !reports;
+  return second;
+}
+
+void Frame::readLater(std::shared_ptr<Frame> frame, Reporter reporter,
+                      std::function<void(std::shared_ptr<Frame>)> take) {
+  TaskQueue& queue = *frame->queue_;
+  queue.postUnlessClosed([frame = std::move(frame), reporter, take = std::move(take)] {
+    take(frame->secondReader(reporter));
+  });
+}
+
 void Frame::answerCallbacks(std::chrono::nanoseconds at) {
   post([sequence = content_.sequence, at](FrameLedger& ledger) { ledger.called(sequence, at); });
 }

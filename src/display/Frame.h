@@ -5,13 +5,13 @@
 #include <QSize>
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
 
 #include "display/ClientBuffer.h"
-
-struct wlr_surface;
+#include "display/HostImageDescription.h"
 
 namespace tromelo {
 
@@ -43,9 +43,7 @@ class Frame {
     QSize size;      // what it is to be shown as, in device pixels
     QRegion damage;  // against the picture before, in pixels of the buffer
     bool opaque = false;
-    /// Display's thread, while the frame is committed to a sink: for what globals of the sink's own
-    /// (see VideoSinkKind) know of the surface.
-    wlr_surface* surface = nullptr;
+    std::optional<SurfaceColor> color;  // what the engine has said of its colours
   };
 
   /// Display's thread. Locks `buffer`, and unlocks it on that thread, whichever drops the frame.
@@ -57,6 +55,15 @@ class Frame {
   Frame& operator=(const Frame&) = delete;
 
   const Content& content() const { return content_; }
+
+  /// The same picture for somebody who reads it too: the engine gets its buffer when both have
+  /// released it. Display's thread. What becomes of the picture is told by this frame, or by the
+  /// other one alone.
+  enum class Reporter { thisFrame, other };
+  std::shared_ptr<Frame> secondReader(Reporter reporter);
+  /// Gives it to `take` on the display's thread; nothing where the display or the buffer is gone.
+  static void readLater(std::shared_ptr<Frame> frame, Reporter reporter,
+                        std::function<void(std::shared_ptr<Frame>)> take);
 
   /// Nobody reads the buffer any more; the engine may draw there again.
   void releaseBuffer();

@@ -54,6 +54,13 @@ DmabufTextures::Import& DmabufTextures::importOf(
 }
 
 QImage::Format imageFormat(const PixelFormat& format) {
+  if (format.depth == PixelFormat::Depth::half)
+    return format.hasAlpha ? QImage::Format_RGBA16FPx4_Premultiplied : QImage::Format_RGBX16FPx4;
+  if (format.depth == PixelFormat::Depth::bits10) {
+    if (format.blueFirst)
+      return format.hasAlpha ? QImage::Format_A2RGB30_Premultiplied : QImage::Format_RGB30;
+    return format.hasAlpha ? QImage::Format_A2BGR30_Premultiplied : QImage::Format_BGR30;
+  }
   if (format.blueFirst)
     return format.hasAlpha ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
   return format.hasAlpha ? QImage::Format_RGBA8888_Premultiplied : QImage::Format_RGBX8888;

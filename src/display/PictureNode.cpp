@@ -2,10 +2,11 @@
 
 #include <QQuickWindow>
 #include <QSGRendererInterface>
-#include <algorithm>
 #include <chrono>
-#include <cmath>
 #include <utility>
+
+#include "color-management-v1-client-protocol.h"
+#include "display/PicturePlacement.h"
 
 namespace tromelo {
 
@@ -15,20 +16,16 @@ bool drawsInSoftware(const QQuickWindow& window) {
   return window.rendererInterface()->graphicsApi() == QSGRendererInterface::Software;
 }
 
-}  // namespace
-
-PicturePlacement placePicture(QSize picture, QSizeF item, qreal devicePixelRatio) {
-  const QSizeF available(std::round(item.width() * devicePixelRatio),
-                         std::round(item.height() * devicePixelRatio));
-  if (picture.isEmpty() || available.isEmpty()) return {};
-  const QSizeF fitted = QSizeF(picture).scaled(available, Qt::KeepAspectRatio);
-  const bool isExact = std::abs(fitted.width() - picture.width()) < 0.5 &&
-                       std::abs(fitted.height() - picture.height()) < 0.5;
-  const QSizeF size = isExact ? QSizeF(picture) : fitted;
-  QPointF corner((available.width() - size.width()) / 2, (available.height() - size.height()) / 2);
-  if (isExact) corner = QPointF(std::floor(corner.x()), std::floor(corner.y()));
-  return {QRectF(corner / devicePixelRatio, size / devicePixelRatio), isExact};
+std::optional<HdrImageNode::Transfer> transferOf(const std::optional<SurfaceColor>& color) {
+  if (!color) return {};
+  if (color->transfer == WP_COLOR_MANAGER_V1_TRANSFER_FUNCTION_ST2084_PQ)
+    return HdrImageNode::Transfer::pq;
+  if (color->transfer == WP_COLOR_MANAGER_V1_TRANSFER_FUNCTION_HLG)
+    return HdrImageNode::Transfer::hlg;
+  return {};
 }
+
+}  // namespace
 
 PictureNode::PictureNode(QQuickWindow* window, std::shared_ptr<SceneItemSink> sink)
     : window_(window), sink_(std::move(sink)) {
@@ -42,7 +39,7 @@ PictureNode::~PictureNode() { removeAllChildNodes(); }
 
 void PictureNode::synchronize(QSizeF size) {
   takePicture();
-  if (image_) place(size);
+  if (frame_) place(size);
 }
 
 void PictureNode::takePicture() {
@@ -53,8 +50,7 @@ void PictureNode::takePicture() {
     return;
   }
   sink_->setShowing(nullptr);
-  removeAllChildNodes();
-  image_.reset();
+  clear();
   if (frame_) replaced_.push_back(std::exchange(frame_, nullptr));
   needsUpload_ = false;
 }
@@ -63,13 +59,8 @@ void PictureNode::show(std::shared_ptr<Frame> frame, const QRegion& damage) {
   FrameTexture* texture = textureFor(*frame);
   QSGTexture* handle = texture->prepare(window_, *frame);
   if (!handle) return sink_->refused();  // the picture before stays
-  if (!image_) {
-    image_.reset(window_->createImageNode());
-    image_->setFlag(QSGNode::OwnedByParent, false);
-  }
-  image_->setTexture(handle);
-  // A scene without OpenGL looks at the texture at once.
-  if (!image_->parent()) appendChildNode(image_.get());
+  const bool canMap = !drawsInSoftware(*window_);
+  drawWith(handle, canMap ? transferOf(frame->content().color) : std::nullopt);
   if (frame_) replaced_.push_back(std::move(frame_));
   frame_ = std::move(frame);
   sink_->setShowing(frame_);
@@ -77,6 +68,32 @@ void PictureNode::show(std::shared_ptr<Frame> frame, const QRegion& damage) {
   damage_ += damage;
   needsUpload_ = true;
   awaitsSwap_ = true;
+}
+
+void PictureNode::drawWith(QSGTexture* handle,
+                           const std::optional<HdrImageNode::Transfer>& transfer) {
+  handle_ = handle;
+  if (transfer) {
+    if (hdr_ && hdr_->transfer() == *transfer) return;
+    clear();
+    hdr_ = std::make_unique<HdrImageNode>(*transfer);
+    hdr_->setFlag(QSGNode::OwnedByParent, false);
+    return;
+  }
+  if (hdr_) clear();
+  if (!image_) {
+    image_.reset(window_->createImageNode());
+    image_->setFlag(QSGNode::OwnedByParent, false);
+  }
+  // A scene without OpenGL looks at the texture at once.
+  image_->setTexture(handle);
+  if (!image_->parent()) appendChildNode(image_.get());
+}
+
+void PictureNode::clear() {
+  removeAllChildNodes();
+  image_.reset();
+  hdr_.reset();
 }
 
 FrameTexture* PictureNode::textureFor(const Frame& frame) {
@@ -93,6 +110,11 @@ FrameTexture* PictureNode::textureFor(const Frame& frame) {
 void PictureNode::place(QSizeF size) {
   const Frame::Content& content = frame_->content();
   const auto placement = placePicture(content.size, size, window_->effectiveDevicePixelRatio());
+  if (hdr_) {
+    hdr_->setPicture(handle_, placement.rect, content.source);
+    if (!hdr_->parent()) appendChildNode(hdr_.get());
+    return;
+  }
   const bool isUnscaled = placement.isExact && content.source.size() == QSizeF(content.size);
   image_->setRect(placement.rect);
   image_->setSourceRect(content.source);

@@ -5,25 +5,16 @@
 #include <QSGImageNode>
 #include <QSGNode>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "display/FrameTexture.h"
+#include "display/HdrImageNode.h"
 #include "display/SceneItemSink.h"
 
 class QQuickWindow;
 
 namespace tromelo {
-
-struct PicturePlacement {
-  QRectF rect;           // in the item, in its units
-  bool isExact = false;  // a pixel of the picture is a pixel of the screen
-
-  friend bool operator==(const PicturePlacement&, const PicturePlacement&) = default;
-};
-
-/// Where a picture of `picture` device pixels goes in an item of `item` units: centred, and as
-/// large as fits with its aspect.
-PicturePlacement placePicture(QSize picture, QSizeF item, qreal devicePixelRatio);
 
 /// The scene graph's side of an EngineWindowItem: takes pictures from the sink, brings them to the
 /// GPU and says when they were swapped to the screen. Render thread.
@@ -41,7 +32,9 @@ class PictureNode final : public QObject, public QSGNode {
   void takePicture();
   void show(std::shared_ptr<Frame> frame, const QRegion& damage);
   FrameTexture* textureFor(const Frame& frame);
+  void drawWith(QSGTexture* handle, const std::optional<HdrImageNode::Transfer>& transfer);
   void place(QSizeF size);
+  void clear();
   void upload();
   void swapped();
 
@@ -49,10 +42,13 @@ class PictureNode final : public QObject, public QSGNode {
   std::shared_ptr<SceneItemSink> sink_;
   std::unique_ptr<FrameTexture> shm_;
   std::unique_ptr<FrameTexture> dmabuf_;
-  std::unique_ptr<QSGImageNode> image_;  // a child while there is a picture
-  std::shared_ptr<Frame> frame_;         // the scene's present one
-  FrameTexture* texture_ = nullptr;      // the one that holds it
-  QRegion damage_;                       // not uploaded yet
+  // A child while there is a picture: one or the other.
+  std::unique_ptr<QSGImageNode> image_;
+  std::unique_ptr<HdrImageNode> hdr_;
+  std::shared_ptr<Frame> frame_;     // the scene's present one
+  FrameTexture* texture_ = nullptr;  // the one that holds it
+  QSGTexture* handle_ = nullptr;     // of it
+  QRegion damage_;                   // not uploaded yet
   bool needsUpload_ = false;
   bool awaitsSwap_ = false;
   std::vector<std::shared_ptr<Frame>> replaced_;  // perhaps still read until the next swap

@@ -6,17 +6,20 @@
 
 namespace tromelo {
 
-inline constexpr int kBytesPerPixel = 4;
-
 // Layouts of a GPU's buffer.
 inline constexpr std::uint64_t kLinearModifier = 0;
 inline constexpr std::uint64_t kImplicitModifier = 0x00ffffffffffffff;  // only its driver knows
 
-/// An 8-bit format that a scene can sample; named by its DRM FourCC.
+/// A format that a scene can sample; named by its DRM FourCC.
 struct PixelFormat {
+  enum class Depth { bits8, bits10, half };
+
   std::uint32_t fourcc = 0;
-  bool hasAlpha = false;   // else the fourth byte means nothing
-  bool blueFirst = false;  // byte order in memory: B, G, R, A; else R, G, B, A
+  bool hasAlpha = false;   // else the fourth channel means nothing
+  bool blueFirst = false;  // order in memory: B, G, R, A; else R, G, B, A
+  Depth depth = Depth::bits8;
+
+  constexpr int bytesPerPixel() const { return depth == Depth::half ? 8 : 4; }
 
   friend bool operator==(const PixelFormat&, const PixelFormat&) = default;
 };
@@ -30,8 +33,20 @@ inline constexpr std::array<PixelFormat, 4> kPixelFormats{{
     {0x34324258, false, false},  // XB24
 }};
 
+// A host that shows the engine's own buffers loses nothing of these.
+inline constexpr std::array<PixelFormat, 6> kDeepPixelFormats{{
+    {0x30335241, true, true, PixelFormat::Depth::bits10},    // AR30
+    {0x30335258, false, true, PixelFormat::Depth::bits10},   // XR30
+    {0x30334241, true, false, PixelFormat::Depth::bits10},   // AB30
+    {0x30334258, false, false, PixelFormat::Depth::bits10},  // XB30
+    {0x48344241, true, false, PixelFormat::Depth::half},     // AB4H
+    {0x48344258, false, false, PixelFormat::Depth::half},    // XB4H
+}};
+
 constexpr std::optional<PixelFormat> pixelFormat(std::uint32_t fourcc) {
   for (const PixelFormat& format : kPixelFormats)
+    if (format.fourcc == fourcc) return format;
+  for (const PixelFormat& format : kDeepPixelFormats)
     if (format.fourcc == fourcc) return format;
   return std::nullopt;
 }

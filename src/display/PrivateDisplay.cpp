@@ -1,12 +1,12 @@
 #include "display/PrivateDisplay.h"
 
 #include <pthread.h>
-#include <signal.h>
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
 #include <cstdio>
 
+#include "display/BlockedSignals.h"
 #include "display/DisplayServer.h"
 #include "display/SocketDirectory.h"
 #include "display/TaskQueue.h"
@@ -37,22 +37,6 @@ void presentThroughSharedMemory(bool always) {
   constexpr const char* kVariable = "MESA_VK_WSI_DEBUG";
   HostEnvironment::set(kVariable, always ? QByteArray("sw") : qgetenv(kVariable));
 }
-
-/// Signals are for the threads that have handlers for them.
-class BlockedSignals {
- public:
-  BlockedSignals() {
-    sigset_t all;
-    sigfillset(&all);
-    pthread_sigmask(SIG_SETMASK, &all, &before_);
-  }
-  ~BlockedSignals() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
-  BlockedSignals(const BlockedSignals&) = delete;
-  BlockedSignals& operator=(const BlockedSignals&) = delete;
-
- private:
-  sigset_t before_{};
-};
 
 }  // namespace
 

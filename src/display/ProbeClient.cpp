@@ -1,26 +1,15 @@
 #include "display/ProbeClient.h"
 
-#include <sys/mman.h>
 #include <wayland-client.h>
 
-#include <cstring>
-
-#include "display/UniqueFd.h"
+#include "display/DmabufFeedback.h"
 #include "linux-dmabuf-v1-client-protocol.h"
 
 namespace tromelo {
 
 namespace {
 
-constexpr std::uint32_t feedbackVersion = 4;
-
-/// An entry of the protocol's format table.
-struct TableEntry {
-  std::uint32_t fourcc;
-  std::uint32_t padding;
-  std::uint64_t modifier;
-};
-static_assert(sizeof(TableEntry) == 16);
+constexpr std::uint32_t kFeedbackVersion = 4;
 
 class Probe {
  public:
@@ -30,14 +19,11 @@ class Probe {
 
  private:
   void bind(wl_registry* registry, std::uint32_t name, const std::string& interface);
-  void askForFeedback();
-  void addTranche(const wl_array& indices);
 
   wl_display* display_;
   DisplayFacts facts_;
   wl_output* output_ = nullptr;
   zwp_linux_dmabuf_v1* dmabuf_ = nullptr;
-  std::vector<TableEntry> table_;
 };
 
 DisplayFacts Probe::run() {
@@ -54,8 +40,10 @@ DisplayFacts Probe::run() {
   wl_registry* registry = wl_display_get_registry(display_);
   wl_registry_add_listener(registry, &listener, this);
   wl_display_roundtrip(display_);
-  if (dmabuf_) askForFeedback();
+  DmabufFeedback feedback;
+  if (dmabuf_) feedback.ask(dmabuf_);
   wl_display_roundtrip(display_);
+  facts_.dmabuf = feedback.take();
   if (dmabuf_) zwp_linux_dmabuf_v1_destroy(dmabuf_);
   if (output_) wl_output_destroy(output_);
   wl_registry_destroy(registry);
@@ -81,45 +69,8 @@ void Probe::bind(wl_registry* registry, std::uint32_t name, const std::string& i
     wl_output_add_listener(output_, &listener, this);
   } else if (interface == zwp_linux_dmabuf_v1_interface.name) {
     dmabuf_ = static_cast<zwp_linux_dmabuf_v1*>(
-        wl_registry_bind(registry, name, &zwp_linux_dmabuf_v1_interface, feedbackVersion));
+        wl_registry_bind(registry, name, &zwp_linux_dmabuf_v1_interface, kFeedbackVersion));
   }
-}
-
-void Probe::askForFeedback() {
-  static constexpr zwp_linux_dmabuf_feedback_v1_listener listener{
-      .done = [](void*, zwp_linux_dmabuf_feedback_v1*) {},
-      .format_table =
-          [](void* self, zwp_linux_dmabuf_feedback_v1*, int descriptor, std::uint32_t size) {
-            const UniqueFd fd(descriptor);
-            void* memory = mmap(nullptr, size, PROT_READ, MAP_PRIVATE, fd.get(), 0);
-            if (memory == MAP_FAILED) return;
-            const auto* entries = static_cast<const TableEntry*>(memory);
-            static_cast<Probe*>(self)->table_.assign(entries, entries + size / sizeof *entries);
-            munmap(memory, size);
-          },
-      .main_device =
-          [](void* self, zwp_linux_dmabuf_feedback_v1*, wl_array* device) {
-            auto& dmabuf = static_cast<Probe*>(self)->facts_.dmabuf.emplace(DisplayFacts::Dmabuf{});
-            if (device->size == sizeof(dev_t))
-              std::memcpy(&dmabuf.mainDevice, device->data, sizeof(dev_t));
-          },
-      .tranche_done = [](void*, zwp_linux_dmabuf_feedback_v1*) {},
-      .tranche_target_device = [](void*, zwp_linux_dmabuf_feedback_v1*, wl_array*) {},
-      .tranche_formats = [](void* self, zwp_linux_dmabuf_feedback_v1*,
-                            wl_array* indices) { static_cast<Probe*>(self)->addTranche(*indices); },
-      .tranche_flags = [](void*, zwp_linux_dmabuf_feedback_v1*, std::uint32_t) {},
-  };
-  zwp_linux_dmabuf_feedback_v1* feedback = zwp_linux_dmabuf_v1_get_default_feedback(dmabuf_);
-  zwp_linux_dmabuf_feedback_v1_add_listener(feedback, &listener, this);
-  wl_display_roundtrip(display_);
-  zwp_linux_dmabuf_feedback_v1_destroy(feedback);
-}
-
-void Probe::addTranche(const wl_array& indices) {
-  const auto* first = static_cast<const std::uint16_t*>(indices.data);
-  for (const auto* index = first; index != first + indices.size / sizeof *first; ++index)
-    if (*index < table_.size() && facts_.dmabuf)
-      facts_.dmabuf->formats.push_back({table_[*index].fourcc, table_[*index].modifier});
 }
 
 }  // namespace

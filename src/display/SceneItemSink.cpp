@@ -21,9 +21,11 @@ bool canShowPictures(const QQuickWindow& window) {
 }  // namespace
 
 /// A host needs nothing for it; dmabufs take a scene that is drawn with OpenGL.
-std::optional<VideoSinkKind> sceneItemSink(const VideoSinkHost& host) {
+std::optional<VideoSinkKind> sceneItemSink(const VideoSinkHost& host, PictureWay&) {
   VideoSinkKind kind{
       .name = QStringLiteral("an item of the scene"),
+      .way = {},
+      .report = {},
       .canBeSampled = true,
       .shmFormats = {},
       .dmabuf = DmabufSupport::query(),
@@ -54,6 +56,14 @@ QSGNode* SceneItemSink::updateNode(QSGNode* node, QQuickItem& item) {
   if (!picture) picture = new PictureNode(item.window(), shared_from_this());
   picture->synchronize(item.size());
   return picture;
+}
+
+void SceneItemSink::forget() {
+  std::shared_ptr<Frame> showing;
+  std::optional<Picture> picture;  // both end without the lock
+  const std::scoped_lock lock(mutex_);
+  showing_.swap(showing);
+  picture_.swap(picture);
 }
 
 std::optional<SceneItemSink::Picture> SceneItemSink::take() {

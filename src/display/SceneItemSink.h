@@ -23,6 +23,9 @@ class SceneItemSink final : public VideoSink, public std::enable_shared_from_thi
   void commit(std::shared_ptr<Frame> frame) override;
   QSGNode* updateNode(QSGNode* node, QQuickItem& item) override;
 
+  /// Any thread: keeps nothing of what it was given.
+  void forget();
+
   /// Render thread.
   std::optional<Picture> take();
   /// Render thread: what the scene shows from here on, which is kept; none: nothing.

@@ -62,7 +62,7 @@ QString openGlLine() {
   return QStringLiteral("OpenGL: %1, %2").arg(text(GL_RENDERER), text(GL_VERSION));
 }
 
-QStringList dmabufLines(const std::optional<DisplayFacts::Dmabuf>& dmabuf) {
+QStringList dmabufLines(const std::optional<DmabufSupport>& dmabuf) {
   if (!dmabuf)
     return {QStringLiteral("dmabuf: not announced, the engine presents through shared memory"),
             QStringLiteral("synchronisation: a picture is copied before its buffer goes back")};
@@ -70,14 +70,13 @@ QStringList dmabufLines(const std::optional<DisplayFacts::Dmabuf>& dmabuf) {
                         .arg(gnu_dev_major(dmabuf->mainDevice))
                         .arg(gnu_dev_minor(dmabuf->mainDevice)),
                     QStringLiteral("synchronisation: implicit, by the fences of each buffer")};
-  for (const PixelFormat& format : kPixelFormats) {
-    QStringList modifiers;
-    for (const auto& announced : dmabuf->formats)
-      if (announced.fourcc == format.fourcc) modifiers += modifierText(announced.modifier);
-    if (!modifiers.isEmpty())
+  for (const auto& tranche : dmabuf->tranches)
+    for (const auto& [fourcc, announced] : tranche.formats) {
+      QStringList modifiers;
+      for (const auto modifier : announced) modifiers += modifierText(modifier);
       lines += QStringLiteral("dmabuf format: %1 with %2")
-                   .arg(fourccText(format.fourcc), modifiers.join(QStringLiteral(", ")));
-  }
+                   .arg(fourccText(fourcc), modifiers.join(QStringLiteral(", ")));
+    }
   return lines;
 }
 
@@ -128,8 +127,13 @@ QString frameLine(const Frame& frame) {
   const auto* dmabuf = std::get_if<DmabufPixels>(&buffer.pixels);
   const QString memory = dmabuf ? QStringLiteral("dmabuf with ") + modifierText(dmabuf->modifier)
                                 : QStringLiteral("shared memory");
-  return QStringLiteral("engine's frame: %1, %2 in %3")
-      .arg(sizeText(buffer.size), fourccText(buffer.fourcc), memory);
+  const auto& color = frame.content().color;
+  const QString told = color ? QStringLiteral("transfer function %1, primaries %2")
+                                   .arg(color->transfer)
+                                   .arg(color->primaries)
+                             : QStringLiteral("no colours told");
+  return QStringLiteral("engine's frame: %1, %2 in %3, %4")
+      .arg(sizeText(buffer.size), fourccText(buffer.fourcc), memory, told);
 }
 
 QString importLine(const Frame& frame) {

@@ -21,6 +21,26 @@ constexpr GLenum kSwizzleRed = 0x8E42;
 constexpr GLenum kSwizzleBlue = 0x8E44;
 constexpr GLenum kRed = 0x1903;
 constexpr GLenum kBlue = 0x1905;
+constexpr GLenum kTenBitInternal = 0x8059;  // RGB10_A2
+constexpr GLenum kTenBitType = 0x8368;      // UNSIGNED_INT_2_10_10_10_REV
+constexpr GLenum kHalfInternal = 0x881A;    // RGBA16F
+constexpr GLenum kHalfType = 0x140B;        // HALF_FLOAT
+
+struct Storage {
+  GLenum internalFormat, type;
+};
+
+Storage storageOf(const PixelFormat& format) {
+  switch (format.depth) {
+    case PixelFormat::Depth::bits10:
+      return {kTenBitInternal, kTenBitType};
+    case PixelFormat::Depth::half:
+      return {kHalfInternal, kHalfType};
+    case PixelFormat::Depth::bits8:
+      break;
+  }
+  return {GL_RGBA, GL_UNSIGNED_BYTE};
+}
 
 double area(const QRegion& region) {
   double sum = 0;
@@ -45,7 +65,7 @@ class ShmTexture final : public FrameTexture {
 
  private:
   void allocate(QSize size, const PixelFormat& format);
-  static void upload(const ShmPixels& pixels, const QRegion& region);
+  void upload(const ShmPixels& pixels, const QRegion& region) const;
 
   std::optional<GlTexture> texture_;
   QSize size_;
@@ -67,8 +87,9 @@ void ShmTexture::allocate(QSize size, const PixelFormat& format) {
   format_ = format;
   isBlank_ = true;
   QOpenGLFunctions* gl = QOpenGLContext::currentContext()->functions();
-  gl->glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA, size.width(), size.height(), 0, GL_RGBA,
-                   GL_UNSIGNED_BYTE, nullptr);
+  const auto [internalFormat, type] = storageOf(format);
+  gl->glTexImage2D(GL_TEXTURE_2D, 0, GLint(internalFormat), size.width(), size.height(), 0, GL_RGBA,
+                   type, nullptr);
   gl->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_LINEAR);
   gl->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, GL_CLAMP_TO_EDGE);
   gl->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, GL_CLAMP_TO_EDGE);
@@ -89,14 +110,15 @@ void ShmTexture::update(Frame& frame, const QRegion& damage) {
   frame.releaseBuffer();
 }
 
-void ShmTexture::upload(const ShmPixels& pixels, const QRegion& region) {
+void ShmTexture::upload(const ShmPixels& pixels, const QRegion& region) const {
+  const int bytes = format_.bytesPerPixel();
   QOpenGLFunctions* gl = QOpenGLContext::currentContext()->functions();
   gl->glPixelStorei(GL_UNPACK_ALIGNMENT, 4);
-  gl->glPixelStorei(kUnpackRowLength, pixels.stride() / kBytesPerPixel);
+  gl->glPixelStorei(kUnpackRowLength, pixels.stride() / bytes);
   for (const QRect& rect : region) {
-    const auto offset = std::ptrdiff_t(rect.y()) * pixels.stride() + rect.x() * kBytesPerPixel;
+    const auto offset = std::ptrdiff_t(rect.y()) * pixels.stride() + rect.x() * bytes;
     gl->glTexSubImage2D(GL_TEXTURE_2D, 0, rect.x(), rect.y(), rect.width(), rect.height(), GL_RGBA,
-                        GL_UNSIGNED_BYTE, pixels.data() + offset);
+                        storageOf(format_).type, pixels.data() + offset);
   }
   gl->glPixelStorei(kUnpackRowLength, 0);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QRectF>
+#include <QSize>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -9,6 +11,7 @@
 class QObject;
 class QQuickItem;
 class QSGNode;
+struct wl_surface;
 
 namespace tromelo {
 
@@ -21,19 +24,42 @@ namespace tromelo {
 class VideoSink {
  public:
   struct Events {
-    std::function<void()> committed;   // another picture waits, or none is there any more
-    std::function<void()> firstShown;  // a picture is on its way to the screen, for the first time
-    std::function<void()> refused;  // a picture can't be shown, and no other of its kind of memory
+    std::function<void()> committed = {};  // another picture waits, or none is there any more
+    std::function<void()> firstShown =
+        {};  // a picture is on its way to the screen, for the first time
+    std::function<void()> refused =
+        {};  // a picture can't be shown, and no other of its kind of memory
+    std::function<void()> moved = {};          // hole() is another
+    std::function<void()> refusedByHost = {};  // the scene shows the pictures in the host's place
+  };
+
+  /// Where the item that shows the pictures is.
+  struct Place {
+    wl_surface* parent = nullptr;  // of the window; none: no Wayland, or not on the screen
+    QRectF room;                   // in the window, in its units
+    qreal devicePixelRatio = 1;
+    QSize picture;        // device pixels, as the engine draws it now; empty: nothing yet
+    qreal opacity = 1;    // 0 to 1, of the whole scene
+    bool isRead = false;  // something of the scene is drawn with the picture, glass for example
+    /// Calls back on the main thread when the scene, as it is now or newer, is on the screen.
+    std::function<void(std::function<void()>)> afterDrawing;
   };
 
   /// Main thread. The events are posted to `receiver`, on its thread.
-  explicit VideoSink(QObject* receiver = nullptr, Events events = {});
+  VideoSink(QObject* receiver, Events events);
+  VideoSink();
   virtual ~VideoSink();
   VideoSink(const VideoSink&) = delete;
   VideoSink& operator=(const VideoSink&) = delete;
 
   /// Main thread: whoever received events is about to go.
   void disconnect();
+
+  /// Main thread: when something of it is new. Sinks that draw in the scene need none of it.
+  virtual void setPlace(const Place& place);
+  /// Main thread: in the window, in its units, where the host shows the picture below the scene,
+  /// which must leave it free. Empty while the scene draws the picture.
+  virtual QRectF hole() const;
 
   /// Display's thread; must not block. Supersedes every frame that isn't shown yet; none when the
   /// engine took its picture away. Not every frame of a window need come here.
@@ -48,11 +74,23 @@ class VideoSink {
  protected:
   /// Any thread.
   void tell(std::function<void()> Events::* event);
+  /// The way to the main thread, for who must not hold the sink meanwhile.
+  class MainThread {
+   public:
+    explicit MainThread(QObject* receiver) : receiver_(receiver) {}
+    /// Any thread: runs `task` there, unless whoever received events is gone by then.
+    void run(std::function<void()> task);
+    void close();
+
+   private:
+    std::mutex mutex_;
+    QObject* receiver_;
+  };
+  const std::shared_ptr<MainThread>& mainThread() const { return mainThread_; }
 
  private:
   const Events events_;
-  std::mutex mutex_;
-  QObject* receiver_;
+  const std::shared_ptr<MainThread> mainThread_;
 };
 
 }  // namespace tromelo

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -9,6 +11,7 @@
 
 #include "display/DmabufSupport.h"
 #include "display/VideoSink.h"
+#include "platform/PictureWay.h"
 
 struct wl_display;
 
@@ -18,6 +21,8 @@ namespace tromelo {
 /// announces what the kind takes, so that it is chosen first.
 struct VideoSinkKind {
   QString name;  // for a report
+  PictureWay way;
+  QStringList report;  // a line for each thing that is told of the host
   /// A scene can draw with the picture, to blur it behind glass for example. Nothing above the sink
   /// may assume so.
   bool canBeSampled = false;
@@ -35,6 +40,8 @@ struct VideoSinkKind {
 
 /// What a kind may ask about when it looks whether this host has what it needs.
 struct VideoSinkHost {
+  /// "scene" for a person who doesn't want the host to show the pictures.
+  QByteArray asked;
   /// Qt draws its scenes with OpenGL. Finding out takes a moment.
   std::function<bool()> drawsWithOpenGl;
 };

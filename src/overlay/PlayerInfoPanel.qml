@@ -29,6 +29,7 @@ OverlaySurface {
         required property string label
         required property string value
 
+        visible: !label || value !== ""
         width: parent.width
         implicitHeight: label ? Math.ceil(text.implicitHeight) : Theme.hairline
         Accessible.role: label ? Accessible.StaticText : Accessible.Separator

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Tromelo.Controls
+import Tromelo.Glass
 import Tromelo.Player
 import Tromelo.Theme
 
@@ -13,7 +14,7 @@ PlayerOverlayItem {
     required property PlayerChrome chrome
     required property PlayerWindowController player
     // What lies under the views: the video, where it can be sampled.
-    property Item backdrop: null
+    property EngineWindowItem backdrop: null
 
     readonly property real insetWidth: width - 2 * Theme.overlayInset
     readonly property real insetHeight: height - 2 * Theme.overlayInset
@@ -22,6 +23,13 @@ PlayerOverlayItem {
     input: overlayInput
     chromeItem: floating
     controls: controlBar
+
+    // The video is drawn in the scene for as long as glass is to blur it.
+    Binding {
+        target: overlay.backdrop
+        property: "isRead"
+        value: Glass.blurs && (floating.visible || toast.visible || overlay.chrome.panel >= 0 || overlay.chrome.showsSpeeds)
+    }
 
     PlayerOverlayInput {
         id: overlayInput
@@ -96,6 +104,7 @@ PlayerOverlayItem {
     }
 
     PlayerToast {
+        id: toast
         backdrop: overlay.backdrop
         anchors.horizontalCenter: parent.horizontalCenter
         y: Theme.controlBarMargin

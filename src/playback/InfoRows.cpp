@@ -22,6 +22,8 @@ constexpr InfoRow kRows[]{
      [](const State& state) { return state.dynamicRange().label(); }},
     {"infoOutput", QT_TRANSLATE_NOOP("PlayerInfoPanel", "Output"),
      [](const State& state) { return state.output(); }},
+    {"infoHdr", QT_TRANSLATE_NOOP("PlayerInfoPanel", "HDR"),
+     [](const State& state) { return state.hdrNote(); }},
     {"infoDisplay", QT_TRANSLATE_NOOP("PlayerInfoPanel", "Display"),
      [](const State& state) { return state.display(); }},
     {"infoDivider", "", nullptr},

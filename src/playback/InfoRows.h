@@ -8,7 +8,8 @@ namespace tromelo {
 
 class PlaybackState;
 
-/// A line of the info panel. One without a value divides those above it from those below.
+/// A line of the info panel, which is left out where it has nothing to say. One without a value
+/// divides those above it from those below.
 struct InfoRow {
   const char* name;   // of the view's object
   const char* label;  // in English

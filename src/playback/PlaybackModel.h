@@ -154,6 +154,8 @@ class PlaybackModel : public PlaybackState {
 
   /// The player's window is on this screen; without one nothing changes.
   void updateDisplay(const std::optional<ScreenHeadroom>& screen);
+  /// How the pictures go to the screen from here on.
+  void setPictureWay(const PictureWay& way);
 
   void reportPlaybackError(const QString& message);
   /// Something that has to do with no file: told in the library and in the player window, as soon

@@ -117,6 +117,14 @@ void PlaybackModel::setAudioDelay(double seconds) {
 void PlaybackModel::updateDisplay(const std::optional<ScreenHeadroom>& screen) {
   if (!screen) return;
   display_ = displayText(*screen);
+  if (std::exchange(screen_, *screen) != *screen) Q_EMIT infoChanged();
+}
+
+void PlaybackModel::setPictureWay(const PictureWay& way) {
+  pictureWay_ = way;
+  // Into the log, beside what the engine says of its output.
+  engine_.command({"print-text", ("Picture: " + reportOf(way)).toStdString()});
+  Q_EMIT infoChanged();
 }
 
 void PlaybackModel::setFullscreen(bool fullscreen) {

@@ -1,5 +1,6 @@
 #include "playback/PlaybackState.h"
 
+#include "playback/HdrNote.h"
 #include "playback/InfoRows.h"
 #include "playback/SignalTexts.h"
 
@@ -44,6 +45,10 @@ QStringList PlaybackState::infoValues() const {
   QStringList values;
   for (const InfoRow& row : infoRows()) values << (row.value ? row.value(*this) : QString());
   return values;
+}
+
+QString PlaybackState::hdrNote() const {
+  return tromelo::hdrNote(facts_, dynamicRange_, pictureWay_, screen_);
 }
 
 void PlaybackState::publishFacts() {

@@ -7,6 +7,8 @@
 #include <QUrl>
 #include <optional>
 
+#include "platform/PictureWay.h"
+#include "platform/ScreenHeadroom.h"
 #include "playback/Chapter.h"
 #include "playback/DynamicRange.h"
 #include "playback/FileFacts.h"
@@ -102,6 +104,8 @@ class PlaybackState : public QObject {
   DynamicRange dynamicRange() const { return dynamicRange_; }
   QString output() const { return output_; }    // what the engine sends to the screen
   QString display() const { return display_; }  // what the screen can show
+  /// Why an HDR film isn't shown as that, or empty.
+  QString hdrNote() const;
   QList<MediaTrack> audioTracks() const { return audioTracks_; }
   QList<MediaTrack> subtitleTracks() const { return subtitleTracks_; }
   QList<Chapter> chapters() const { return chapters_; }
@@ -204,6 +208,8 @@ class PlaybackState : public QObject {
   Published<bool> hasNoRecents_{this, &PlaybackState::hasNoRecentsChanged, true};
   Published<QUrl> lastURL_{this, &PlaybackState::lastURLChanged};
 
+  PictureWay pictureWay_;
+  ScreenHeadroom screen_;
   FileFacts facts_;
 
  private:

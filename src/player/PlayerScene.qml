@@ -12,13 +12,14 @@ PlayerSceneItem {
     objectName: "playerScene"
     layer.enabled: opacity < 1
 
-    Rectangle {
+    PictureSurround {
         anchors.fill: parent
-        color: "black"
+        hole: picture.hole
     }
 
     EngineWindowItem {
         id: picture
         anchors.fill: parent
+        sceneOpacity: scene.opacity
     }
 }

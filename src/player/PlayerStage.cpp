@@ -67,6 +67,8 @@ void PlayerStage::add(EngineWindow& engineWindow) {
   connect(&added->host().video(), &EngineWindowItem::pictureRefused, this, [this] {
     if (display_.withdrawDmabufs()) Q_EMIT dmabufsWithdrawn();
   });
+  connect(&added->host().video(), &EngineWindowItem::refusedByHost, this,
+          &PlayerStage::refusedByHost);
   followScreen(added->host().screen());
   Q_EMIT windowsChanged();
 }

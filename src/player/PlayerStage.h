@@ -39,6 +39,8 @@ class PlayerStage : public WindowSystem {
   /// The scene can't show the engine's pictures out of the graphics card's memory. The display has
   /// them come through shared memory, as soon as the engine makes its output anew.
   void dmabufsWithdrawn();
+  /// The host shows the engine's own buffers no more; the scene draws them.
+  void refusedByHost();
 
  private:
   void add(EngineWindow& engineWindow);

@@ -3,6 +3,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include "display/EngineWindowItem.h"
+#include "display/PictureSurround.h"
 #include "playback/PlaybackModel.h"
 #include "player/PlayerChrome.h"
 #include "player/PlayerWindowController.h"
@@ -15,6 +16,12 @@ struct EngineWindowItemForQml {
   Q_GADGET
   QML_FOREIGN(tromelo::EngineWindowItem)
   QML_NAMED_ELEMENT(EngineWindowItem)
+};
+
+struct PictureSurroundForQml {
+  Q_GADGET
+  QML_FOREIGN(tromelo::PictureSurround)
+  QML_NAMED_ELEMENT(PictureSurround)
 };
 
 struct DynamicRangeForQml {

@@ -11,8 +11,9 @@
 
 namespace tromelo {
 
-AboutFacts::AboutFacts(MpvEngine& engine, std::function<QStringList()> findVulkan)
-    : engine_(QStringLiteral("libmpv: client API %1")
+AboutFacts::AboutFacts(MpvEngine& engine, QString picture, std::function<QStringList()> findVulkan)
+    : picture_(std::move(picture)),
+      engine_(QStringLiteral("libmpv: client API %1")
                   .arg(QString::fromStdString(engine.clientApiVersion()))) {
   ask(engine, "mpv-version", &engine_, engine_ + QStringLiteral(", %1"));
   ask(engine, "libplacebo-version", &renderer_, QStringLiteral("libplacebo: %1"));
@@ -26,6 +27,7 @@ QString AboutFacts::details() const {
       QStringLiteral("Qt: %1, %2").arg(QLatin1StringView(qVersion()), qApp->platformName()),
       engine_, renderer_};
   lines += devices_;
+  lines += QStringLiteral("Picture: ") + picture_;
   lines += QStringLiteral("System: %1, %2")
                .arg(QSysInfo::prettyProductName(), QSysInfo::currentCpuArchitecture());
   lines.removeAll(QString());

@@ -19,8 +19,9 @@ class AboutFacts : public QObject {
   Q_PROPERTY(QString details READ details NOTIFY detailsChanged)
 
  public:
-  /// `findVulkan` gives a line for each device; it is called on another thread.
-  AboutFacts(MpvEngine& engine, std::function<QStringList()> findVulkan);
+  /// `findVulkan` gives a line for each device; it is called on another thread. `picture` is how
+  /// the pictures get to the screen.
+  AboutFacts(MpvEngine& engine, QString picture, std::function<QStringList()> findVulkan);
 
   /// "Version 0.1.0"
   static QString version();
@@ -36,6 +37,7 @@ class AboutFacts : public QObject {
   void ask(MpvEngine& engine, const char* property, QString* line, const QString& pattern);
   void findDevices(std::function<QStringList()> findVulkan);
 
+  const QString picture_;
   QString engine_;
   QString renderer_;
   QStringList devices_;

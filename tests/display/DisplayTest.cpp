@@ -14,12 +14,16 @@ Holdings Holdings::now() {
           maps.readAll().count("tromelo-test")};
 }
 
+VideoSinkKind DisplayTest::kind() {
+  VideoSinkKind kind = chooseVideoSink({.asked = "scene", .drawsWithOpenGl = [] { return false; }});
+  kind.dmabuf = dmabuf();
+  return kind;
+}
+
 void DisplayTest::SetUp() {
   before_ = Holdings::now();
   display_ = std::make_unique<PrivateDisplay>();
-  VideoSinkKind sinkKind = chooseVideoSink({[] { return false; }});
-  sinkKind.dmabuf = dmabuf();
-  ASSERT_EQ(display_->start(output(), sinkKind), std::nullopt);
+  ASSERT_EQ(display_->start(output(), kind()), std::nullopt);
   QObject::connect(display_.get(), &PrivateDisplay::windowAdded, display_.get(),
                    [this](EngineWindow* window) {
                      window_ = window;
@@ -34,6 +38,7 @@ void DisplayTest::TearDown() {
   buffers_.clear();
   client_.reset();
   display_.reset();
+  endHost();
   settle();
   EXPECT_EQ(Holdings::now(), before_);
 }

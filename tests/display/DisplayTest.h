@@ -31,6 +31,10 @@ class DisplayTest : public ::testing::Test {
 
   virtual PrivateDisplay::Output output() const { return {QSize(1280, 800), 60'000}; }
   virtual std::optional<DmabufSupport> dmabuf() const { return std::nullopt; }
+  /// What the display announces.
+  virtual VideoSinkKind kind();
+  /// After the display, which may need it.
+  virtual void endHost() {}
 
   /// Reads the client's events and runs the event loop until `condition` holds.
   [[nodiscard]] bool wait(const std::function<bool()>& condition);

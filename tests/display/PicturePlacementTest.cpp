@@ -1,4 +1,4 @@
-#include "display/PictureNode.h"
+#include "display/PicturePlacement.h"
 
 #include <gtest/gtest.h>
 

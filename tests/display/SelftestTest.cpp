@@ -24,8 +24,8 @@ TEST(SelftestTest, SaysWhatThereIsAndWhatTheEngineDrew) {
   const QString report = displaySelftest({}, {start, [] { return QString("vaapi"); }, stop});
   for (const char* part :
        {"host screen: ", "\nOpenGL: ", "\nEGL device: ", "\nVulkan", "xdg_wm_base 6",
-        "\nannounced screen: ", "\nsink: an item of the scene, drawn with OpenGL\n",
-        "\nengine's frame: 32x18, XR24 in shared memory\n",
+        "\nannounced screen: ", "\npicture: ", "\nsink: ",
+        "\nengine's frame: 32x18, XR24 in shared memory, no colours told\n",
         "\nimport: not needed, the frame's pixels are copied\n", "\nhardware decoder: vaapi\n"})
     EXPECT_TRUE(report.contains(part)) << part << "isn't in\n" << report.toStdString();
 }

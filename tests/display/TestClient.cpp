@@ -30,6 +30,7 @@ void TestClient::bind(std::uint32_t name, const std::string& interface) {
   take(shell, xdg_wm_base_interface, 6);
   take(viewporter, wp_viewporter_interface, 1);
   take(presentation, wp_presentation_interface, 1);
+  take(colorManager, wp_color_manager_v1_interface, 1);
   take(dmabuf, zwp_linux_dmabuf_v1_interface, 3);
 }
 

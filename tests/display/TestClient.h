@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "color-management-v1-client-protocol.h"
 #include "linux-dmabuf-v1-client-protocol.h"
 #include "presentation-time-client-protocol.h"
 #include "viewporter-client-protocol.h"
@@ -32,6 +33,7 @@ struct ProxyDeleter {
   void operator()(wp_viewport* p) const { wp_viewport_destroy(p); }
   void operator()(wp_presentation* p) const { wp_presentation_destroy(p); }
   void operator()(struct wp_presentation_feedback* p) const { wp_presentation_feedback_destroy(p); }
+  void operator()(wp_color_manager_v1* p) const { wp_color_manager_v1_destroy(p); }
   void operator()(zwp_linux_dmabuf_v1* p) const { zwp_linux_dmabuf_v1_destroy(p); }
   void operator()(zwp_linux_buffer_params_v1* p) const { zwp_linux_buffer_params_v1_destroy(p); }
 };
@@ -62,6 +64,7 @@ class TestClient {
   Proxy<wp_viewporter> viewporter;
   Proxy<wp_presentation> presentation;
   Proxy<zwp_linux_dmabuf_v1> dmabuf;
+  Proxy<wp_color_manager_v1> colorManager;
 
  private:
   void bind(std::uint32_t name, const std::string& interface);

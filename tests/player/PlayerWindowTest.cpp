@@ -22,7 +22,8 @@ struct PlayerWindowTest : ::testing::Test {
   const ReducedMotion moving_{"0", {}};
   HostHeadroom headroom_;
   const PlayerOverlayFactory noOverlay_;
-  const VideoSinkKind sinkKind_ = chooseVideoSink({[] { return false; }});
+  const VideoSinkKind sinkKind_ =
+      chooseVideoSink({.asked = "scene", .drawsWithOpenGl = [] { return false; }});
   EngineWindow engineWindow_{[](const EngineWindow::Task&) {}, sinkKind_};
   PlayerWindow window_{engineWindow_, std::make_unique<PlayerHostWindow>(engine_, moving_),
                        noOverlay_, headroom_};

@@ -22,7 +22,7 @@ TEST(AboutFactsTest, SaysWhatIsKnownAndAddsWhatIsFound) {
   MpvEngine engine(mpv.api());
   const QTemporaryDir directory;
   engine.initialize(directory.path());
-  AboutFacts facts(engine, [] { return QStringList{"Vulkan device: fast"}; });
+  AboutFacts facts(engine, "drawn", [] { return QStringList{"Vulkan device: fast"}; });
   EXPECT_TRUE(facts.details().contains("libmpv: client API 2.5\n"));
   EXPECT_FALSE(facts.details().contains("libplacebo"));
   EXPECT_TRUE(waitFor([&] { return facts.details().contains("\nVulkan device: fast\n"); }));

@@ -1,0 +1,147 @@
+#include "display/HostBuffers.h"
+
+#include <sys/types.h>
+#include <unistd.h>
+
+#include <utility>
+
+#include "display/PixelFormat.h"
+#include "linux-dmabuf-v1-client-protocol.h"
+
+namespace tromelo {
+
+namespace {
+
+/// wl_shm has numbers of its own for two formats.
+std::uint32_t shmFormatOf(std::uint32_t fourcc) {
+  const auto format = *pixelFormat(fourcc);
+  if (format == kPixelFormats[0]) return WL_SHM_FORMAT_ARGB8888;
+  if (format == kPixelFormats[1]) return WL_SHM_FORMAT_XRGB8888;
+  return fourcc;
+}
+
+/// A host ends the whole connection for a plane that reaches beyond its memory.
+bool liesInMemory(const DmabufPixels::Plane& plane, std::uint64_t lines) {
+  const off_t size = lseek(plane.fd, 0, SEEK_END);
+  if (size < 0) return true;  // such memory doesn't tell its size, to the host neither
+  return plane.offset + std::uint64_t(plane.stride) * lines <= std::uint64_t(size);
+}
+
+}  // namespace
+
+struct HostBuffers::Entry {
+  explicit Entry(HostBuffers& buffers) : owner(buffers) {}
+
+  HostBuffers& owner;
+  std::weak_ptr<const ClientBuffer> memory;
+  HostProxy<wl_buffer> buffer;
+  HostProxy<zwp_linux_buffer_params_v1> params;  // while it is made
+  std::shared_ptr<Frame> read;                   // by the host
+
+  void listen() {
+    static constexpr wl_buffer_listener kListener{.release = [](void* data, wl_buffer*) {
+      auto& self = *static_cast<Entry*>(data);
+      if (const auto frame = std::exchange(self.read, nullptr)) self.owner.giveBack(frame);
+    }};
+    wl_buffer_add_listener(buffer.get(), &kListener, this);
+  }
+};
+
+HostBuffers::HostBuffers(HostConnection& host, Events events)
+    : host_(host), events_(std::move(events)) {}
+
+HostBuffers::~HostBuffers() = default;
+
+wl_buffer* HostBuffers::buffer(const std::shared_ptr<Frame>& frame) {
+  return entryOf(frame).buffer.get();
+}
+
+void HostBuffers::attached(const std::shared_ptr<Frame>& frame) { entryOf(frame).read = frame; }
+
+void HostBuffers::setNewest(std::shared_ptr<Frame> frame) {
+  const auto before = std::exchange(newest_, std::move(frame));
+  if (before && before != newest_) giveBack(before);
+  prune();
+}
+
+void HostBuffers::forgetAttached() {
+  for (const auto& [memory, entry] : entries_)
+    if (const auto frame = std::exchange(entry->read, nullptr)) giveBack(frame);
+}
+
+HostBuffers::Entry& HostBuffers::entryOf(const std::shared_ptr<Frame>& frame) {
+  auto& entry = entries_[frame->content().buffer.get()];
+  if (!entry) {
+    entry = std::make_unique<Entry>(*this);
+    entry->memory = frame->content().buffer;
+    make(*entry, *frame);
+  }
+  return *entry;
+}
+
+void HostBuffers::make(Entry& entry, const Frame& frame) {
+  const ClientBuffer& buffer = *frame.content().buffer;
+  if (const auto* shm = std::get_if<std::shared_ptr<const ShmPixels>>(&buffer.pixels))
+    makeShm(entry, buffer, **shm);
+  else if (!makeDmabuf(entry, buffer, std::get<DmabufPixels>(buffer.pixels)))
+    events_.refused();
+}
+
+void HostBuffers::makeShm(Entry& entry, const ClientBuffer& buffer, const ShmPixels& pixels) {
+  const auto length = pixels.offset() + std::size_t(pixels.stride()) * buffer.size.height();
+  const HostProxy<wl_shm_pool> pool(wl_shm_create_pool(host_.shm(), pixels.fd(), int(length)));
+  entry.buffer.reset(wl_shm_pool_create_buffer(pool.get(), int(pixels.offset()),
+                                               buffer.size.width(), buffer.size.height(),
+                                               pixels.stride(), shmFormatOf(buffer.fourcc)));
+  entry.listen();
+}
+
+/// Asked for, never taken for granted: where the host refuses a buffer that was made without
+/// asking, it may end the connection, and with it the program.
+bool HostBuffers::makeDmabuf(Entry& entry, const ClientBuffer& buffer, const DmabufPixels& pixels) {
+  static constexpr zwp_linux_buffer_params_v1_listener kListener{
+      .created =
+          [](void* data, auto*, wl_buffer* made) {
+            auto& self = *static_cast<Entry*>(data);
+            self.params.reset();
+            self.buffer.reset(made);
+            self.listen();
+            self.owner.events_.made();
+          },
+      .failed =
+          [](void* data, auto*) {
+            auto& self = *static_cast<Entry*>(data);
+            self.params.reset();
+            self.owner.events_.refused();
+          },
+  };
+  if (!host_.dmabuf()) return false;
+  entry.params.reset(zwp_linux_dmabuf_v1_create_params(host_.dmabuf()));
+  for (int i = 0; i < pixels.planeCount; ++i) {
+    const DmabufPixels::Plane& plane = pixels.planes[std::size_t(i)];
+    // Of further planes only the beginning is known: their lines are the layout's business.
+    if (!liesInMemory(plane, i == 0 ? std::uint64_t(buffer.size.height()) : 1)) return false;
+    zwp_linux_buffer_params_v1_add(entry.params.get(), plane.fd, std::uint32_t(i), plane.offset,
+                                   plane.stride, std::uint32_t(pixels.modifier >> 32),
+                                   std::uint32_t(pixels.modifier & 0xffffffff));
+  }
+  zwp_linux_buffer_params_v1_add_listener(entry.params.get(), &kListener, &entry);
+  zwp_linux_buffer_params_v1_create(entry.params.get(), buffer.size.width(), buffer.size.height(),
+                                    buffer.fourcc, 0);
+  return true;
+}
+
+void HostBuffers::giveBack(const std::shared_ptr<Frame>& frame) {
+  if (frame == newest_) return;
+  const auto found = entries_.find(frame->content().buffer.get());
+  if (found == entries_.end() || found->second->read != frame) frame->releaseBuffer();
+}
+
+/// Of buffers that the engine has destroyed, and that the host doesn't read.
+void HostBuffers::prune() {
+  std::erase_if(entries_, [](const auto& item) {
+    return item.second->memory.expired() && !item.second->read;
+  });
+}
+
+}  // namespace tromelo

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <wayland-client.h>
+
+#include <array>
+#include <atomic>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "display/DmabufSupport.h"
+#include "display/HostProxy.h"
+#include "display/TaskQueue.h"
+
+namespace tromelo {
+
+class DmabufFeedback;
+
+/// What a host that manages colour can be told of. Values are the protocol's own.
+struct HostColorSupport {
+  std::vector<std::uint32_t> intents, features, transferFunctions, primaries;
+
+  bool has(std::uint32_t feature) const;
+};
+
+/// Our own talk with the Wayland host, on the connection that Qt has opened: with a queue and a
+/// thread of its own, the host thread, so that neither Qt's main thread nor its scene is in the
+/// way. All objects of it are used, and end, on the host thread, where post() brings one.
+class HostConnection {
+ public:
+  /// Asks the host what it has, which takes two round trips. None where it lacks what showing a
+  /// picture takes; then `lacks` names that. `display` outlives the connection.
+  static std::shared_ptr<HostConnection> open(wl_display* display, std::string* lacks);
+  /// Runs what was posted. On any thread but the host thread.
+  ~HostConnection();
+  HostConnection(const HostConnection&) = delete;
+  HostConnection& operator=(const HostConnection&) = delete;
+
+  /// In order; any thread. Requests that the task makes are sent after it.
+  void post(TaskQueue::Task task) { tasks_.post(std::move(task)); }
+
+  // What the host has, from the beginning on. Those that are last may be missing.
+  wl_compositor* compositor() const { return compositor_.get(); }
+  wl_subcompositor* subcompositor() const { return subcompositor_.get(); }
+  wl_shm* shm() const { return shm_.get(); }
+  wp_viewporter* viewporter() const { return viewporter_.get(); }
+  wp_presentation* presentation() const { return presentation_.get(); }
+  zwp_linux_dmabuf_v1* dmabuf() const { return dmabuf_.get(); }
+  wp_alpha_modifier_v1* alphaModifier() const { return alphaModifier_.get(); }
+  wp_color_manager_v1* colorManager() const { return colorManager_.get(); }
+
+  /// DRM FourCCs.
+  const std::vector<std::uint32_t>& shmFormats() const { return shmFormats_; }
+  /// None where the host takes no dmabufs, or doesn't say of which device.
+  const std::optional<DmabufSupport>& dmabufSupport() const { return dmabufSupport_; }
+  const HostColorSupport& colorSupport() const { return colorSupport_; }
+  /// The clock of the host's presentation times is the one that we count in.
+  bool hasOurClock() const { return hasOurClock_; }
+  /// "interface version", for a report.
+  const std::vector<std::string>& globals() const { return globals_; }
+
+ private:
+  explicit HostConnection(wl_display* display);
+
+  void ask();
+  void bind(std::uint32_t name, const std::string& interface, std::uint32_t version);
+  void listen(const std::string& interface);
+  std::string missing() const;
+  void serve();
+  bool waitForEvents();
+
+  struct QueueDeleter {
+    void operator()(wl_event_queue* queue) const { wl_event_queue_destroy(queue); }
+  };
+
+  wl_display* display_;
+  std::unique_ptr<wl_event_queue, QueueDeleter> queue_;
+  HostProxy<wl_registry> registry_;
+  HostProxy<wl_compositor> compositor_;
+  HostProxy<wl_subcompositor> subcompositor_;
+  HostProxy<wl_shm> shm_;
+  HostProxy<wp_viewporter> viewporter_;
+  HostProxy<wp_presentation> presentation_;
+  HostProxy<zwp_linux_dmabuf_v1> dmabuf_;
+  HostProxy<wp_alpha_modifier_v1> alphaModifier_;
+  HostProxy<wp_color_manager_v1> colorManager_;
+  std::vector<std::uint32_t> shmFormats_;
+  DmabufFeedback* feedback_ = nullptr;  // while the host is asked
+  std::optional<DmabufSupport> dmabufSupport_;
+  HostColorSupport colorSupport_;
+  bool hasOurClock_ = false;
+  std::vector<std::string> globals_;
+
+  TaskQueue tasks_;
+  std::atomic<bool> quits_ = false;
+  std::thread thread_;
+};
+
+}  // namespace tromelo
