@@ -7,6 +7,7 @@ import sys
 import tempfile
 import time
 
+import host
 import recents
 from player import LIMIT, Engine, Player, clean_environment
 from screen import Screen
@@ -44,7 +45,7 @@ class Bench:
         self.options = options
         self.home = home
         self.program = os.path.join(options.build, "src/app/tromelo")
-        self.screen = Screen()
+        self.screen = None if host.is_here() else Screen()
         self.table = Table()
         self.log = open(os.path.join(home, "log"), "wb")
         self.clip = self._long_clip()
@@ -260,6 +261,10 @@ class Bench:
                 self.milliseconds_until(player, is_green)
 
     def run(self):
+        if host.is_here():
+            host.compare(self)
+            self.table.print()
+            return
         comparisons = [part for part in self.options.parts if part not in PROGRAMS]
         if comparisons:
             self.warm_up()
