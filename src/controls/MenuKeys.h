@@ -7,8 +7,8 @@
 
 namespace tromelo {
 
-/// Watches for the keys that open a menu bar, and gives the keyboard back to the item that had it
-/// before. Main thread only.
+/// Watches for the keys that open a menu bar, to which Qt 6.8's own doesn't listen, and gives the
+/// keyboard back to the item that had it before. Main thread only.
 class MenuKeys : public QObject {
   Q_OBJECT
   QML_ELEMENT

@@ -10,7 +10,8 @@ class QMimeData;
 namespace tromelo {
 
 /// The files and folders of a drag, in its order, by the addresses that it gives them (smb://…
-/// too); web links and text are passed over. Names keep their bytes.
+/// too); web links and text are passed over. Names keep their bytes, which Qt Quick's DropArea
+/// decodes.
 QList<QUrl> draggedFiles(const QMimeData& data);
 
 /// Answers a drag that moves or is let go: its files would be copied, anything else is refused.

@@ -14,6 +14,7 @@ QString subtitleSampleText();
 QFont subtitleSampleFont(const PlayerPreferences& style);
 
 /// The sample in this style at the bottom of a picture: `size` in points, `scale` pixels for each.
+/// Painted, since Qt Quick's effects draw nothing where the processor draws the scene.
 QImage subtitlePicture(QSizeF size, double scale, const PlayerPreferences& style);
 
 }  // namespace tromelo
