@@ -94,7 +94,16 @@ void HostSubsurfaceSink::goToHost() {
 
 void HostSubsurfaceSink::map() {
   setWay(Way::mapping);
-  host_->post([surface = surface_] { surface->setMapped(true); });
+  host_->post([surface = surface_, main = mainThread(),
+               nudge = when(Way::mapping, &HostSubsurfaceSink::nudge)] {
+    surface->setMapped(true);
+    main->run(nudge);
+  });
+}
+
+/// A host may look at a new surface only when the window above it changes.
+void HostSubsurfaceSink::nudge() {
+  place_.afterDrawing([] {});
 }
 
 void HostSubsurfaceSink::arrive() {

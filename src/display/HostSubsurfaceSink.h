@@ -44,6 +44,7 @@ class HostSubsurfaceSink final : public VideoSink,
   bool canGoToHost() const;
   void goToHost();
   void map();
+  void nudge();
   void arrive();
   void goToScene();
   void leave();
