@@ -79,6 +79,12 @@ FocusScope {
             Keys.onLeftPressed: library.sidebarWidth.widen(-Theme.dividerStep)
             Keys.onRightPressed: library.sidebarWidth.widen(Theme.dividerStep)
 
+            // The line is translucent, and what is behind the window is none of its business.
+            Rectangle {
+                anchors.fill: parent
+                color: Theme.backdrop
+            }
+
             Rectangle {
                 anchors.fill: parent
                 anchors.leftMargin: divider.activeFocus ? -Theme.focusWidth / 2 : 0
