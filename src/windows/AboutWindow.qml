@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Layouts
 import Tromelo.Controls
 import Tromelo.Theme
 
@@ -13,11 +14,11 @@ Window {
     title: qsTr("About Tromelo")
     color: Theme.backdrop
     width: Theme.settingsWidth
-    height: content.height
+    height: content.implicitHeight + 2 * Theme.margin
     minimumWidth: width
     maximumWidth: width
-    minimumHeight: content.height
-    maximumHeight: content.height
+    minimumHeight: content.implicitHeight + 2 * Theme.margin
+    maximumHeight: content.implicitHeight + 2 * Theme.margin
 
     FocusScope {
         width: parent.width
@@ -29,11 +30,12 @@ Window {
                 window.close();
         }
 
-        Column {
+        // Lines come when they are known, and not every host lets the window grow with them.
+        ColumnLayout {
             id: content
 
-            width: parent.width
-            padding: Theme.margin
+            anchors.fill: parent
+            anchors.margins: Theme.margin
             spacing: Theme.spacing
 
             Text {
@@ -53,28 +55,38 @@ Window {
                 Accessible.name: text
             }
 
-            TextEdit {
-                id: details
+            Flickable {
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                implicitHeight: details.implicitHeight
+                contentHeight: details.implicitHeight
+                interactive: contentHeight > height
+                boundsBehavior: Flickable.StopAtBounds
+                clip: interactive
 
-                objectName: "aboutDetails"
-                width: content.width - 2 * content.padding
-                text: window.facts.details
-                textFormat: TextEdit.PlainText
-                font: Theme.panelText
-                color: Theme.primaryText
-                selectionColor: Theme.fieldOn
-                selectedTextColor: Theme.primaryText
-                readOnly: true
-                selectByMouse: true
-                activeFocusOnTab: true
-                wrapMode: TextEdit.Wrap
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
+                TextEdit {
+                    id: details
 
-                FocusRing {
-                    distance: Theme.fieldSide
-                    visible: details.activeFocus
-                    radius: Theme.fieldRadius
+                    objectName: "aboutDetails"
+                    width: content.width
+                    text: window.facts.details
+                    textFormat: TextEdit.PlainText
+                    font: Theme.panelText
+                    color: Theme.primaryText
+                    selectionColor: Theme.fieldOn
+                    selectedTextColor: Theme.primaryText
+                    readOnly: true
+                    selectByMouse: true
+                    activeFocusOnTab: true
+                    wrapMode: TextEdit.Wrap
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
+
+                    FocusRing {
+                        distance: Theme.fieldSide
+                        visible: details.activeFocus
+                        radius: Theme.fieldRadius
+                    }
                 }
             }
 
