@@ -113,7 +113,6 @@ void HostSubsurfaceSink::arrive() {
 
 void HostSubsurfaceSink::goToScene() {
   if (way_ == Way::placing || way_ == Way::mapping) {
-    setWay(Way::leaving);
     leave();
   } else if (way_ == Way::host) {
     setWay(Way::returning);
@@ -131,16 +130,25 @@ void HostSubsurfaceSink::goToScene() {
   }
 }
 
+/// The surface is empty before it is a new window's: Weston forgets one that isn't.
 void HostSubsurfaceSink::leave() {
-  host_->post([surface = surface_] { surface->setMapped(false); });
+  setWay(Way::unmapping);
+  host_->post([surface = surface_, main = mainThread(),
+               settled = when(Way::unmapping, &HostSubsurfaceSink::settle)] {
+    surface->setMapped(false);
+    main->run(settled);
+  });
+}
+
+void HostSubsurfaceSink::settle() {
   setWay(Way::scene);
+  if (canGoToHost()) goToHost();
 }
 
 /// Its surface is gone, or another, and ours with it.
 void HostSubsurfaceSink::loseParent() {
-  if (way_ == Way::scene) return;
   subsurface_.reset();
-  leave();
+  if (way_ != Way::scene && way_ != Way::unmapping) leave();
 }
 
 void HostSubsurfaceSink::makeSubsurface() {
@@ -186,7 +194,7 @@ void HostSubsurfaceSink::setWay(Way way) {
 void HostSubsurfaceSink::updateTap() {
   const bool isTapped = way_ != Way::host || place_.isRead;
   const std::scoped_lock lock(mutex_);
-  sceneReports_ = way_ == Way::scene || way_ == Way::placing;
+  sceneReports_ = way_ == Way::scene || way_ == Way::placing || way_ == Way::unmapping;
   if (std::exchange(isTapped_, isTapped) == isTapped) return;
   if (!isTapped) return tap_->forget();
   if (newest_)

@@ -37,6 +37,7 @@ class HostSubsurfaceSink final : public VideoSink,
     host,       // shows it; the scene leaves it free
     returning,  // too; the scene is to draw it
     leaving,    // too, below the scene, which draws it
+    unmapping,  // no more, as soon as it has been told
   };
 
   HostSubsurfaceSink(std::shared_ptr<HostConnection> host, QObject* receiver, Events events);
@@ -48,6 +49,7 @@ class HostSubsurfaceSink final : public VideoSink,
   void arrive();
   void goToScene();
   void leave();
+  void settle();
   void loseParent();
   void makeSubsurface();
   void applyPlace();
