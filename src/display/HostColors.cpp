@@ -49,7 +49,7 @@ struct HostColors::Inquiry {
 HostColors::HostColors(HostConnection& host, std::shared_ptr<TaskQueue> answers)
     : host_(host), answers_(std::move(answers)) {}
 
-HostColors::~HostColors() = default;
+HostColors::~HostColors() { host_.followPictureSurface({}); }
 
 void HostColors::make(const ColorParameters& parameters, Answered answered) {
   auto* creator = wp_color_manager_v1_create_parametric_creator(host_.colorManager());
@@ -62,29 +62,27 @@ void HostColors::makeWindowsScrgb(Answered answered) {
 }
 
 void HostColors::prefer(bool parametric, Answered answered) {
-  ask(parametric ? wp_color_management_surface_feedback_v1_get_preferred_parametric(feedback())
-                 : wp_color_management_surface_feedback_v1_get_preferred(feedback()),
+  ask(parametric ? wp_color_management_surface_feedback_v1_get_preferred_parametric(feedback_.get())
+                 : wp_color_management_surface_feedback_v1_get_preferred(feedback_.get()),
       std::move(answered));
 }
 
 void HostColors::followPreference(std::function<void(std::uint32_t)> changed) {
   changed_ = std::move(changed);
-  feedback();
+  host_.followPictureSurface([this](wl_surface* surface) { askAbout(surface); });
 }
 
-wp_color_management_surface_feedback_v1* HostColors::feedback() {
+/// What the host likes depends on the screen that a surface is on.
+void HostColors::askAbout(wl_surface* surface) {
   static constexpr wp_color_management_surface_feedback_v1_listener kListener{
       .preferred_changed = [](void* data, auto*, std::uint32_t identity) {
         const auto& self = *static_cast<HostColors*>(data);
-        if (self.changed_)
-          self.answers_->postUnlessClosed(
-              [changed = self.changed_, identity] { changed(identity); });
+        self.answers_->postUnlessClosed([changed = self.changed_, identity] { changed(identity); });
       }};
-  if (feedback_) return feedback_.get();
-  surface_.reset(wl_compositor_create_surface(host_.compositor()));
-  feedback_.reset(wp_color_manager_v1_get_surface_feedback(host_.colorManager(), surface_.get()));
+  if (!surface && !unshown_) unshown_.reset(wl_compositor_create_surface(host_.compositor()));
+  feedback_.reset(wp_color_manager_v1_get_surface_feedback(host_.colorManager(),
+                                                           surface ? surface : unshown_.get()));
   wp_color_management_surface_feedback_v1_add_listener(feedback_.get(), &kListener, this);
-  return feedback_.get();
 }
 
 void HostColors::ask(wp_image_description_v1* proxy, Answered answered) {

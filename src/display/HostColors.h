@@ -37,7 +37,7 @@ class HostColors {
   /// What the host likes pictures of ours to be; parametric, where the host says what it is made
   /// of.
   void prefer(bool parametric, Answered answered);
-  /// Calls `changed` with the identity of each later preference.
+  /// Calls `changed` with the identity of each later preference. The first of all requests.
   void followPreference(std::function<void(std::uint32_t)> changed);
   /// `told` comes for each event; the last one is "done".
   void inform(const std::shared_ptr<const HostImageDescription>& description,
@@ -48,11 +48,11 @@ class HostColors {
   struct Inquiry;
 
   void ask(wp_image_description_v1* proxy, Answered answered);
-  wp_color_management_surface_feedback_v1* feedback();
+  void askAbout(wl_surface* surface);
 
   HostConnection& host_;
   const std::shared_ptr<TaskQueue> answers_;
-  HostProxy<wl_surface> surface_;  // never shown: one to ask about
+  HostProxy<wl_surface> unshown_;  // to ask about while nothing is shown
   HostProxy<wp_color_management_surface_feedback_v1> feedback_;
   std::function<void(std::uint32_t)> changed_;
   std::vector<std::unique_ptr<Question>> questions_;

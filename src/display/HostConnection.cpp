@@ -166,6 +166,16 @@ std::string HostConnection::missing() const {
   return {};
 }
 
+void HostConnection::setPictureSurface(wl_surface* surface) {
+  pictureSurface_ = surface;
+  if (followPictureSurface_) followPictureSurface_(surface);
+}
+
+void HostConnection::followPictureSurface(std::function<void(wl_surface*)> follow) {
+  followPictureSurface_ = std::move(follow);
+  if (followPictureSurface_) followPictureSurface_(pictureSurface_);
+}
+
 void HostConnection::serve() {
   pthread_setname_np(pthread_self(), "host");
   while (!quits_) {

@@ -5,6 +5,7 @@
 #include <array>
 #include <atomic>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -41,6 +42,12 @@ class HostConnection {
 
   /// In order; any thread. Requests that the task makes are sent after it.
   void post(TaskQueue::Task task) { tasks_.post(std::move(task)); }
+
+  /// The surface that pictures are shown on; none: none is. Host thread.
+  void setPictureSurface(wl_surface* surface);
+  wl_surface* pictureSurface() const { return pictureSurface_; }
+  /// Tells of the present one, and of each that comes. None: nobody is told. Host thread.
+  void followPictureSurface(std::function<void(wl_surface*)> follow);
 
   // What the host has, from the beginning on. Those that are last may be missing.
   wl_compositor* compositor() const { return compositor_.get(); }
@@ -94,6 +101,8 @@ class HostConnection {
   bool hasOurClock_ = false;
   std::vector<std::string> globals_;
 
+  wl_surface* pictureSurface_ = nullptr;                   // host thread
+  std::function<void(wl_surface*)> followPictureSurface_;  // host thread
   TaskQueue tasks_;
   std::atomic<bool> quits_ = false;
   std::thread thread_;

@@ -25,6 +25,7 @@ std::shared_ptr<HostSubsurfaceSink> HostSubsurfaceSink::create(std::shared_ptr<H
                         .shown = later(sink->when(Way::mapping, &HostSubsurfaceSink::arrive)),
                         .refused = later(always(&HostSubsurfaceSink::fail)),
                     });
+  sink->host_->post([surface = sink->surface_] { surface->begin(); });
   Events ofTap;
   ofTap.committed = always(&HostSubsurfaceSink::tellCommitted);
   ofTap.firstShown = always(&HostSubsurfaceSink::tellFirstShown);

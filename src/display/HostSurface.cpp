@@ -101,7 +101,11 @@ HostSurface::HostSurface(HostConnection& host, Events events)
   wl_surface_set_input_region(surface(), nothing.get());
 }
 
-HostSurface::~HostSurface() = default;
+HostSurface::~HostSurface() {
+  if (host_.pictureSurface() == surface()) host_.setPictureSurface(nullptr);
+}
+
+void HostSurface::begin() { host_.setPictureSurface(surface()); }
 
 void HostSurface::setFrame(std::shared_ptr<Frame> frame) {
   frame_ = std::move(frame);

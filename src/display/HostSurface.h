@@ -26,7 +26,7 @@ class HostSurface {
     friend bool operator==(const Room&, const Room&) = default;
   };
 
-  /// Main thread. `host` outlives it.
+  /// Main thread, then begin() on the host thread. `host` outlives it.
   HostSurface(HostConnection& host, Events events);
   ~HostSurface();
   HostSurface(const HostSurface&) = delete;
@@ -35,6 +35,7 @@ class HostSurface {
   /// Any thread: the same all its life.
   wl_surface* surface() const { return surface_.get(); }
 
+  void begin();
   /// Supersedes the frame before; none takes the picture away.
   void setFrame(std::shared_ptr<Frame> frame);
   void setRoom(const Room& room);

@@ -284,6 +284,26 @@ TEST_F(RichHostSinkTest, ColoursAreToldWithTheFrameThatHasThem) {
   EXPECT_EQ(recorder().count("wp_color_management_surface_v1.set_image_description"), 1);
 }
 
+TEST_F(RichHostSinkTest, TheEngineHearsWhatTheHostPrefersWhereThePictureIs) {
+  show();
+  using Feedback = wp_color_management_surface_feedback_v1;
+  const HostProxy<Feedback> feedback(
+      wp_color_manager_v1_get_surface_feedback(client_->colorManager.get(), toplevel_->surface()));
+  std::uint32_t preferred = 0;
+  static constexpr wp_color_management_surface_feedback_v1_listener kListener{
+      .preferred_changed = [](void* data, Feedback*, std::uint32_t identity) {
+        *static_cast<std::uint32_t*>(data) = identity;
+      }};
+  wp_color_management_surface_feedback_v1_add_listener(feedback.get(), &kListener, &preferred);
+  client_->roundtrip();
+  // The first surface is one that is never shown; the picture's comes after it.
+  ASSERT_TRUE(
+      wait([&] { return recorder().count("wp_color_manager_v1.get_surface_feedback") == 2; }));
+  recorder().tell("wp_color_management_surface_feedback_v1",
+                  [](wl_resource* r) { wl_resource_post_event(r, kFirst, 7); });
+  EXPECT_TRUE(wait([&] { return preferred == 7; }));
+}
+
 TEST_F(RichHostSinkTest, WhereTheHostRefusesADmabufTheSceneDraws) {
   show();
   arrive();
