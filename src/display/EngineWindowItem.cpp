@@ -139,6 +139,7 @@ void EngineWindowItem::updatePlace() {
       .isRead = isRead_,
       .afterDrawing = [this](auto then) { afterDrawing(std::move(then)); },
   });
+  adoptHole();
 }
 
 /// The next swap may be of what was drawn before: the one after it isn't.

@@ -171,7 +171,6 @@ void HostSubsurfaceSink::applyPlace() {
   const QPoint position = picturePlace().topLeft();
   if (std::exchange(position_, position) == position || !subsurface_) return;
   wl_subsurface_set_position(subsurface_.get(), position.x(), position.y());
-  if (way_ == Way::host) tell(&Events::moved);
 }
 
 QRect HostSubsurfaceSink::picturePlace() const {

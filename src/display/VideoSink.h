@@ -29,7 +29,7 @@ class VideoSink {
         {};  // a picture is on its way to the screen, for the first time
     std::function<void()> refused =
         {};  // a picture can't be shown, and no other of its kind of memory
-    std::function<void()> moved = {};          // hole() is another
+    std::function<void()> moved = {};          // hole() is another, for no new place
     std::function<void()> refusedByHost = {};  // the scene shows the pictures in the host's place
   };
 
@@ -55,7 +55,8 @@ class VideoSink {
   /// Main thread: whoever received events is about to go.
   void disconnect();
 
-  /// Main thread: when something of it is new. Sinks that draw in the scene need none of it.
+  /// Main thread: when something of it is new; hole() may be another then. Sinks that draw in the
+  /// scene need none of it.
   virtual void setPlace(const Place& place);
   /// Main thread: in the window, in its units, where the host shows the picture below the scene,
   /// which must leave it free. Empty while the scene draws the picture.

@@ -40,6 +40,9 @@ TEST_F(RealHostTest, ShowsWhatTheEngineDrawsThroughHidingAndShowing) {
   TestBuffer plain({.size = sceneSize});
   plain.createShm(*client_);
   showOnHost(plain);
+  item_->setSize(sceneSize / 2);
+  EXPECT_EQ(item_->hole().size(), sceneSize / 2);
+  item_->setSize(sceneSize);
   for (int i = 0; i < 10; ++i) {
     scene_->hide();
     ASSERT_TRUE(wait([&] { return item_->hole().isEmpty(); }));
