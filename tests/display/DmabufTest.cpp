@@ -108,7 +108,8 @@ TEST_F(DmabufTest, AnErrorThatSomebodyLeftRefusesNothing) {
 /// Also where the processor draws, which imports nothing.
 TEST_F(DmabufTest, WhatCannotBeImportedIsRefusedAndTheNextComeThroughSharedMemory) {
   int refused = 0;
-  QObject::connect(item_, &EngineWindowItem::pictureRefused, item_, [&] { ++refused; });
+  const QObject listener;  // ends before what it counts
+  QObject::connect(item_, &EngineWindowItem::pictureRefused, &listener, [&] { ++refused; });
   TestBuffer& buffer = add({.size = sceneSize}, unknownTiling);
   toplevel_->commit(&buffer);
   EXPECT_TRUE(wait([&] { return refused > 0 && buffer.releases() == 1; }));

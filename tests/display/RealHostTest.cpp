@@ -56,7 +56,8 @@ TEST_F(RealHostTest, ShowsDmabufs) {
   TestBuffer buffer({.size = sceneSize});
   buffer.createDmabuf(*client_);
   bool isRefused = false;
-  QObject::connect(item_, &EngineWindowItem::refusedByHost, [&] { isRefused = true; });
+  const QObject listener;  // ends before what it sets
+  QObject::connect(item_, &EngineWindowItem::refusedByHost, &listener, [&] { isRefused = true; });
   showOnHost(buffer);
   EXPECT_FALSE(isRefused);
 }
