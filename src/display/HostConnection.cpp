@@ -156,7 +156,7 @@ void HostConnection::listen(const std::string& interface) {
 }
 
 std::string HostConnection::missing() const {
-  if (!compositor_ || wl_proxy_get_version(reinterpret_cast<wl_proxy*>(compositor_.get())) < 4)
+  if (!compositor_ || wl_compositor_get_version(compositor_.get()) < kCompositorVersion)
     return "wl_compositor 4";
   if (!subcompositor_) return wl_subcompositor_interface.name;
   if (!viewporter_) return wp_viewporter_interface.name;

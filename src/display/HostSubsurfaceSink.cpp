@@ -93,12 +93,13 @@ void HostSubsurfaceSink::goToHost() {
   }
 }
 
-void HostSubsurfaceSink::map() {
-  setWay(Way::mapping);
-  host_->post([surface = surface_, main = mainThread(),
-               nudge = when(Way::mapping, &HostSubsurfaceSink::nudge)] {
-    surface->setMapped(true);
-    main->run(nudge);
+void HostSubsurfaceSink::map() { setMapped(true, Way::mapping, &HostSubsurfaceSink::nudge); }
+
+void HostSubsurfaceSink::setMapped(bool mapped, Way way, void (HostSubsurfaceSink::*told)()) {
+  setWay(way);
+  host_->post([surface = surface_, mapped, main = mainThread(), told = when(way, told)] {
+    surface->setMapped(mapped);
+    main->run(told);
   });
 }
 
@@ -132,14 +133,7 @@ void HostSubsurfaceSink::goToScene() {
 }
 
 /// The surface is empty before it is a new window's: Weston forgets one that isn't.
-void HostSubsurfaceSink::leave() {
-  setWay(Way::unmapping);
-  host_->post([surface = surface_, main = mainThread(),
-               settled = when(Way::unmapping, &HostSubsurfaceSink::settle)] {
-    surface->setMapped(false);
-    main->run(settled);
-  });
-}
+void HostSubsurfaceSink::leave() { setMapped(false, Way::unmapping, &HostSubsurfaceSink::settle); }
 
 void HostSubsurfaceSink::settle() {
   setWay(Way::scene);

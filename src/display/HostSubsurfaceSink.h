@@ -45,6 +45,8 @@ class HostSubsurfaceSink final : public VideoSink,
   bool canGoToHost() const;
   void goToHost();
   void map();
+  /// `told` follows once the host has been told, unless the way is another by then.
+  void setMapped(bool mapped, Way way, void (HostSubsurfaceSink::*told)());
   void nudge();
   void arrive();
   void goToScene();

@@ -178,19 +178,19 @@ void HostSurface::applyColor(const std::optional<SurfaceColor>& color) {
 
 void HostSurface::applyPlace(const Frame& frame) {
   const Frame::Content& content = frame.content();
-  const QSize size = placeInPoints(content.size, room_.size, room_.devicePixelRatio).size();
+  const Placement placement{
+      placeInPoints(content.size, room_.size, room_.devicePixelRatio).size(),
+      content.source == QRectF({}, content.buffer->size) ? QRectF(-1, -1, -1, -1) : content.source,
+      isOpaque(content)};
+  if (std::exchange(placement_, placement) == placement) return;
+  const auto& [size, source, opaque] = placement;
   wp_viewport_set_destination(viewport_.get(), size.width(), size.height());
-  const QRectF& source = content.source;
-  if (source == QRectF({}, content.buffer->size))
-    wp_viewport_set_source(viewport_.get(), wl_fixed_from_int(-1), wl_fixed_from_int(-1),
-                           wl_fixed_from_int(-1), wl_fixed_from_int(-1));
-  else
-    wp_viewport_set_source(viewport_.get(), wl_fixed_from_double(source.x()),
-                           wl_fixed_from_double(source.y()), wl_fixed_from_double(source.width()),
-                           wl_fixed_from_double(source.height()));
-  const HostProxy<wl_region> opaque(wl_compositor_create_region(host_.compositor()));
-  if (isOpaque(content)) wl_region_add(opaque.get(), 0, 0, size.width(), size.height());
-  wl_surface_set_opaque_region(surface(), opaque.get());
+  wp_viewport_set_source(viewport_.get(), wl_fixed_from_double(source.x()),
+                         wl_fixed_from_double(source.y()), wl_fixed_from_double(source.width()),
+                         wl_fixed_from_double(source.height()));
+  const HostProxy<wl_region> region(wl_compositor_create_region(host_.compositor()));
+  if (opaque) wl_region_add(region.get(), 0, 0, size.width(), size.height());
+  wl_surface_set_opaque_region(surface(), region.get());
 }
 
 void HostSurface::follow(const std::shared_ptr<Frame>& frame) {

@@ -68,6 +68,14 @@ class HostSurface {
   std::shared_ptr<Frame> frame_;
   std::optional<SurfaceColor> color_;  // as the host has been told
   Room room_;
+  /// What the host has been told of where the buffer goes.
+  struct Placement {
+    QSize size;
+    QRectF source;  // -1: all of the buffer
+    bool opaque = false;
+    friend bool operator==(const Placement&, const Placement&) = default;
+  };
+  std::optional<Placement> placement_;
   double opacity_ = 1;
   bool isMapped_ = false;
   bool isShown_ = false;            // told

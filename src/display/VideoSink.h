@@ -24,13 +24,16 @@ namespace tromelo {
 class VideoSink {
  public:
   struct Events {
-    std::function<void()> committed = {};  // another picture waits, or none is there any more
-    std::function<void()> firstShown =
-        {};  // a picture is on its way to the screen, for the first time
-    std::function<void()> refused =
-        {};  // a picture can't be shown, and no other of its kind of memory
-    std::function<void()> moved = {};          // hole() is another, for no new place
-    std::function<void()> refusedByHost = {};  // the scene shows the pictures in the host's place
+    /// Another picture waits, or none is there any more.
+    std::function<void()> committed = {};
+    /// A picture is on its way to the screen, for the first time.
+    std::function<void()> firstShown = {};
+    /// A picture can't be shown, and no other of its kind of memory.
+    std::function<void()> refused = {};
+    /// hole() is another, for no new place.
+    std::function<void()> moved = {};
+    /// The scene shows the pictures in the host's place.
+    std::function<void()> refusedByHost = {};
   };
 
   /// Where the item that shows the pictures is.
