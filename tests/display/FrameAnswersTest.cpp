@@ -79,27 +79,6 @@ TEST_F(FrameAnswersTest, ASupersededFrameIsDiscardedAndItsBufferComesBack) {
   EXPECT_EQ(second->frameCallbacks, 1);
 }
 
-TEST_F(FrameAnswersTest, WhatAHostTellsIsPassedOnAsItIs) {
-  const auto first = commit(0);
-  const auto discarded = takeFrame();
-  const auto second = commit(1);
-  const auto frame = takeFrame();
-  discarded->markDiscarded();
-  frame->answerCallbacks(7ms);
-  EXPECT_TRUE(wait([&] { return first->presentation && second->frameCallbacks == 1; }));
-  EXPECT_FALSE(first->presentation->presented);
-  EXPECT_EQ(first->frameCallbacks, 1);
-  EXPECT_EQ(second->callbackTime, 7u);
-  EXPECT_FALSE(second->presentation);
-  EXPECT_EQ(buffers_[0]->releases(), 0) << "the host may still read it";
-  frame->markShown({12s + 34ns, Presentation::Retrace{16'666'667ns, 41, 7}});
-  EXPECT_TRUE(wait([&] { return second->presentation.has_value(); }));
-  EXPECT_EQ(*second->presentation,
-            (TestToplevel::Presentation{true, 12'000'000'034, 16'666'667, 41, 7}));
-  frame->releaseBuffer();
-  EXPECT_TRUE(wait([&] { return buffers_[1]->releases() == 1; }));
-}
-
 TEST_F(FrameAnswersTest, ASinkThatComesLateGetsTheNewestFrame) {
   openWindow();
   commit(0);

@@ -51,6 +51,7 @@ RecordingHost::RecordingHost(std::vector<Feature> features, std::vector<std::str
   for (const Feature feature : features) {
     if (feature == Feature::alphaModifier) offer(wp_alpha_modifier_v1_interface, 1);
     if (feature == Feature::colorManager) offer(wp_color_manager_v1_interface, 1);
+    if (feature == Feature::output) offer(wl_output_interface, 1);
     if (feature == Feature::dmabuf) offer(zwp_linux_dmabuf_v1_interface, 3);
   }
   std::array<int, 2> ends{};

@@ -27,7 +27,7 @@ namespace tromelo::testing {
 class RecordingHost {
  public:
   /// Beside what showing a picture takes.
-  enum class Feature { alphaModifier, colorManager, dmabuf };
+  enum class Feature { alphaModifier, colorManager, dmabuf, output };
 
   explicit RecordingHost(std::vector<Feature> features = {}, std::vector<std::string> without = {});
   ~RecordingHost();
