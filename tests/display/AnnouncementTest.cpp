@@ -13,7 +13,6 @@
 #include "display/VulkanDevices.h"
 
 namespace tromelo::testing {
-namespace {
 
 using AnnouncementTest = DisplayTest;
 
@@ -98,5 +97,4 @@ TEST(EngineDevice, IsTheOneThatDrawsTheScene) {
   EXPECT_EQ(vulkanUuidOf(103, devices), "");
 }
 
-}  // namespace
 }  // namespace tromelo::testing

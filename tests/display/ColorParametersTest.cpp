@@ -5,7 +5,6 @@
 #include "color-management-v1-client-protocol.h"
 
 namespace tromelo {
-namespace {
 
 // A host ends the connection for each of these, and the program with it.
 TEST(ColorParametersTest, FindsTheFaultsThatAHostEndsConnectionsFor) {
@@ -49,5 +48,4 @@ TEST(ColorParametersTest, FindsTheFaultsThatAHostEndsConnectionsFor) {
     EXPECT_TRUE(faulty.faultOfWhole());
 }
 
-}  // namespace
 }  // namespace tromelo

@@ -14,7 +14,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 constexpr std::uint64_t linear = 0;
 constexpr std::uint64_t someTiling = 0x0100000000000001;
@@ -168,5 +167,4 @@ TEST_F(DmabufTest, WhatWasNotAnnouncedIsRefused) {
   show(addImported(Qt::green));
 }
 
-}  // namespace
 }  // namespace tromelo::testing

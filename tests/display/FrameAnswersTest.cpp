@@ -4,7 +4,6 @@
 #include "DisplayTest.h"
 
 namespace tromelo::testing {
-namespace {
 
 using namespace std::chrono_literals;
 
@@ -171,5 +170,4 @@ TEST_F(BusySceneTest, SurfacesWithoutAWindowAreAnsweredToo) {
   EXPECT_TRUE(wait([&] { return done == 1 && buffers_[0]->releases() == 1; }));
 }
 
-}  // namespace
 }  // namespace tromelo::testing

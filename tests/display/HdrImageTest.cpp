@@ -9,7 +9,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 /// One grey all over.
 class HdrItem : public QQuickItem {
@@ -63,5 +62,4 @@ TEST(HdrImageTest, LeavesWhatIsDarkAsItIsAndPressesHighlightsBelowWhite) {
   }
 }
 
-}  // namespace
 }  // namespace tromelo::testing

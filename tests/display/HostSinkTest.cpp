@@ -15,8 +15,6 @@
 
 namespace tromelo::testing {
 
-namespace {
-
 using Feature = RecordingHost::Feature;
 
 // By the protocols' order of events.
@@ -314,7 +312,5 @@ TEST_F(RichHostSinkTest, WhereTheHostRefusesADmabufTheSceneDraws) {
                   [](wl_resource* r) { wl_resource_post_event(r, kSecond); });
   EXPECT_TRUE(wait([&] { return refusals_ == 1 && sink_->hole().isEmpty(); }));
 }
-
-}  // namespace
 
 }  // namespace tromelo::testing

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 namespace tromelo::testing {
-namespace {
 
 TEST(PicturePlacementTest, FitsWithTheAspectKept) {
   const struct {
@@ -32,5 +31,4 @@ TEST(PicturePlacementTest, FitsWithTheAspectKept) {
   }
 }
 
-}  // namespace
 }  // namespace tromelo::testing

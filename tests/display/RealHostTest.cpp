@@ -6,7 +6,6 @@
 #include "display/VideoSinkKind.h"
 
 namespace tromelo::testing {
-namespace {
 
 class RealHostTest : public SceneTest {
  protected:
@@ -62,5 +61,4 @@ TEST_F(RealHostTest, ShowsDmabufs) {
   EXPECT_FALSE(isRefused);
 }
 
-}  // namespace
 }  // namespace tromelo::testing

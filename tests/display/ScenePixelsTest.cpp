@@ -4,7 +4,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 using ScenePixelsTest = SceneTest;
 
@@ -95,5 +94,4 @@ TEST_F(ScenePixelsTest, TheLastPictureStaysWhenTheWindowIsTakenDownUntilAnotherI
   EXPECT_EQ(middle(), QColor(Qt::green));
 }
 
-}  // namespace
 }  // namespace tromelo::testing

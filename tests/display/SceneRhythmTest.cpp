@@ -5,7 +5,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 class SceneRhythmTest : public SceneTest {
  protected:
@@ -65,5 +64,4 @@ TEST_F(SceneRhythmTest, ASceneMayGoWithFramesOnTheWay) {
   EXPECT_EQ(middle(), QColor(Qt::red));
 }
 
-}  // namespace
 }  // namespace tromelo::testing

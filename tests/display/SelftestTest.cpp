@@ -2,7 +2,6 @@
 #include "display/DisplaySelftest.h"
 
 namespace tromelo::testing {
-namespace {
 
 TEST(SelftestTest, SaysWhatThereIsAndWhatTheEngineDrew) {
   std::unique_ptr<TestClient> client;
@@ -30,5 +29,4 @@ TEST(SelftestTest, SaysWhatThereIsAndWhatTheEngineDrew) {
     EXPECT_TRUE(report.contains(part)) << part << "isn't in\n" << report.toStdString();
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -10,7 +10,6 @@
 #include <QTemporaryDir>
 
 namespace tromelo::testing {
-namespace {
 
 class SocketDirectoryTest : public ::testing::Test {
  protected:
@@ -71,5 +70,4 @@ TEST_F(SocketDirectoryTest, FallsBackWhenTheRuntimeDirectoryWontDo) {
   qputenv("XDG_RUNTIME_DIR", before);
 }
 
-}  // namespace
 }  // namespace tromelo::testing

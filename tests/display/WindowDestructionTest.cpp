@@ -4,7 +4,6 @@
 #include "DisplayTest.h"
 
 namespace tromelo::testing {
-namespace {
 
 enum class Moment { Created, Committed, Drawn, WaitingForTheScene, WithTheScene, Shown };
 enum class End { WindowDestroyed, ClientGone, DisplayGone };
@@ -84,5 +83,4 @@ TEST_F(WindowDestructionTest, TheMainThreadsSideMayBeUsedUntilItIsGone) {
   EXPECT_TRUE(wait([&] { return display_->windows().isEmpty(); }));
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -3,7 +3,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 using WindowStateTest = DisplayTest;
 
@@ -95,5 +94,4 @@ TEST_F(WindowStateTest, IsMinimisedUntilTheHostShowsItAndHiddenWithoutAPicture) 
   EXPECT_EQ(announced_, 1);
 }
 
-}  // namespace
 }  // namespace tromelo::testing

@@ -6,7 +6,6 @@
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
-namespace {
 
 class Hdr : public EndToEnd {
  protected:
@@ -58,5 +57,4 @@ TEST_F(Hdr, ReachesTheHostAsTheFilmHasIt) {
   EXPECT_EQ(sent("wp_color_manager_v1#\\d+\\.get_surface\\("), 1);
 }
 
-}  // namespace
 }  // namespace tromelo::testing

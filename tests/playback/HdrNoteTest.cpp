@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 namespace tromelo {
-namespace {
 
 TEST(HdrNoteTest, SaysTheFirstThingThatStandsInTheWay) {
   using Obstacle = PictureWay::Obstacle;
@@ -38,5 +37,4 @@ TEST(HdrNoteTest, SaysTheFirstThingThatStandsInTheWay) {
   }
 }
 
-}  // namespace
 }  // namespace tromelo
