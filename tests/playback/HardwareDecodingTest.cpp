@@ -18,7 +18,6 @@ TEST(HardwareDecoding, IsGivenUpAfterErrorsThatSeekingDoesNotExplain) {
   constexpr double kRestart = 100;
   for (const auto& [what, errors, expected] :
        Table<const char*, std::vector<double>, std::optional<double>>{
-           {"none", {}, {}},
            {"in the middle of playback", {105}, 105},
            {"just after a seek", {100.5}, {}},
            {"exactly a second after it", {101}, {}},
@@ -55,22 +54,6 @@ TEST(HardwareDecoding, ASecondBurstCountsHoweverSoonAfterASeek) {
   EXPECT_TRUE(decoding.givesUpAfterError(107.2));
 }
 
-TEST(HardwareDecoding, IsDescribed) {
-  using Reported = std::optional<std::string>;
-  for (const auto& [reported, forced, loaded, expected] :
-       Table<Reported, bool, bool, std::optional<QString>>{
-           {"vaapi", false, false, "Hardware (vaapi)"},
-           {"vaapi", true, true, "Hardware (vaapi)"},
-           {"no", true, false, "Software (stream rejected by VideoToolbox)"},
-           {"", true, true, "Software (stream rejected by VideoToolbox)"},
-           {"no", false, true, "Software (FFmpeg)"},
-           {std::nullopt, false, true, "Software (FFmpeg)"},
-           {"no", false, false, {}}}) {
-    EXPECT_EQ(decoderText(reported, forced, loaded), expected)
-        << reported.value_or("none") << forced << loaded;
-  }
-}
-
 TEST_F(Decoder, FallsBackForThisFileAndOpensItInSoftwareFromThenOn) {
   clock_.advance(std::chrono::seconds(100));
   load();
@@ -85,14 +68,17 @@ TEST_F(Decoder, FallsBackForThisFileAndOpensItInSoftwareFromThenOn) {
   fails();
   fails();
   EXPECT_EQ(takeRequests(), (Requests{{"set", "file-local-options/hwdec", "no"}}));
-  report(P::hwdecCurrent, "no");
-  EXPECT_EQ(model().decoder(), kRejected);
-  report(P::hwdecCurrent, {});
-  EXPECT_EQ(model().decoder(), kRejected);
+  report(P::hwdecCurrent, "vaapi");
+  EXPECT_EQ(model().decoder(), "Hardware (vaapi)");
+  for (const MpvValue& none : {MpvValue("no"), MpvValue(""), MpvValue()}) {
+    report(P::hwdecCurrent, none);
+    EXPECT_EQ(model().decoder(), kRejected);
+  }
 
   report(event::StartFile{});
-  EXPECT_EQ(model().decoder(), "Selecting decoder");
   report(P::path, "/films/b.mkv");
+  report(P::hwdecCurrent, "no");
+  EXPECT_EQ(model().decoder(), "Selecting decoder");
   report(event::FileLoaded{});
   report(P::hwdecCurrent, "no");
   EXPECT_EQ(model().decoder(), "Software (FFmpeg)");
