@@ -6,7 +6,7 @@
 #include <cerrno>
 
 #include "display/TaskQueue.h"
-#include "display/UniqueFd.h"
+#include "platform/UniqueFd.h"
 
 namespace tromelo {
 

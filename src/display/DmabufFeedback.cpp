@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "display/HostProxy.h"
-#include "display/UniqueFd.h"
+#include "platform/UniqueFd.h"
 #include "linux-dmabuf-v1-client-protocol.h"
 
 namespace tromelo {

@@ -6,7 +6,7 @@
 
 #include "color-management-v1-client-protocol.h"
 #include "color-management-v1-server-protocol.h"
-#include "display/UniqueFd.h"
+#include "platform/UniqueFd.h"
 
 namespace tromelo {
 

@@ -4,7 +4,7 @@
 #include <QString>
 #include <memory>
 
-#include "display/UniqueFd.h"
+#include "platform/UniqueFd.h"
 
 namespace tromelo {
 

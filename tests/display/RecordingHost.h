@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "display/TaskQueue.h"
-#include "display/UniqueFd.h"
+#include "platform/UniqueFd.h"
 
 struct wl_client;
 struct wl_interface;

@@ -6,7 +6,7 @@
 #include <functional>
 
 #include "TestClient.h"
-#include "display/UniqueFd.h"
+#include "platform/UniqueFd.h"
 
 namespace tromelo::testing {
 
