@@ -1,6 +1,6 @@
 # Every library the program stands on, with the oldest version that serves.
 find_package(Qt6 QUIET COMPONENTS
-  Core Gui Widgets DBus Network Qml Quick QuickControls2 ShaderTools LinguistTools)
+  Core Gui Widgets DBus Network Qml Quick QuickControls2 ShaderTools Sql LinguistTools)
 if(NOT Qt6_FOUND OR Qt6_VERSION VERSION_LESS 6.8)
   message(FATAL_ERROR "Tromelo needs Qt 6.8 or newer with Qt Quick; found ${Qt6_VERSION}.")
 endif()

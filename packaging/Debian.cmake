@@ -30,6 +30,7 @@ set(loaded
   fonts-material-design-icons-iconfont
   hicolor-icon-theme
   "libmpv2 (>= 0.38)"
+  libqt6sql6-sqlite
   libqt6svg6
   "mesa-vulkan-drivers | vulkan-icd"
   qml6-module-qtqml-workerscript
