@@ -37,7 +37,7 @@ int sendCommand(const MpvClientApi& api, mpv_handle* handle, const MpvCommand& c
   arguments.reserve(command.arguments.size() + 1);
   for (const std::string& argument : command.arguments) arguments.push_back(argument.c_str());
   arguments.push_back(nullptr);
-  return api.commandAsync(handle, 0, arguments.data());
+  return api.commandAsync(handle, command.reply, arguments.data());
 }
 
 int sendWrite(const MpvClientApi& api, mpv_handle* handle, const MpvPropertyWrite& write) {
@@ -114,6 +114,7 @@ void MpvEngine::terminate(std::function<void()> completion) {
   waiting_.clear();
   refusals_.clear();
   reads_.clear();
+  outcomes_.clear();
   wakeupTarget_->engine = nullptr;
   api_->setWakeupCallback(handle.pointer, nullptr, nullptr);
   // The application object waits for the pool before it is gone, so that the process never ends
@@ -126,7 +127,13 @@ void MpvEngine::terminate(std::function<void()> completion) {
 }
 
 void MpvEngine::command(std::vector<std::string> arguments) {
-  send(MpvCommand{std::move(arguments)});
+  send(MpvCommand{.arguments = std::move(arguments)});
+}
+
+void MpvEngine::command(std::vector<std::string> arguments, Outcome outcome) {
+  if (!handle_) return;
+  outcomes_.emplace(++lastReply_, std::move(outcome));
+  send(MpvCommand{std::move(arguments), lastReply_});
 }
 
 void MpvEngine::setProperty(std::string name, std::string value) {
@@ -135,8 +142,8 @@ void MpvEngine::setProperty(std::string name, std::string value) {
 
 void MpvEngine::readProperty(std::string name, Answer answer) {
   if (!handle_) return;
-  reads_.emplace(++lastRead_, std::move(answer));
-  send(MpvPropertyRead{std::move(name), lastRead_});
+  reads_.emplace(++lastReply_, std::move(answer));
+  send(MpvPropertyRead{std::move(name), lastReply_});
 }
 
 void MpvEngine::answerRead(const mpv_event& reply) {
@@ -165,15 +172,16 @@ void MpvEngine::sendWaiting() {
   while (handle_ && !waiting_.empty()) {
     const int code = trySend(waiting_.front());
     if (code == MPV_ERROR_EVENT_QUEUE_FULL) return;
-    if (std::holds_alternative<MpvCommand>(waiting_.front())) noteRefusal(code);
+    if (const auto* command = std::get_if<MpvCommand>(&waiting_.front()))
+      noteRefusal(*command, code);
     waiting_.pop_front();
   }
 }
 
-void MpvEngine::noteRefusal(int code) {
+void MpvEngine::noteRefusal(const MpvCommand& command, int code) {
   auto error = mpvErrorText(*api_, code);
   if (!error) return;
-  refusals_.push_back(std::move(*error));
+  refusals_.push_back({command.reply, std::move(*error)});
   WakeupTarget::wakeup(wakeupTarget_.get());
 }
 
@@ -187,14 +195,28 @@ int MpvEngine::trySend(const MpvRequest& request) {
   return sendWrite(*api_, handle_, std::get<MpvPropertyWrite>(request));
 }
 
-void MpvEngine::drainEvents() {
-  for (const std::string& error : std::exchange(refusals_, {})) {
-    if (handle_) onEvent(event::CommandFailed{error});
+bool MpvEngine::tellOutcome(std::uint64_t reply, const std::optional<std::string>& error) {
+  const auto outcome = outcomes_.extract(reply);
+  if (outcome) outcome.mapped()(error);
+  return !outcome.empty();
+}
+
+void MpvEngine::tellRefusals() {
+  for (const Refusal& refusal : std::exchange(refusals_, {})) {
+    if (handle_ && !tellOutcome(refusal.reply, refusal.error))
+      onEvent(event::CommandFailed{refusal.error});
   }
+}
+
+void MpvEngine::drainEvents() {
+  tellRefusals();
   while (handle_) {
     const mpv_event* received = api_->waitEvent(handle_, 0);
     if (!received || received->event_id == MPV_EVENT_NONE) break;
     if (received->event_id == MPV_EVENT_GET_PROPERTY_REPLY) answerRead(*received);
+    if (received->event_id == MPV_EVENT_COMMAND_REPLY &&
+        tellOutcome(received->reply_userdata, mpvErrorText(*api_, received->error)))
+      continue;
     if (const auto translated = translateMpvEvent(*api_, *received)) onEvent(*translated);
   }
   sendWaiting();

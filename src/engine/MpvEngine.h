@@ -24,6 +24,7 @@ class WakeupTarget;
 /// What is sent to the engine, in the order in which it was asked for.
 struct MpvCommand {
   std::vector<std::string> arguments;  // the first is the command's name
+  std::uint64_t reply = 0;             // that its outcome comes back with
 };
 struct MpvPropertyWrite {
   std::string name;
@@ -64,6 +65,10 @@ class MpvEngine {
 
   /// A command's failure comes back as an event.
   void command(std::vector<std::string> arguments);
+  /// Called on the main thread with what went wrong, if anything did; never after terminate().
+  using Outcome = std::function<void(const std::optional<std::string>& error)>;
+  /// For a command whose failure is no event but its sender's affair.
+  void command(std::vector<std::string> arguments, Outcome outcome);
   /// A refused value is not reported.
   void setProperty(std::string name, std::string value);
 
@@ -85,8 +90,10 @@ class MpvEngine {
   void send(MpvRequest request);
   void sendWaiting();
   int trySend(const MpvRequest& request);
-  void noteRefusal(int code);
+  void noteRefusal(const MpvCommand& command, int code);
+  void tellRefusals();
   void answerRead(const mpv_event& reply);
+  bool tellOutcome(std::uint64_t reply, const std::optional<std::string>& error);
 
   std::unique_ptr<const MpvClientApi> api_;
   mpv_handle* handle_ = nullptr;
@@ -94,10 +101,15 @@ class MpvEngine {
   // libmpv takes no more requests than it has room for replies, and refuses the rest; these wait
   // until it has answered some.
   std::deque<MpvRequest> waiting_;
-  // The errors of commands that libmpv refused on the spot, reported as its later replies are.
-  std::vector<std::string> refusals_;
-  std::map<std::uint64_t, Answer> reads_;  // without an answer yet, by their reply
-  std::uint64_t lastRead_ = 0;
+  // By command, of those that libmpv refused on the spot; reported as its later replies are.
+  struct Refusal {
+    std::uint64_t reply;
+    std::string error;
+  };
+  std::vector<Refusal> refusals_;
+  std::map<std::uint64_t, Answer> reads_;      // without an answer yet, by their reply
+  std::map<std::uint64_t, Outcome> outcomes_;  // the same of commands
+  std::uint64_t lastReply_ = 0;
 };
 
 }  // namespace tromelo

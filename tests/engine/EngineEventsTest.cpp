@@ -114,4 +114,17 @@ TEST_F(EngineEvents, ACommandThatIsRefusedOnTheSpotFailsLater) {
       (std::vector<MpvEvent>{event::CommandFailed{mpv_error_string(MPV_ERROR_INVALID_PARAMETER)}}));
 }
 
+TEST_F(EngineEvents, AnOutcomeIsToldToItsSenderAlone) {
+  std::vector<std::optional<std::string>> outcomes;
+  const auto note = [&](const std::optional<std::string>& error) { outcomes.push_back(error); };
+  engine->command({"screenshot-to-file", "/a.png"}, note);
+  mpv.refusal = MPV_ERROR_INVALID_PARAMETER;
+  engine->command({"no-such-command"}, note);
+  mpv.queue(MPV_EVENT_COMMAND_REPLY, nullptr, 1);
+  ASSERT_TRUE(waitFor([&] { return outcomes.size() == 2; }));
+  EXPECT_EQ(outcomes[0], mpv_error_string(MPV_ERROR_INVALID_PARAMETER));
+  EXPECT_EQ(outcomes[1], std::nullopt);
+  EXPECT_TRUE(received.empty());
+}
+
 }  // namespace tromelo::testing
