@@ -167,6 +167,33 @@
     </message>
 </context>
 <context>
+    <name>FilmDatabase</name>
+    <message>
+        <source>Where you stop in films can&apos;t be remembered now: another program holds %1; close it.</source>
+        <translation>Wo Sie in Filmen aufhören, lässt sich jetzt nicht merken: Ein anderes Programm hält %1 fest; beenden Sie es.</translation>
+    </message>
+    <message>
+        <source>Where you stop in films can&apos;t be remembered in %1: %2; free some space there or make it yours.</source>
+        <translation>Wo Sie in Filmen aufhören, lässt sich in %1 nicht merken: %2; schaffen Sie dort Platz oder machen Sie es zu Ihrem.</translation>
+    </message>
+    <message>
+        <source>Where you stop in films can&apos;t be remembered: Qt&apos;s SQLite driver is missing; install it (libqt6sql6-sqlite).</source>
+        <translation>Wo Sie in Filmen aufhören, lässt sich nicht merken: Der SQLite-Treiber von Qt fehlt; installieren Sie ihn (libqt6sql6-sqlite).</translation>
+    </message>
+    <message>
+        <source>Where you stop in films isn&apos;t remembered: %1 is a newer Tromelo&apos;s; update this one.</source>
+        <translation>Wo Sie in Filmen aufhören, wird nicht gemerkt: %1 stammt von einem neueren Tromelo; aktualisieren Sie dieses.</translation>
+    </message>
+    <message>
+        <source>Where you stop in films can&apos;t be remembered: %1 is damaged, and can&apos;t be set aside; move it away.</source>
+        <translation>Wo Sie in Filmen aufhören, lässt sich nicht merken: %1 ist beschädigt und lässt sich nicht beiseitelegen; verschieben Sie es.</translation>
+    </message>
+    <message>
+        <source>The memory of your films was damaged and begins anew; the old one is kept as %1.</source>
+        <translation>Das Gedächtnis Ihrer Filme war beschädigt und beginnt neu; das alte liegt in %1.</translation>
+    </message>
+</context>
+<context>
     <name>GeneralSettings</name>
     <message>
         <source>Hide player controls after</source>

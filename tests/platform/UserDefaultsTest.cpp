@@ -1,8 +1,6 @@
 #include "platform/UserDefaults.h"
 
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/resource.h>
 
 #include <QDir>
 #include <QFile>
@@ -11,6 +9,7 @@
 #include <thread>
 
 #include "support/Files.h"
+#include "support/FullDisk.h"
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
@@ -19,24 +18,6 @@ struct UserDefaultsTest : ::testing::Test {
   QString path() const { return directory_.filePath("store/defaults.json"); }
 
   QTemporaryDir directory_;
-};
-
-/// No file grows above so many bytes, as on a full disk.
-struct FullDisk {
-  explicit FullDisk(rlim_t bytes) {
-    ::getrlimit(RLIMIT_FSIZE, &before_);
-    handler_ = ::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{bytes, before_.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FullDisk() {
-    ::setrlimit(RLIMIT_FSIZE, &before_);
-    ::signal(SIGXFSZ, handler_);
-  }
-
- private:
-  rlimit before_{};
-  sighandler_t handler_ = SIG_DFL;
 };
 
 TEST_F(UserDefaultsTest, TheLastOfManyQuickChangesIsOnDisk) {
