@@ -102,6 +102,8 @@ bool DisplayServer::createGlobals(const VideoSinkKind& sinkKind) {
       !wlr_viewporter_create(display) || !createPresentation(display, backend_))
     return false;
   if (sinkKind.dmabuf) dmabuf_ = std::make_unique<DmabufGlobal>(display, *sinkKind.dmabuf);
+  if (dmabuf_ && sinkKind.syncDevice && EngineSync::announce(display, *sinkKind.syncDevice))
+    syncDevice_ = sinkKind.syncDevice;
   if (sinkKind.announceMore) sinkKind.announceMore(display);
   newSurface_.connect(compositor->events.new_surface,
                       [this](void* data) { addSurface(static_cast<wlr_surface*>(data)); });
@@ -134,7 +136,8 @@ void DisplayServer::acceptClients() {
 }
 
 void DisplayServer::addSurface(wlr_surface* surface) {
-  const EngineSurface::Place place{wl_display_get_event_loop(display_.get()), output_, queue_};
+  const EngineSurface::Place place{wl_display_get_event_loop(display_.get()), output_, queue_,
+                                   syncDevice_};
   wlr_surface_send_enter(surface, output_);
   surfaces_.emplace(surface, std::make_unique<EngineSurface>(
                                  surface, place, [this, surface] { surfaces_.erase(surface); }));

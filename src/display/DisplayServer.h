@@ -63,6 +63,7 @@ class DisplayServer {
   std::optional<EventSource> tasks_;
   std::optional<EventSource> door_;
   std::unique_ptr<DmabufGlobal> dmabuf_;
+  std::shared_ptr<const SyncDevice> syncDevice_;
   wlr_seat* seat_ = nullptr;
   Listener newSurface_;
   Listener newToplevel_;

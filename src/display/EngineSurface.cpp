@@ -35,6 +35,7 @@ EngineSurface::EngineSurface(wlr_surface* surface, const Place& place,
                              std::function<void()> destroyed)
     : surface_(surface),
       queue_(place.queue),
+      sync_(place.syncDevice),
       ledger_(std::make_shared<FrameLedger>(place.loop, place.output, [this] {
         if (window_) window_->remindOfHidden();
       })) {
@@ -62,9 +63,11 @@ void EngineSurface::setSink(std::shared_ptr<VideoSink> sink) {
 
 void EngineSurface::committed() {
   const wlr_surface_state& state = surface_->current;
-  const bool hasNewPicture = window_ && (state.committed & WLR_SURFACE_STATE_BUFFER);
+  const bool hasNewBuffer = state.committed & WLR_SURFACE_STATE_BUFFER;
+  const bool hasNewPicture = window_ && hasNewBuffer;
   if (hasNewPicture) ++sequence_;
   ledger_->committed(surface_, sequence_);
+  if (hasNewBuffer && !hasNewPicture) sync_.of(surface_);  // nobody reads it
   if (!hasNewPicture) return;
   if (!state.buffer) {
     deliver(nullptr);
@@ -73,7 +76,7 @@ void EngineSurface::committed() {
   } else {
     ledger_->discarded(sequence_);
     wl_client_post_implementation_error(wl_resource_get_client(surface_->resource),
-                                        "the buffer's memory can't be read");
+                                        "the buffer can't be read");
   }
 }
 
@@ -89,7 +92,10 @@ std::shared_ptr<Frame> EngineSurface::makeFrame() {
       .color = surfaceColorOf(surface_),
   };
   if (!content.buffer) return nullptr;
-  return std::make_shared<Frame>(std::move(content), buffer, queue_, ledger_);
+  auto sync = sync_.of(surface_);
+  const bool isDmabuf = std::holds_alternative<DmabufPixels>(content.buffer->pixels);
+  if (EngineSync::isAsked(surface_) && !(sync && isDmabuf)) return nullptr;
+  return std::make_shared<Frame>(std::move(content), buffer, std::move(sync), queue_, ledger_);
 }
 
 void EngineSurface::deliver(std::shared_ptr<Frame> frame) {

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 
+#include "display/EngineSync.h"
 #include "display/FrameLedger.h"
 #include "display/VideoSink.h"
 #include "display/WaylandEvents.h"
@@ -21,6 +22,7 @@ class EngineSurface {
     wl_event_loop* loop = nullptr;
     wlr_output* output = nullptr;
     std::shared_ptr<TaskQueue> queue;
+    std::shared_ptr<const SyncDevice> syncDevice = nullptr;  // none: it isn't announced
   };
 
   /// `destroyed` is called when the engine has destroyed the surface, and may destroy this object.
@@ -45,6 +47,7 @@ class EngineSurface {
 
   wlr_surface* surface_;
   std::shared_ptr<TaskQueue> queue_;
+  EngineSync sync_;
   std::shared_ptr<FrameLedger> ledger_;  // outlived by frames that will report to it
   Listener commit_;
   Listener destroy_;

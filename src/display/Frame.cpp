@@ -8,20 +8,27 @@
 
 namespace tromelo {
 
-Frame::Frame(Content content, wlr_buffer* buffer, std::shared_ptr<TaskQueue> queue,
-             std::weak_ptr<FrameLedger> ledger)
+Frame::Frame(Content content, wlr_buffer* buffer, std::shared_ptr<FrameSync> sync,
+             std::shared_ptr<TaskQueue> queue, std::weak_ptr<FrameLedger> ledger)
     : content_(std::move(content)),
       queue_(std::move(queue)),
       ledger_(std::move(ledger)),
-      buffer_(wlr_buffer_lock(buffer)) {}
+      buffer_(wlr_buffer_lock(buffer)),
+      sync_(std::move(sync)) {}
 
 Frame::~Frame() {
   releaseBuffer();
   markDiscarded();
 }
 
+std::shared_ptr<FrameSync> Frame::sync() const {
+  const std::scoped_lock lock(mutex_);
+  return sync_;
+}
+
 void Frame::releaseBuffer() {
   const std::scoped_lock lock(mutex_);
+  sync_.reset();
   if (wlr_buffer* buffer = std::exchange(buffer_, nullptr))
     queue_->post([buffer] { wlr_buffer_unlock(buffer); });
 }
@@ -30,7 +37,7 @@ std::shared_ptr<Frame> Frame::secondReader(Reporter reporter) {
   const std::scoped_lock lock(mutex_);
   if (!buffer_) return nullptr;
   const bool reports = reporter == Reporter::other && !std::exchange(isSettled_, true);
-  auto second = std::make_shared<Frame>(content_, buffer_, queue_, ledger_);
+  auto second = std::make_shared<Frame>(content_, buffer_, sync_, queue_, ledger_);
   second->isSettled_ = !reports;
   return second;
 }

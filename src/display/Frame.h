@@ -11,6 +11,7 @@
 #include <optional>
 
 #include "display/ClientBuffer.h"
+#include "display/FrameSync.h"
 #include "display/HostImageDescription.h"
 
 namespace tromelo {
@@ -47,14 +48,17 @@ class Frame {
   };
 
   /// Display's thread. Locks `buffer`, and unlocks it on that thread, whichever drops the frame.
-  Frame(Content content, wlr_buffer* buffer, std::shared_ptr<TaskQueue> queue,
-        std::weak_ptr<FrameLedger> ledger);
+  Frame(Content content, wlr_buffer* buffer, std::shared_ptr<FrameSync> sync,
+        std::shared_ptr<TaskQueue> queue, std::weak_ptr<FrameLedger> ledger);
   /// Releases the buffer, and discards the frame if it wasn't shown.
   ~Frame();
   Frame(const Frame&) = delete;
   Frame& operator=(const Frame&) = delete;
 
   const Content& content() const { return content_; }
+  /// How readers are to go about it; none: the kernel makes the GPUs wait for each other, or the
+  /// buffer was released.
+  std::shared_ptr<FrameSync> sync() const;
 
   /// The same picture for somebody who reads it too: the engine gets its buffer when both have
   /// released it. Display's thread. What becomes of the picture is told by this frame, or by the
@@ -82,8 +86,9 @@ class Frame {
   const Content content_;
   const std::shared_ptr<TaskQueue> queue_;
   const std::weak_ptr<FrameLedger> ledger_;
-  std::mutex mutex_;
+  mutable std::mutex mutex_;
   wlr_buffer* buffer_;  // locked; none: released
+  std::shared_ptr<FrameSync> sync_;
   bool isSettled_ = false;
 };
 

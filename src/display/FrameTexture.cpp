@@ -7,6 +7,7 @@
 #include <map>
 #include <utility>
 
+#include "display/GlFence.h"
 #include "display/GlTexture.h"
 #include "display/PixelFormat.h"
 
@@ -18,8 +19,11 @@ namespace {
 class DmabufTextures final : public FrameTexture {
  public:
   QSGTexture* prepare(QQuickWindow* window, const Frame& frame) override;
-  /// The GPU reads what the engine has written: nothing to do, and nothing to give back yet.
-  void update(Frame&, const QRegion&) override {}
+  /// The GPU reads what the engine has written, when it has: nothing is given back yet.
+  void update(Frame& frame, const QRegion&) override {
+    if (const auto sync = frame.sync())
+      drawAfter(sync->acquire().timeline->fence(sync->acquire().value));
+  }
 
  private:
   struct Import {

@@ -1,5 +1,6 @@
 #include "display/HostBuffers.h"
 
+#include <sys/eventfd.h>
 #include <sys/types.h>
 #include <unistd.h>
 
@@ -37,26 +38,60 @@ struct HostBuffers::Entry {
   HostProxy<wl_buffer> buffer;
   HostProxy<zwp_linux_buffer_params_v1> params;  // while it is made
   std::shared_ptr<Frame> read;                   // by the host
+  SyncPoint release;                             // the host's last, of a timeline of our own
+  bool isSynced = false;                         // what it reads is free at that point
 
   void listen() {
     static constexpr wl_buffer_listener kListener{.release = [](void* data, wl_buffer*) {
       auto& self = *static_cast<Entry*>(data);
-      if (const auto frame = std::exchange(self.read, nullptr)) self.owner.giveBack(frame);
+      if (!self.isSynced) self.end();
     }};
     wl_buffer_add_listener(buffer.get(), &kListener, this);
+  }
+  /// The host reads it no more.
+  void end() {
+    if (const auto frame = std::exchange(read, nullptr)) owner.giveBack(frame);
   }
 };
 
 HostBuffers::HostBuffers(HostConnection& host, Events events)
     : host_(host), events_(std::move(events)) {}
 
-HostBuffers::~HostBuffers() = default;
+HostBuffers::~HostBuffers() {
+  if (signals_) host_.unwatch(signals_.get());
+}
 
 wl_buffer* HostBuffers::buffer(const std::shared_ptr<Frame>& frame) {
   return entryOf(frame).buffer.get();
 }
 
-void HostBuffers::attached(const std::shared_ptr<Frame>& frame) { entryOf(frame).read = frame; }
+std::optional<SyncPoint> HostBuffers::nextRelease(const std::shared_ptr<Frame>& frame) {
+  if (!signals_) {
+    signals_.reset(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
+    if (!signals_) return {};
+    host_.watch(signals_.get(), [this] { signalled(); });
+  }
+  SyncPoint& release = entryOf(frame).release;
+  if (!release.timeline)
+    release.timeline = SyncTimeline::create(frame->sync()->acquire().timeline->device());
+  if (!release.timeline || !release.timeline->notify(++release.value, signals_)) return {};
+  return release;
+}
+
+void HostBuffers::attached(const std::shared_ptr<Frame>& frame) {
+  Entry& entry = entryOf(frame);
+  entry.read = frame;
+  entry.isSynced = frame->sync() != nullptr;
+}
+
+void HostBuffers::signalled() {
+  std::uint64_t count = 0;
+  [[maybe_unused]] const auto size = read(signals_.get(), &count, sizeof count);
+  for (const auto& [memory, entry] : entries_)
+    if (entry->read && entry->isSynced &&
+        entry->release.timeline->isSignalled(entry->release.value))
+      entry->end();
+}
 
 void HostBuffers::setNewest(std::shared_ptr<Frame> frame) {
   const auto before = std::exchange(newest_, std::move(frame));
@@ -66,7 +101,7 @@ void HostBuffers::setNewest(std::shared_ptr<Frame> frame) {
 
 void HostBuffers::forgetAttached() {
   for (const auto& [memory, entry] : entries_)
-    if (const auto frame = std::exchange(entry->read, nullptr)) giveBack(frame);
+    if (!entry->isSynced) entry->end();
 }
 
 HostBuffers::Entry& HostBuffers::entryOf(const std::shared_ptr<Frame>& frame) {

@@ -3,6 +3,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 
 #include "display/Frame.h"
 #include "display/HostConnection.h"
@@ -27,12 +28,15 @@ class HostBuffers {
 
   /// None while the host hasn't made it yet, and never where it refuses.
   wl_buffer* buffer(const std::shared_ptr<Frame>& frame);
+  /// What the host is to signal once it has read the frame, which has a sync; none where the system
+  /// gives too little.
+  std::optional<SyncPoint> nextRelease(const std::shared_ptr<Frame>& frame);
   /// The host reads `frame` from here on; its buffer goes back once the host lets go of it and
   /// setNewest() has named another.
   void attached(const std::shared_ptr<Frame>& frame);
   /// This one stays readable, for who comes later.
   void setNewest(std::shared_ptr<Frame> frame);
-  /// The host shows none of them any more and owes no releases.
+  /// The host shows none of them any more and owes no releases, but for points.
   void forgetAttached();
 
  private:
@@ -43,12 +47,14 @@ class HostBuffers {
   void makeShm(Entry& entry, const ClientBuffer& buffer, const ShmPixels& pixels);
   bool makeDmabuf(Entry& entry, const ClientBuffer& buffer, const DmabufPixels& pixels);
   void giveBack(const std::shared_ptr<Frame>& frame);
+  void signalled();
   void prune();
 
   HostConnection& host_;
   const Events events_;
   std::map<const ClientBuffer*, std::unique_ptr<Entry>> entries_;
   std::shared_ptr<Frame> newest_;
+  UniqueFd signals_;  // counts points that the host has signalled
 };
 
 }  // namespace tromelo

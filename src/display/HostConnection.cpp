@@ -1,6 +1,5 @@
 #include "display/HostConnection.h"
 
-#include <poll.h>
 #include <pthread.h>
 
 #include <algorithm>
@@ -15,6 +14,7 @@
 #include "display/DmabufFeedback.h"
 #include "display/PixelFormat.h"
 #include "linux-dmabuf-v1-client-protocol.h"
+#include "linux-drm-syncobj-v1-client-protocol.h"
 #include "presentation-time-client-protocol.h"
 #include "viewporter-client-protocol.h"
 
@@ -62,7 +62,9 @@ std::shared_ptr<HostConnection> HostConnection::open(wl_display* display, std::s
 }
 
 HostConnection::HostConnection(wl_display* display)
-    : display_(display), queue_(wl_display_create_queue_with_name(display, "host")) {}
+    : display_(display),
+      queue_(wl_display_create_queue_with_name(display, "host")),
+      waits_{{wl_display_get_fd(display), POLLIN, 0}, {tasks_.fd(), POLLIN, 0}} {}
 
 HostConnection::~HostConnection() {
   if (thread_.joinable()) {
@@ -116,6 +118,7 @@ void HostConnection::bind(std::uint32_t name, const std::string& interface, std:
   bind(dmabuf_, zwp_linux_dmabuf_v1_interface, kDmabufVersion);
   bind(alphaModifier_, wp_alpha_modifier_v1_interface, 1);
   bind(colorManager_, wp_color_manager_v1_interface, 1);
+  bind(syncManager_, wp_linux_drm_syncobj_manager_v1_interface, 1);
 }
 
 /// To what a global tells of itself, which may come with what is dispatched already.
@@ -176,6 +179,16 @@ void HostConnection::followPictureSurface(std::function<void(wl_surface*)> follo
   if (followPictureSurface_) followPictureSurface_(pictureSurface_);
 }
 
+void HostConnection::watch(int fd, std::function<void()> readable) {
+  watched_[fd] = std::move(readable);
+  waits_.push_back({fd, POLLIN, 0});
+}
+
+void HostConnection::unwatch(int fd) {
+  watched_.erase(fd);
+  std::erase_if(waits_, [fd](const pollfd& wait) { return wait.fd == fd; });
+}
+
 void HostConnection::serve() {
   pthread_setname_np(pthread_self(), "host");
   while (!quits_) {
@@ -191,14 +204,18 @@ void HostConnection::serve() {
 /// read from the connection, Qt's threads for example, so that none of them reads past a poll.
 bool HostConnection::waitForEvents() {
   if (wl_display_prepare_read_queue(display_, queue_.get()) != 0) return true;
-  std::array<pollfd, 2> waits{{{wl_display_get_fd(display_), POLLIN, 0}, {tasks_.fd(), POLLIN, 0}}};
-  while (poll(waits.data(), waits.size(), -1) < 0 && errno == EINTR) {
+  while (poll(waits_.data(), waits_.size(), -1) < 0 && errno == EINTR) {
   }
-  if (waits[0].revents == 0) {
+  bool isOpen = true;
+  if (waits_[0].revents == 0)
     wl_display_cancel_read(display_);
-    return true;
-  }
-  return wl_display_read_events(display_) == 0;
+  else
+    isOpen = wl_display_read_events(display_) == 0;
+  const auto waited = waits_;  // who is called may watch something else
+  for (const pollfd& wait : waited)
+    if (const auto found = watched_.find(wait.fd); wait.revents && found != watched_.end())
+      found->second();
+  return isOpen;
 }
 
 }  // namespace tromelo

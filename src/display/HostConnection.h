@@ -1,11 +1,12 @@
 #pragma once
 
+#include <poll.h>
 #include <wayland-client.h>
 
-#include <array>
 #include <atomic>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -43,6 +44,10 @@ class HostConnection {
   /// In order; any thread. Requests that the task makes are sent after it.
   void post(TaskQueue::Task task) { tasks_.post(std::move(task)); }
 
+  /// Calls `readable` whenever `fd` is, until unwatch(). Host thread.
+  void watch(int fd, std::function<void()> readable);
+  void unwatch(int fd);
+
   /// The surface that pictures are shown on; none: none is. Host thread.
   void setPictureSurface(wl_surface* surface);
   wl_surface* pictureSurface() const { return pictureSurface_; }
@@ -58,6 +63,7 @@ class HostConnection {
   zwp_linux_dmabuf_v1* dmabuf() const { return dmabuf_.get(); }
   wp_alpha_modifier_v1* alphaModifier() const { return alphaModifier_.get(); }
   wp_color_manager_v1* colorManager() const { return colorManager_.get(); }
+  wp_linux_drm_syncobj_manager_v1* syncManager() const { return syncManager_.get(); }
 
   /// DRM FourCCs.
   const std::vector<std::uint32_t>& shmFormats() const { return shmFormats_; }
@@ -94,6 +100,7 @@ class HostConnection {
   HostProxy<zwp_linux_dmabuf_v1> dmabuf_;
   HostProxy<wp_alpha_modifier_v1> alphaModifier_;
   HostProxy<wp_color_manager_v1> colorManager_;
+  HostProxy<wp_linux_drm_syncobj_manager_v1> syncManager_;
   std::vector<std::uint32_t> shmFormats_;
   DmabufFeedback* feedback_ = nullptr;  // while the host is asked
   std::optional<DmabufSupport> dmabufSupport_;
@@ -103,7 +110,9 @@ class HostConnection {
 
   wl_surface* pictureSurface_ = nullptr;                   // host thread
   std::function<void(wl_surface*)> followPictureSurface_;  // host thread
+  std::map<int, std::function<void()>> watched_;           // host thread
   TaskQueue tasks_;
+  std::vector<pollfd> waits_;  // host thread: for the connection, for tasks, for what is watched
   std::atomic<bool> quits_ = false;
   std::thread thread_;
 };

@@ -5,6 +5,7 @@
 #include "alpha-modifier-v1-client-protocol.h"
 #include "color-management-v1-client-protocol.h"
 #include "linux-dmabuf-v1-client-protocol.h"
+#include "linux-drm-syncobj-v1-client-protocol.h"
 #include "presentation-time-client-protocol.h"
 #include "viewporter-client-protocol.h"
 

@@ -21,6 +21,9 @@
   X(wp_color_manager_v1)                     \
   X(wp_image_description_info_v1)            \
   X(wp_image_description_v1)                 \
+  X(wp_linux_drm_syncobj_manager_v1)         \
+  X(wp_linux_drm_syncobj_surface_v1)         \
+  X(wp_linux_drm_syncobj_timeline_v1)        \
   X(wp_presentation)                         \
   X(wp_presentation_feedback)                \
   X(wp_viewport)                             \

@@ -3,6 +3,8 @@
 
 #include "color-management-v1-client-protocol.h"
 #include "display/ColorManagerGlobal.h"
+#include "display/EglDevice.h"
+#include "display/GlFence.h"
 #include "display/HostSubsurfaceSink.h"
 #include "display/VideoSinkKind.h"
 
@@ -22,8 +24,24 @@ QString numbersText(const std::vector<std::uint32_t>& numbers) {
   return texts.isEmpty() ? QStringLiteral("none") : texts.join(u' ');
 }
 
+/// Only where the scene could read a picture too without a wait of its own. Otherwise `lacks` says
+/// why not.
+std::shared_ptr<const SyncDevice> syncDeviceOf(const HostConnection& host, QString* lacks) {
+  if (!host.syncManager() || !host.dmabufSupport()) {
+    *lacks = QStringLiteral("the host has none");
+    return nullptr;
+  }
+  if (!hasGlFences(platformEglDisplay())) {
+    *lacks = QStringLiteral("OpenGL has no fences");
+    return nullptr;
+  }
+  auto device = SyncDevice::open(host.dmabufSupport()->mainDevice);
+  if (!device) *lacks = QStringLiteral("the graphics driver has no timelines");
+  return device;
+}
+
 /// Numbers are those of color-management-v1.
-QStringList reportOf(const HostConnection& connection) {
+QStringList reportOf(const HostConnection& connection, const QString& lacksSync) {
   QStringList globals;
   for (const std::string& global : connection.globals()) globals += QString::fromStdString(global);
   const HostColorSupport& color = connection.colorSupport();
@@ -34,6 +52,8 @@ QStringList reportOf(const HostConnection& connection) {
                numbersText(color.primaries), numbersText(color.intents)),
       QStringLiteral("host fades surfaces: ") +
           (connection.alphaModifier() ? QStringLiteral("yes") : QStringLiteral("no")),
+      QStringLiteral("explicit synchronisation: ") +
+          (lacksSync.isEmpty() ? QStringLiteral("yes") : QStringLiteral("no, ") + lacksSync),
   };
 }
 
@@ -55,13 +75,16 @@ std::optional<VideoSinkKind> hostSubsurfaceSink(const VideoSinkHost& host, Pictu
   }
   way.managesColor = connection->colorManager() &&
                      connection->colorSupport().has(WP_COLOR_MANAGER_V1_FEATURE_PARAMETRIC);
+  QString lacksSync;
+  auto syncDevice = syncDeviceOf(*connection, &lacksSync);
   return VideoSinkKind{
       .name = QStringLiteral("a surface of the host's"),
       .way = {},
-      .report = reportOf(*connection),
+      .report = reportOf(*connection, lacksSync),
       .canBeSampled = true,
       .shmFormats = connection->shmFormats(),
       .dmabuf = connection->dmabufSupport(),
+      .syncDevice = std::move(syncDevice),
       .announceMore =
           [connection, managesColor = way.managesColor](wl_display* engines) {
             if (managesColor) announceColorManager(engines, *connection);

@@ -89,6 +89,7 @@ HostSurface::HostSurface(HostConnection& host, Events events)
       events_(std::move(events)),
       surface_(wl_compositor_create_surface(host.compositor())),
       viewport_(wp_viewporter_get_viewport(host.viewporter(), surface())),
+      sync_(host, surface()),
       buffers_(host, {.made =
                           [this] {
                             if (awaitsBuffer_) commitFrame();
@@ -146,6 +147,7 @@ void HostSurface::commitFrame() {
     awaitsBuffer_ = true;
     return;
   }
+  if (!applySync()) return events_.refused();
   applyColor(frame_->content().color);
   wl_surface_attach(surface(), buffer, 0, 0);
   apply(*frame_);
@@ -163,6 +165,18 @@ void HostSurface::apply(const Frame& frame) {
   for (const QRect& rect : damage)
     wl_surface_damage_buffer(surface(), rect.x(), rect.y(), rect.width(), rect.height());
   applyPlace(frame);
+}
+
+/// The engine's point goes on to the host as it is. The other is ours: until the host has signalled
+/// it the picture may be read by the scene too, and the engine is told by who lets go last.
+bool HostSurface::applySync() {
+  const auto sync = frame_->sync();
+  if (!sync) {
+    sync_.unset();
+    return true;
+  }
+  const auto release = buffers_.nextRelease(frame_);
+  return release && sync_.set(sync->acquire(), *release);
 }
 
 /// Only what the engine has said: the host takes a surface without a description as it does any.

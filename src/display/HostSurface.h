@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "display/HostBuffers.h"
+#include "display/HostSync.h"
 
 namespace tromelo {
 
@@ -51,6 +52,7 @@ class HostSurface {
 
   void commitFrame();
   void apply(const Frame& frame);
+  bool applySync();
   void applyColor(const std::optional<SurfaceColor>& color);
   void applyPlace(const Frame& frame);
   void follow(const std::shared_ptr<Frame>& frame);
@@ -63,6 +65,7 @@ class HostSurface {
   HostProxy<wp_viewport> viewport_;
   HostProxy<wp_alpha_modifier_surface_v1> alpha_;
   HostProxy<wp_color_management_surface_v1> managed_;
+  HostSync sync_;
   HostBuffers buffers_;
   std::vector<std::unique_ptr<Commit>> commits_;  // that the host hasn't told the end of
   std::shared_ptr<Frame> frame_;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "color-management-v1-client-protocol.h"
+#include "display/GlFence.h"
 #include "display/PicturePlacement.h"
 
 namespace tromelo {
@@ -130,6 +131,8 @@ void PictureNode::upload() {
 
 void PictureNode::swapped() {
   replaced_.clear();
+  const auto sync = frame_ ? frame_->sync() : nullptr;
+  if (sync) sync->readUntil(drawingFence());
   if (!frame_ || !std::exchange(awaitsSwap_, false)) return;
   frame_->markShown({std::chrono::steady_clock::now().time_since_epoch(), {}});
   sink_->shown();

@@ -29,6 +29,7 @@ std::optional<VideoSinkKind> sceneItemSink(const VideoSinkHost& host, PictureWay
       .canBeSampled = true,
       .shmFormats = {},
       .dmabuf = DmabufSupport::query(),
+      .syncDevice = nullptr,
       .announceMore = {},
       .create = [](QObject* receiver, VideoSink::Events events) -> std::shared_ptr<VideoSink> {
         return std::make_shared<SceneItemSink>(receiver, std::move(events));

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "display/DmabufSupport.h"
+#include "display/SyncTimeline.h"
 #include "display/VideoSink.h"
 #include "platform/PictureWay.h"
 
@@ -29,6 +30,10 @@ struct VideoSinkKind {
 
   std::vector<std::uint32_t> shmFormats;  // DRM FourCCs; AR24 and XR24 at least
   std::optional<DmabufSupport> dmabuf;    // none: the engine presents through shared memory
+
+  /// On which the engine says when its GPU is done with a picture, and is told when nobody reads it
+  /// any more; none: the kernel sees to that.
+  std::shared_ptr<const SyncDevice> syncDevice = nullptr;
 
   /// Adds what else the sink serves, colour management for example, to a display that has no client
   /// yet. Display's thread, or the one that makes the display, before there is that. May be empty.

@@ -12,9 +12,11 @@ extern "C" {
 #include <wayland-server-protocol.h>
 #include <wlr/backend.h>
 #include <wlr/backend/headless.h>
+#include <wlr/render/drm_syncobj.h>
 #include <wlr/types/wlr_buffer.h>
 #include <wlr/types/wlr_compositor.h>
 #include <wlr/types/wlr_linux_dmabuf_v1.h>
+#include <wlr/types/wlr_linux_drm_syncobj_v1.h>
 #include <wlr/types/wlr_output.h>
 #include <wlr/types/wlr_presentation_time.h>
 #include <wlr/types/wlr_seat.h>

@@ -1,9 +1,13 @@
 #include "display/HostSubsurfaceSink.h"
 
 #include <gtest/gtest.h>
+#include <sys/eventfd.h>
 #include <sys/sysmacros.h>
+#include <unistd.h>
 
 #include <QCoreApplication>
+#include <algorithm>
+#include <future>
 
 #include "DisplayTest.h"
 #include "RecordingHost.h"
@@ -11,6 +15,7 @@
 #include "display/ColorManagerGlobal.h"
 #include "display/Wlroots.h"
 #include "linux-dmabuf-v1-client-protocol.h"
+#include "linux-drm-syncobj-v1-client-protocol.h"
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
@@ -23,11 +28,13 @@ constexpr std::uint32_t kSecond = 1;
 constexpr std::uint32_t kPresented = 1;
 constexpr std::uint32_t kDiscarded = 2;
 
+const dev_t kDevice = makedev(226, 128);
+
 /// An engine's window that is shown on a host.
 class HostSinkTest : public DisplayTest {
  protected:
   void endHost() override {
-    sink_->disconnect();
+    if (sink_) sink_->disconnect();
     sink_.reset();
     parent_.reset();
     host_.reset();
@@ -40,8 +47,8 @@ class HostSinkTest : public DisplayTest {
     recorder_ = std::make_unique<RecordingHost>(features_);
     host_ = HostConnection::open(recorder_->client(), &lacks);
     EXPECT_EQ(lacks, "");
-    if (host_->dmabuf())
-      kind.dmabuf = DmabufSupport{makedev(226, 128), {{makedev(226, 128), 0, {{0x34325258, {0}}}}}};
+    if (host_->dmabuf()) kind.dmabuf = DmabufSupport{kDevice, {{kDevice, 0, {{0x34325258, {0}}}}}};
+    if (host_->syncManager()) kind.syncDevice = SyncDevice::open(kDevice);
     kind.announceMore = [this](wl_display* display) {
       if (host_->colorManager()) announceColorManager(display, *host_);
     };
@@ -311,6 +318,122 @@ TEST_F(RichHostSinkTest, WhereTheHostRefusesADmabufTheSceneDraws) {
   recorder().tell("zwp_linux_buffer_params_v1",
                   [](wl_resource* r) { wl_resource_post_event(r, kSecond); });
   EXPECT_TRUE(wait([&] { return refusals_ == 1 && sink_->hole().isEmpty(); }));
+}
+
+/// A host, and an engine, that say themselves when a buffer is drawn and when it is free.
+class SyncedHostSinkTest : public HostSinkTest {
+ protected:
+  SyncedHostSinkTest() { features_ = {Feature::dmabuf, Feature::synchronisation}; }
+
+  /// One of the engine's.
+  struct Timeline {
+    explicit Timeline(TestClient& client) {
+      const UniqueFd shared = own->share();
+      told.reset(
+          wp_linux_drm_syncobj_manager_v1_import_timeline(client.syncManager.get(), shared.get()));
+    }
+    std::shared_ptr<const SyncTimeline> own = SyncTimeline::create(SyncDevice::open(kDevice));
+    Proxy<wp_linux_drm_syncobj_timeline_v1> told;
+  };
+
+  /// From here on the engine's surface is synchronised by points.
+  void synchronise() {
+    acquire_.emplace(*client_);
+    release_.emplace(*client_);
+    synced_.reset(wp_linux_drm_syncobj_manager_v1_get_surface(client_->syncManager.get(),
+                                                              toplevel_->surface()));
+  }
+  void commitDmabuf(std::uint32_t point) {
+    TestBuffer& buffer =
+        *buffers_.emplace_back(std::make_unique<TestBuffer>(TestBuffer::Layout{{320, 180}}));
+    buffer.createDmabuf(*client_);
+    commitAt(point, buffer);
+  }
+  void commitAt(std::uint32_t point, const TestBuffer& buffer) {
+    wp_linux_drm_syncobj_surface_v1_set_acquire_point(synced_.get(), acquire_->told.get(), 0,
+                                                      point);
+    wp_linux_drm_syncobj_surface_v1_set_release_point(synced_.get(), release_->told.get(), 0,
+                                                      point);
+    toplevel_->commit(&buffer);
+  }
+  void TearDown() override {
+    synced_.reset();
+    acquire_.reset();
+    release_.reset();
+    HostSinkTest::TearDown();
+  }
+
+  std::optional<Timeline> acquire_, release_;
+  Proxy<wp_linux_drm_syncobj_surface_v1> synced_;
+};
+
+TEST_F(SyncedHostSinkTest, TheHostWaitsForTheEngineAndTheEngineForTheHost) {
+  show();
+  arrive();
+  synchronise();
+  const auto commitShown = [&](std::uint32_t point, int number) {
+    commitDmabuf(point);
+    ASSERT_TRUE(
+        wait([&] { return recorder().count("zwp_linux_buffer_params_v1.create ") == number; }));
+    recorder().makeDmabuf();
+    ASSERT_TRUE(waitForCommits(number));
+  };
+  commitShown(5, 1);
+  const auto all = recorder().requests();
+  const std::vector<std::string> expected{
+      "wp_linux_drm_syncobj_manager_v1.import_timeline",
+      "wp_linux_drm_syncobj_manager_v1.import_timeline",
+      "wp_linux_drm_syncobj_manager_v1.get_surface",
+      "wp_linux_drm_syncobj_surface_v1.set_acquire_point 0 5",
+      "wp_linux_drm_syncobj_surface_v1.set_release_point 0 1",
+      "wl_surface.attach 0 0",
+  };
+  EXPECT_TRUE(std::ranges::search(all, expected).begin() != all.end());
+  const auto hosts = SyncTimeline::import(SyncDevice::open(kDevice), recorder().takeTimeline());
+  recorder().tell("wl_buffer", [](wl_resource* r) { wl_resource_post_event(r, kFirst); });
+  commitShown(6, 2);
+  place_.parent = nullptr;
+  sink_->setPlace(place_);
+  ASSERT_TRUE(waitForCommits(3));
+  EXPECT_FALSE(release_->own->isSignalled(5));  // the host's GPU may read it still
+  hosts->signal(1);
+  EXPECT_TRUE(wait([&] { return release_->own->isSignalled(5); }));
+  EXPECT_FALSE(release_->own->isSignalled(6));  // the scene's
+  place_.parent = parent_.get();
+  sink_->setPlace(place_);
+  synced_.reset();
+  commit();  // through shared memory, without points
+  EXPECT_TRUE(
+      wait([&] { return recorder().count("wp_linux_drm_syncobj_surface_v1.destroy") == 1; }));
+}
+
+TEST_F(SyncedHostSinkTest, ABufferIsFreeWhenItsLastReaderLetsGo) {
+  openWindow();
+  synchronise();
+  const auto sink = std::make_shared<KeepingSink>();
+  window_->setSink(sink);
+  commitDmabuf(1);
+  std::shared_ptr<Frame> first;
+  ASSERT_TRUE(wait([&] { return (first = sink->takeLast()) != nullptr; }));
+  std::promise<std::shared_ptr<Frame>> promise;
+  Frame::readLater(first, Frame::Reporter::thisFrame,
+                   [&](std::shared_ptr<Frame> frame) { promise.set_value(std::move(frame)); });
+  auto second = promise.get_future().get();
+  const UniqueFd read(eventfd(0, EFD_CLOEXEC));
+  second->sync()->readUntil(UniqueFd(dup(read.get())));
+  first.reset();
+  EXPECT_FALSE(release_->own->isSignalled(1));
+  second.reset();
+  EXPECT_FALSE(release_->own->isSignalled(1));  // its GPU reads it still
+  eventfd_write(read.get(), 1);
+  EXPECT_TRUE(wait([&] { return release_->own->isSignalled(1); }));
+}
+
+TEST_F(SyncedHostSinkTest, SharedMemoryHasNoPoints) {
+  show();
+  synchronise();
+  commitAt(1, addBuffer({320, 180}, Qt::red));
+  EXPECT_FALSE(client_->roundtrip());
 }
 
 }  // namespace tromelo::testing

@@ -15,6 +15,7 @@
 #include "color-management-v1-server-protocol.h"
 #include "display/WaylandEvents.h"
 #include "linux-dmabuf-v1-client-protocol.h"
+#include "linux-drm-syncobj-v1-client-protocol.h"
 #include "presentation-time-client-protocol.h"
 #include "viewporter-client-protocol.h"
 
@@ -51,6 +52,7 @@ RecordingHost::RecordingHost(std::vector<Feature> features, std::vector<std::str
   for (const Feature feature : features) {
     if (feature == Feature::alphaModifier) offer(wp_alpha_modifier_v1_interface, 1);
     if (feature == Feature::colorManager) offer(wp_color_manager_v1_interface, 1);
+    if (feature == Feature::synchronisation) offer(wp_linux_drm_syncobj_manager_v1_interface, 1);
     if (feature == Feature::output) offer(wl_output_interface, 1);
     if (feature == Feature::dmabuf) offer(zwp_linux_dmabuf_v1_interface, 3);
   }
@@ -139,7 +141,10 @@ int RecordingHost::take(wl_resource* resource, const wl_message& message, wl_arg
     if (*kind == 'n')
       add(wl_resource_get_client(resource), *message.types[at],
           std::uint32_t(wl_resource_get_version(resource)), argument.n);
-    if (*kind == 'h') close(argument.h);
+    if (*kind == 'h') {
+      UniqueFd taken(argument.h);
+      if (interface == wp_linux_drm_syncobj_manager_v1_interface.name) timeline_ = std::move(taken);
+    }
     if (*kind == 'i' || *kind == 'u') request += ' ' + std::to_string(argument.i);
     if (*kind == 'o' && !argument.o) request += " none";
     ++at;
@@ -173,6 +178,20 @@ void RecordingHost::tell(const std::string& interface, std::function<void(wl_res
     if (!resources_[interface].empty()) send(resources_[interface].back());
     wl_display_flush_clients(display_);
   });
+}
+
+void RecordingHost::makeDmabuf() {
+  tell("zwp_linux_buffer_params_v1", [this](wl_resource* params) {
+    constexpr std::uint32_t kCreated = 0;
+    wl_resource* buffer = add(wl_resource_get_client(params), wl_buffer_interface, 1, 0);
+    wl_resource_post_event(params, kCreated, buffer);
+  });
+}
+
+UniqueFd RecordingHost::takeTimeline() {
+  UniqueFd taken;
+  run([&] { taken = std::move(timeline_); });
+  return taken;
 }
 
 void RecordingHost::settle() { wl_display_roundtrip(client()); }

@@ -27,7 +27,7 @@ namespace tromelo::testing {
 class RecordingHost {
  public:
   /// Beside what showing a picture takes.
-  enum class Feature { alphaModifier, colorManager, dmabuf, output };
+  enum class Feature { alphaModifier, colorManager, dmabuf, output, synchronisation };
 
   explicit RecordingHost(std::vector<Feature> features = {}, std::vector<std::string> without = {});
   ~RecordingHost();
@@ -47,6 +47,10 @@ class RecordingHost {
   /// Sends an event: `send` is called on the host's thread with the newest object of `interface`
   /// that is there, if there is one.
   void tell(const std::string& interface, std::function<void(wl_resource*)> send);
+  /// Makes the dmabuf that was asked for last.
+  void makeDmabuf();
+  /// Of the timeline that was imported last.
+  UniqueFd takeTimeline();
   /// Whatever the client has sent is in requests() by then.
   void settle();
 
@@ -65,6 +69,7 @@ class RecordingHost {
   TaskQueue tasks_;
   wl_display* display_;
   bool quits_ = false;
+  UniqueFd timeline_;  // host's thread
   mutable std::mutex mutex_;
   std::vector<std::string> requests_;
   std::map<std::string, std::vector<wl_resource*>> resources_;  // host's thread

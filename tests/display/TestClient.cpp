@@ -31,6 +31,7 @@ void TestClient::bind(std::uint32_t name, const std::string& interface) {
   take(viewporter, wp_viewporter_interface, 1);
   take(presentation, wp_presentation_interface, 1);
   take(colorManager, wp_color_manager_v1_interface, 1);
+  take(syncManager, wp_linux_drm_syncobj_manager_v1_interface, 1);
   take(dmabuf, zwp_linux_dmabuf_v1_interface, 3);
 }
 

@@ -9,6 +9,7 @@
 #include "color-management-v1-client-protocol.h"
 #include "display/HostProxy.h"
 #include "linux-dmabuf-v1-client-protocol.h"
+#include "linux-drm-syncobj-v1-client-protocol.h"
 #include "presentation-time-client-protocol.h"
 #include "viewporter-client-protocol.h"
 #include "xdg-shell-client-protocol.h"
@@ -55,6 +56,7 @@ class TestClient {
   Proxy<wp_presentation> presentation;
   Proxy<zwp_linux_dmabuf_v1> dmabuf;
   Proxy<wp_color_manager_v1> colorManager;
+  Proxy<wp_linux_drm_syncobj_manager_v1> syncManager;
 
  private:
   void bind(std::uint32_t name, const std::string& interface);
