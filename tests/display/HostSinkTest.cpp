@@ -107,7 +107,7 @@ class HostSinkTest : public DisplayTest {
 class RichHostSinkTest : public HostSinkTest {
  protected:
   RichHostSinkTest() {
-    features_ = {Feature::alphaModifier, Feature::colorManager, Feature::dmabuf};
+    features_ = {Feature::alphaModifier, Feature::newerColorManager, Feature::dmabuf};
   }
 };
 
@@ -185,6 +185,21 @@ TEST_F(HostSinkTest, WithoutAWindowOnTheHostNothingIsShownThere) {
   sink_->setPlace(place_);
   EXPECT_TRUE(wait([&] { return recorder().count("wp_presentation.feedback") == 1; }));
   EXPECT_EQ(recorder().count("wl_subcompositor.get_subsurface"), 1);
+}
+
+TEST_F(HostSinkTest, AWindowThatIsResizedAllTheTimeLosesNoFrame) {
+  show();
+  arrive();
+  constexpr int kTimes = 60;
+  for (int i = 1; i <= kTimes; ++i) {
+    place_.room = QRectF(0, 0, 320 + 16 * i, 180 + 9 * i);
+    place_.picture = place_.room.size().toSize();
+    sink_->setPlace(place_);
+    toplevel_->commit(&addBuffer(place_.picture, Qt::red));
+  }
+  ASSERT_TRUE(wait([&] { return recorder().count("wp_presentation.feedback") == kTimes; }));
+  EXPECT_EQ(recorder().count("wp_viewport.set_destination 1280 720"), 1);
+  EXPECT_FALSE(sink_->hole().isEmpty());
 }
 
 TEST_F(HostSinkTest, AHostThatCantFadeShowsThePictureWhenTheFadeIsOver) {
@@ -285,8 +300,10 @@ TEST_F(RichHostSinkTest, ColoursAreToldWithTheFrameThatHasThem) {
   EXPECT_EQ(recorder().count("wp_color_management_surface_v1.set_image_description"), 1);
 }
 
-TEST_F(RichHostSinkTest, TheEngineHearsWhatTheHostPrefersWhereThePictureIs) {
+TEST_F(RichHostSinkTest, TheEngineHearsWhatTheHostPrefersWhereThePictureIsAndAsksAnew) {
   show();
+  EXPECT_EQ(recorder().count("wp_color_manager_v1.bound 1"), 1);
+  arrive();
   using Feedback = wp_color_management_surface_feedback_v1;
   const HostProxy<Feedback> feedback(
       wp_color_manager_v1_get_surface_feedback(client_->colorManager.get(), toplevel_->surface()));
@@ -297,12 +314,16 @@ TEST_F(RichHostSinkTest, TheEngineHearsWhatTheHostPrefersWhereThePictureIs) {
       }};
   wp_color_management_surface_feedback_v1_add_listener(feedback.get(), &kListener, &preferred);
   client_->roundtrip();
-  // The first surface is one that is never shown; the picture's comes after it.
-  ASSERT_TRUE(
-      wait([&] { return recorder().count("wp_color_manager_v1.get_surface_feedback") == 2; }));
   recorder().tell("wp_color_management_surface_feedback_v1",
                   [](wl_resource* r) { wl_resource_post_event(r, kFirst, 7); });
-  EXPECT_TRUE(wait([&] { return preferred == 7; }));
+  ASSERT_TRUE(wait([&] { return preferred == 7; }));
+  const HostProxy<wp_image_description_v1> asked(
+      wp_color_management_surface_feedback_v1_get_preferred_parametric(feedback.get()));
+  client_->roundtrip();
+  EXPECT_TRUE(wait([&] {
+    return recorder().count("wp_color_management_surface_feedback_v1.get_preferred_parametric") ==
+           1;
+  }));
 }
 
 TEST_F(RichHostSinkTest, WhereTheHostRefusesADmabufTheSceneDraws) {

@@ -33,6 +33,15 @@ bool ends(const std::string& interface, const char* request) {
           std::strcmp(request, "create") == 0);
 }
 
+const wl_interface& newerColorManager() {
+  static const wl_interface newer = [] {
+    wl_interface interface = wp_color_manager_v1_interface;
+    ++interface.version;
+    return interface;
+  }();
+  return newer;
+}
+
 }  // namespace
 
 void RecordingHost::ClientDeleter::operator()(wl_display* display) const {
@@ -52,6 +61,7 @@ RecordingHost::RecordingHost(std::vector<Feature> features, std::vector<std::str
   for (const Feature feature : features) {
     if (feature == Feature::alphaModifier) offer(wp_alpha_modifier_v1_interface, 1);
     if (feature == Feature::colorManager) offer(wp_color_manager_v1_interface, 1);
+    if (feature == Feature::newerColorManager) offer(newerColorManager(), 2);
     if (feature == Feature::synchronisation) offer(wp_linux_drm_syncobj_manager_v1_interface, 1);
     if (feature == Feature::output) offer(wl_output_interface, 1);
     if (feature == Feature::dmabuf) offer(zwp_linux_dmabuf_v1_interface, 3);
@@ -85,11 +95,13 @@ void RecordingHost::announce(const wl_interface& interface, int version) {
   };
   static std::vector<std::unique_ptr<Offer>> offers;  // globals don't own their data
   offers.push_back(std::make_unique<Offer>(*this, interface));
-  wl_global_create(display_, &interface, version, offers.back().get(),
-                   [](wl_client* client, void* data, std::uint32_t v, std::uint32_t id) {
-                     auto& offer = *static_cast<Offer*>(data);
-                     offer.host.greet(offer.host.add(client, offer.interface, v, id));
-                   });
+  wl_global_create(
+      display_, &interface, version, offers.back().get(),
+      [](wl_client* client, void* data, std::uint32_t v, std::uint32_t id) {
+        auto& offer = *static_cast<Offer*>(data);
+        offer.host.note(offer.interface.name + std::string(".bound ") + std::to_string(v));
+        offer.host.greet(offer.host.add(client, offer.interface, v, id));
+      });
 }
 
 wl_resource* RecordingHost::add(wl_client* client, const wl_interface& interface,
@@ -149,12 +161,14 @@ int RecordingHost::take(wl_resource* resource, const wl_message& message, wl_arg
     if (*kind == 'o' && !argument.o) request += " none";
     ++at;
   }
-  {
-    const std::scoped_lock lock(mutex_);
-    requests_.push_back(std::move(request));
-  }
+  note(std::move(request));
   if (ends(interface, message.name)) wl_resource_destroy(resource);
   return 0;
+}
+
+void RecordingHost::note(std::string request) {
+  const std::scoped_lock lock(mutex_);
+  requests_.push_back(std::move(request));
 }
 
 std::vector<std::string> RecordingHost::requests() const {

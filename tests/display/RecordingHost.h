@@ -26,8 +26,15 @@ namespace tromelo::testing {
 /// test has it say. On a thread of its own.
 class RecordingHost {
  public:
-  /// Beside what showing a picture takes.
-  enum class Feature { alphaModifier, colorManager, dmabuf, output, synchronisation };
+  /// Beside what showing a picture takes. The newer colour manager has a version that nobody knows.
+  enum class Feature {
+    alphaModifier,
+    colorManager,
+    newerColorManager,
+    dmabuf,
+    output,
+    synchronisation
+  };
 
   explicit RecordingHost(std::vector<Feature> features = {}, std::vector<std::string> without = {});
   ~RecordingHost();
@@ -37,8 +44,9 @@ class RecordingHost {
   /// The host's client, which is this process.
   wl_display* client() const { return client_.get(); }
 
-  /// What it has been asked for, in order: "wl_surface.attach". Those of one request follow its
-  /// name: "wp_viewport.set_destination 320 180"; objects are left out.
+  /// What it has been asked for, in order: "wl_surface.attach". Numbers of a request follow its
+  /// name: "wp_viewport.set_destination 320 180"; objects are left out. A global that is bound is
+  /// "wl_shm.bound 1", with the version.
   std::vector<std::string> requests() const;
   /// Of requests that begin with `name`.
   int count(const std::string& name) const;
@@ -63,6 +71,7 @@ class RecordingHost {
   wl_resource* add(wl_client* client, const wl_interface& interface, std::uint32_t version,
                    std::uint32_t id);
   void greet(wl_resource* resource);
+  void note(std::string request);
   int take(wl_resource* resource, const wl_message& message, wl_argument* arguments);
   void run(TaskQueue::Task task);
 

@@ -50,7 +50,7 @@ void describe(RecordingHost& host, std::uint32_t screenMost) {
 }
 
 TEST(WaylandHeadroom, AsksTheHostAndFollowsWhatItSays) {
-  RecordingHost host({RecordingHost::Feature::colorManager, RecordingHost::Feature::output});
+  RecordingHost host({RecordingHost::Feature::newerColorManager, RecordingHost::Feature::output});
   wl_registry* registry = wl_display_get_registry(host.client());
   wl_output* output = bindOutput(host, registry);
   const auto tellAnother = [&] {
@@ -63,6 +63,7 @@ TEST(WaylandHeadroom, AsksTheHostAndFollowsWhatItSays) {
     WaylandHeadroom headroom(host.client(), [&] { ++changes; });
     EXPECT_EQ(headroom.of(output).potential, 1);
     describe(host, 0);
+    EXPECT_EQ(host.count("wp_color_manager_v1.bound 1"), 1);
     EXPECT_EQ(headroom.of(output).potential, 4);
     EXPECT_EQ(changes, 1);
 
