@@ -1200,6 +1200,38 @@
         <source>Open videos (⌘O)</source>
         <translation>Videos öffnen (⌘O)</translation>
     </message>
+    <message>
+        <source>A–B loop off</source>
+        <translation>A–B-Schleife aus</translation>
+    </message>
+    <message>
+        <source>Loop from %1</source>
+        <translation>Schleife ab %1</translation>
+    </message>
+    <message>
+        <source>Loop %1 – %2</source>
+        <translation>Schleife %1 – %2</translation>
+    </message>
+    <message>
+        <source>No subtitles</source>
+        <translation>Keine Untertitel</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>,  /  .</source>
+        <translation>,  /  .</translation>
+    </message>
+    <message>
+        <source>Previous / next subtitle line</source>
+        <translation>Vorige / nächste Untertitelzeile</translation>
+    </message>
+    <message>
+        <source>A–B loop (from, to, off)</source>
+        <translation>A–B-Schleife (ab, bis, aus)</translation>
+    </message>
 </context>
 <context>
     <name>tromelo::PlayerSettings</name>

@@ -50,7 +50,10 @@ namespace tromelo {
   ROW(subDelay, "sub-delay", number, lasting, state)                                         \
   ROW(audioDelay, "audio-delay", number, lasting, state)                                     \
   /* Text, since it holds "no", "inf" or a number of rounds. */                              \
-  ROW(loopFile, "loop-file", string, lasting, state)
+  ROW(loopFile, "loop-file", string, lasting, state)                                         \
+  /* These hold "no" or a time. */                                                           \
+  ROW(abLoopA, "ab-loop-a", string, lasting, state)                                          \
+  ROW(abLoopB, "ab-loop-b", string, lasting, state)
 
 /// The value is also the number under which a change is reported.
 enum class MpvProperty : std::uint64_t {

@@ -28,4 +28,12 @@ QList<double> SliderTravel::marks(const QList<Chapter>& chapters, double duratio
   return marks;
 }
 
+QList<double> SliderTravel::loopMarks(const AbLoop& loop, double duration, double width) {
+  QList<double> marks;
+  if (!(duration > 0)) return marks;
+  for (const std::optional<double>& mark : {loop.start, loop.end})
+    if (mark) marks.append(place(*mark / duration, width));
+  return marks;
+}
+
 }  // namespace tromelo

@@ -3,6 +3,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QObject>
 
+#include "playback/AbLoop.h"
 #include "playback/Chapter.h"
 
 namespace tromelo {
@@ -25,6 +26,10 @@ class SliderTravel : public QObject {
   /// Where chapters begin. The first begins with the file and has no mark. `duration` in seconds.
   Q_INVOKABLE static QList<double> marks(const QList<tromelo::Chapter>& chapters, double duration,
                                          double width);
+
+  /// Of a loop, as many as it has so far.
+  Q_INVOKABLE static QList<double> loopMarks(const tromelo::AbLoop& loop, double duration,
+                                             double width);
 };
 
 }  // namespace tromelo

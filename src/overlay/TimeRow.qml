@@ -46,6 +46,11 @@ Item {
         }
     }
 
+    LoopMarks {
+        anchors.fill: slider
+        playback: row.playback
+    }
+
     PlayerSlider {
         id: slider
 

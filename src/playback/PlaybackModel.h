@@ -129,6 +129,9 @@ class PlaybackModel : public PlaybackState {
   /// Moves along the speed ladder and returns the new speed.
   Q_INVOKABLE double stepSpeed(int steps);
   Q_INVOKABLE void toggleLoop();
+  /// Puts the next of the marks between which the current file plays over and over, or takes both
+  /// away.
+  void markLoop();
   /// Seconds, rounded to milliseconds.
   Q_INVOKABLE void setSubtitleDelay(double seconds);
   Q_INVOKABLE void setAudioDelay(double seconds);
@@ -148,6 +151,8 @@ class PlaybackModel : public PlaybackState {
   Q_INVOKABLE QString cycleSubtitle();
   /// Goes to the next audio track and says so for a toast.
   Q_INVOKABLE QString cycleAudio();
+  /// To the next line of the subtitles that are shown, or to the one before; false where none are.
+  bool stepSubtitleLine(int steps);
   Q_INVOKABLE void seekToChapter(int position);
   /// The chapter that it goes to; none where there is none in that direction.
   std::optional<Chapter> stepChapter(int steps);
@@ -235,6 +240,7 @@ class PlaybackModel : public PlaybackState {
   LocalFiles localFiles_;
   std::int64_t entry_ = 0;                  // of the current file, the engine's number for it
   std::optional<std::string> currentPath_;  // as the engine has reported it since the file started
+  double position_ = 0;                     // to the frame, where elapsed goes in steps; seconds
   double subtitleLift_ = 0;
   double lastScrubSeek_ = 0;  // of the clock
   bool hasStarted_ = false;   // the current file has

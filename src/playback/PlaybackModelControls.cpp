@@ -102,6 +102,16 @@ void PlaybackModel::toggleLoop() {
   engine_.setProperty("loop-file", isLooping_ ? "inf" : "no");
 }
 
+void PlaybackModel::markLoop() {
+  if (!isLoaded_) return;
+  abLoop_ = abLoop_.get().marked(position_);
+  // The engine forgets what is set in this way together with the file.
+  engine_.setProperty("file-local-options/ab-loop-a", loopMarkText(abLoop().start));
+  engine_.setProperty("file-local-options/ab-loop-b", loopMarkText(abLoop().end));
+  // The engine has come further meanwhile, and what is played beyond the end never returns.
+  if (abLoop().isWhole() && !isPaused_) seekTo(*abLoop().start);
+}
+
 void PlaybackModel::setSubtitleDelay(double seconds) {
   if (!std::isfinite(seconds)) return;
   subtitleDelay_ = toMilliseconds(seconds);
@@ -185,6 +195,12 @@ QString PlaybackModel::cycleAudio() {
   if (!next) return tr("No audio");
   if (tracks.size() > 1) selectAudio(next->id);
   return tr("Audio: %1").arg(next->name());
+}
+
+bool PlaybackModel::stepSubtitleLine(int steps) {
+  const bool areShown = std::ranges::any_of(subtitleTracks_.get(), &MediaTrack::isSelected);
+  if (areShown) engine_.command({"sub-seek", std::to_string(steps)});
+  return areShown;
 }
 
 void PlaybackModel::seekToChapter(int position) {

@@ -47,6 +47,8 @@ void PlaybackModel::resetForNewFile() {
   currentPath_.reset();
   restart_.reset();
   elapsed_ = 0;
+  position_ = 0;
+  abLoop_ = AbLoop();
   duration_ = 0;
   scrubPosition_ = 0;
   isScrubbing_ = false;

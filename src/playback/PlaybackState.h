@@ -9,6 +9,7 @@
 
 #include "platform/PictureWay.h"
 #include "platform/ScreenHeadroom.h"
+#include "playback/AbLoop.h"
 #include "playback/Chapter.h"
 #include "playback/DynamicRange.h"
 #include "playback/FileFacts.h"
@@ -37,6 +38,7 @@ class PlaybackState : public QObject {
   Q_PROPERTY(double subtitleDelay READ subtitleDelay NOTIFY subtitleDelayChanged)
   Q_PROPERTY(double audioDelay READ audioDelay NOTIFY audioDelayChanged)
   Q_PROPERTY(bool isLooping READ isLooping NOTIFY isLoopingChanged)
+  Q_PROPERTY(tromelo::AbLoop abLoop READ abLoop NOTIFY abLoopChanged)
   Q_PROPERTY(QString status READ status NOTIFY statusChanged)
   Q_PROPERTY(QString errorMessage READ errorMessage NOTIFY errorMessageChanged)
   Q_PROPERTY(QString videoSize READ videoSize NOTIFY videoSizeChanged)
@@ -85,6 +87,7 @@ class PlaybackState : public QObject {
   double subtitleDelay() const { return subtitleDelay_; }  // seconds
   double audioDelay() const { return audioDelay_; }        // seconds
   bool isLooping() const { return isLooping_; }           // the current file starts over at its end
+  AbLoop abLoop() const { return abLoop_; }               // of the current file
   QString status() const { return status_; }              // one line on the state
   QString errorMessage() const { return errorMessage_; }  // the last one, or empty
   QString videoSize() const { return videoSize_; }
@@ -135,6 +138,7 @@ class PlaybackState : public QObject {
   void subtitleDelayChanged();
   void audioDelayChanged();
   void isLoopingChanged();
+  void abLoopChanged();
   void statusChanged();
   void errorMessageChanged();
   void videoSizeChanged();
@@ -183,6 +187,7 @@ class PlaybackState : public QObject {
   Published<double> subtitleDelay_{this, &PlaybackState::subtitleDelayChanged};
   Published<double> audioDelay_{this, &PlaybackState::audioDelayChanged};
   Published<bool> isLooping_{this, &PlaybackState::isLoopingChanged};
+  Published<AbLoop> abLoop_{this, &PlaybackState::abLoopChanged};
   Published<QString> status_{this, &PlaybackState::statusChanged,
                              QStringLiteral("Open a video to begin")};
   Published<QString> errorMessage_{this, &PlaybackState::errorMessageChanged};

@@ -39,6 +39,7 @@ struct PropertyMapping::Actions {
   static void timePos(Model& m, const Value& v) {
     const double position = held<double>(v).value_or(NAN);
     if (!std::isfinite(position)) return;
+    m.position_ = position;
     const double shown = m.elapsed_;
     if (position < shown || position - shown >= kPositionStep) m.elapsed_ = position;
     if (!m.isScrubbing_) m.scrubPosition_ = m.elapsed_.get();
@@ -123,6 +124,14 @@ struct PropertyMapping::Actions {
   /// Anything but "no" is "inf" or a number of rounds.
   static void loopFile(Model& m, const Value& v) {
     m.isLooping_ = held<std::string>(v).value_or("no") != "no";
+  }
+
+  static void abLoopA(Model& m, const Value& v) {
+    m.abLoop_ = AbLoop{loopMark(held<std::string>(v).value_or("no")), m.abLoop().end};
+  }
+
+  static void abLoopB(Model& m, const Value& v) {
+    m.abLoop_ = AbLoop{m.abLoop().start, loopMark(held<std::string>(v).value_or("no"))};
   }
 };
 

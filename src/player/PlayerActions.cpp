@@ -94,6 +94,16 @@ QString toggleLoop(Player&, PlaybackModel& playback) {
   return playback.isLooping() ? PlayerActions::tr("Loop on") : PlayerActions::tr("Loop off");
 }
 
+QString markLoop(Player&, PlaybackModel& playback) {
+  if (!playback.isLoaded()) return {};
+  playback.markLoop();
+  const AbLoop loop = playback.abLoop();
+  if (!loop.start) return PlayerActions::tr("A–B loop off");
+  const QString start = Format::clock(*loop.start);
+  if (!loop.end) return PlayerActions::tr("Loop from %1").arg(start);
+  return PlayerActions::tr("Loop %1 – %2").arg(start, Format::clock(*loop.end));
+}
+
 QString tellTime(Player&, PlaybackModel& playback) {
   return Format::clock(playback.elapsed()) + QStringLiteral(" / ") +
          Format::clock(playback.duration());
@@ -128,6 +138,11 @@ template <int steps>
 QString stepAudioDelay(Player&, PlaybackModel& playback) {
   playback.setAudioDelay(playback.audioDelay() + steps * PlayerActions::delayStep());
   return PlayerActions::tr("Audio delay %1").arg(Format::delay(playback.audioDelay()));
+}
+
+template <int steps>
+QString stepSubtitleLine(Player&, PlaybackModel& playback) {
+  return playback.stepSubtitleLine(steps) ? QString() : PlayerActions::tr("No subtitles");
 }
 
 bool repeats(Held held, const PlaybackModel& playback) {
@@ -205,6 +220,9 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
          {QT_TR_NOOP("T"),
           QT_TR_NOOP("Show time"),
           {{.keys = {typed(u"tT")}, .act = tellTime, .held = Held::again}}},
+         {QT_TR_NOOP("X"),
+          QT_TR_NOOP("A–B loop (from, to, off)"),
+          {{.keys = {typed(u"xX")}, .act = markLoop}}},
      }},
     {QT_TR_NOOP("Queue & chapters"),
      {
@@ -279,6 +297,10 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
           {{.keys = {typed(u"uU")},
             .act = toggle<PlayerPanel::tracks>,
             .tips = {{Tracks, QT_TR_NOOP("Subtitles & audio (U)")}}}}},
+         {QT_TR_NOOP(",  /  ."),
+          QT_TR_NOOP("Previous / next subtitle line"),
+          {{.keys = {typed(u",")}, .act = stepSubtitleLine<-1>, .held = Held::again},
+           {.keys = {typed(u".")}, .act = stepSubtitleLine<1>, .held = Held::again}}},
      }},
     {QT_TR_NOOP("Window"),
      {

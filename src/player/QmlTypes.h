@@ -36,6 +36,12 @@ struct MediaTrackForQml {
   QML_VALUE_TYPE(mediaTrack)
 };
 
+struct AbLoopForQml {
+  Q_GADGET
+  QML_FOREIGN(tromelo::AbLoop)
+  QML_VALUE_TYPE(abLoop)
+};
+
 struct ChapterForQml {
   Q_GADGET
   QML_FOREIGN(tromelo::Chapter)

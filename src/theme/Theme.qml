@@ -30,6 +30,7 @@ QtObject {
     readonly property color knobHeld: Qt.rgba(0.84, 0.84, 0.86, 1)
     readonly property color knobEdge: Qt.rgba(0, 0, 0, 0.25)
     readonly property color mark: Qt.rgba(1, 1, 1, 0.75)
+    readonly property color loopStretch: Qt.rgba(accent.r, accent.g, accent.b, 0.55)
     readonly property color menuSurface: Qt.rgba(0.13, 0.135, 0.15, 0.97)
     readonly property color toolTipSurface: Qt.rgba(0.1, 0.105, 0.12, 0.95)
     readonly property color badgeTitle: Qt.rgba(1, 1, 1, 0.9)
@@ -211,6 +212,7 @@ QtObject {
     readonly property real sliderKnob: 12
     readonly property real markWidth: 2
     readonly property real markHeight: 9
+    readonly property real loopMarkHeight: 15
 
     readonly property real menuWidth: 92
     readonly property real menuRow: 22

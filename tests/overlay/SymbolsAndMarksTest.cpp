@@ -35,6 +35,9 @@ TEST(SymbolsAndMarksTest, MarksOfChapters) {
   EXPECT_EQ(SliderTravel::marks(at({0, 50}), 0, 216), QList<double>());
   EXPECT_EQ(SliderTravel::marks(at({0}), 100, 216), QList<double>());
   EXPECT_EQ(SliderTravel::marks(at({0, 100}), 100, 3), QList<double>({9})) << "no room";
+  EXPECT_EQ(SliderTravel::loopMarks({25, {}}, 100, 216), QList<double>({58}));
+  EXPECT_EQ(SliderTravel::loopMarks({25, 130}, 100, 216), QList<double>({58, 208}));
+  EXPECT_EQ(SliderTravel::loopMarks({25, 130}, 0, 216), QList<double>());
   EXPECT_EQ(Format::remaining(10, 12), "-0:00");
 }
 

@@ -89,6 +89,31 @@ TEST_F(RealPlayback, AFileStaysAtItsEndOrStartsOver) {
   EXPECT_FALSE(model_.isPaused());
 }
 
+TEST_F(RealPlayback, StaysBetweenTwoMarksUntilAnotherFileComes) {
+  ASSERT_TRUE(plays(clip("sample.mp4")));
+  ASSERT_TRUE(waitFor([this] { return position_ > 1; }));
+  model_.markLoop();
+  ASSERT_TRUE(waitFor([this] { return position_ > 1.6; }));
+  restarts_ = 0;
+  model_.markLoop();
+  const AbLoop loop = model_.abLoop();
+  ASSERT_TRUE(loop.isWhole());
+  const auto goesRound = [&] {
+    if (restarts_ == 0) return false;
+    EXPECT_GE(position_, *loop.start - kFrame);
+    EXPECT_LE(position_, *loop.end + 5 * kFrame);
+    return restarts_ == 3;
+  };
+  EXPECT_TRUE(waitFor(goesRound));
+
+  ASSERT_TRUE(plays(clip("short-wide.mp4")));
+  EXPECT_EQ(model_.abLoop(), AbLoop());
+  std::optional<std::string> mark;
+  model_.engine().readProperty("ab-loop-a", [&](const auto& answer) { mark = answer; });
+  EXPECT_TRUE(waitFor([&] { return mark.has_value(); }));
+  EXPECT_EQ(mark, "no");
+}
+
 TEST_F(RealPlayback, SeveralFilesPlayOneAfterTheOther) {
   model_.open(QList<QUrl>{clip("short-wide.mp4"), clip("short-tall.mp4")});
   ASSERT_TRUE(waitFor([this] { return model_.queue().size() == 2 && model_.hasNext(); }));

@@ -203,6 +203,25 @@ TEST_F(Transport, SpeedLoopAndDelaysShowAtOnce) {
   EXPECT_EQ(model().audioDelay(), -0.063);
 }
 
+TEST(AbLoopTest, TakesAMarkAfterTheOtherAndNone) {
+  for (const auto& [before, now, after] : Table<AbLoop, double, AbLoop>{
+           {{}, 5, {5, {}}},
+           {{5, {}}, 9, {5, 9}},
+           {{5, {}}, 2, {2, 5}},
+           {{5, {}}, 5, {5, 5.1}},
+           {{5, {}}, 4.99, {4.99, 5.09}},
+           {{5, 9}, 7, {}},
+       }) {
+    const AbLoop loop = before.marked(now);
+    EXPECT_EQ(loop.start, after.start) << now;
+    EXPECT_EQ(loop.end.has_value(), after.end.has_value()) << now;
+    EXPECT_DOUBLE_EQ(loop.end.value_or(0), after.end.value_or(0)) << now;
+  }
+  for (const auto& [text, mark] : Table<const char*, std::optional<double>>{
+           {"no", {}}, {"62.500000", 62.5}, {"-1", -1}, {"nan", {}}, {"inf", {}}, {"", {}}})
+    EXPECT_EQ(loopMark(text), mark) << text;
+}
+
 TEST(SpeedLadder, ClimbsByRungsAndStaysOn) {
   const Table<double, int, double> rows{
       {1.0, 1, 1.25},  {1.0, -1, 0.75}, {1.1, 1, 1.5},   {1.0005, 1, 1.25},

@@ -50,6 +50,8 @@ struct KeysTest : PlayerTest {
     report(MpvProperty::subDelay, 0.0);
     report(MpvProperty::audioDelay, 0.1);
     report(MpvProperty::loopFile, std::string("no"));
+    report(MpvProperty::abLoopA, std::string("no"));
+    report(MpvProperty::abLoopB, std::string("no"));
     reportTracks(
         {track("sub", 2, "", false), track("audio", 4, "", true), track("audio", 5, "", false)});
     reportChapters({0, 50, 100});
@@ -120,6 +122,9 @@ TEST_F(KeysTest, EachDoesAsTheListSays) {
       {typed("E"), {"frame-back-step"}},
       {typed("l"), {"set loop-file inf", "\"Loop on\""}},
       {typed("t"), {"\"0:51 / 1:06:40\""}, true},
+      {typed("x"),
+       {"set file-local-options/ab-loop-a 51.5", "set file-local-options/ab-loop-b no",
+        "\"Loop from 0:51\""}},
       {typed("v"), {"set sid 2", "\"Subtitles: Track 2\""}},
       {typed("b"), {"set aid 5", "\"Audio: Track 5\""}},
       {typed("g"), {"set sub-delay -0.05", "\"Subtitle delay -50 ms\""}, true},
@@ -250,6 +255,7 @@ TEST_F(KeysTest, PressedAgainTheyUndoOrSayThatThereIsNoMore) {
       {typed("m"), {"set mute no", "\"Volume 50%\""}},
       {typed("l"), {"set loop-file no", "\"Loop off\""}},
       {typed("N"), {"\"No next chapter\""}},
+      {typed("."), {"\"No subtitles\""}},
       {typed("g"), {"set sub-delay -0.1", "\"Subtitle delay -100 ms\""}},
   };
   for (const Row& row : rows) {
