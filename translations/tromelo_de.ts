@@ -205,6 +205,13 @@
     </message>
 </context>
 <context>
+    <name>GoToPanel</name>
+    <message>
+        <source>Go to time</source>
+        <translation>Zu Zeit springen</translation>
+    </message>
+</context>
+<context>
     <name>HardwareDecoding</name>
     <message>
         <source>Hardware (%1)</source>
@@ -502,6 +509,10 @@
     <message>
         <source>Queue</source>
         <translation>Warteschlange</translation>
+    </message>
+    <message>
+        <source>Go to time</source>
+        <translation>Zu Zeit springen</translation>
     </message>
 </context>
 <context>
@@ -1217,6 +1228,10 @@
         <translation>Keine Untertitel</translation>
     </message>
     <message>
+        <source>⌘G</source>
+        <translation>⌘G</translation>
+    </message>
+    <message>
         <source>X</source>
         <translation>X</translation>
     </message>
@@ -1227,6 +1242,10 @@
     <message>
         <source>Previous / next subtitle line</source>
         <translation>Vorige / nächste Untertitelzeile</translation>
+    </message>
+    <message>
+        <source>Go to time</source>
+        <translation>Zu Zeit springen</translation>
     </message>
     <message>
         <source>A–B loop (from, to, off)</source>
@@ -1278,6 +1297,25 @@
     <message>
         <source>Light green</source>
         <translation>Hellgrün</translation>
+    </message>
+</context>
+<context>
+    <name>tromelo::TypedTime</name>
+    <message>
+        <source>Such as 1:02:03, 62:03, 90, +30 or -1:00</source>
+        <translation>Zum Beispiel 1:02:03, 62:03, 90, +30 oder -1:00</translation>
+    </message>
+    <message>
+        <source>No time yet. Write it as 1:02:03, 90 or +30</source>
+        <translation>Noch keine Zeit. Schreibweise: 1:02:03, 90 oder +30</translation>
+    </message>
+    <message>
+        <source>The film ends at %1</source>
+        <translation>Der Film endet bei %1</translation>
+    </message>
+    <message>
+        <source>Goes to %1</source>
+        <translation>Springt zu %1</translation>
     </message>
 </context>
 </TS>

@@ -8,8 +8,8 @@ import Tromelo.Theme
 // Shows a panel above its button in the control bar while the panel is open. It lies over the whole
 // overlay: a press on the bar is the bar's own, any other outside the panel dismisses it and does
 // nothing else, a press or scrolling on the panel stays there. The panel is made when it opens and is
-// as large as its implicit size or, where that doesn't fit, as the room above the bar. It never takes
-// the keyboard.
+// as large as its implicit size or, where that doesn't fit, as the room above the bar. Only what is
+// typed into takes the keyboard, and gives it back when the panel closes.
 Item {
     id: popover
 
@@ -26,6 +26,8 @@ Item {
     anchors.fill: parent
     visible: isOpen || opacity > 0
     opacity: isOpen ? 1 : 0
+    onIsOpenChanged: if (!isOpen)
+        loader.focus = false
 
     Behavior on opacity {
         NumberAnimation {
@@ -45,6 +47,8 @@ Item {
     }
 
     Loader {
+        id: loader
+
         anchors.fill: parent
         active: popover.visible && popover.button
 

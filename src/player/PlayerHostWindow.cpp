@@ -14,6 +14,12 @@ namespace {
 // A window of this size is dressed and mapped before the engine says how large its picture is.
 constexpr QSize kProvisionalSize(640, 360);
 
+/// Types, or moves about in what is typed: also where there is no room, and where that ends.
+bool isForText(const QKeyEvent& event) {
+  const bool isArrow = event.key() >= Qt::Key_Left && event.key() <= Qt::Key_Down;
+  return isArrow || (!event.text().isEmpty() && event.text().front().isPrint());
+}
+
 }  // namespace
 
 PlayerHostWindow::PlayerHostWindow(QQmlEngine& engine, const ReducedMotion& reducedMotion) {
@@ -129,7 +135,21 @@ bool PlayerHostWindow::handlePointer(QEvent& event) {
   }
 }
 
-bool PlayerHostWindow::handleKey(const QKeyEvent& event) {
+bool PlayerHostWindow::isTypedInto() const {
+  const QQuickItem* item = activeFocusItem();
+  return item && item->flags().testFlag(QQuickItem::ItemAcceptsInputMethod);
+}
+
+/// What is typed into has all keys first, and those for text are never anyone else's. True when the
+/// event needs to go nowhere else.
+bool PlayerHostWindow::handleKey(QKeyEvent& event) {
+  if (!isTypedInto()) return askMonitor(event);
+  QQuickWindow::event(&event);
+  if (!event.isAccepted() && !isForText(event)) event.setAccepted(askMonitor(event));
+  return true;
+}
+
+bool PlayerHostWindow::askMonitor(const QKeyEvent& event) {
   KeyPress press = KeyPress::from(event);
   press.isRepeat = heldKey_.isRepeatedBy(event);
   const KeyMonitor monitor = keyMonitor_;  // a key can be what takes it away

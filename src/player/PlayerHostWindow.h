@@ -39,7 +39,8 @@ class PlayerHostWindow : public QQuickWindow {
   /// What a hand that resizes the window keeps to; in any unit.
   void setPictureAspect(QSize picture) { edgeResize_.setAspect(picture); }
 
-  /// Keys that it doesn't handle go on to what has the focus in the window.
+  /// Keys that it doesn't handle go on to what has the focus in the window. While that is something
+  /// to type into, the monitor is asked after it.
   void setKeyMonitor(KeyMonitor monitor) { keyMonitor_ = std::move(monitor); }
 
   /// Mapped, so that its graphics get ready, but with nothing to be seen or clicked.
@@ -64,7 +65,9 @@ class PlayerHostWindow : public QQuickWindow {
   void fillWindow();
   void center();
   bool handlePointer(QEvent& event);
-  bool handleKey(const QKeyEvent& event);
+  bool handleKey(QKeyEvent& event);
+  bool askMonitor(const QKeyEvent& event);
+  bool isTypedInto() const;
   void followPointer(const QSinglePointEvent& event);
   void updateCursor();
 

@@ -18,10 +18,12 @@ enum class PlayerPanel {
   chapters,
   queue,
   shortcuts,
+  goTo,  // a time that is typed
 };
 Q_ENUM_NS(PlayerPanel)
 
-/// A panel that opens above a button of its own in the control bar.
+/// A panel that opens above the control bar: above a button of its own there, if it has one, else
+/// above the middle.
 class BarPanel {
   Q_GADGET
   QML_VALUE_TYPE(barPanel)
@@ -38,9 +40,9 @@ class BarPanel {
   QString buttonTip() const { return tip ? PlayerActions::tip(*tip) : shownName(); }
 
   PlayerPanel panel = {};
-  QString body;    // a view that takes the model; a signal finished() of it closes the panel
-  QString button;  // the object's name
-  QString symbol;
+  QString body;         // a view that takes the model; a signal finished() of it closes the panel
+  QString button = {};  // the object's name; empty: it has none
+  QString symbol = {};
   const char* name = "";                       // as people read it, to be translated
   std::optional<PlayerActions::Tip> tip = {};  // of the key that does the same, if there is one
   bool needsChapters = false;                  // the button is there only for a file that has some
@@ -68,6 +70,9 @@ inline QList<BarPanel> barPanels() {
        .symbol = QStringLiteral("list.and.film"),
        .name = QT_TRANSLATE_NOOP("PlayerPanels", "Queue"),
        .tip = PlayerActions::Queue},
+      {.panel = PlayerPanel::goTo,
+       .body = QStringLiteral("GoToPanel"),
+       .name = QT_TRANSLATE_NOOP("PlayerPanels", "Go to time")},
   };
 }
 

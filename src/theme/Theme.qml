@@ -111,6 +111,7 @@ QtObject {
     readonly property real chaptersWidth: 320
     readonly property real chaptersHeight: 420
     readonly property real queueWidth: 340
+    readonly property real goToWidth: 300
     readonly property real queueRowsHeight: 360
     readonly property real panelPadding: 16
     readonly property real listPadding: 10
@@ -157,6 +158,8 @@ QtObject {
     readonly property real fieldSymbolSize: 13
     readonly property real fieldTrackHeight: 4
     readonly property real fieldKnobSize: 14
+    readonly property real entryWidth: 200
+    readonly property real entryHeight: 28
     readonly property real swatchSize: 18
     readonly property real wellWidth: 36
     readonly property real checkBoxSize: 14

@@ -232,9 +232,13 @@ TEST_F(PopoverTest, HasRoomForItsTextsInGerman) {
   reportTracks(MpvList{track("audio", 1, "", true)});
   chrome().setShowsInfo(true);
   const Table<std::optional<PlayerPanel>, const char*> rows{
-      {PlayerPanel::tracks, "playerPopover"}, {PlayerPanel::chapters, "playerPopover"},
-      {PlayerPanel::queue, "playerPopover"},  {PlayerPanel::shortcuts, "playerShortcutsPanel"},
-      {std::nullopt, "playerInfoPanel"},      {std::nullopt, "playerControlBar"}};
+      {PlayerPanel::tracks, "playerPopover"},
+      {PlayerPanel::chapters, "playerPopover"},
+      {PlayerPanel::queue, "playerPopover"},
+      {PlayerPanel::goTo, "playerPopover"},
+      {PlayerPanel::shortcuts, "playerShortcutsPanel"},
+      {std::nullopt, "playerInfoPanel"},
+      {std::nullopt, "playerControlBar"}};
   for (const auto& [panel, view] : rows) {
     chrome().setPanel(panel);
     ASSERT_TRUE(waitFor([&] { return only(view) != nullptr; }));
@@ -287,6 +291,25 @@ TEST_F(PopoverTest, APressOutsideOnlyClosesIt) {
     click("tracksButton");
     EXPECT_EQ(chrome().panel(), panel);
   }
+}
+
+TEST_F(PopoverTest, ATimeIsTypedAndGoneTo) {
+  load(4000);
+  open(PlayerPanel::goTo);
+  const auto type = [this](const char* text) {
+    for (const char* letter = text; *letter; ++letter) QTest::keyClick(&host_, *letter);
+  };
+  ASSERT_TRUE(only("goToField")->hasActiveFocus());
+  type("1:2x");
+  QTest::keyClick(&host_, Qt::Key_Return);
+  EXPECT_EQ(chrome().panel(), PlayerPanel::goTo) << "that is no time";
+  QTest::keyClick(&host_, Qt::Key_Backspace);
+  EXPECT_EQ(text("goToHint"), "Goes to 1:02");
+  takeSent();
+  QTest::keyClick(&host_, Qt::Key_Return);
+  EXPECT_EQ(takeSent(), Sent{"seek 62.0 absolute+exact"});
+  EXPECT_EQ(chrome().panel(), std::nullopt);
+  EXPECT_EQ(host_.activeFocusItem(), host_.contentItem()) << "the keys are the player's again";
 }
 
 TEST_F(PopoverTest, AllIsKnownAndUsedWithoutBeingSeen) {

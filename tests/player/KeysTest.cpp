@@ -72,7 +72,7 @@ struct KeysTest : PlayerTest {
   /// What became of it: what the engine was told, what is open, what is said.
   Sent effects() {
     Sent found = takeSent();
-    static constexpr const char* kPanels[]{"tracks", "chapters", "queue", "shortcuts"};
+    static constexpr const char* kPanels[]{"tracks", "chapters", "queue", "shortcuts", "goTo"};
     if (chrome().panel()) found.push_back(kPanels[static_cast<int>(*chrome().panel())]);
     if (chrome().showsInfo()) found.push_back("info");
     if (player().isClosing()) found.push_back("closes");
@@ -122,6 +122,7 @@ TEST_F(KeysTest, EachDoesAsTheListSays) {
       {typed("E"), {"frame-back-step"}},
       {typed("l"), {"set loop-file inf", "\"Loop on\""}},
       {typed("t"), {"\"0:51 / 1:06:40\""}, true},
+      {typed("g", kControl), {"goTo"}},
       {typed("x"),
        {"set file-local-options/ab-loop-a 51.5", "set file-local-options/ab-loop-b no",
         "\"Loop from 0:51\""}},

@@ -66,6 +66,40 @@ TEST_F(PlayerWindowTest, FadesWhatIsComposed) {
       << "frames that play are drawn once";
 }
 
+TEST_F(PlayerWindowTest, WhatIsTypedIntoHasTheKeysFirst) {
+  QQmlComponent component(&engine_);
+  component.setData("import QtQuick\nTextInput {}", {});
+  const std::unique_ptr<QQuickItem> field(qobject_cast<QQuickItem*>(
+      component.createWithInitialProperties({{"parent", QVariant::fromValue(&host().scene())}})));
+  ASSERT_TRUE(field);
+  std::string monitored;
+  window_.setKeyMonitor([&](const KeyPress& press) {
+    monitored += QKeySequence(press.key).toString().toStdString() + ' ';
+    return true;
+  });
+  const auto press = [this](int key, const QString& text, Qt::KeyboardModifiers modifiers = {}) {
+    QKeyEvent event(QEvent::KeyPress, key, modifiers, text);
+    QCoreApplication::sendEvent(&host(), &event);
+  };
+  const auto pressAll = [&] {
+    press(Qt::Key_Space, " ");
+    press(Qt::Key_M, "m");
+    press(Qt::Key_Right, {});
+    press(Qt::Key_W, "\x17", Qt::ControlModifier);
+    press(Qt::Key_Escape, "\x1b");
+    return std::exchange(monitored, {});
+  };
+  EXPECT_EQ(pressAll(), "Space M Right W Esc ");
+  field->forceActiveFocus();
+  EXPECT_EQ(pressAll(), "W Esc ");
+  EXPECT_EQ(field->property("text"), " m");
+  field->setProperty("maximumLength", 2);
+  EXPECT_EQ(pressAll(), "W Esc ") << "nor what there is no room for";
+  EXPECT_EQ(field->property("text"), " m");
+  field->setFocus(false);
+  EXPECT_EQ(pressAll(), "Space M Right W Esc ");
+}
+
 TEST_F(PlayerWindowTest, ShowsThePointerAgainWhenItMoves) {
   host().hidePointer();
   EXPECT_EQ(host().cursor().shape(), Qt::BlankCursor);
