@@ -1,8 +1,11 @@
 #include "app/Program.h"
 
+#include <QClipboard>
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QMimeData>
 #include <cstdio>
 
 #include "app/DefaultsMigration.h"
@@ -20,6 +23,16 @@
 #include "theme/Motion.h"
 
 namespace tromelo {
+
+namespace {
+
+void putOntoClipboard(const QByteArray& png) {
+  auto content = std::make_unique<QMimeData>();
+  content->setData(QStringLiteral("image/png"), png);
+  QGuiApplication::clipboard()->setMimeData(content.release());
+}
+
+}  // namespace
 
 Program::Program(const CommandLine& commandLine)
     : commandLine_(commandLine),
@@ -123,6 +136,8 @@ void Program::makeDelegate() {
         },
         .hasVulkanDevice = &hasVulkanDevice,
         .vulkanDevice = vulkanDevice_,
+        .picturesFolder = QFile::encodeName(userPicturesDirectory()).toStdString(),
+        .copyPicture = &putOntoClipboard,
         .engineFault = displayFault_});
   };
   parts.makeLibraryWindow = [this](PlaybackModel& playback, PlayerWindowController& player) {

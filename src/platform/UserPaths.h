@@ -18,6 +18,11 @@ inline QString userDataDirectory() {
   return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
 }
 
+/// The one that the desktop has for pictures.
+inline QString userPicturesDirectory() {
+  return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+}
+
 /// $XDG_STATE_HOME/Tromelo
 inline QString diagnosticsDirectoryPath() {
   return QStandardPaths::writableLocation(QStandardPaths::GenericStateLocation) +

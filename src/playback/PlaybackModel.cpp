@@ -35,6 +35,8 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       hasVulkanDevice_(std::move(parts.hasVulkanDevice)),
       engine_(parts.api),
       settings_(parts.defaults),
+      screenshots_(engine_, parts.picturesFolder),
+      copyPicture_(std::move(parts.copyPicture)),
       existence_(std::move(parts.fileExists),
                  [this](const QList<FileExistence::Answer>& answers) { takeAnswers(answers); }),
       localFiles_(std::move(parts.mountedPath)) {

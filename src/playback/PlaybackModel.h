@@ -18,6 +18,7 @@
 #include "playback/PlayerPresenting.h"
 #include "playback/QueueProgress.h"
 #include "playback/RecentFiles.h"
+#include "playback/Screenshots.h"
 #include "settings/PlayerSettings.h"
 
 namespace tromelo {
@@ -50,8 +51,11 @@ class PlaybackModel : public PlaybackState {
     LocalFiles::PathOf mountedPath = tromelo::mountedPath;
     /// Asked when a picture can't be drawn; may take a moment.
     std::function<bool()> hasVulkanDevice = [] { return true; };
-    std::string vulkanDevice = {};  // UUID of the one that the engine draws with; empty: any
-    QString engineFault = {};       // a sentence: why the engine can't be started; empty: it can
+    std::string vulkanDevice = {};    // UUID of the one that the engine draws with; empty: any
+    std::string picturesFolder = {};  // where pictures of films are kept
+    /// Puts a picture, as PNG, onto the desktop's clipboard.
+    std::function<void(const QByteArray& png)> copyPicture = [](const QByteArray&) {};
+    QString engineFault = {};  // a sentence: why the engine can't be started; empty: it can
   };
 
   /// Starts the engine; a failure shows in status and errorMessage.
@@ -106,6 +110,10 @@ class PlaybackModel : public PlaybackState {
   /// One picture back or forth, which pauses.
   void stepFrame(int direction);
   void setFullscreen(bool fullscreen);
+  /// Into the person's pictures folder, and says so.
+  void keepPicture(Screenshots::What what);
+  /// Onto the clipboard, and says so.
+  void copyPicture();
   /// Has the engine make its output anew, in the middle of a file.
   void restartVideoOutput();
   /// By seconds, back or forth.
@@ -233,6 +241,8 @@ class PlaybackModel : public PlaybackState {
   std::function<bool()> hasVulkanDevice_;
   MpvEngine engine_;
   PlayerSettings settings_;
+  Screenshots screenshots_;
+  std::function<void(const QByteArray&)> copyPicture_;
   HardwareDecoding hardware_;
   QueueProgress progress_;
   RecentFiles recentFiles_;

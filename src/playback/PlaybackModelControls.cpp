@@ -141,6 +141,27 @@ void PlaybackModel::setFullscreen(bool fullscreen) {
   engine_.setProperty("fullscreen", flagText(fullscreen));
 }
 
+void PlaybackModel::keepPicture(Screenshots::What what) {
+  if (!isLoaded_ || !facts_.hasPicture()) return player().showToast(tr("No picture to keep"));
+  const QString film = lastPathComponentWithoutExtension(
+      fileUrlFromPath(currentPath_.value_or(title_.get().toStdString())));
+  screenshots_.keep(
+      what, {film, elapsed_, dynamicRangeOf(facts_).isHigh()}, [this](const QUrl& picture) {
+        player().showToast(picture.isEmpty()
+                               ? tr("The picture couldn't be kept; look whether "
+                                    "there is room in your pictures folder.")
+                               : tr("Picture kept: %1").arg(lastPathComponent(picture)));
+      });
+}
+
+void PlaybackModel::copyPicture() {
+  if (!isLoaded_ || !facts_.hasPicture()) return player().showToast(tr("No picture to copy"));
+  screenshots_.make(Screenshots::What::withSubtitles, [this](const QByteArray& png) {
+    if (!png.isEmpty()) copyPicture_(png);
+    player().showToast(png.isEmpty() ? tr("The picture couldn't be copied") : tr("Picture copied"));
+  });
+}
+
 void PlaybackModel::restartVideoOutput() {
   // libmpv does it for a value that differs from the one before. This one means the same: the
   // second is for where the first doesn't work.

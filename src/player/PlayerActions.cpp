@@ -145,6 +145,12 @@ QString stepSubtitleLine(Player&, PlaybackModel& playback) {
   return playback.stepSubtitleLine(steps) ? QString() : PlayerActions::tr("No subtitles");
 }
 
+template <Screenshots::What what>
+QString keepPicture(Player&, PlaybackModel& playback) {
+  playback.keepPicture(what);
+  return {};
+}
+
 bool repeats(Held held, const PlaybackModel& playback) {
   return held == Held::again || (held == Held::whenPaused && playback.isPaused());
 }
@@ -227,6 +233,17 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
          {QT_TR_NOOP("X"),
           QT_TR_NOOP("A–B loop (from, to, off)"),
           {{.keys = {typed(u"xX")}, .act = markLoop}}},
+         {QT_TR_NOOP("W / ⇧W"),
+          QT_TR_NOOP("Keep the picture, with / without subtitles"),
+          {{.keys = {typed(u"w")}, .act = keepPicture<Screenshots::What::withSubtitles>},
+           {.keys = {typed(u"W")}, .act = keepPicture<Screenshots::What::withoutSubtitles>}}},
+         {QT_TR_NOOP("⌥W"),
+          QT_TR_NOOP("Keep the picture as it is on the screen"),
+          {{.keys = {{.characters = u"wW", .modifiers = kAlt, .anyway = kShift}},
+            .act = keepPicture<Screenshots::What::asShown>}}},
+         {QT_TR_NOOP("⌘C"),
+          QT_TR_NOOP("Copy the picture"),
+          {{.keys = {exactly(kControl, Qt::Key_C)}, .act = run<&PlaybackModel::copyPicture>}}},
      }},
     {QT_TR_NOOP("Queue & chapters"),
      {

@@ -1,0 +1,141 @@
+#include "playback/Screenshots.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <thread>
+#include <utility>
+
+#include "engine/MpvEngine.h"
+#include "platform/FilePath.h"
+#include "platform/MainThread.h"
+#include "playback/PictureFile.h"
+
+namespace tromelo {
+
+namespace fs = std::filesystem;
+
+struct Screenshots::Job {
+  What what;
+  Moment moment;
+  std::string folder;
+  Kept kept;  // one of the two
+  Made made;
+
+  /// The engine writes under names that nobody sees; what is whole gets its own.
+  std::string picture() const { return folder + "/.tromelo-" + std::to_string(getpid()) + ".png"; }
+  std::string signal() const {
+    return folder + "/.tromelo-" + std::to_string(getpid()) + "-hdr.png";
+  }
+};
+
+namespace {
+
+const char* engineName(Screenshots::What what) {
+  switch (what) {
+    case Screenshots::What::withSubtitles:
+      return "subtitles";
+    case Screenshots::What::withoutSubtitles:
+      return "video";
+    case Screenshots::What::asShown:
+      return "window";
+  }
+  return "";
+}
+
+QByteArray contentOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return QByteArray::fromStdString({std::istreambuf_iterator<char>(file), {}});
+}
+
+void removeFile(const std::string& path) {
+  std::error_code ignored;
+  fs::remove(path, ignored);
+}
+
+}  // namespace
+
+Screenshots::Screenshots(MpvEngine& engine, std::string folder)
+    : engine_(engine), folder_(std::move(folder)) {}
+
+/// Does `work` on a thread of its own, detached: a folder on the network may never answer.
+template <typename Work, typename Then>
+void Screenshots::elsewhere(Work work, Then then) {
+  std::thread([work, then, isThere = std::weak_ptr(isThere_)] {
+    postToMainThread([then, isThere, result = work()] {
+      if (!isThere.expired()) then(result);
+    });
+  }).detach();
+}
+
+void Screenshots::keep(What what, const Moment& moment, const Kept& kept) {
+  add(std::make_shared<Job>(Job{what, moment, folder_, kept, {}}));
+}
+
+void Screenshots::make(What what, const Made& made) {
+  std::error_code ignored;
+  add(std::make_shared<Job>(Job{what, {}, fs::temp_directory_path(ignored).string(), {}, made}));
+}
+
+void Screenshots::add(std::shared_ptr<Job> job) {
+  jobs_.push_back(std::move(job));
+  if (jobs_.size() == 1) begin();
+}
+
+void Screenshots::begin() {
+  const auto job = jobs_.front();
+  const auto makeFolder = [folder = job->folder] {
+    std::error_code error;
+    fs::create_directories(folder, error);
+    return !error;
+  };
+  elsewhere(makeFolder, [this, job](bool isThere) {
+    if (!isThere) return finish(job, false, false);
+    shoot(job, job->picture(), [this, job](bool succeeded) {
+      const bool wantsSignal = job->moment.isHigh && job->what != What::asShown;
+      succeeded&& wantsSignal ? shootSignal(job) : finish(job, succeeded, false);
+    });
+  });
+}
+
+void Screenshots::shoot(const std::shared_ptr<Job>& job, const std::string& path,
+                        const std::function<void(bool)>& then) {
+  engine_.command({"screenshot-to-file", path, engineName(job->what)},
+                  [then](const auto& error) { then(!error); });
+}
+
+void Screenshots::shootSignal(const std::shared_ptr<Job>& job) {
+  // The engine leaves the signal as it is where the format for its own pictures can hold that,
+  // whatever the format of this one. Without a doubt of its own it brings it down to SDR.
+  engine_.setProperty("screenshot-format", "jxl");
+  shoot(job, job->signal(), [this, job](bool succeeded) {
+    engine_.setProperty("screenshot-format", "jpg");
+    finish(job, true, succeeded);
+  });
+}
+
+void Screenshots::finish(const std::shared_ptr<Job>& job, bool hasPicture, bool hasSignal) {
+  const auto settle = [job, hasPicture, hasSignal]() -> std::pair<std::string, QByteArray> {
+    std::pair<std::string, QByteArray> result;
+    if (hasPicture && job->made) result.second = contentOf(job->picture());
+    if (hasPicture && job->kept) {
+      const std::string signal = hasSignal && holdsHdr(job->signal()) ? job->signal() : "";
+      result.first = keepPictures(job->picture(), signal, job->folder,
+                                  pictureName(job->moment.film, job->moment.seconds));
+    }
+    removeFile(job->picture());
+    removeFile(job->signal());
+    return result;
+  };
+  elsewhere(settle, [this, job](const std::pair<std::string, QByteArray>& result) {
+    jobs_.pop_front();
+    if (!jobs_.empty()) begin();
+    if (job->kept) job->kept(fileUrlFromPath(result.first));
+    if (job->made) job->made(result.second);
+  });
+}
+
+}  // namespace tromelo
