@@ -1,4 +1,5 @@
 #include "EndToEnd.h"
+#include "support/Files.h"
 #include "support/Table.h"
 
 namespace tromelo::testing {
@@ -7,6 +8,9 @@ namespace tromelo::testing {
 struct Keyboard : EndToEnd {
   void SetUp() override {
     screen::movePointer({5, 700});
+    const QString pictures = player.homePath() + "/pictures";
+    writeFile(player.homePath() + "/config/user-dirs.dirs",
+              "XDG_PICTURES_DIR=\"" + pictures.toStdString() + "\"\n");
     player.start({clip("tracks.mkv")});
     ASSERT_TRUE(player.waitUntilPlaying());
     ASSERT_TRUE(player.waitUntil([&] { return isActive("tracks"); }));
@@ -69,6 +73,21 @@ TEST_F(Keyboard, AHeldKeyStopsWhenItIsLetGo) {
     ASSERT_TRUE(drain());
     EXPECT_EQ(number(property), value);
   }
+}
+
+TEST_F(Keyboard, KeepsThePictureAndTheSignalOfAnHdrFilm) {
+  probe().command({"loadfile", clip("hdr10.mkv")});
+  ASSERT_TRUE(player.waitFor("signal", "HDR10 · PQ"));
+  ASSERT_TRUE(player.waitUntil([&] { return isActive("hdr10"); }));
+  screen::press("w");
+  const QString pictures = player.homePath() + "/pictures/";
+  ASSERT_TRUE(player.waitUntil([&] { return QDir(pictures).entryList(QDir::Files).size() == 2; }));
+  const QByteArray sdr = readFile(pictures + "hdr10 – 0.00.00.png");
+  const QByteArray hdr = readFile(pictures + "hdr10 – 0.00.00 HDR.png");
+  EXPECT_TRUE(sdr.contains("IEND"));
+  EXPECT_FALSE(sdr.contains("cICP"));
+  // BT.2020, PQ, RGB, full range.
+  EXPECT_TRUE(hdr.contains(QByteArray("cICP\x09\x10\x00\x01", 8)));
 }
 
 TEST_F(Keyboard, KeysOfTheProgramPass) {
