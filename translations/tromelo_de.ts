@@ -845,6 +845,30 @@
         <source>Tromelo plays local files only.</source>
         <translation>Tromelo spielt nur lokale Dateien ab.</translation>
     </message>
+    <message>
+        <source>No picture to keep</source>
+        <translation>Kein Bild zum Sichern</translation>
+    </message>
+    <message>
+        <source>The picture couldn&apos;t be kept; look whether there is room in your pictures folder.</source>
+        <translation>Das Bild konnte nicht gesichert werden; sehen Sie nach, ob in Ihrem Bilderordner Platz ist.</translation>
+    </message>
+    <message>
+        <source>Picture kept: %1</source>
+        <translation>Bild gesichert: %1</translation>
+    </message>
+    <message>
+        <source>No picture to copy</source>
+        <translation>Kein Bild zum Kopieren</translation>
+    </message>
+    <message>
+        <source>The picture couldn&apos;t be copied</source>
+        <translation>Das Bild konnte nicht kopiert werden</translation>
+    </message>
+    <message>
+        <source>Picture copied</source>
+        <translation>Bild kopiert</translation>
+    </message>
 </context>
 <context>
     <name>tromelo::PlaybackState</name>
@@ -1250,6 +1274,30 @@
     <message>
         <source>A–B loop (from, to, off)</source>
         <translation>A–B-Schleife (ab, bis, aus)</translation>
+    </message>
+    <message>
+        <source>W / ⇧W</source>
+        <translation>W / ⇧W</translation>
+    </message>
+    <message>
+        <source>Keep the picture, with / without subtitles</source>
+        <translation>Bild sichern, mit / ohne Untertitel</translation>
+    </message>
+    <message>
+        <source>⌥W</source>
+        <translation>⌥W</translation>
+    </message>
+    <message>
+        <source>Keep the picture as it is on the screen</source>
+        <translation>Bild sichern, wie es auf dem Bildschirm ist</translation>
+    </message>
+    <message>
+        <source>⌘C</source>
+        <translation>⌘C</translation>
+    </message>
+    <message>
+        <source>Copy the picture</source>
+        <translation>Bild kopieren</translation>
     </message>
 </context>
 <context>
