@@ -25,6 +25,28 @@
     </message>
 </context>
 <context>
+    <name>BookmarkList</name>
+    <message>
+        <source>Bookmarks</source>
+        <translation>Lesezeichen</translation>
+    </message>
+</context>
+<context>
+    <name>BookmarkRow</name>
+    <message>
+        <source>Name of the bookmark</source>
+        <translation>Name des Lesezeichens</translation>
+    </message>
+    <message>
+        <source>Rename (F2)</source>
+        <translation>Umbenennen (F2)</translation>
+    </message>
+    <message>
+        <source>Remove (Delete)</source>
+        <translation>Entfernen (Entf)</translation>
+    </message>
+</context>
+<context>
     <name>Chapter</name>
     <message>
         <source>Chapter %1</source>
@@ -866,6 +888,10 @@
         <translation>Das Bild konnte nicht kopiert werden</translation>
     </message>
     <message>
+        <source>Bookmark %1</source>
+        <translation>Lesezeichen %1</translation>
+    </message>
+    <message>
         <source>Picture copied</source>
         <translation>Bild kopiert</translation>
     </message>
@@ -1294,6 +1320,22 @@
     <message>
         <source>⌘C</source>
         <translation>⌘C</translation>
+    </message>
+    <message>
+        <source>Bookmark “%1” is here</source>
+        <translation>Hier ist das Lesezeichen „%1“</translation>
+    </message>
+    <message>
+        <source>Bookmark at %1</source>
+        <translation>Lesezeichen bei %1</translation>
+    </message>
+    <message>
+        <source>D</source>
+        <translation>D</translation>
+    </message>
+    <message>
+        <source>Add a bookmark</source>
+        <translation>Lesezeichen setzen</translation>
     </message>
     <message>
         <source>Copy the picture</source>

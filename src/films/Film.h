@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QObject>
 #include <QString>
 #include <QtTypes>
 #include <string>
@@ -38,7 +39,12 @@ struct FilmProgress {
 };
 
 /// A moment of a film that a person has given a name.
-struct FilmBookmark {
+class FilmBookmark {
+  Q_GADGET
+  Q_PROPERTY(double position MEMBER position CONSTANT)
+  Q_PROPERTY(QString name MEMBER name CONSTANT)
+
+ public:
   qint64 id = 0;
   double position = 0;  // seconds
   QString name;

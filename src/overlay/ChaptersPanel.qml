@@ -7,13 +7,18 @@ import Tromelo.Controls
 import Tromelo.Player
 import Tromelo.Theme
 
-// The chapters. Choosing one goes there and closes the panel.
+// The chapters, and the bookmarks below them. Choosing one goes there and closes the panel.
 ListView {
     id: panel
 
     required property PlaybackModel playback
+    property bool isPlaced: false
 
     signal finished
+
+    function showCurrent() {
+        positionViewAtIndex(playback.currentChapter, ListView.Contain);
+    }
 
     objectName: "chaptersPanel"
     implicitWidth: Theme.chaptersWidth
@@ -25,10 +30,20 @@ ListView {
     boundsBehavior: Flickable.StopAtBounds
     clip: true
     Accessible.role: Accessible.List
-    Component.onCompleted: Qt.callLater(positionViewAtIndex, playback.currentChapter, ListView.Contain)
+    // Once it has its size.
+    onHeightChanged: if (height > 0 && !isPlaced) {
+        isPlaced = true;
+        Qt.callLater(showCurrent);
+    }
     Accessible.name: qsTr("Chapters")
 
     T.ScrollBar.vertical: ThinScrollBar {}
+
+    footer: BookmarkList {
+        width: panel.width
+        playback: panel.playback
+        onChosen: panel.finished()
+    }
 
     delegate: PanelRow {
         id: row

@@ -43,7 +43,7 @@ Row {
             required property barPanel modelData
 
             objectName: modelData.button
-            visible: modelData.button !== "" && (!modelData.needsChapters || options.playback.chapters.length > 0)
+            visible: modelData.button !== "" && (!modelData.needsPlaces || options.playback.hasPlaces)
             symbol: modelData.symbol
             tip: modelData.tip
             active: options.chrome.panel === modelData.panel

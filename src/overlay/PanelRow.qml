@@ -28,6 +28,8 @@ T.AbstractButton {
     background: Rectangle {
         radius: Theme.rowRadius
         color: row.rest
+        border.width: row.visualFocus ? Theme.focusWidth : 0
+        border.color: Theme.accent
 
         Rectangle {
             anchors.fill: parent

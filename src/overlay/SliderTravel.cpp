@@ -28,6 +28,15 @@ QList<double> SliderTravel::marks(const QList<Chapter>& chapters, double duratio
   return marks;
 }
 
+QList<double> SliderTravel::bookmarkMarks(const QList<FilmBookmark>& bookmarks, double duration,
+                                          double width) {
+  QList<double> marks;
+  if (!(duration > 0)) return marks;
+  for (const FilmBookmark& bookmark : bookmarks)
+    marks.append(place(bookmark.position / duration, width));
+  return marks;
+}
+
 QList<double> SliderTravel::loopMarks(const AbLoop& loop, double duration, double width) {
   QList<double> marks;
   if (!(duration > 0)) return marks;

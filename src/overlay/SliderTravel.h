@@ -4,6 +4,7 @@
 #include <QObject>
 
 #include "playback/AbLoop.h"
+#include "playback/Bookmarks.h"
 #include "playback/Chapter.h"
 
 namespace tromelo {
@@ -26,6 +27,9 @@ class SliderTravel : public QObject {
   /// Where chapters begin. The first begins with the file and has no mark. `duration` in seconds.
   Q_INVOKABLE static QList<double> marks(const QList<tromelo::Chapter>& chapters, double duration,
                                          double width);
+
+  Q_INVOKABLE static QList<double> bookmarkMarks(const QList<tromelo::FilmBookmark>& bookmarks,
+                                                 double duration, double width);
 
   /// Of a loop, as many as it has so far.
   Q_INVOKABLE static QList<double> loopMarks(const tromelo::AbLoop& loop, double duration,

@@ -51,6 +51,11 @@ Item {
         playback: row.playback
     }
 
+    BookmarkMarks {
+        anchors.fill: slider
+        playback: row.playback
+    }
+
     PlayerSlider {
         id: slider
 

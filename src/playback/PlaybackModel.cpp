@@ -37,9 +37,11 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       settings_(parts.defaults),
       screenshots_(engine_, parts.picturesFolder),
       copyPicture_(std::move(parts.copyPicture)),
+      marks_(parts.films),
       existence_(std::move(parts.fileExists),
                  [this](const QList<FileExistence::Answer>& answers) { takeAnswers(answers); }),
       localFiles_(std::move(parts.mountedPath)) {
+  connect(&marks_, &Bookmarks::changed, this, [this] { bookmarks_ = marks_.all(); });
   hardware_.softwarePaths = storedSoftwareDecodePaths(defaults_);
   loadRecents();
   startEngine(parts);

@@ -13,6 +13,7 @@
 #include "platform/FilePath.h"
 #include "platform/LocalFiles.h"
 #include "platform/ScreenHeadroom.h"
+#include "playback/Bookmarks.h"
 #include "playback/HardwareDecoding.h"
 #include "playback/PlaybackState.h"
 #include "playback/PlayerPresenting.h"
@@ -24,6 +25,7 @@
 namespace tromelo {
 
 class Clock;
+class FilmMemory;
 class FileChooser;
 class UserDefaults;
 struct PropertyMapping;
@@ -55,7 +57,8 @@ class PlaybackModel : public PlaybackState {
     std::string picturesFolder = {};  // where pictures of films are kept
     /// Puts a picture, as PNG, onto the desktop's clipboard.
     std::function<void(const QByteArray& png)> copyPicture = [](const QByteArray&) {};
-    QString engineFault = {};  // a sentence: why the engine can't be started; empty: it can
+    QString engineFault = {};     // a sentence: why the engine can't be started; empty: it can
+    FilmMemory* films = nullptr;  // none: no film is remembered
   };
 
   /// Starts the engine; a failure shows in status and errorMessage.
@@ -161,6 +164,10 @@ class PlaybackModel : public PlaybackState {
   Q_INVOKABLE QString cycleAudio();
   /// To the next line of the subtitles that are shown, or to the one before; false where none are.
   bool stepSubtitleLine(int steps);
+  /// A bookmark here; where one is already, that one is returned, and stays the only one.
+  std::optional<FilmBookmark> addBookmark();
+  Q_INVOKABLE void renameBookmark(qint64 id, const QString& name) { marks_.rename(id, name); }
+  Q_INVOKABLE void removeBookmark(qint64 id) { marks_.remove(id); }
   Q_INVOKABLE void seekToChapter(int position);
   /// The chapter that it goes to; none where there is none in that direction.
   std::optional<Chapter> stepChapter(int steps);
@@ -243,6 +250,7 @@ class PlaybackModel : public PlaybackState {
   PlayerSettings settings_;
   Screenshots screenshots_;
   std::function<void(const QByteArray&)> copyPicture_;
+  Bookmarks marks_;
   HardwareDecoding hardware_;
   QueueProgress progress_;
   RecentFiles recentFiles_;

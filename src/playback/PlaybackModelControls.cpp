@@ -224,6 +224,12 @@ bool PlaybackModel::stepSubtitleLine(int steps) {
   return areShown;
 }
 
+std::optional<FilmBookmark> PlaybackModel::addBookmark() {
+  if (const auto there = marks_.at(position_)) return there;
+  marks_.add(position_, tr("Bookmark %1").arg(bookmarks().size() + 1));
+  return {};
+}
+
 void PlaybackModel::seekToChapter(int position) {
   if (position < 0 || position >= chapters_.get().size()) return;
   currentChapter_ = position;

@@ -49,6 +49,7 @@ void PlaybackModel::resetForNewFile() {
   elapsed_ = 0;
   position_ = 0;
   abLoop_ = AbLoop();
+  marks_.fileStarted();
   duration_ = 0;
   scrubPosition_ = 0;
   isScrubbing_ = false;

@@ -36,6 +36,7 @@ void PlaybackModel::askForPath() {
 }
 
 void PlaybackModel::remember(const std::string& path) {
+  marks_.fileKnown(path, std::nullopt);
   const QUrl file = fileUrlFromPath(path);
   recentFiles_.remember(file);
   storeRecents();

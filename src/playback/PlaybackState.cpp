@@ -11,6 +11,8 @@ PlaybackState::PlaybackState(QObject* parent) : QObject(parent) {
                              &PlaybackState::displayChanged, &PlaybackState::decoderChanged,
                              &PlaybackState::containerChanged})
     connect(this, changed, this, &PlaybackState::infoChanged);
+  for (const auto changed : {&PlaybackState::chaptersChanged, &PlaybackState::bookmarksChanged})
+    connect(this, changed, this, &PlaybackState::hasPlacesChanged);
 }
 
 QString PlaybackState::buffering() const {

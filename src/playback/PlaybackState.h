@@ -7,6 +7,7 @@
 #include <QUrl>
 #include <optional>
 
+#include "films/Film.h"
 #include "platform/PictureWay.h"
 #include "platform/ScreenHeadroom.h"
 #include "playback/AbLoop.h"
@@ -62,6 +63,8 @@ class PlaybackState : public QObject {
       QList<tromelo::MediaTrack> subtitleTracks READ subtitleTracks NOTIFY subtitleTracksChanged)
   Q_PROPERTY(QList<tromelo::Chapter> chapters READ chapters NOTIFY chaptersChanged)
   Q_PROPERTY(int currentChapter READ currentChapterOrNone NOTIFY currentChapterChanged)
+  Q_PROPERTY(QList<tromelo::FilmBookmark> bookmarks READ bookmarks NOTIFY bookmarksChanged)
+  Q_PROPERTY(bool hasPlaces READ hasPlaces NOTIFY hasPlacesChanged)
   Q_PROPERTY(QList<tromelo::QueueItem> queue READ queue NOTIFY queueChanged)
   Q_PROPERTY(bool hasNext READ hasNext NOTIFY queueChanged)
   Q_PROPERTY(bool hasPrevious READ hasPrevious NOTIFY queueChanged)
@@ -113,6 +116,9 @@ class PlaybackState : public QObject {
   QList<MediaTrack> subtitleTracks() const { return subtitleTracks_; }
   QList<Chapter> chapters() const { return chapters_; }
   std::optional<int> currentChapter() const { return currentChapter_; }  // in chapters
+  FilmBookmarks bookmarks() const { return bookmarks_; }                 // of the current file
+  /// Chapters or bookmarks.
+  bool hasPlaces() const { return !chapters().isEmpty() || !bookmarks().isEmpty(); }
   QList<QueueItem> queue() const { return queue_; }
   bool isScrubbing() const { return isScrubbing_; }        // the position is being dragged
   double scrubPosition() const { return scrubPosition_; }  // seconds; elapsed unless dragged
@@ -157,6 +163,8 @@ class PlaybackState : public QObject {
   void subtitleTracksChanged();
   void chaptersChanged();
   void currentChapterChanged();
+  void bookmarksChanged();
+  void hasPlacesChanged();
   void queueChanged();
   void isScrubbingChanged();
   void scrubPositionChanged();
@@ -206,6 +214,7 @@ class PlaybackState : public QObject {
   Published<QList<MediaTrack>> subtitleTracks_{this, &PlaybackState::subtitleTracksChanged};
   Published<QList<Chapter>> chapters_{this, &PlaybackState::chaptersChanged};
   Published<std::optional<int>> currentChapter_{this, &PlaybackState::currentChapterChanged};
+  Published<FilmBookmarks> bookmarks_{this, &PlaybackState::bookmarksChanged};
   Published<QList<QueueItem>> queue_{this, &PlaybackState::queueChanged};
   Published<bool> isScrubbing_{this, &PlaybackState::isScrubbingChanged};
   Published<double> scrubPosition_{this, &PlaybackState::scrubPositionChanged};

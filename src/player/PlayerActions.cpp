@@ -56,7 +56,7 @@ QString toggle(Player& player, PlaybackModel&) {
 }
 
 QString toggleChapters(Player& player, PlaybackModel& playback) {
-  if (playback.chapters().isEmpty()) return PlayerActions::tr("No chapters");
+  if (!playback.hasPlaces()) return PlayerActions::tr("No chapters");
   return toggle<PlayerPanel::chapters>(player, playback);
 }
 
@@ -149,6 +149,13 @@ template <Screenshots::What what>
 QString keepPicture(Player&, PlaybackModel& playback) {
   playback.keepPicture(what);
   return {};
+}
+
+QString addBookmark(Player&, PlaybackModel& playback) {
+  if (!playback.isLoaded()) return {};
+  if (const auto there = playback.addBookmark())
+    return PlayerActions::tr("Bookmark “%1” is here").arg(there->name);
+  return PlayerActions::tr("Bookmark at %1").arg(Format::clock(playback.elapsed()));
 }
 
 bool repeats(Held held, const PlaybackModel& playback) {
@@ -280,6 +287,9 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
             .program = Program::open,
             .tips = {{OpenVideo, QT_TR_NOOP("Open a video (⌘O)")},
                      {OpenVideos, QT_TR_NOOP("Open videos (⌘O)")}}}}},
+         {QT_TR_NOOP("D"),
+          QT_TR_NOOP("Add a bookmark"),
+          {{.keys = {typed(u"dD")}, .act = addBookmark}}},
      }},
     {QT_TR_NOOP("Audio & subtitles"),
      {

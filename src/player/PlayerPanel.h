@@ -33,7 +33,7 @@ class BarPanel {
   Q_PROPERTY(QString symbol MEMBER symbol CONSTANT)
   Q_PROPERTY(QString name READ shownName CONSTANT)
   Q_PROPERTY(QString tip READ buttonTip CONSTANT)
-  Q_PROPERTY(bool needsChapters MEMBER needsChapters CONSTANT)
+  Q_PROPERTY(bool needsPlaces MEMBER needsPlaces CONSTANT)
 
  public:
   QString shownName() const { return QCoreApplication::translate("PlayerPanels", name); }
@@ -45,7 +45,7 @@ class BarPanel {
   QString symbol = {};
   const char* name = "";                       // as people read it, to be translated
   std::optional<PlayerActions::Tip> tip = {};  // of the key that does the same, if there is one
-  bool needsChapters = false;                  // the button is there only for a file that has some
+  bool needsPlaces = false;  // the button is there only for a file with chapters or bookmarks
 };
 
 /// In the order of their buttons.
@@ -57,7 +57,7 @@ inline QList<BarPanel> barPanels() {
        .symbol = QStringLiteral("list.bullet.rectangle"),
        .name = QT_TRANSLATE_NOOP("PlayerPanels", "Chapters"),
        .tip = PlayerActions::Chapters,
-       .needsChapters = true},
+       .needsPlaces = true},
       {.panel = PlayerPanel::tracks,
        .body = QStringLiteral("TracksPanel"),
        .button = QStringLiteral("tracksButton"),

@@ -33,9 +33,9 @@ void PlayerWindowController::followState() {
   connect(&chrome_, &PlayerChrome::panelChanged, this, [this] {
     if (window_) chrome_.panel() ? showChrome() : scheduleChromeHide();
   });
-  connect(&playback_, &PlaybackModel::chaptersChanged, this, [this] {
+  connect(&playback_, &PlaybackModel::hasPlacesChanged, this, [this] {
     // Its button is gone, and there is nothing to be seen in it.
-    if (playback_.chapters().isEmpty()) chrome_.close(PlayerPanel::chapters);
+    if (!playback_.hasPlaces()) chrome_.close(PlayerPanel::chapters);
   });
   connect(&chrome_, &PlayerChrome::showsInfoChanged, this,
           [this] { setInfoRefresh(chrome_.showsInfo()); });

@@ -48,6 +48,12 @@ struct ChapterForQml {
   QML_VALUE_TYPE(chapter)
 };
 
+struct FilmBookmarkForQml {
+  Q_GADGET
+  QML_FOREIGN(tromelo::FilmBookmark)
+  QML_VALUE_TYPE(filmBookmark)
+};
+
 struct QueueItemForQml {
   Q_GADGET
   QML_FOREIGN(tromelo::QueueItem)

@@ -160,6 +160,8 @@ QtObject {
     readonly property real fieldKnobSize: 14
     readonly property real entryWidth: 200
     readonly property real entryHeight: 28
+    readonly property real rowEntryHeight: 20
+    readonly property int nameLength: 200 // characters, at most
     readonly property real swatchSize: 18
     readonly property real wellWidth: 36
     readonly property real checkBoxSize: 14
@@ -216,6 +218,7 @@ QtObject {
     readonly property real markWidth: 2
     readonly property real markHeight: 9
     readonly property real loopMarkHeight: 15
+    readonly property real bookmarkMark: 4
 
     readonly property real menuWidth: 92
     readonly property real menuRow: 22

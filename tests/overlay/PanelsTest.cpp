@@ -112,6 +112,44 @@ TEST_F(PanelsTest, AChapterIsGoneTo) {
   EXPECT_EQ(current(), 2);
 }
 
+TEST_F(PanelsTest, ABookmarkIsGoneToRenamedAndRemoved) {
+  load(4000);
+  report(MpvProperty::path, "/films/film.mkv");
+  for (const double position : {61.0, 3700.0}) {
+    report(MpvProperty::timePos, position);
+    playback_.addBookmark();
+  }
+  show("ChaptersPanel", {{"playback", playback()}, {"width", 320}, {"height", 400}});
+  ASSERT_EQ(all("bookmark").size(), 2);
+  EXPECT_EQ(texts(all("bookmarkTime")), QStringList({"1:01", "1:01:40"}));
+  click(all("bookmark")[0]);
+  EXPECT_EQ(takeSent(), Sent{"seek 61.0 absolute+exact"});
+
+  const auto edit = [this](const char* typed, int end) {
+    ASSERT_TRUE(only("bookmarkField") && only("bookmarkField")->hasActiveFocus());
+    for (const char* letter = typed; *letter; ++letter) QTest::keyClick(&host_, *letter);
+    QTest::keyClick(&host_, Qt::Key(end));
+    EXPECT_TRUE(waitFor([this] { return !only("bookmarkField"); }));
+  };
+  const auto use = [this](const QQuickItem* button) {
+    press(frame(button).center());
+    release(frame(button).center());
+    settle();
+  };
+  use(all("renameBookmark")[1]);
+  edit("Ende", Qt::Key_Return);
+  EXPECT_EQ(texts(all("bookmarkName")), QStringList({"Bookmark 1", "Ende"}));
+  EXPECT_FALSE(host_.activeFocusItem()->flags().testFlag(QQuickItem::ItemAcceptsInputMethod));
+  all("bookmark")[0]->forceActiveFocus(Qt::TabFocusReason);
+  key(Qt::Key_F2);
+  edit("No", Qt::Key_Escape);
+  EXPECT_EQ(texts(all("bookmarkName")), QStringList({"Bookmark 1", "Ende"}));
+  key(Qt::Key_Delete);
+  EXPECT_EQ(texts(all("bookmarkName")), QStringList("Ende"));
+  use(only("removeBookmark"));
+  EXPECT_TRUE(all("bookmark").isEmpty());
+}
+
 TEST_F(PanelsTest, TheQueueIsPlayedAndClearedByItsRows) {
   show("QueuePanel", {{"playback", playback()}, {"width", 340}, {"height", 400}});
   for (const auto& [count, current, hint, canClear] :

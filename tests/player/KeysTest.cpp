@@ -42,6 +42,7 @@ struct KeysTest : PlayerTest {
   /// Always the same film at the same place.
   void begin() {
     load(4000);
+    report(MpvProperty::path, "/films/film.mkv");
     report(MpvProperty::pause, false);
     report(MpvProperty::timePos, 51.5);
     report(MpvProperty::volume, 49.6);
@@ -167,7 +168,7 @@ TEST_F(KeysTest, EachDoesAsTheListSays) {
 /// As the list of keys and the manual write it.
 KeyPress written(QString keys) {
   Qt::KeyboardModifiers modifiers;
-  keys.replace("Ctrl+", "⌘");
+  keys.replace("Ctrl+", "⌘").replace("Shift+", "⇧").replace("Alt+", "⌥");
   for (const auto& [sign, modifier] : {std::pair{u'⇧', kShift}, {u'⌥', kAlt}, {u'⌘', kControl}}) {
     modifiers.setFlag(modifier, keys.contains(sign));
     keys.remove(sign);
@@ -257,6 +258,7 @@ TEST_F(KeysTest, PressedAgainTheyUndoOrSayThatThereIsNoMore) {
       {typed("l"), {"set loop-file no", "\"Loop off\""}},
       {typed("N"), {"\"No next chapter\""}},
       {typed("."), {"\"No subtitles\""}},
+      {typed("d"), {"\"Bookmark “Bookmark 1” is here\""}},
       {typed("g"), {"set sub-delay -0.1", "\"Subtitle delay -100 ms\""}},
   };
   for (const Row& row : rows) {
@@ -282,6 +284,10 @@ TEST_F(KeysTest, PressedAgainTheyUndoOrSayThatThereIsNoMore) {
   EXPECT_TRUE(press(typed("P")));
   EXPECT_EQ(effects(), Sent{"\"No previous chapter\""});
   report(MpvProperty::chapterList, MpvNode{MpvList()});
+  EXPECT_TRUE(press(typed("c")));
+  EXPECT_EQ(effects(), (Sent{"chapters", "\"No previous chapter\""})) << "it has a bookmark";
+  playback_.removeBookmark(playback_.bookmarks()[0].id);
+  EXPECT_EQ(chrome().panel(), std::nullopt);
   EXPECT_TRUE(press(typed("c")));
   EXPECT_EQ(effects(), Sent{"\"No chapters\""});
 }
