@@ -54,6 +54,8 @@ Plays FILE, or shows the library when there is none.
 
   --start=SECONDS     begin playing there, as in --start=90.5
   --report            say on standard output what the player is doing, a "key: value" line a change
+  --thumbnail [-s PIXELS] FILE PICTURE.png
+                      write a picture of FILE, as desktops ask for it, and exit
   --display-selftest  print what the video path finds on this machine, and exit
   --help              print this, and exit
   --version           print the version, and exit

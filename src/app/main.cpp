@@ -10,11 +10,14 @@
 #include <mutex>
 #include <optional>
 #include <span>
+#include <string_view>
 #include <utility>
 
 #include "app/CommandLine.h"
 #include "app/Program.h"
 #include "app/SelftestCommand.h"
+#include "pictures/PictureMaker.h"
+#include "pictures/Thumbnailer.h"
 #include "platform/HostEnvironment.h"
 
 namespace {
@@ -100,7 +103,12 @@ struct Translations {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const auto line = tromelo::CommandLine::parse(std::span(argv, static_cast<std::size_t>(argc)));
+  const auto arguments = std::span(argv, static_cast<std::size_t>(argc));
+  // These are no players: they need neither a display nor a bus, and touch neither.
+  const std::string_view first = argc > 1 ? argv[1] : "";
+  if (first == tromelo::kPicturesOption) return tromelo::runPictureMaker();
+  if (first == tromelo::kThumbnailOption) return tromelo::runThumbnailer(arguments.subspan(2));
+  const auto line = tromelo::CommandLine::parse(arguments);
   if (line.help) return std::fputs(tromelo::CommandLine::helpText().c_str(), stdout) < 0;
   if (line.version) return std::puts("Tromelo " TROMELO_VERSION) < 0;
   if (!hasHostDisplay()) {

@@ -23,6 +23,11 @@ inline QString userPicturesDirectory() {
   return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
 }
 
+/// $XDG_CACHE_HOME
+inline QString userCacheDirectory() {
+  return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
+}
+
 /// $XDG_STATE_HOME/Tromelo
 inline QString diagnosticsDirectoryPath() {
   return QStandardPaths::writableLocation(QStandardPaths::GenericStateLocation) +

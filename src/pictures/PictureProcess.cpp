@@ -1,0 +1,80 @@
+#include "pictures/PictureProcess.h"
+
+#include <utility>
+
+#include "platform/HostEnvironment.h"
+
+namespace tromelo {
+
+PictureProcess::PictureProcess(Program program, Clock& clock)
+    : program_(std::move(program)), clock_(clock) {}
+
+PictureProcess::~PictureProcess() { end(); }
+
+void PictureProcess::ask(const PictureRequest& request, Answer answer) {
+  request_ = request;
+  answer_ = std::move(answer);
+  if (!process_) start();
+  limit_ = clock_.after(kPatience, [this] { fail(); });
+  if (process_->isOpen()) process_->write(request.line());
+}
+
+void PictureProcess::start() {
+  received_.clear();
+  listener_ = std::make_unique<QObject>();
+  process_ = new QProcess;  // see dismiss()
+  process_->setProcessEnvironment(HostEnvironment::processEnvironment());
+  process_->setStandardErrorFile(QProcess::nullDevice());
+  // Posted: a process that can't be started says so before anybody could have asked it.
+  QObject::connect(
+      process_, &QProcess::errorOccurred, listener_.get(), [this] { fail(); },
+      Qt::QueuedConnection);
+  QObject::connect(
+      process_, &QProcess::finished, listener_.get(), [this] { fail(); }, Qt::QueuedConnection);
+  QObject::connect(process_, &QProcess::readyReadStandardOutput, listener_.get(),
+                   [this] { read(); });
+  process_->start(program_.file, program_.arguments);
+}
+
+void PictureProcess::read() {
+  received_ += process_->readAllStandardOutput();
+  if (!answer_) return received_.isEmpty() ? void() : fail();
+  auto taken = takePictureAnswer(received_, request_.room);
+  if (const auto* unread = std::get_if<UnreadAnswer>(&taken)) {
+    if (*unread == UnreadAnswer::nonsense) fail();
+    return;
+  }
+  auto& answer = std::get<PictureAnswer>(taken);
+  if (answer.number != request_.number || !received_.isEmpty()) return fail();
+  limit_ = clock_.after(kRest, [this] { end(); });
+  finish({.picture = std::move(answer.picture)});
+}
+
+void PictureProcess::finish(const Outcome& outcome) {
+  if (const auto answer = std::exchange(answer_, nullptr)) answer(outcome);
+}
+
+void PictureProcess::fail() {
+  dismiss();
+  finish({.hasFailed = true});
+}
+
+void PictureProcess::end() {
+  answer_ = nullptr;
+  dismiss();
+}
+
+void PictureProcess::dismiss() {
+  limit_.reset();
+  // What is told of from now on is no longer heard. It may be told of here and now.
+  if (listener_) listener_.release()->deleteLater();
+  auto* const process = std::exchange(process_, nullptr);
+  if (!process) return;
+  process->disconnect();
+  // Nobody waits for it to be gone, which the kernel may put off for as long as a disk does.
+  if (process->state() == QProcess::NotRunning) return process->deleteLater();
+  QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
+  process->kill();
+}
+
+}  // namespace tromelo
