@@ -17,6 +17,7 @@
 #include "library/LibraryWindow.h"
 #include "overlay/QuickPlayerOverlay.h"
 #include "platform/DesktopRecents.h"
+#include "platform/FilePath.h"
 #include "platform/HostEnvironment.h"
 #include "platform/SessionBus.h"
 #include "platform/UserPaths.h"
@@ -38,7 +39,11 @@ Program::Program(const CommandLine& commandLine)
     : commandLine_(commandLine),
       defaults_(UserDefaults::named(QStringLiteral("Tromelo"))),
       reducedMotion_(qgetenv("TROMELO_REDUCED_MOTION"), sessionBus()),
-      service_(sessionBus()) {}
+      service_(sessionBus()),
+      pictures_({.maker = {.file = QCoreApplication::applicationFilePath(),
+                           .arguments = {QString::fromLatin1(kPicturesOption)}},
+                 .folder = userCacheDirectory() + QStringLiteral("/Tromelo/pictures"),
+                 .clock = clock_}) {}
 
 Program::~Program() = default;
 
@@ -53,6 +58,7 @@ int Program::run() {
   tellOfMissingLog();
   offerToDesktop();
   offerMediaControls();
+  offerPictures();
   keepAwake();
   delegate_->applicationDidFinishLaunching();
   // From here on the engine opens the file, if there is one, beside us.
@@ -117,7 +123,8 @@ void Program::makeDelegate() {
       display_, qmlEngine_, reducedMotion_,
       [this](QQuickItem& scene, PlaybackModel& playback, PlayerWindowController& player) {
         return std::make_unique<QuickPlayerOverlay>(qmlEngine_, scene, playback, player,
-                                                    reducedMotion_, clock_);
+                                                    reducedMotion_, clock_, &PointerWatch::onScreen,
+                                                    &pictures_);
       });
   QObject::connect(stage_.get(), &PlayerStage::dmabufsWithdrawn, stage_.get(),
                    [this] { doWithoutDmabufs(); });
@@ -262,6 +269,18 @@ void Program::offerMediaControls() {
                  .quit = [this] { delegate_->quit(); },
                  .stop = stop,
                  .toggleFullscreen = [this] { delegate_->player().toggleFullscreen(); }});
+}
+
+void Program::offerPictures() {
+  const PlaybackModel& playback = delegate_->playback();
+  const auto tell = [this, &playback] {
+    const bool hasPictures = playback.isLoaded() && playback.facts().hasPicture();
+    pictures_.setFilm(hasPictures ? pathFromFileUrl(playback.lastURL()) : std::string(),
+                      playback.duration());
+  };
+  for (const auto changed : {&PlaybackState::isLoadedChanged, &PlaybackState::videoSizeChanged,
+                             &PlaybackState::durationChanged, &PlaybackState::lastURLChanged})
+    QObject::connect(&playback, changed, &pictures_, tell);
 }
 
 void Program::keepAwake() {

@@ -14,6 +14,7 @@
 #include "display/PrivateDisplay.h"
 #include "display/SceneDrawing.h"
 #include "mpris/MprisService.h"
+#include "pictures/PictureSource.h"
 #include "platform/Clock.h"
 #include "platform/IdleInhibitor.h"
 #include "platform/ReducedMotion.h"
@@ -56,6 +57,7 @@ class Program {
   void tellOfMissingLog();
   void offerToDesktop();
   void offerMediaControls();
+  void offerPictures();
   void keepAwake();
   void bringToFront();
   void handleLibraryClosed();
@@ -76,6 +78,7 @@ class Program {
   std::string vulkanDevice_;
   QString displayFault_;  // a sentence: why there is none
   QQmlEngine qmlEngine_;
+  PictureSource pictures_;
   std::unique_ptr<PlayerStage> stage_;
   std::unique_ptr<Commands> commands_;
   std::unique_ptr<AppDelegate> delegate_;

@@ -12,6 +12,8 @@ OverlaySurface {
     required property PlayerChrome chrome
 
     readonly property Repeater panelButtons: optionButtons.panelButtons
+    readonly property SliderInput position: times.input
+    readonly property real positionX: x + content.x + position.x
 
     signal fullscreenToggled
 
@@ -73,6 +75,8 @@ OverlaySurface {
         }
 
         TimeRow {
+            id: times
+
             width: content.width
             playback: bar.playback
         }

@@ -15,6 +15,8 @@ PlayerOverlayItem {
     required property PlayerWindowController player
     // What lies under the views: the video, where it can be sampled.
     property EngineWindowItem backdrop: null
+    // Of the film; none where nobody makes them.
+    property PictureSource pictures: null
 
     readonly property real insetWidth: width - 2 * Theme.overlayInset
     readonly property real insetHeight: height - 2 * Theme.overlayInset
@@ -91,6 +93,14 @@ PlayerOverlayItem {
             playback: overlay.playback
             chrome: overlay.chrome
             onFullscreenToggled: overlay.player.toggleFullscreen()
+        }
+
+        MomentPreview {
+            backdrop: overlay.backdrop
+            playback: overlay.playback
+            bar: controlBar
+            room: Qt.size(overlay.width, overlay.height)
+            pictures: overlay.pictures
         }
     }
 

@@ -24,4 +24,9 @@ QPointF PopoverFrame::placeAbove(QRectF anchor, QSizeF size, QSizeF room) {
   return within(above, anchor.center().x(), size).topLeft();
 }
 
+QSizeF PopoverFrame::pictureWithin(double height, QSizeF wanted) {
+  const double most = std::clamp(height / 2, 0.0, wanted.height());
+  return {std::round(wanted.width() * most / wanted.height()), std::round(most)};
+}
+
 }  // namespace tromelo

@@ -22,6 +22,10 @@ class PopoverFrame : public QObject {
   /// The top left corner of something that opens above `anchor` in its own size, a little away
   /// from it and from the edges of `room`.
   Q_INVOKABLE static QPointF placeAbove(QRectF anchor, QSizeF size, QSizeF room);
+
+  /// The size of a picture that is `wanted` where there is room, and of the same shape where only
+  /// so little `height` is free: it leaves half of that.
+  Q_INVOKABLE static QSizeF pictureWithin(double height, QSizeF wanted);
 };
 
 }  // namespace tromelo

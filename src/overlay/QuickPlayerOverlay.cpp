@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "overlay/PlayerOverlayItem.h"
+#include "pictures/PictureSource.h"
 #include "playback/PlaybackModel.h"
 #include "player/PlayerSceneItem.h"
 #include "player/PlayerWindowController.h"
@@ -13,8 +14,8 @@ namespace tromelo {
 namespace {
 
 std::unique_ptr<PlayerOverlayItem> makeView(QQmlEngine& engine, QQuickItem& scene,
-                                            PlaybackModel& playback,
-                                            PlayerWindowController& player) {
+                                            PlaybackModel& playback, PlayerWindowController& player,
+                                            PictureSource* pictures) {
   QQmlComponent component(&engine, QStringLiteral("Tromelo.Overlay"),
                           QStringLiteral("PlayerOverlayView"));
   const auto* played = qobject_cast<PlayerSceneItem*>(&scene);  // none where a test draws no video
@@ -23,6 +24,7 @@ std::unique_ptr<PlayerOverlayItem> makeView(QQmlEngine& engine, QQuickItem& scen
           {{QStringLiteral("playback"), QVariant::fromValue(&playback)},
            {QStringLiteral("chrome"), QVariant::fromValue(&player.chrome())},
            {QStringLiteral("player"), QVariant::fromValue(&player)},
+           {QStringLiteral("pictures"), QVariant::fromValue(pictures)},
            {QStringLiteral("backdrop"),
             QVariant::fromValue<QQuickItem*>(played ? &played->video() : nullptr)}})));
   if (!view) qFatal("%s", qPrintable(component.errorString()));
@@ -34,9 +36,9 @@ std::unique_ptr<PlayerOverlayItem> makeView(QQmlEngine& engine, QQuickItem& scen
 QuickPlayerOverlay::QuickPlayerOverlay(QQmlEngine& engine, QQuickItem& scene,
                                        PlaybackModel& playback, PlayerWindowController& player,
                                        const ReducedMotion& reducedMotion, Clock& clock,
-                                       PointerWatch::Place pointer)
+                                       PointerWatch::Place pointer, PictureSource* pictures)
     : scene_(scene),
-      view_(makeView(engine, scene, playback, player)),
+      view_(makeView(engine, scene, playback, player, pictures)),
       chrome_(std::make_unique<ChromeGroup>(view_->chromeItem(), reducedMotion)),
       pointer_(*scene.window(), clock, std::move(pointer), [this] { onActivity(); }) {
   view_->setParentItem(&scene);

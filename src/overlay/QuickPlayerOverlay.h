@@ -11,6 +11,7 @@
 
 namespace tromelo {
 
+class PictureSource;
 class PlaybackModel;
 class PlayerOverlayInput;
 class PlayerOverlayItem;
@@ -23,10 +24,11 @@ class QuickPlayerOverlay : public QObject, public PlayerOverlay {
 
  public:
   /// Fills `scene`, above everything else there. `scene`, which has a window, and the others
-  /// outlive it.
+  /// outlive it. Without `pictures` the slider shows none.
   QuickPlayerOverlay(QQmlEngine& engine, QQuickItem& scene, PlaybackModel& playback,
                      PlayerWindowController& player, const ReducedMotion& reducedMotion,
-                     Clock& clock, PointerWatch::Place pointer = &PointerWatch::onScreen);
+                     Clock& clock, PointerWatch::Place pointer = &PointerWatch::onScreen,
+                     PictureSource* pictures = nullptr);
   ~QuickPlayerOverlay() override;
 
   bool isMouseInsideChrome() const override;

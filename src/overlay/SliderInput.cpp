@@ -16,7 +16,12 @@ constexpr double kKnobReach = 7;  // from its middle, in points: a press there d
 
 SliderInput::SliderInput(QQuickItem* parent) : QQuickItem(parent) {
   setAcceptedMouseButtons(Qt::LeftButton);
+  setAcceptHoverEvents(true);
   placeKnob();
+  for (const auto changed : {&SliderInput::isDraggedChanged, &SliderInput::knobXChanged,
+                             &SliderInput::maximumValueChanged})
+    connect(this, changed, this, &SliderInput::pointedAtChanged);
+  connect(this, &QQuickItem::enabledChanged, this, &SliderInput::pointedAtChanged);
 }
 
 void SliderInput::setShown(double value) {
@@ -69,6 +74,22 @@ void SliderInput::setDragged(bool isDragged) {
   isDragged_ = isDragged;
   Q_EMIT isDraggedChanged();
   isDragged ? Q_EMIT begun() : Q_EMIT ended();
+}
+
+void SliderInput::setHover(std::optional<double> place) {
+  if (hover_ == place) return;
+  hover_ = place;
+  Q_EMIT pointedAtChanged();
+}
+
+double SliderInput::pointedX() const {
+  // On the travel of the knob, which ends before the slider does.
+  return SliderTravel::place(pointedValue() / maximumValue_, width());
+}
+
+double SliderInput::pointedValue() const {
+  if (isDragged_ || !hover_) return shown_;
+  return SliderTravel::valueAt(*hover_, width()) * maximumValue_;
 }
 
 void SliderInput::moveTo(double place) {

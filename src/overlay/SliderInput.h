@@ -2,6 +2,7 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <QQuickItem>
+#include <optional>
 
 namespace tromelo {
 
@@ -20,6 +21,10 @@ class SliderInput : public QQuickItem {
   /// move.
   Q_PROPERTY(double knobX READ knobX NOTIFY knobXChanged)
   Q_PROPERTY(bool isDragged READ isDragged NOTIFY isDraggedChanged)
+  /// A pointer rests on it or drags it; and then where, and at what value.
+  Q_PROPERTY(bool isPointedAt READ isPointedAt NOTIFY pointedAtChanged)
+  Q_PROPERTY(double pointedX READ pointedX NOTIFY pointedAtChanged)
+  Q_PROPERTY(double pointedValue READ pointedValue NOTIFY pointedAtChanged)
 
  public:
   explicit SliderInput(QQuickItem* parent = nullptr);
@@ -35,6 +40,9 @@ class SliderInput : public QQuickItem {
   void setStepSize(double size);
   double knobX() const { return knobX_; }
   bool isDragged() const { return isDragged_; }
+  bool isPointedAt() const { return isEnabled() && (isDragged_ || hover_); }
+  double pointedX() const;
+  double pointedValue() const;
 
  Q_SIGNALS:
   void shownChanged();
@@ -42,6 +50,7 @@ class SliderInput : public QQuickItem {
   void stepSizeChanged();
   void knobXChanged();
   void isDraggedChanged();
+  void pointedAtChanged();
   /// One begun, any number of moved, one ended.
   void begun();
   void moved(double value);
@@ -52,12 +61,16 @@ class SliderInput : public QQuickItem {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseUngrabEvent() override;
+  void hoverEnterEvent(QHoverEvent* event) override { setHover(event->position().x()); }
+  void hoverMoveEvent(QHoverEvent* event) override { setHover(event->position().x()); }
+  void hoverLeaveEvent(QHoverEvent*) override { setHover({}); }
   void geometryChange(const QRectF& geometry, const QRectF& oldGeometry) override;
   void itemChange(ItemChange change, const ItemChangeData& data) override;
 
  private:
   void placeKnob();
   void setDragged(bool isDragged);
+  void setHover(std::optional<double> place);
   void moveTo(double place);
 
   double shown_ = 0;
@@ -66,6 +79,7 @@ class SliderInput : public QQuickItem {
   double knobX_ = 0;
   double grip_ = 0;  // where the pointer holds the knob, from its middle
   bool isDragged_ = false;
+  std::optional<double> hover_;  // where a pointer is that drags nothing
 };
 
 }  // namespace tromelo

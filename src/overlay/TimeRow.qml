@@ -9,6 +9,7 @@ Item {
     id: row
 
     required property PlaybackModel playback
+    readonly property SliderInput input: slider
     readonly property real shownTime: playback.isScrubbing ? playback.scrubPosition : playback.elapsed
 
     implicitHeight: Theme.sliderHeight

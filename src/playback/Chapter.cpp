@@ -1,6 +1,7 @@
 #include "playback/Chapter.h"
 
 #include <QCoreApplication>
+#include <algorithm>
 
 #include "engine/MpvValue.h"
 
@@ -34,6 +35,11 @@ QList<Chapter> chapterList(const MpvValue& list) {
     chapters.append({position, chapterTitle(*entry, position), chapterTime(*entry)});
   }
   return chapters;
+}
+
+QString chapterTitleAt(const QList<Chapter>& chapters, double seconds) {
+  const auto next = std::ranges::upper_bound(chapters, seconds, {}, &Chapter::time);
+  return next == chapters.begin() ? QString() : std::prev(next)->title;
 }
 
 std::optional<int> steppedChapter(const QList<Chapter>& chapters, std::optional<int> current,

@@ -28,6 +28,9 @@ class Chapter {
 /// From the engine's "chapter-list"; what is not a list gives none.
 QList<Chapter> chapterList(const MpvValue& list);
 
+/// The title of the chapter that a moment is in; empty where there is none.
+QString chapterTitleAt(const QList<Chapter>& chapters, double seconds);
+
 /// The position of the chapter that is `steps` away from the `current` one at `elapsed` seconds;
 /// none where there is no such chapter. A step back goes to the start of the current chapter first,
 /// unless that has only just begun.

@@ -60,4 +60,8 @@ QString Format::chapterTitle(const QList<Chapter>& chapters, int position) {
   return position >= 0 && position < chapters.size() ? chapters[position].title : QString();
 }
 
+QString Format::chapterAt(const QList<Chapter>& chapters, double seconds) {
+  return chapterTitleAt(chapters, seconds);
+}
+
 }  // namespace tromelo

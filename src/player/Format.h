@@ -37,6 +37,9 @@ class Format : public QObject {
 
   /// Empty for a position that isn't in the list.
   Q_INVOKABLE static QString chapterTitle(const QList<tromelo::Chapter>& chapters, int position);
+
+  /// Of the chapter that a moment is in, or empty.
+  Q_INVOKABLE static QString chapterAt(const QList<tromelo::Chapter>& chapters, double seconds);
 };
 
 }  // namespace tromelo

@@ -87,6 +87,15 @@ QtObject {
     readonly property real badgeGap: 16
     readonly property real infoGap: 10
 
+    // The picture of a moment, above the slider.
+    readonly property size previewSize: Qt.size(256, 144) // of the picture, at most
+    readonly property real previewLeastWidth: 96
+    readonly property real previewPadding: 4
+    readonly property real previewRadius: 12
+    readonly property real previewGap: 5 // between the picture and its words
+    readonly property real previewSpacing: 1
+    readonly property real previewRise: 7 // below the words
+
     // The player's panels.
     readonly property font panelText: ({ family: fontFamily, pixelSize: 13 })
     readonly property font panelStrong: ({ family: fontFamily, pixelSize: 13, weight: Font.DemiBold })
