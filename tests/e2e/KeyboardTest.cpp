@@ -24,6 +24,14 @@ struct Keyboard : EndToEnd {
     if (!screen::isX11()) return player.windowSize() == screen::shot().size();
     return screen::run("xprop", {"-id", window("tracks"), "_NET_WM_STATE"}).contains("FULLSCREEN");
   }
+  /// On Wayland Qt learns a moment later than the host that a window is active, and a key that
+  /// comes before that is lost.
+  [[nodiscard]] bool pressUntilActive(const QStringList& keys, const QString& title) {
+    return player.waitUntil([&] {
+      for (const QString& key : keys) screen::press(key);
+      return waitFor([&] { return isActive(title); }, std::chrono::seconds(5));
+    });
+  }
   /// Whatever was pressed before has been done.
   [[nodiscard]] bool drain() {
     const bool muted = probe().get("mute").toBool();
@@ -94,15 +102,9 @@ TEST_F(Keyboard, KeysOfTheProgramPass) {
   ASSERT_TRUE(player.waitUntil([&] { return window("^Tromelo$").isEmpty(); }));
   screen::press("ctrl+shift+l");
   EXPECT_TRUE(player.waitUntil([&] { return isActive("^Tromelo$"); }));
-  if (screen::isX11()) {
-    screen::press("ctrl+comma");
-    EXPECT_TRUE(player.waitUntil([&] { return isActive("^Settings$"); }));
-    screen::press("Escape");
-    EXPECT_TRUE(player.waitUntil([&] { return isActive("^Tromelo$"); }));
-    screen::press("alt+h");
-    screen::press("a");
-    EXPECT_TRUE(player.waitUntil([&] { return isActive("^About Tromelo$"); }));
-  }
+  EXPECT_TRUE(pressUntilActive({"ctrl+comma"}, "^Settings"));
+  EXPECT_TRUE(pressUntilActive({"Escape"}, "^Tromelo$"));
+  EXPECT_TRUE(pressUntilActive({"alt+h", "a"}, "^About Tromelo"));
   screen::activate(player.processId(), "tracks");
   ASSERT_TRUE(player.waitUntil([&] { return isActive("tracks"); }));
   screen::press("ctrl+q");
