@@ -17,11 +17,7 @@ TaskQueue::~TaskQueue() {
 void TaskQueue::post(Task task) {
   {
     const std::scoped_lock lock(mutex_);
-    if (!closed_) {
-      tasks_.push_back(std::move(task));
-      wake();
-      return;
-    }
+    if (!closed_) return push(std::move(task));
   }
   const std::scoped_lock lock(afterClose_);
   task();
@@ -29,9 +25,7 @@ void TaskQueue::post(Task task) {
 
 void TaskQueue::postUnlessClosed(Task task) {
   const std::scoped_lock lock(mutex_);
-  if (closed_) return;
-  tasks_.push_back(std::move(task));
-  wake();
+  if (!closed_) push(std::move(task));
 }
 
 void TaskQueue::run() {
@@ -57,7 +51,10 @@ void TaskQueue::close() {
   for (const Task& task : tasks) task();
 }
 
-void TaskQueue::wake() const {
+/// With the lock.
+void TaskQueue::push(Task task) {
+  tasks_.push_back(std::move(task));
+  if (tasks_.size() > 1) return;  // it was woken for the first
   const std::uint64_t one = 1;
   [[maybe_unused]] const auto size = write(fd_, &one, sizeof one);
 }

@@ -32,7 +32,7 @@ class TaskQueue {
   void close();
 
  private:
-  void wake() const;
+  void push(Task task);
 
   int fd_;
   std::mutex mutex_;
