@@ -13,14 +13,6 @@ namespace tromelo {
 
 namespace {
 
-/// wl_shm has numbers of its own for two formats.
-std::uint32_t shmFormatOf(std::uint32_t fourcc) {
-  const auto format = *pixelFormat(fourcc);
-  if (format == kPixelFormats[0]) return WL_SHM_FORMAT_ARGB8888;
-  if (format == kPixelFormats[1]) return WL_SHM_FORMAT_XRGB8888;
-  return fourcc;
-}
-
 /// A host ends the whole connection for a plane that reaches beyond its memory.
 bool liesInMemory(const DmabufPixels::Plane& plane, std::uint64_t lines) {
   const off_t size = lseek(plane.fd, 0, SEEK_END);
@@ -127,7 +119,7 @@ void HostBuffers::makeShm(Entry& entry, const ClientBuffer& buffer, const ShmPix
   const HostProxy<wl_shm_pool> pool(wl_shm_create_pool(host_.shm(), pixels.fd(), int(length)));
   entry.buffer.reset(wl_shm_pool_create_buffer(pool.get(), int(pixels.offset()),
                                                buffer.size.width(), buffer.size.height(),
-                                               pixels.stride(), shmFormatOf(buffer.fourcc)));
+                                               pixels.stride(), shmNumber(buffer.fourcc)));
   entry.listen();
 }
 

@@ -27,16 +27,6 @@ constexpr std::uint32_t kCompositorVersion = 4;  // damage in pixels of the buff
 constexpr std::uint32_t kDmabufVersion = 4;
 constexpr std::uint32_t kPresentationVersion = 2;
 
-// wl_shm names its first two formats by numbers of its own.
-constexpr std::uint32_t kArgb8888 = 0x34325241;
-constexpr std::uint32_t kXrgb8888 = 0x34325258;
-
-std::uint32_t fourccOf(std::uint32_t shmFormat) {
-  if (shmFormat == WL_SHM_FORMAT_ARGB8888) return kArgb8888;
-  if (shmFormat == WL_SHM_FORMAT_XRGB8888) return kXrgb8888;
-  return shmFormat;
-}
-
 /// Of what a host takes, what a scene can draw with too: it must when the host can't.
 void keepKnownFormats(DmabufSupport& support) {
   for (DmabufSupport::Tranche& tranche : support.tranches)
@@ -124,8 +114,13 @@ void HostConnection::bind(std::uint32_t name, const std::string& interface, std:
 /// To what a global tells of itself, which may come with what is dispatched already.
 void HostConnection::listen(const std::string& interface) {
   static constexpr wl_shm_listener kShm{.format = [](void* data, auto*, std::uint32_t format) {
-    if (const auto fourcc = fourccOf(format); pixelFormat(fourcc))
-      static_cast<HostConnection*>(data)->shmFormats_.push_back(fourcc);
+    const auto add = [&](const auto& known) {
+      for (const PixelFormat& pixels : known)
+        if (shmNumber(pixels.fourcc) == format)
+          static_cast<HostConnection*>(data)->shmFormats_.push_back(pixels.fourcc);
+    };
+    add(kPixelFormats);
+    add(kDeepPixelFormats);
   }};
   static constexpr wp_presentation_listener kPresentation{
       .clock_id = [](void* data, auto*, std::uint32_t clock) {
@@ -164,7 +159,7 @@ std::string HostConnection::missing() const {
   if (!subcompositor_) return wl_subcompositor_interface.name;
   if (!viewporter_) return wp_viewporter_interface.name;
   if (!presentation_) return wp_presentation_interface.name;
-  for (const auto fourcc : {kArgb8888, kXrgb8888})
+  for (const auto fourcc : {kPixelFormats[0].fourcc, kPixelFormats[1].fourcc})
     if (std::ranges::find(shmFormats_, fourcc) == shmFormats_.end()) return wl_shm_interface.name;
   return {};
 }

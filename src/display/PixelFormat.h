@@ -51,4 +51,11 @@ constexpr std::optional<PixelFormat> pixelFormat(std::uint32_t fourcc) {
   return std::nullopt;
 }
 
+/// wl_shm has numbers of its own for the first two.
+constexpr std::uint32_t shmNumber(std::uint32_t fourcc) {
+  if (fourcc == kPixelFormats[0].fourcc) return 0;
+  if (fourcc == kPixelFormats[1].fourcc) return 1;
+  return fourcc;
+}
+
 }  // namespace tromelo

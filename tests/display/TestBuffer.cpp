@@ -8,17 +8,6 @@
 
 namespace tromelo::testing {
 
-namespace {
-
-/// Core formats have numbers of their own on wl_shm.
-std::uint32_t shmFormat(std::uint32_t fourcc) {
-  if (fourcc == 0x34325241) return WL_SHM_FORMAT_ARGB8888;
-  if (fourcc == 0x34325258) return WL_SHM_FORMAT_XRGB8888;
-  return fourcc;
-}
-
-}  // namespace
-
 TestBuffer::TestBuffer(const Layout& layout)
     : layout_(layout), fd_(memfd_create("tromelo-test", MFD_CLOEXEC)) {
   if (ftruncate(fd_.get(), off_t(layout.length())) != 0) return;
@@ -46,7 +35,7 @@ void TestBuffer::createShm(TestClient& client) {
       wl_shm_create_pool(client.shm.get(), fd_.get(), int(layout_.length())));
   buffer_.reset(wl_shm_pool_create_buffer(pool.get(), layout_.offset, layout_.size.width(),
                                           layout_.size.height(), layout_.stride(),
-                                          shmFormat(layout_.fourcc)));
+                                          shmNumber(layout_.fourcc)));
   watch();
 }
 
