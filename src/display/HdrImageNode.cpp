@@ -9,7 +9,7 @@ namespace {
 
 class Material final : public QSGMaterial {
  public:
-  explicit Material(HdrImageNode::Transfer transfer) : transfer(transfer) {
+  explicit Material(HdrImageNode::Signal kind) : signal(kind) {
     setFlag(Blending);  // a fading scene
   }
 
@@ -20,12 +20,12 @@ class Material final : public QSGMaterial {
   QSGMaterialShader* createShader(QSGRendererInterface::RenderMode) const override;
   int compare(const QSGMaterial* other) const override {
     const auto* material = static_cast<const Material*>(other);
-    if (transfer != material->transfer) return transfer < material->transfer ? -1 : 1;
+    if (signal != material->signal) return signal < material->signal ? -1 : 1;
     if (texture == material->texture) return 0;
     return std::less<>()(texture, material->texture) ? -1 : 1;
   }
 
-  const HdrImageNode::Transfer transfer;
+  const HdrImageNode::Signal signal;
   QSGTexture* texture = nullptr;
 };
 
@@ -33,7 +33,7 @@ class Material final : public QSGMaterial {
 struct Uniforms {
   float matrix[16];
   float opacity;
-  std::int32_t transfer;
+  std::int32_t kind;
 };
 
 class Shader final : public QSGMaterialShader {
@@ -44,7 +44,7 @@ class Shader final : public QSGMaterialShader {
   }
 
   bool updateUniformData(RenderState& state, QSGMaterial* material, QSGMaterial*) override {
-    Uniforms uniforms{{}, state.opacity(), int(static_cast<Material*>(material)->transfer)};
+    Uniforms uniforms{{}, state.opacity(), int(static_cast<Material*>(material)->signal)};
     std::memcpy(uniforms.matrix, state.combinedMatrix().constData(), sizeof uniforms.matrix);
     std::memcpy(state.uniformData()->data(), &uniforms, sizeof uniforms);
     return true;
@@ -63,10 +63,10 @@ QSGMaterialShader* Material::createShader(QSGRendererInterface::RenderMode) cons
 
 }  // namespace
 
-HdrImageNode::HdrImageNode(Transfer transfer) : transfer_(transfer) {
+HdrImageNode::HdrImageNode(Signal signal) : signal_(signal) {
   // The node's own.
   setGeometry(new QSGGeometry(QSGGeometry::defaultAttributes_TexturedPoint2D(), 4));
-  setMaterial(new Material(transfer));
+  setMaterial(new Material(signal));
   setFlags(OwnsGeometry | OwnsMaterial);
 }
 

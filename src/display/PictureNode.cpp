@@ -17,12 +17,15 @@ bool drawsInSoftware(const QQuickWindow& window) {
   return window.rendererInterface()->graphicsApi() == QSGRendererInterface::Software;
 }
 
-std::optional<HdrImageNode::Transfer> transferOf(const std::optional<SurfaceColor>& color) {
+/// None for what a scene draws as it is.
+std::optional<HdrImageNode::Signal> signalOf(const std::optional<SurfaceColor>& color) {
   if (!color) return {};
   if (color->transfer == WP_COLOR_MANAGER_V1_TRANSFER_FUNCTION_ST2084_PQ)
-    return HdrImageNode::Transfer::pq;
+    return HdrImageNode::Signal::pq;
   if (color->transfer == WP_COLOR_MANAGER_V1_TRANSFER_FUNCTION_HLG)
-    return HdrImageNode::Transfer::hlg;
+    return HdrImageNode::Signal::hlg;
+  if (color->primaries == WP_COLOR_MANAGER_V1_PRIMARIES_DISPLAY_P3)
+    return HdrImageNode::Signal::displayP3;
   return {};
 }
 
@@ -61,7 +64,7 @@ void PictureNode::show(std::shared_ptr<Frame> frame, const QRegion& damage) {
   QSGTexture* handle = texture->prepare(window_, *frame);
   if (!handle) return sink_->refused();  // the picture before stays
   const bool canMap = !drawsInSoftware(*window_);
-  drawWith(handle, canMap ? transferOf(frame->content().color) : std::nullopt);
+  drawWith(handle, canMap ? signalOf(frame->content().color) : std::nullopt);
   if (frame_) replaced_.push_back(std::move(frame_));
   frame_ = std::move(frame);
   sink_->setShowing(frame_);
@@ -71,13 +74,12 @@ void PictureNode::show(std::shared_ptr<Frame> frame, const QRegion& damage) {
   awaitsSwap_ = true;
 }
 
-void PictureNode::drawWith(QSGTexture* handle,
-                           const std::optional<HdrImageNode::Transfer>& transfer) {
+void PictureNode::drawWith(QSGTexture* handle, const std::optional<HdrImageNode::Signal>& signal) {
   handle_ = handle;
-  if (transfer) {
-    if (hdr_ && hdr_->transfer() == *transfer) return;
+  if (signal) {
+    if (hdr_ && hdr_->signal() == *signal) return;
     clear();
-    hdr_ = std::make_unique<HdrImageNode>(*transfer);
+    hdr_ = std::make_unique<HdrImageNode>(*signal);
     hdr_->setFlag(QSGNode::OwnedByParent, false);
     return;
   }

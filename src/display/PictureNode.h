@@ -32,7 +32,7 @@ class PictureNode final : public QObject, public QSGNode {
   void takePicture();
   void show(std::shared_ptr<Frame> frame, const QRegion& damage);
   FrameTexture* textureFor(const Frame& frame);
-  void drawWith(QSGTexture* handle, const std::optional<HdrImageNode::Transfer>& transfer);
+  void drawWith(QSGTexture* handle, const std::optional<HdrImageNode::Signal>& signal);
   void place(QSizeF size);
   void clear();
   void upload();

@@ -6,7 +6,7 @@ layout(location = 0) out vec4 fragColor;
 layout(std140, binding = 0) uniform buf {
     mat4 matrix;
     float opacity;
-    int transfer; // 0: PQ, 1: HLG
+    int kind; // 0: PQ, 1: HLG, both of BT.2020; 2: Display P3
 };
 
 layout(binding = 1) uniform sampler2D picture;
@@ -34,17 +34,22 @@ vec3 fromHlg(vec3 signal) {
     return hlgPeak * pow(max(light, 0.000001), 0.2) * scene;
 }
 
-void main() {
-    vec3 signal = texture(picture, place).rgb;
-    vec3 light = (transfer == 0 ? fromPq(signal) : fromHlg(signal)) / referenceWhite;
+// Light of BT.709's primaries, 1 for white.
+vec3 lightOf(vec3 signal) {
+    // ITU-R BT.2087.
+    const mat3 fromBt2020 = mat3(1.6605, -0.1246, -0.0182, -0.5876, 1.1329, -0.1006, -0.0728, -0.0083, 1.1187);
+    const mat3 fromP3 = mat3(1.2249, -0.0420, -0.0197, -0.2247, 1.0419, -0.0786, 0.0, 0.0, 1.0979);
+    if (kind == 2)
+        return fromP3 * pow(signal, vec3(2.2));
+    return fromBt2020 * (kind == 0 ? fromPq(signal) : fromHlg(signal)) / referenceWhite;
+}
 
-    // BT.2020 to BT.709, ITU-R BT.2087.
-    const mat3 toBt709 = mat3(1.6605, -0.1246, -0.0182, -0.5876, 1.1329, -0.1006, -0.0728, -0.0083, 1.1187);
-    light = max(toBt709 * light, 0.0);
+void main() {
+    vec3 light = max(lightOf(texture(picture, place).rgb), 0.0);
 
     // Highlights are pressed together below white, by the brightest channel: colours keep their hue.
     float brightest = max(light.r, max(light.g, light.b));
-    if (brightest > knee)
+    if (kind != 2 && brightest > knee)
         light *= (1.0 - (1.0 - knee) * exp((knee - brightest) / (1.0 - knee))) / brightest;
 
     fragColor = vec4(pow(clamp(light, 0.0, 1.0), vec3(1.0 / 2.2)), 1.0) * opacity;

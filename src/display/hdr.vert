@@ -7,7 +7,7 @@ layout(location = 0) out vec2 place;
 layout(std140, binding = 0) uniform buf {
     mat4 matrix;
     float opacity;
-    int transfer;
+    int kind;
 };
 
 void main() {

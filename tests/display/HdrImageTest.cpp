@@ -10,11 +10,11 @@
 
 namespace tromelo::testing {
 
-/// One grey all over.
+/// One colour all over.
 class HdrItem : public QQuickItem {
  public:
-  HdrItem(HdrImageNode::Transfer transfer, int level, QQuickItem* parent)
-      : QQuickItem(parent), transfer_(transfer), level_(level) {
+  HdrItem(HdrImageNode::Signal signal, QRgb pixel, QQuickItem* parent)
+      : QQuickItem(parent), signal_(signal), pixel_(pixel) {
     setFlag(ItemHasContents);
     setSize({32, 32});
   }
@@ -23,42 +23,45 @@ class HdrItem : public QQuickItem {
   QSGNode* updatePaintNode(QSGNode* node, UpdatePaintNodeData*) override {
     if (node) return node;
     QImage image(4, 4, QImage::Format_RGB32);
-    image.fill(QColor(level_, level_, level_));
+    image.fill(pixel_);
     texture_.reset(window()->createTextureFromImage(image));
-    auto* made = new HdrImageNode(transfer_);  // the scene graph's
+    auto* made = new HdrImageNode(signal_);  // the scene graph's
     made->setPicture(texture_.get(), boundingRect(), {0, 0, 4, 4});
     return made;
   }
 
  private:
-  const HdrImageNode::Transfer transfer_;
-  const int level_;
+  const HdrImageNode::Signal signal_;
+  const QRgb pixel_;
   std::unique_ptr<QSGTexture> texture_;
 };
 
-TEST(HdrImageTest, LeavesWhatIsDarkAsItIsAndPressesHighlightsBelowWhite) {
-  using Transfer = HdrImageNode::Transfer;
+TEST(HdrImageTest, LeavesWhatIsDarkAsItIsPressesHighlightsBelowWhiteAndNarrowsColours) {
+  using Signal = HdrImageNode::Signal;
+  const auto grey = [](int level) { return qRgb(level, level, level); };
   const struct {
-    Transfer transfer;
-    int signal;
-    int shown;
+    Signal signal;
+    QRgb pixel;
+    int red;  // that is shown
   } rows[] = {
-      {Transfer::pq, 0, 0},
-      {Transfer::pq, 112, 135},  // 50 cd/m², a quarter of reference white
-      {Transfer::pq, 148, 244},  // reference white
-      {Transfer::pq, 192, 255},  // 1,000 cd/m²
-      {Transfer::pq, 255, 255},
-      {Transfer::hlg, 0, 0},
-      {Transfer::hlg, 191, 244},  // reference white
-      {Transfer::hlg, 255, 255},
+      {Signal::pq, grey(0), 0},
+      {Signal::pq, grey(112), 135},  // 50 cd/m², a quarter of reference white
+      {Signal::pq, grey(148), 244},  // reference white
+      {Signal::pq, grey(192), 255},  // 1,000 cd/m²
+      {Signal::pq, grey(255), 255},
+      {Signal::hlg, grey(0), 0},
+      {Signal::hlg, grey(191), 244},  // reference white
+      {Signal::hlg, grey(255), 255},
+      {Signal::displayP3, grey(255), 255},
+      {Signal::displayP3, qRgb(128, 64, 64), 138},
   };
-  for (const auto& [transfer, signal, shown] : rows) {
+  for (const auto& [signal, pixel, red] : rows) {
     QQuickWindow window;
     window.resize(32, 32);
-    const HdrItem item(transfer, signal, window.contentItem());
+    const HdrItem item(signal, pixel, window.contentItem());
     window.show();
     ASSERT_TRUE(waitFor([&] { return window.isExposed(); }));
-    EXPECT_NEAR(window.grabWindow().pixelColor(16, 16).red(), shown, 4) << signal;
+    EXPECT_NEAR(window.grabWindow().pixelColor(16, 16).red(), red, 4) << qRed(pixel);
   }
 }
 
