@@ -100,7 +100,8 @@ MpvClientApi preparedEngine(Events& events) {
           .getPropertyAsync = [](mpv_handle*, std::uint64_t, const char*, mpv_format) { return 0; },
           .clientApiVersion = [] { return static_cast<unsigned long>(MPV_CLIENT_API_VERSION); },
           .errorString = [](int) { return "error"; },
-          .terminateDestroy = [](mpv_handle*) {}};
+          .terminateDestroy = [](mpv_handle*) {},
+          .createClient = [](mpv_handle*, const char*) -> mpv_handle* { return nullptr; }};
 }
 
 double drainedPerSecond(MpvEngine& engine, std::size_t count) {

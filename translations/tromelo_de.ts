@@ -216,6 +216,44 @@
     </message>
 </context>
 <context>
+    <name>FilmResume</name>
+    <message>
+        <source>%1 min left</source>
+        <translation>noch %1 min</translation>
+    </message>
+    <message>
+        <source>%1 h left</source>
+        <translation>noch %1 h</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min left</source>
+        <translation>noch %1 h %2 min</translation>
+    </message>
+</context>
+<context>
+    <name>ForgetFilms</name>
+    <message>
+        <source>Also their bookmarks? This can&apos;t be undone.</source>
+        <translation>Auch ihre Lesezeichen? Das ist endgültig.</translation>
+    </message>
+    <message>
+        <source>Places, tracks and bookmarks of films</source>
+        <translation>Stellen, Spuren und Lesezeichen</translation>
+    </message>
+    <message>
+        <source>Forget All Films…</source>
+        <translation>Alle Filme vergessen …</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Forget All Films</source>
+        <translation>Alle vergessen</translation>
+    </message>
+</context>
+<context>
     <name>GeneralSettings</name>
     <message>
         <source>Hide player controls after</source>
@@ -224,6 +262,10 @@
     <message>
         <source>Controls stay visible while paused, while a panel is open, or while the pointer is over them.</source>
         <translation>Die Bedienelemente bleiben sichtbar, solange die Wiedergabe angehalten oder ein Bereich offen ist oder der Zeiger auf ihnen ruht.</translation>
+    </message>
+    <message>
+        <source>Go on where I stopped</source>
+        <translation>Dort weiter, wo ich aufgehört habe</translation>
     </message>
 </context>
 <context>
@@ -516,6 +558,10 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Start Over</source>
+        <translation>Von vorn</translation>
     </message>
 </context>
 <context>
@@ -1341,6 +1387,18 @@
         <source>Copy the picture</source>
         <translation>Bild kopieren</translation>
     </message>
+    <message>
+        <source>R</source>
+        <translation>R</translation>
+    </message>
+    <message>
+        <source>Start over</source>
+        <translation>Von vorn</translation>
+    </message>
+    <message>
+        <source>Start over (R)</source>
+        <translation>Von vorn (R)</translation>
+    </message>
 </context>
 <context>
     <name>tromelo::PlayerSettings</name>
@@ -1387,6 +1445,17 @@
     <message>
         <source>Light green</source>
         <translation>Hellgrün</translation>
+    </message>
+</context>
+<context>
+    <name>tromelo::PlayerWindowController</name>
+    <message>
+        <source>Resumed at %1</source>
+        <translation>Weiter ab %1</translation>
+    </message>
+    <message>
+        <source>From the beginning</source>
+        <translation>Von vorn</translation>
     </message>
 </context>
 <context>

@@ -38,6 +38,8 @@ void putOntoClipboard(const QByteArray& png) {
 Program::Program(const CommandLine& commandLine)
     : commandLine_(commandLine),
       defaults_(UserDefaults::named(QStringLiteral("Tromelo"))),
+      films_(userDataDirectory() + QStringLiteral("/Tromelo/films.sqlite"),
+             [this](const QString& sentence) { tellOfStorage(sentence); }),
       reducedMotion_(qgetenv("TROMELO_REDUCED_MOTION"), sessionBus()),
       service_(sessionBus()),
       pictures_({.maker = {.file = QCoreApplication::applicationFilePath(),
@@ -145,6 +147,7 @@ void Program::makeDelegate() {
         .vulkanDevice = vulkanDevice_,
         .picturesFolder = QFile::encodeName(userPicturesDirectory()).toStdString(),
         .copyPicture = &putOntoClipboard,
+        .films = &films_,
         .engineFault = displayFault_});
   };
   parts.makeLibraryWindow = [this](PlaybackModel& playback, PlayerWindowController& player) {
@@ -162,7 +165,8 @@ void Program::makeDelegate() {
       qmlEngine_, "SettingsWindow",
       QVariantMap{
           {QStringLiteral("settings"), QVariant::fromValue(&delegate_->playback().settings())},
-          {QStringLiteral("pages"), QVariant::fromValue(&settingsPages_)}});
+          {QStringLiteral("pages"), QVariant::fromValue(&settingsPages_)},
+          {QStringLiteral("films"), QVariant::fromValue(&films_)}});
   makeCommands();
 }
 
@@ -237,10 +241,12 @@ void Program::connectService() {
 }
 
 void Program::tellOfStorageErrors() {
-  defaults_.onError([this](const QString& sentence) {
-    std::fprintf(stderr, "%s\n", qPrintable(sentence));
-    if (!delegate_->playback().isShuttingDown()) delegate_->playback().tell(sentence);
-  });
+  defaults_.onError([this](const QString& sentence) { tellOfStorage(sentence); });
+}
+
+void Program::tellOfStorage(const QString& sentence) {
+  std::fprintf(stderr, "%s\n", qPrintable(sentence));
+  if (!delegate_->playback().isShuttingDown()) delegate_->playback().tell(sentence);
 }
 
 void Program::tellOfMissingLog() {

@@ -13,6 +13,7 @@
 #include "app/TerminationSignals.h"
 #include "display/PrivateDisplay.h"
 #include "display/SceneDrawing.h"
+#include "films/FilmMemory.h"
 #include "mpris/MprisService.h"
 #include "pictures/PictureSource.h"
 #include "platform/Clock.h"
@@ -54,6 +55,7 @@ class Program {
   void connectService();
   void startReport();
   void tellOfStorageErrors();
+  void tellOfStorage(const QString& sentence);
   void tellOfMissingLog();
   void offerToDesktop();
   void offerMediaControls();
@@ -66,6 +68,7 @@ class Program {
   const CommandLine commandLine_;
   SystemClock clock_;
   UserDefaults defaults_;
+  FilmMemory films_;
   ReducedMotion reducedMotion_;
   DialogFileChooser chooser_;
   std::unique_ptr<IdleInhibitor> idleInhibitor_;

@@ -38,6 +38,15 @@ const MpvClientApi& MpvClientApi::libmpv() {
       .clientApiVersion = entry<decltype(mpv_client_api_version)>("mpv_client_api_version"),
       .errorString = entry<decltype(mpv_error_string)>("mpv_error_string"),
       .terminateDestroy = entry<decltype(mpv_terminate_destroy)>("mpv_terminate_destroy"),
+      .createClient = entry<decltype(mpv_create_client)>("mpv_create_client"),
+      .hookAdd = entry<decltype(mpv_hook_add)>("mpv_hook_add"),
+      .hookContinue = entry<decltype(mpv_hook_continue)>("mpv_hook_continue"),
+      .getProperty = entry<decltype(mpv_get_property)>("mpv_get_property"),
+      .setPropertyString = entry<decltype(mpv_set_property_string)>("mpv_set_property_string"),
+      .command = entry<decltype(mpv_command)>("mpv_command"),
+      .free = entry<decltype(mpv_free)>("mpv_free"),
+      .wakeup = entry<decltype(mpv_wakeup)>("mpv_wakeup"),
+      .destroy = entry<decltype(mpv_destroy)>("mpv_destroy"),
   };
   return api;
 }

@@ -50,7 +50,7 @@ int sendWrite(const MpvClientApi& api, mpv_handle* handle, const MpvPropertyWrit
 
 MpvEngine::MpvEngine(const MpvClientApi& api)
     : onEvent([](const MpvEvent&) {}),
-      api_(std::make_unique<const MpvClientApi>(api)),
+      api_(std::make_shared<const MpvClientApi>(api)),
       wakeupTarget_(std::make_shared<WakeupTarget>()) {}
 
 MpvEngine::~MpvEngine() {
@@ -71,6 +71,7 @@ std::optional<std::string> MpvEngine::initialize(const QString& diagnosticsDirec
     return error;
   }
   observe();
+  if (prepareFile) preload_ = std::make_shared<PreloadHook>(api_, handle_, prepareFile);
   wakeupTarget_->engine = this;
   api_->requestLogMessages(handle_, "warn");
   api_->setWakeupCallback(handle_, &WakeupTarget::wakeup, wakeupTarget_.get());
@@ -79,10 +80,9 @@ std::optional<std::string> MpvEngine::initialize(const QString& diagnosticsDirec
 
 std::optional<std::string> MpvEngine::configure(const QString& diagnosticsDirectory,
                                                 const std::string& vulkanDevice) {
-  const std::string logFile =
-      QFile::encodeName(diagnosticsDirectory + QStringLiteral("/mpv.log")).toStdString();
+  logFile_ = QFile::encodeName(diagnosticsDirectory + QStringLiteral("/mpv.log")).toStdString();
   for (const auto& options :
-       {engineOptions(logFile), platformOptions(vulkanDevice), diagnosticOptions()}) {
+       {engineOptions(logFile_), platformOptions(vulkanDevice), diagnosticOptions()}) {
     for (const MpvOption& option : options) {
       if (auto error = setOption(option)) return error;
     }
@@ -119,11 +119,13 @@ void MpvEngine::terminate(std::function<void()> completion) {
   api_->setWakeupCallback(handle.pointer, nullptr, nullptr);
   // The application object waits for the pool before it is gone, so that the process never ends
   // under libmpv's threads.
-  QThreadPool::globalInstance()->start(
-      [destroy = api_->terminateDestroy, handle, completion = std::move(completion)] {
-        destroy(handle.pointer);
-        postToMainThread(completion);
-      });
+  QThreadPool::globalInstance()->start([destroy = api_->terminateDestroy, handle,
+                                        preload = std::move(preload_),
+                                        completion = std::move(completion)]() mutable {
+    preload.reset();
+    destroy(handle.pointer);
+    postToMainThread(completion);
+  });
 }
 
 void MpvEngine::command(std::vector<std::string> arguments) {
@@ -153,6 +155,10 @@ void MpvEngine::answerRead(const mpv_event& reply) {
   const bool hasText = reply.error >= 0 && property && property->format == MPV_FORMAT_OSD_STRING;
   read.mapped()(hasText ? std::optional<std::string>(*static_cast<char**>(property->data))
                         : std::nullopt);
+}
+
+void MpvEngine::setLogging(bool writes) {
+  setProperty("log-file", writes ? logFile_ : std::string());
 }
 
 std::string MpvEngine::clientApiVersion() const {

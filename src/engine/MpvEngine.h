@@ -7,10 +7,11 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <variant>
 #include <vector>
 
 #include "engine/MpvEvent.h"
+#include "engine/MpvRequest.h"
+#include "engine/PreloadHook.h"
 
 struct mpv_event;
 struct mpv_handle;
@@ -20,21 +21,6 @@ namespace tromelo {
 struct MpvClientApi;
 struct MpvOption;
 class WakeupTarget;
-
-/// What is sent to the engine, in the order in which it was asked for.
-struct MpvCommand {
-  std::vector<std::string> arguments;  // the first is the command's name
-  std::uint64_t reply = 0;             // that its outcome comes back with
-};
-struct MpvPropertyWrite {
-  std::string name;
-  std::string value;
-};
-struct MpvPropertyRead {
-  std::string name;
-  std::uint64_t reply;  // that the answer comes back with
-};
-using MpvRequest = std::variant<MpvCommand, MpvPropertyWrite, MpvPropertyRead>;
 
 /// The one playback engine of the process: a libmpv handle, its events and what is sent to it. Main
 /// thread only; nothing here waits for the engine but initialize(). Text is bytes, since paths need
@@ -50,6 +36,9 @@ class MpvEngine {
 
   /// Called for each event. It may end the engine, but not destroy this object.
   std::function<void(const MpvEvent&)> onEvent;
+
+  /// Set before initialize(); see PreloadHook. Empty: files begin as the engine has them.
+  PreloadHook::Prepare prepareFile;
 
   /// Starts the engine, which writes its log to "mpv.log" in the directory. None on success and
   /// when it runs already, else one line for people; the engine then has no handle, and everything
@@ -76,6 +65,9 @@ class MpvEngine {
   using Answer = std::function<void(std::optional<std::string>)>;
   void readProperty(std::string name, Answer answer);
 
+  /// Whether the engine writes its log, which names what is played. It does from the start.
+  void setLogging(bool writes);
+
   /// Of the library: "2.5".
   std::string clientApiVersion() const;
 
@@ -95,9 +87,11 @@ class MpvEngine {
   void answerRead(const mpv_event& reply);
   bool tellOutcome(std::uint64_t reply, const std::optional<std::string>& error);
 
-  std::unique_ptr<const MpvClientApi> api_;
+  std::shared_ptr<const MpvClientApi> api_;
   mpv_handle* handle_ = nullptr;
   std::shared_ptr<WakeupTarget> wakeupTarget_;
+  std::shared_ptr<PreloadHook> preload_;
+  std::string logFile_;  // a path's bytes
   // libmpv takes no more requests than it has room for replies, and refuses the rest; these wait
   // until it has answered some.
   std::deque<MpvRequest> waiting_;

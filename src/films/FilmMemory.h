@@ -46,7 +46,7 @@ class FilmMemory : public QObject {
   void remember(const FilmKey& film, const FilmRecord& record, const std::string& path);
   /// The film that was last seen there. Also in private.
   void forget(const std::string& path);
-  void forgetAll();
+  Q_INVOKABLE void forgetAll();
 
   /// Of the films that were last seen in these places.
   using Progress = std::map<std::string, FilmProgress>;

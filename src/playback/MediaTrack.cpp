@@ -36,6 +36,11 @@ std::optional<qint64> channelCount(const MpvMap& entry) {
   return {};
 }
 
+std::string fileName(const MpvMap& entry) {
+  const auto* name = mpvEntry<std::string>(entry, "external-filename");
+  return name ? *name : std::string();
+}
+
 MediaTrack mediaTrack(const MpvMap& entry, qint64 id, MediaTrack::Kind kind) {
   auto title = nodeText(entry, "title");
   if (title && title->isEmpty()) title.reset();
@@ -48,7 +53,8 @@ MediaTrack mediaTrack(const MpvMap& entry, qint64 id, MediaTrack::Kind kind) {
           .isDefault = flag(entry, "default"),
           .isForced = flag(entry, "forced"),
           .isExternal = flag(entry, "external"),
-          .isSelected = flag(entry, "selected")};
+          .isSelected = flag(entry, "selected"),
+          .file = fileName(entry)};
 }
 
 QString channelText(qint64 count) {

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QString>
 #include <optional>
+#include <string>
 
 namespace tromelo {
 
@@ -33,6 +34,7 @@ class MediaTrack {
   bool isForced = false;
   bool isExternal = false;
   bool isSelected = false;
+  std::string file = {};  // the path of an external one, bytes
 
   /// For people, with the language in theirs: "Commentary (English)".
   QString name() const;

@@ -38,12 +38,17 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       screenshots_(engine_, parts.picturesFolder),
       copyPicture_(std::move(parts.copyPicture)),
       marks_(parts.films),
+      films_(parts.films),
+      filmKeeper_(parts.films, parts.clock),
       existence_(std::move(parts.fileExists),
                  [this](const QList<FileExistence::Answer>& answers) { takeAnswers(answers); }),
       localFiles_(std::move(parts.mountedPath)) {
   connect(&marks_, &Bookmarks::changed, this, [this] { bookmarks_ = marks_.all(); });
   hardware_.softwarePaths = storedSoftwareDecodePaths(defaults_);
   loadRecents();
+  filmKeeper_.setResumes(settings_.resumesFilms());
+  connect(&settings_, &PlayerSettings::changed, this,
+          [this] { filmKeeper_.setResumes(settings_.resumesFilms()); });
   startEngine(parts);
   settings_.apply(engine_);
   // Queued: the change is announced before it is made.
@@ -59,6 +64,7 @@ void PlaybackModel::startEngine(const Parts& parts) {
   engine_.onEvent = [model = QPointer(this)](const MpvEvent& received) {
     if (model) model->handleEvent(received);
   };
+  engine_.prepareFile = filmKeeper_.prepareFile();
   if (const auto error = initializeEngine(parts)) {
     status_ = *error;
     errorMessage_ = *error;
@@ -77,6 +83,7 @@ PlayerPresenting& PlaybackModel::player() {
 }
 
 void PlaybackModel::setShuttingDown(bool shuttingDown) {
+  if (shuttingDown) filmKeeper_.keep();
   if (std::exchange(isShuttingDown_, shuttingDown) != shuttingDown) Q_EMIT isShuttingDownChanged();
 }
 

@@ -14,6 +14,7 @@
 #include "platform/LocalFiles.h"
 #include "platform/ScreenHeadroom.h"
 #include "playback/Bookmarks.h"
+#include "playback/FilmKeeper.h"
 #include "playback/HardwareDecoding.h"
 #include "playback/PlaybackState.h"
 #include "playback/PlayerPresenting.h"
@@ -57,8 +58,8 @@ class PlaybackModel : public PlaybackState {
     std::string picturesFolder = {};  // where pictures of films are kept
     /// Puts a picture, as PNG, onto the desktop's clipboard.
     std::function<void(const QByteArray& png)> copyPicture = [](const QByteArray&) {};
-    QString engineFault = {};     // a sentence: why the engine can't be started; empty: it can
     FilmMemory* films = nullptr;  // none: no film is remembered
+    QString engineFault = {};     // a sentence: why the engine can't be started; empty: it can
   };
 
   /// Starts the engine; a failure shows in status and errorMessage.
@@ -96,8 +97,15 @@ class PlaybackModel : public PlaybackState {
   /// Adds files to the end of the queue; plays them where there is nothing else.
   Q_INVOKABLE void enqueue(const QList<QUrl>& urls);
 
-  /// The list of recent files forgets this one.
+  /// The list of recent files forgets this one, and so does the memory of films.
   Q_INVOKABLE void removeRecent(const QUrl& file);
+
+  /// What is remembered of films, where anything is.
+  FilmMemory* films() const { return films_; }
+  /// The film that plays, where it can be remembered.
+  const std::optional<FilmKey>& film() const { return filmKeeper_.film(); }
+  /// From now on nothing is written of what is played, neither by us nor by the engine.
+  void setPrivate(bool isPrivate);
 
   Q_INVOKABLE void presentOpenPanel();
   Q_INVOKABLE void presentQueuePanel();
@@ -123,6 +131,9 @@ class PlaybackModel : public PlaybackState {
   Q_INVOKABLE void seekBy(double seconds);
   /// To exactly this second.
   Q_INVOKABLE void seekTo(double seconds);
+
+  /// The film, from its beginning.
+  void startOver();
 
   /// Dragging of the position: shown at once, sought coarsely on the way and exactly at the end.
   Q_INVOKABLE void beginScrubbing();
@@ -187,6 +198,8 @@ class PlaybackModel : public PlaybackState {
   /// itself. Twice for one jump where the engine ends elsewhere than it was first said.
   void seeked(double position);
   void isShuttingDownChanged();
+  /// The film has begun where it was left, in seconds.
+  void resumed(double position);
   /// A file plays and is on the list of recent files; one was taken off it.
   void remembered(const QUrl& file);
   void forgotten(const QUrl& file);
@@ -228,6 +241,7 @@ class PlaybackModel : public PlaybackState {
   void publishTracks(const MpvValue& list);
   PlayerSettings* settingsForViews() { return &settings_; }
   void rememberSoftwareDecode(const std::string& path);
+  void noteMove();
   void loadRecents();
   void takeAnswers(const QList<FileExistence::Answer>& answers);
   void takePath(const std::string& path);
@@ -252,6 +266,8 @@ class PlaybackModel : public PlaybackState {
   std::function<void(const QByteArray&)> copyPicture_;
   Bookmarks marks_;
   HardwareDecoding hardware_;
+  FilmMemory* const films_;
+  FilmKeeper filmKeeper_;
   QueueProgress progress_;
   RecentFiles recentFiles_;
   FileExistence existence_;

@@ -115,12 +115,14 @@ void PlaybackModel::markLoop() {
 void PlaybackModel::setSubtitleDelay(double seconds) {
   if (!std::isfinite(seconds)) return;
   subtitleDelay_ = toMilliseconds(seconds);
+  filmKeeper_.choseSubtitleDelay(subtitleDelay_);
   engine_.setProperty("sub-delay", numberText(subtitleDelay_));
 }
 
 void PlaybackModel::setAudioDelay(double seconds) {
   if (!std::isfinite(seconds)) return;
   audioDelay_ = toMilliseconds(seconds);
+  filmKeeper_.choseAudioDelay(audioDelay_);
   engine_.setProperty("audio-delay", numberText(audioDelay_));
 }
 
@@ -171,13 +173,16 @@ void PlaybackModel::restartVideoOutput() {
 void PlaybackModel::publishTracks(const MpvValue& list) {
   audioTracks_ = mediaTracks(list, MediaTrack::Kind::audio);
   subtitleTracks_ = mediaTracks(list, MediaTrack::Kind::sub);
+  filmKeeper_.tracksChanged(audioTracks_, subtitleTracks_);
 }
 
 void PlaybackModel::selectSubtitle(qint64 track) {
+  filmKeeper_.choseSubtitle();
   engine_.setProperty("sid", std::to_string(track));
 }
 
 void PlaybackModel::addSubtitle(const QUrl& file) {
+  filmKeeper_.choseSubtitle();
   engine_.command({"sub-add", pathFromFileUrl(file), "select"});
 }
 
@@ -186,9 +191,15 @@ void PlaybackModel::setSubtitleLift(double percent) {
   engine_.setProperty("sub-pos", QString::number(100 - percent, 'f', 2).toStdString());
 }
 
-void PlaybackModel::turnSubtitlesOff() { engine_.setProperty("sid", "no"); }
+void PlaybackModel::turnSubtitlesOff() {
+  filmKeeper_.choseSubtitle();
+  engine_.setProperty("sid", "no");
+}
 
-void PlaybackModel::selectAudio(qint64 track) { engine_.setProperty("aid", std::to_string(track)); }
+void PlaybackModel::selectAudio(qint64 track) {
+  filmKeeper_.choseAudio();
+  engine_.setProperty("aid", std::to_string(track));
+}
 
 void PlaybackModel::playQueueItem(qint64 item) {
   engine_.command({"playlist-play-index", std::to_string(item)});

@@ -35,6 +35,7 @@ void PlaybackModel::handle(const event::StartFile& start) {
   settleFailures();
   resetForNewFile();
   entry_ = start.entry;
+  filmKeeper_.started(entry_);
   status_ = QStringLiteral("Opening media");
 }
 
@@ -75,10 +76,13 @@ void PlaybackModel::handle(const event::VideoReconfigured&) {
 }
 
 void PlaybackModel::handle(const event::PlaybackRestart&) {
+  const bool isFirst = !hasStarted_;
   buffering_ = Buffering::ready;
   hardware_.lastPlaybackRestart = clock_.now();
   noteRestart();
   showVideoReady();
+  if (isFirst && filmKeeper_.resumedAt()) Q_EMIT resumed(*filmKeeper_.resumedAt());
+  if (!isFirst) filmKeeper_.keepSoon();
 }
 
 void PlaybackModel::noteRestart() {
@@ -100,6 +104,7 @@ void PlaybackModel::showVideoReady() {
 }
 
 void PlaybackModel::handle(const event::EndFile& end) {
+  filmKeeper_.keep();
   isLoaded_ = false;
   // A film that was shown without its sound has been played.
   if (!end.error || (end.lacksSoundDevice && hasPicture_)) {
@@ -184,6 +189,7 @@ void PlaybackModel::tellOutputFault() {
 }
 
 void PlaybackModel::rememberSoftwareDecode(const std::string& path) {
+  if (isPrivate_) return;
   hardware_.softwarePaths.insert(path);
   store(hardware_.softwarePaths, defaults_);
 }

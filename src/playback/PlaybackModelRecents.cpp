@@ -36,7 +36,8 @@ void PlaybackModel::askForPath() {
 }
 
 void PlaybackModel::remember(const std::string& path) {
-  marks_.fileKnown(path, std::nullopt);
+  marks_.fileKnown(path, filmKeeper_.film());
+  if (isPrivate_) return;
   const QUrl file = fileUrlFromPath(path);
   recentFiles_.remember(file);
   storeRecents();
@@ -47,6 +48,7 @@ void PlaybackModel::removeRecent(const QUrl& url) {
   const QUrl file = fileUrlFromPath(pathFromFileUrl(url));
   recentFiles_.remove(file);
   storeRecents();
+  if (films_) films_->forget(pathFromFileUrl(file));
   Q_EMIT forgotten(file);
 }
 

@@ -72,6 +72,7 @@ class PlaybackState : public QObject {
   Q_PROPERTY(double scrubPosition READ scrubPosition NOTIFY scrubPositionChanged)
   Q_PROPERTY(QList<QUrl> recents READ recents NOTIFY recentsChanged)
   Q_PROPERTY(bool hasNoRecents READ hasNoRecents NOTIFY hasNoRecentsChanged)
+  Q_PROPERTY(bool isPrivate READ isPrivate NOTIFY isPrivateChanged)
   Q_PROPERTY(QUrl lastURL READ lastURL NOTIFY lastURLChanged)
 
  public:
@@ -124,6 +125,7 @@ class PlaybackState : public QObject {
   double scrubPosition() const { return scrubPosition_; }  // seconds; elapsed unless dragged
   QList<QUrl> recents() const { return recents_; }         // newest first
   bool hasNoRecents() const { return hasNoRecents_; }      // false until that is known
+  bool isPrivate() const { return isPrivate_; }            // nothing is written of what is played
   QUrl lastURL() const {
     return lastURL_;
   }  // the file that the engine told of last; empty when there is none
@@ -170,6 +172,7 @@ class PlaybackState : public QObject {
   void scrubPositionChanged();
   void recentsChanged();
   void hasNoRecentsChanged();
+  void isPrivateChanged();
   void lastURLChanged();
 
  protected:
@@ -220,6 +223,7 @@ class PlaybackState : public QObject {
   Published<double> scrubPosition_{this, &PlaybackState::scrubPositionChanged};
   Published<QList<QUrl>> recents_{this, &PlaybackState::recentsChanged};
   Published<bool> hasNoRecents_{this, &PlaybackState::hasNoRecentsChanged, true};
+  Published<bool> isPrivate_{this, &PlaybackState::isPrivateChanged};
   Published<QUrl> lastURL_{this, &PlaybackState::lastURLChanged};
 
   PictureWay pictureWay_;

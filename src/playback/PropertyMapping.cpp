@@ -44,6 +44,7 @@ struct PropertyMapping::Actions {
     if (position < shown || position - shown >= kPositionStep) m.elapsed_ = position;
     if (!m.isScrubbing_) m.scrubPosition_ = m.elapsed_.get();
     m.checkRestart();
+    m.noteMove();
   }
 
   static void duration(Model& m, const Value& v) {
@@ -53,6 +54,7 @@ struct PropertyMapping::Actions {
 
   static void pause(Model& m, const Value& v) {
     m.isPaused_ = held<bool>(v).value_or(true);
+    if (m.isPaused_) m.filmKeeper_.keep();
     m.updateStatus();
   }
 

@@ -251,6 +251,11 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
          {QT_TR_NOOP("⌘C"),
           QT_TR_NOOP("Copy the picture"),
           {{.keys = {exactly(kControl, Qt::Key_C)}, .act = run<&PlaybackModel::copyPicture>}}},
+         {QT_TR_NOOP("R"),
+          QT_TR_NOOP("Start over"),
+          {{.keys = {typed(u"rR")},
+            .act = run<&Player::startOver>,
+            .tips = {{StartOver, QT_TR_NOOP("Start over (R)")}}}}},
      }},
     {QT_TR_NOOP("Queue & chapters"),
      {

@@ -51,6 +51,7 @@ class PlayerActions : public QObject {
     ClosePlayer,
     ClosePanel,
     Info,
+    StartOver,
   };
   Q_ENUM(Tip)
 

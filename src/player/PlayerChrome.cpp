@@ -30,6 +30,12 @@ void PlayerChrome::setShowsSpeeds(bool shows) {
   Q_EMIT showsSpeedsChanged();
 }
 
+void PlayerChrome::setOffersStartOver(bool offers) {
+  if (offersStartOver_ == offers) return;
+  offersStartOver_ = offers;
+  Q_EMIT offersStartOverChanged();
+}
+
 void PlayerChrome::setToast(std::optional<QString> toast) {
   if (toast_ == toast) return;
   toast_ = std::move(toast);

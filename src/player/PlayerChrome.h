@@ -19,6 +19,8 @@ class PlayerChrome : public QObject {
   Q_PROPERTY(QList<tromelo::BarPanel> barPanels READ barPanels CONSTANT)
   // The list of speeds over the control bar: no panel, but open in place of one.
   Q_PROPERTY(bool showsSpeeds READ showsSpeeds WRITE setShowsSpeeds NOTIFY showsSpeedsChanged)
+  // To start the film over that has just gone on where it was left.
+  Q_PROPERTY(bool offersStartOver READ offersStartOver NOTIFY offersStartOverChanged)
   Q_PROPERTY(QString toast READ toastText NOTIFY toastChanged)
 
  public:
@@ -38,6 +40,9 @@ class PlayerChrome : public QObject {
   bool showsSpeeds() const { return showsSpeeds_; }
   void setShowsSpeeds(bool shows);
 
+  bool offersStartOver() const { return offersStartOver_; }
+  void setOffersStartOver(bool offers);
+
   const std::optional<QString>& toast() const { return toast_; }
   void setToast(std::optional<QString> toast);
 
@@ -45,6 +50,7 @@ class PlayerChrome : public QObject {
   void showsInfoChanged();
   void panelChanged();
   void showsSpeedsChanged();
+  void offersStartOverChanged();
   void toastChanged();
 
  private:
@@ -59,6 +65,7 @@ class PlayerChrome : public QObject {
   bool showsInfo_ = false;
   std::optional<PlayerPanel> panel_;
   bool showsSpeeds_ = false;
+  bool offersStartOver_ = false;
   std::optional<QString> toast_;
 };
 

@@ -22,6 +22,8 @@ PlayerWindowController::PlayerWindowController(PlaybackModel& playback, WindowSy
   connect(&windows_, &WindowSystem::windowsChanged, this, &PlayerWindowController::scanWindows);
   connect(&playback_, &PlaybackModel::isLoadedChanged, this, [this] {
     isStopping_ = false;
+    resumedAt_.reset();
+    chrome_.setOffersStartOver(false);
     if (!playback_.isLoaded()) endReplacing();
     Q_EMIT playsWithoutWindowChanged();
   });
@@ -136,6 +138,7 @@ void PlayerWindowController::reveal() {
   if (libraryWindow_ && libraryWindow_->isVisible())
     libraryWindow_->fadeTo(0, kFadeIn, QEasingCurve::OutQuad, {});
   Q_EMIT windowStateChanged();
+  tellOfResuming();
 }
 
 /// The library, which stays away while a window goes and another comes, is needed where none does.
@@ -209,6 +212,7 @@ void PlayerWindowController::tearDownWindowState() {
   chrome_.setShowsInfo(false);
   chrome_.setPanel(std::nullopt);
   chrome_.setShowsSpeeds(false);
+  chrome_.setOffersStartOver(false);
   chrome_.setToast(std::nullopt);
   updateSubtitleLift();
   if (window) giveUp(*window);

@@ -6,6 +6,7 @@
 #include <QSet>
 #include <QUrl>
 #include <memory>
+#include <optional>
 
 #include "platform/Clock.h"
 #include "playback/PlayerPresenting.h"
@@ -47,6 +48,8 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   Q_INVOKABLE void toggleFullscreen();
   /// Has the engine make its output and its window anew, while the file goes on.
   void restartVideo();
+  /// Plays the film from its beginning, and says so.
+  Q_INVOKABLE void startOver();
   void handleDroppedFiles(const QList<QUrl>& addresses);
   /// By percent points, up or down, with a toast.
   void adjustVolume(double percent);
@@ -96,6 +99,7 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   void toggleChrome();
   void scheduleChromeHide();
   bool mayHideChrome() const;
+  void tellOfResuming();
   void handleActivity();
   void setInfoRefresh(bool shown);
   void updateDisplay();
@@ -115,9 +119,11 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   std::unique_ptr<Clock::Timer> revealFallback_;
   std::unique_ptr<Clock::Timer> fullscreenExitFallback_;
   std::unique_ptr<Clock::Timer> toastTimer_;
+  std::unique_ptr<Clock::Timer> offerTimer_;
   std::unique_ptr<Clock::Timer> hideTimer_;
   std::unique_ptr<Clock::Timer> infoTimer_;
 
+  std::optional<double> resumedAt_;  // seconds; to be told when there is a picture
   bool awaitingVideo_ = false;
   bool videoReady_ = false;
   bool chromeVisible_ = true;

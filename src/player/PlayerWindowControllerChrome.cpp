@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "playback/PlaybackModel.h"
+#include "player/Format.h"
 #include "player/PlayerWindowController.h"
 
 namespace tromelo {
@@ -11,6 +12,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kToast = 1400ms;
+constexpr auto kOffer = 8s;
 constexpr auto kInfoRefresh = 1000ms;
 constexpr double kLongestDelay = 24 * 60 * 60;  // seconds; a timer can't count to everything
 
@@ -36,6 +38,10 @@ void PlayerWindowController::followState() {
   connect(&playback_, &PlaybackModel::hasPlacesChanged, this, [this] {
     // Its button is gone, and there is nothing to be seen in it.
     if (!playback_.hasPlaces()) chrome_.close(PlayerPanel::chapters);
+  });
+  connect(&playback_, &PlaybackModel::resumed, this, [this](double position) {
+    resumedAt_ = position;
+    tellOfResuming();
   });
   connect(&chrome_, &PlayerChrome::showsInfoChanged, this,
           [this] { setInfoRefresh(chrome_.showsInfo()); });
@@ -101,6 +107,20 @@ void PlayerWindowController::updateDisplay() {
 void PlayerWindowController::showToast(const QString& text) {
   chrome_.setToast(text);
   toastTimer_ = clock_.after(kToast, [this] { chrome_.setToast(std::nullopt); });
+}
+
+void PlayerWindowController::tellOfResuming() {
+  if (!resumedAt_ || !isRevealed_) return;
+  showToast(tr("Resumed at %1").arg(Format::clock(*resumedAt_)));
+  resumedAt_.reset();
+  chrome_.setOffersStartOver(true);
+  offerTimer_ = clock_.after(kOffer, [this] { chrome_.setOffersStartOver(false); });
+}
+
+void PlayerWindowController::startOver() {
+  playback_.startOver();
+  chrome_.setOffersStartOver(false);
+  showToast(tr("From the beginning"));
 }
 
 void PlayerWindowController::updateSubtitleLift() {

@@ -4,6 +4,7 @@
 
 #include "display/EngineWindowItem.h"
 #include "display/PictureSurround.h"
+#include "films/FilmMemory.h"
 #include "playback/PlaybackModel.h"
 #include "player/PlayerChrome.h"
 #include "player/PlayerWindowController.h"
@@ -64,6 +65,13 @@ struct PlaybackStateForQml {
   Q_GADGET
   QML_FOREIGN(tromelo::PlaybackState)
   QML_ANONYMOUS
+};
+
+struct FilmMemoryForQml {
+  Q_GADGET
+  QML_FOREIGN(tromelo::FilmMemory)
+  QML_NAMED_ELEMENT(FilmMemory)
+  QML_UNCREATABLE("The program has one.")
 };
 
 struct PlaybackModelForQml {

@@ -22,6 +22,8 @@ namespace tromelo {
   /* Idle seconds after which the player's controls hide; 0 is never. */                          \
   ROW(double, autoHideDelay, AutoHideDelay, 2.0, keptAutoHideDelay, autoHideDelayChanged,         \
       controls, nullptr, noText)                                                                  \
+  /* Films go on where they were left. */                                                         \
+  ROW(bool, resumesFilms, ResumesFilms, true, asItIs, changed, controls, nullptr, noText)         \
   /* A family; where it is missing, the nearest one. */                                           \
   ROW(QString, subtitleFont, SubtitleFont, QStringLiteral("Helvetica Neue"), asItIs, changed,     \
       subtitles, "sub-font", mpvText)                                                             \

@@ -8,6 +8,7 @@ namespace {
 
 const QHash<QString, char16_t>& glyphs() {
   static const QHash<QString, char16_t> table{
+      {QStringLiteral("arrow.counterclockwise"), u'\ue042'},
       {QStringLiteral("arrow.down.right.and.arrow.up.left"), u'\ue5d1'},
       {QStringLiteral("arrow.up.left.and.arrow.down.right"), u'\ue5d0'},
       {QStringLiteral("backward.end.fill"), u'\ue045'},

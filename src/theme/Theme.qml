@@ -282,6 +282,7 @@ QtObject {
     readonly property real shortcutsScrollMargin: 8
     readonly property real toastPadding: 16
     readonly property real toastRise: 9
+    readonly property real toastGap: 10 // to what lies below it
 
     readonly property real symbolScale: 1.32 // a symbol fills less of its font's square than a letter
 

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Tromelo.Controls
+import Tromelo.Player
 import Tromelo.Settings
 import Tromelo.Theme
 
@@ -10,53 +11,92 @@ Item {
     id: page
 
     required property PlayerSettings settings
+    required property FilmMemory films
 
-    implicitHeight: Theme.generalHeight
+    implicitHeight: Math.max(Theme.generalHeight, forget.y + forget.height + Theme.settingsPadding)
 
     Rectangle {
-        id: row
+        id: form
 
         x: Theme.settingsPadding
         y: Theme.settingsPadding
         width: parent.width - 2 * x
-        height: Theme.formRow
+        height: rows.height
         radius: Theme.formRadius
         color: Theme.surface
 
-        Text {
-            id: label
+        Column {
+            id: rows
 
             x: Theme.rowSpacing
-            height: parent.height
-            text: qsTr("Hide player controls after")
-            font: Theme.panelText
-            color: Theme.primaryText
-            verticalAlignment: Text.AlignVCenter
-        }
+            width: parent.width - 2 * x
 
-        Picker {
-            objectName: "autoHideDelay"
-            anchors.right: parent.right
-            anchors.rightMargin: Theme.rowSpacing
-            anchors.verticalCenter: parent.verticalCenter
-            model: page.settings.autoHideLabels
-            currentIndex: page.settings.autoHideIndex
-            displayText: page.settings.autoHideText
-            Accessible.name: label.text
-            onActivated: index => page.settings.autoHideIndex = index
+            Item {
+                width: rows.width
+                height: Theme.formRow
+
+                Text {
+                    id: label
+
+                    height: parent.height
+                    text: qsTr("Hide player controls after")
+                    font: Theme.panelText
+                    color: Theme.primaryText
+                    verticalAlignment: Text.AlignVCenter
+                }
+
+                Picker {
+                    objectName: "autoHideDelay"
+                    anchors.right: parent.right
+                    anchors.verticalCenter: parent.verticalCenter
+                    model: page.settings.autoHideLabels
+                    currentIndex: page.settings.autoHideIndex
+                    displayText: page.settings.autoHideText
+                    Accessible.name: label.text
+                    onActivated: index => page.settings.autoHideIndex = index
+                }
+            }
+
+            Rectangle {
+                width: rows.width
+                height: Theme.hairline
+                color: Theme.panelDivider
+            }
+
+            CheckToggle {
+                objectName: "resumesFilms"
+                width: rows.width
+                height: Theme.formRow
+                font: Theme.panelText
+                text: qsTr("Go on where I stopped")
+                checked: page.settings.resumesFilms
+                onToggled: page.settings.resumesFilms = checked
+            }
         }
     }
 
     Text {
-        anchors.top: row.bottom
+        id: note
+
+        anchors.top: form.bottom
         anchors.topMargin: Theme.rowSpacing
         x: Theme.settingsPadding + Theme.rowSpacing
-        width: row.width - 2 * Theme.rowSpacing
+        width: form.width - 2 * Theme.rowSpacing
         text: qsTr("Controls stay visible while paused, while a panel is open, or while the pointer is over them.")
         font: Theme.panelCallout
         color: Theme.secondaryText
         wrapMode: Text.Wrap
         Accessible.role: Accessible.StaticText
         Accessible.name: text
+    }
+
+    ForgetFilms {
+        id: forget
+
+        anchors.top: note.bottom
+        anchors.topMargin: Theme.sectionSpacing
+        x: Theme.settingsPadding
+        width: form.width
+        films: page.films
     }
 }

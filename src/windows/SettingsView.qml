@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Tromelo.Controls
+import Tromelo.Player
 import Tromelo.Settings
 import Tromelo.Theme
 
@@ -11,6 +12,7 @@ FocusScope {
 
     required property PlayerSettings settings
     required property SettingsPages pages
+    required property FilmMemory films
 
     implicitWidth: Theme.settingsWidth
     implicitHeight: content.y + content.height
@@ -51,6 +53,7 @@ FocusScope {
 
         GeneralSettings {
             settings: view.settings
+            films: view.films
         }
     }
 

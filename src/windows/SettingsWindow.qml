@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Tromelo.Player
 import Tromelo.Settings
 import Tromelo.Theme
 
@@ -10,6 +11,7 @@ Window {
 
     required property PlayerSettings settings
     required property SettingsPages pages
+    required property FilmMemory films
 
     title: qsTr("Settings")
     color: Theme.backdrop
@@ -27,6 +29,7 @@ Window {
         focus: true
         settings: window.settings
         pages: window.pages
+        films: window.films
         Keys.onEscapePressed: window.close()
         Keys.onPressed: event => {
             if (event.key === Qt.Key_W && event.modifiers === Qt.ControlModifier)

@@ -24,6 +24,7 @@ QString key(const char* name) { return name; }
 const QJsonObject& allStored() {
   static const QJsonObject stored{
       {"autoHideDelay", 0},
+      {"resumesFilms", false},
       {"subtitleFont", "Comic Neue"},
       {"subtitleSize", 52.5},
       {"subtitleColor", QJsonArray{1.0 / 3, 0.93, 0.35, 0.1}},
@@ -148,6 +149,7 @@ TEST_F(PlayerSettingsTest, EveryWriteIsThereAfterARestart) {
     PlayerSettings settings(defaults_);
     EXPECT_FALSE(defaults_.contains(kKey));
     settings.setAutoHideDelay(0);
+    settings.setResumesFilms(false);
     settings.setSubtitleFont("Comic Neue");
     settings.setSubtitleSize(52.5);
     settings.setSubtitleColor({1.0 / 3, 0.93, 0.35, 0.1});
@@ -162,7 +164,8 @@ TEST_F(PlayerSettingsTest, EveryWriteIsThereAfterARestart) {
   PlayerSettings settings(later);
   EXPECT_EQ(settings.subtitleColor(), RgbaColor(1.0 / 3, 0.93, 0.35, 0.1));
   settings.resetSubtitleStyle();
-  EXPECT_EQ(later.value(kKey).toObject(), storedPreferences({.autoHideDelay = 0}));
+  EXPECT_EQ(later.value(kKey).toObject(),
+            storedPreferences({.autoHideDelay = 0, .resumesFilms = false}));
 }
 
 TEST_F(PlayerSettingsTest, LoadingLeavesAHandEditedEntryAsItIs) {

@@ -79,6 +79,7 @@ struct FakeMpv {
               destroyedBy = std::this_thread::get_id();
               ++destroyed;
             },
+        .createClient = [](mpv_handle*, const char*) -> mpv_handle* { return nullptr; },
     };
   }
 

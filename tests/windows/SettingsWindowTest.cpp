@@ -6,6 +6,7 @@
 #include <QQuickItem>
 #include <QTest>
 
+#include "films/FilmMemory.h"
 #include "settings/PlayerSettings.h"
 #include "support/Home.h"
 #include "support/Reader.h"
@@ -36,12 +37,15 @@ struct SettingsWindowTest : ::testing::Test, protected Home, protected ViewDrive
   }
 
   PlayerSettings settings_{defaults_};
+  FilmMemory films_{directory_.filePath("films.sqlite"),
+                    [](const QString& told) { ADD_FAILURE() << told.toStdString(); }};
   QQmlEngine engine_;
   SettingsPages pages_;
-  ProgramWindow shell_{
-      engine_,
-      "SettingsWindow",
-      {{"settings", QVariant::fromValue(&settings_)}, {"pages", QVariant::fromValue(&pages_)}}};
+  ProgramWindow shell_{engine_,
+                       "SettingsWindow",
+                       {{"settings", QVariant::fromValue(&settings_)},
+                        {"pages", QVariant::fromValue(&pages_)},
+                        {"films", QVariant::fromValue(&films_)}}};
 };
 
 TEST_F(SettingsWindowTest, EveryControlCanBeUsedByKeys) {
@@ -50,6 +54,11 @@ TEST_F(SettingsWindowTest, EveryControlCanBeUsedByKeys) {
   for (int i = 0; i < 4; ++i) key(Qt::Key_Down);
   EXPECT_EQ(settings_.autoHideDelay(), 0);
   EXPECT_EQ(defaults_.value("playerSettings")[u"autoHideDelay"], QJsonValue(0));
+  tabTo("resumesFilms");
+  key(Qt::Key_Space);
+  EXPECT_FALSE(settings_.resumesFilms());
+  key(Qt::Key_Space);
+  tabTo("forgetFilms");
   key(Qt::Key_Tab);
   EXPECT_EQ(window().activeFocusItem(), item("tabGeneral"));
   key(Qt::Key_Right);

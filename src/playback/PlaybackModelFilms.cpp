@@ -1,0 +1,22 @@
+#include "films/FilmMemory.h"
+#include "playback/PlaybackModel.h"
+
+namespace tromelo {
+
+void PlaybackModel::noteMove() {
+  // Before it plays, the position is one that it is on the way to.
+  if (isLoaded_ && hasStarted_) filmKeeper_.moved(elapsed_);
+}
+
+void PlaybackModel::startOver() { seekTo(0); }
+
+void PlaybackModel::setPrivate(bool isPrivate) {
+  if (isPrivate_ == isPrivate) return;
+  // What was seen until now is remembered, and what comes is not.
+  if (isPrivate) filmKeeper_.keep();
+  isPrivate_ = isPrivate;
+  if (films_) films_->setPrivate(isPrivate);
+  engine_.setLogging(!isPrivate);
+}
+
+}  // namespace tromelo

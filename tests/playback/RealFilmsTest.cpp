@@ -1,0 +1,193 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "FakeChooser.h"
+#include "FakePlayer.h"
+#include "platform/Clock.h"
+#include "platform/FilePath.h"
+#include "playback/PlaybackModel.h"
+#include "support/Clips.h"
+#include "support/Files.h"
+#include "support/HeadlessMpv.h"
+#include "support/Home.h"
+#include "support/WaitFor.h"
+
+namespace tromelo::testing {
+
+namespace fs = std::filesystem;
+
+/// The engine counts delays more coarsely than we do.
+bool isNear(double one, double other) { return std::abs(one - other) < 1e-6; }
+
+/// From the program's start to its end, with a memory of films that stays.
+struct FilmSession {
+  FilmSession(Home& home, FakePlayer::Log& log)
+      : memory_(home.directory_.filePath("films.sqlite"),
+                [](const QString& told) { ADD_FAILURE() << told.toStdString(); }),
+        model_({.api = headlessMpv(),
+                .clock = clock_,
+                .files = chooser_,
+                .defaults = home.defaults_,
+                .diagnosticsDirectory = home.directory_.filePath("state"),
+                .makePlayer = [&log](PlaybackModel&) { return std::make_unique<FakePlayer>(log); },
+                .films = &memory_}) {
+    QObject::connect(&model_, &PlaybackModel::resumed,
+                     [this](double position) { resumedAt_ = position; });
+    auto& onEvent = model_.engine().onEvent;
+    onEvent = [this, toModel = onEvent](const MpvEvent& event) {
+      note(event);
+      toModel(event);
+    };
+  }
+  ~FilmSession() {
+    model_.setShuttingDown(true);
+    bool ended = false;
+    model_.engine().terminate([&ended] { ended = true; });
+    EXPECT_TRUE(waitFor([&ended] { return ended; }));
+  }
+
+  [[nodiscard]] bool plays(const fs::path& film, std::optional<double> startAt = {}) {
+    first_.reset();
+    hasStarted_ = false;
+    resumedAt_.reset();
+    model_.open(fileUrlFromPath(film.string()), startAt);
+    return waitFor([this] { return first_ && model_.film() && !model_.audioTracks().isEmpty(); });
+  }
+  [[nodiscard]] bool comesTo(double position) {
+    return waitFor([=, this] { return std::abs(model_.elapsed() - position) < 3; });
+  }
+
+  static qint64 selected(const QList<MediaTrack>& tracks) {
+    const auto track = std::ranges::find_if(tracks, &MediaTrack::isSelected);
+    return track == tracks.end() ? 0 : track->id;
+  }
+
+  SystemClock clock_;
+  FakeChooser chooser_;
+  FilmMemory memory_;
+  std::optional<double> resumedAt_;
+  std::optional<double> first_;  // the first position that was reported while the film played
+  bool hasStarted_ = false;
+  PlaybackModel model_;
+
+ private:
+  void note(const MpvEvent& event) {
+    if (std::holds_alternative<event::PlaybackRestart>(event)) hasStarted_ = true;
+    const auto* change = std::get_if<event::Property>(&event);
+    if (!hasStarted_ || !change || change->property != MpvProperty::timePos) return;
+    if (const auto* seconds = change->value.as<double>(); seconds && !first_) first_ = *seconds;
+  }
+};
+
+struct RealFilms : ::testing::Test, Home {
+  RealFilms() {
+    fs::copy_file(clipPath("long.mkv"), film_);
+    writeFile(subtitle_.string(), "1\n00:00:00,500 --> 00:09:00,000\nOne more\n");
+  }
+  void start() { session_ = std::make_unique<FilmSession>(*this, player_); }
+  void restart() {
+    session_.reset();
+    start();
+  }
+  /// Plays it, goes there, and ends.
+  void leaveAt(double position) {
+    start();
+    ASSERT_TRUE(session_->plays(film_));
+    session_->model_.seekTo(position);
+    ASSERT_TRUE(session_->comesTo(position));
+    session_.reset();
+  }
+
+  FakePlayer::Log player_;
+  fs::path folder_ = directory_.path().toStdString();
+  fs::path film_ = folder_ / "film.mkv";
+  fs::path subtitle_ = folder_ / "added.srt";
+  std::unique_ptr<FilmSession> session_;
+};
+
+TEST_F(RealFilms, AFilmThatWasRenamedGoesOnWithItsTracksAndDelays) {
+  start();
+  ASSERT_TRUE(session_->plays(film_));
+  auto* model = &session_->model_;
+  EXPECT_FALSE(session_->resumedAt_);
+  model->selectAudio(2);
+  model->addSubtitle(fileUrlFromPath(subtitle_.string()));
+  model->setAudioDelay(0.15);
+  model->setSubtitleDelay(-0.4);
+  model->seekTo(200);
+  ASSERT_TRUE(session_->comesTo(200));
+  ASSERT_TRUE(waitFor([&] {
+    return FilmSession::selected(model->audioTracks()) == 2 &&
+           FilmSession::selected(model->subtitleTracks()) == 3;
+  }));
+  const double left = model->elapsed();
+  model->stop();
+  ASSERT_TRUE(waitFor([&] { return !model->isLoaded(); }));
+
+  restart();
+  const fs::path renamed = folder_ / "renamed.mkv";
+  fs::rename(film_, renamed);
+  ASSERT_TRUE(session_->plays(renamed));
+  model = &session_->model_;
+  EXPECT_NEAR(*session_->first_, left, 1) << "jumped there later";
+  ASSERT_TRUE(session_->resumedAt_);
+  EXPECT_NEAR(*session_->resumedAt_, left, 1);
+  EXPECT_TRUE(waitFor([&] {
+    return FilmSession::selected(model->audioTracks()) == 2 && isNear(model->audioDelay(), 0.15) &&
+           isNear(model->subtitleDelay(), -0.4);
+  }));
+  const QList<MediaTrack> subtitles = model->subtitleTracks();
+  ASSERT_EQ(subtitles.size(), 3);
+  EXPECT_TRUE(subtitles[2].isSelected && subtitles[2].isExternal);
+
+  // Nothing was chosen this time, and all of it stays; but the next film has its own.
+  ASSERT_TRUE(session_->plays(clipPath("tracks.mkv")));
+  EXPECT_TRUE(waitFor([&] { return isNear(model->audioDelay(), 0); }));
+  ASSERT_TRUE(session_->plays(renamed));
+  EXPECT_TRUE(waitFor([&] { return FilmSession::selected(model->audioTracks()) == 2; }));
+}
+
+TEST_F(RealFilms, GoesOnInAQueueButNotWhereItIsToldToBeginOrShallNot) {
+  leaveAt(200);
+  start();
+  ASSERT_TRUE(session_->plays(film_, 60));
+  EXPECT_NEAR(*session_->first_, 60, 2);
+  EXPECT_FALSE(session_->resumedAt_);
+
+  leaveAt(250);
+  start();
+  auto& queue = session_->model_;
+  ASSERT_TRUE(session_->plays(clipPath("sample.mkv")));
+  queue.enqueue({fileUrlFromPath(film_.string())});
+  ASSERT_TRUE(waitFor([&] { return queue.hasNext(); }));
+  queue.playNext();
+  EXPECT_TRUE(waitFor([&] { return session_->resumedAt_.has_value(); }));
+  EXPECT_TRUE(session_->comesTo(250));
+  queue.startOver();
+  EXPECT_TRUE(session_->comesTo(0));
+  queue.toggleLoop();
+  queue.seekTo(queue.duration() - 1);
+  EXPECT_TRUE(session_->comesTo(queue.duration() - 1));
+  EXPECT_TRUE(session_->comesTo(0)) << "a round of a loop goes on where the film was left";
+
+  leaveAt(250);
+  start();
+  session_->model_.settings().setResumesFilms(false);
+  ASSERT_TRUE(session_->plays(film_));
+  EXPECT_NEAR(*session_->first_, 0, 2);
+}
+
+TEST_F(RealFilms, AFilmInPrivateLeavesNoTrace) {
+  start();
+  session_->model_.setPrivate(true);
+  ASSERT_TRUE(session_->plays(film_));
+  session_->model_.seekTo(200);
+  ASSERT_TRUE(session_->comesTo(200));
+  restart();
+  ASSERT_TRUE(session_->plays(film_));
+  EXPECT_FALSE(session_->resumedAt_);
+}
+
+}  // namespace tromelo::testing
