@@ -29,6 +29,7 @@ PROGRAMS = {
     "events": "bench_drain_events",
     "queue": "bench_queue",
     "settings": "bench_drag_settings",
+    "films": "bench_remembered_films",
 }
 MPV = (
     "mpv --no-config --osc=no --vo=gpu-next --gpu-api=vulkan --gpu-sw=yes --really-quiet"

@@ -376,6 +376,10 @@
         <source>Open</source>
         <translation>Öffnen</translation>
     </message>
+    <message>
+        <source>Private: nothing is remembered</source>
+        <translation>Privat: nichts wird gemerkt</translation>
+    </message>
 </context>
 <context>
     <name>LibraryMenuBar</name>
@@ -418,6 +422,14 @@
     <message>
         <source>&amp;About Tromelo</source>
         <translation>Ü&amp;ber Tromelo</translation>
+    </message>
+    <message>
+        <source>End &amp;Private Session</source>
+        <translation>&amp;Private Sitzung beenden</translation>
+    </message>
+    <message>
+        <source>Begin &amp;Private Session</source>
+        <translation>&amp;Private Sitzung beginnen</translation>
     </message>
 </context>
 <context>
@@ -551,6 +563,14 @@
     <message>
         <source>HDR</source>
         <translation>HDR</translation>
+    </message>
+    <message>
+        <source>Private</source>
+        <translation>Privat</translation>
+    </message>
+    <message>
+        <source>Nothing is remembered</source>
+        <translation>Nichts wird gemerkt</translation>
     </message>
 </context>
 <context>

@@ -12,6 +12,7 @@ namespace {
 QString serviceName() { return QStringLiteral("org.tromelo.Tromelo"); }
 QString objectPath() { return QStringLiteral("/org/tromelo/Tromelo"); }
 QString startKey() { return QStringLiteral("tromelo-start"); }
+QString privateKey() { return QStringLiteral("tromelo-private"); }
 QString tokenKey() { return QStringLiteral("activation-token"); }
 constexpr const char* kTokenVariable = "XDG_ACTIVATION_TOKEN";
 
@@ -31,6 +32,7 @@ bool ApplicationService::handOver(const Request& request, std::chrono::milliseco
   if (const QString token = qEnvironmentVariable(kTokenVariable); !token.isEmpty())
     platformData.insert(tokenKey(), token);
   if (request.start) platformData.insert(startKey(), *request.start);
+  if (request.isPrivate) platformData.insert(privateKey(), true);
   if (request.file) call << QStringList{request.file->toString(QUrl::FullyEncoded)};
   call << platformData;
   const QDBusMessage answer = bus_->call(call, QDBus::Block, static_cast<int>(patience.count()));
@@ -58,15 +60,20 @@ void ApplicationService::stop() {
   bus_->unregisterObject(objectPath());
 }
 
-void ApplicationService::Activate(const QVariantMap& platformData) {
+void ApplicationService::takePlatformData(const QVariantMap& platformData) {
   takeActivation(platformData);
+  if (platformData.value(privateKey()).toBool()) Q_EMIT privacyAsked();
+}
+
+void ApplicationService::Activate(const QVariantMap& platformData) {
+  takePlatformData(platformData);
   Q_EMIT activated();
 }
 
 void ApplicationService::Open(const QStringList& uris, const QVariantMap& platformData) {
   QList<QUrl> files;
   for (const QString& uri : uris) files.append(urlFromEncoded(uri.toUtf8()));
-  takeActivation(platformData);
+  takePlatformData(platformData);
   bool known = false;
   const double start = platformData.value(startKey()).toDouble(&known);
   Q_EMIT filesOpened(files, known ? std::optional(start) : std::nullopt);

@@ -24,6 +24,7 @@ class ApplicationService : public QObject {
   struct Request {
     std::optional<QUrl> file;
     std::optional<double> start;  // seconds
+    bool isPrivate = false;       // nothing is to be written of what is played from now on
   };
 
   enum class Role {
@@ -46,10 +47,13 @@ class ApplicationService : public QObject {
 
  Q_SIGNALS:
   void activated();
+  /// Before what is opened then.
+  void privacyAsked();
   /// Addresses as the desktop gave them.
   void filesOpened(const QList<QUrl>& files, std::optional<double> start);
 
  private:
+  void takePlatformData(const QVariantMap& platformData);
   bool handOver(const Request& request, std::chrono::milliseconds patience);
 
   std::optional<QDBusConnection> bus_;

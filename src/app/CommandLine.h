@@ -20,6 +20,7 @@ struct CommandLine {
   bool version = false;
   bool displaySelftest = false;
   bool report = false;
+  bool isPrivate = false;
 
   /// `arguments` begins with the program's own name.
   static CommandLine parse(std::span<char* const> arguments);

@@ -50,7 +50,9 @@ Program::Program(const CommandLine& commandLine)
 Program::~Program() = default;
 
 int Program::run() {
-  role_ = service_.start({.file = commandLine_.fileToOpen(), .start = commandLine_.start});
+  role_ = service_.start({.file = commandLine_.fileToOpen(),
+                          .start = commandLine_.start,
+                          .isPrivate = commandLine_.isPrivate});
   if (role_ == ApplicationService::Role::handedOver) return 0;
   startDisplay();
   makeDelegate();
@@ -155,6 +157,7 @@ void Program::makeDelegate() {
   };
   delegate_ = std::make_unique<AppDelegate>(commandLine_, defaults_, storesOfOrvo(), parts);
   delegate_->playback().setPictureWay(pictureWay_);
+  if (commandLine_.isPrivate) delegate_->playback().setPrivate(true);
   QObject::connect(delegate_.get(), &AppDelegate::readyToTerminate, qApp,
                    [] { QCoreApplication::exit(0); });
   // What is asked of the program from now on is for the next one.
@@ -192,6 +195,8 @@ void Program::doWithoutDmabufs() {
 void Program::makeCommands() {
   commands_ = std::make_unique<Commands>(Commands::Actions{
       .open = [this] { delegate_->playback().presentOpenPanel(); },
+      .togglePrivacy =
+          [this] { delegate_->playback().setPrivate(!delegate_->playback().isPrivate()); },
       .quit = [this] { delegate_->quit(); },
       // An open window stays at its page.
       .showSettings =
@@ -233,6 +238,8 @@ std::unique_ptr<ControlledWindow> Program::makeLibraryWindow(PlaybackModel& play
 void Program::connectService() {
   QObject::connect(&service_, &ApplicationService::activated, delegate_.get(),
                    [this] { bringToFront(); });
+  QObject::connect(&service_, &ApplicationService::privacyAsked, delegate_.get(),
+                   [this] { delegate_->playback().setPrivate(true); });
   QObject::connect(&service_, &ApplicationService::filesOpened, delegate_.get(),
                    [this](const QList<QUrl>& files, std::optional<double> start) {
                      delegate_->applicationOpen(files, start);

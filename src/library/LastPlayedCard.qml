@@ -17,6 +17,13 @@ GlassSurface {
     Accessible.role: Accessible.Grouping
     Accessible.name: qsTr("Last played")
 
+    FilmPlace {
+        id: place
+
+        films: card.playback.films
+        file: card.playback.lastURL
+    }
+
     // A fact about a video in one or two words.
     component Chip: GlassSurface {
         id: chip
@@ -73,6 +80,13 @@ GlassSurface {
                 elide: Text.ElideRight
                 Accessible.role: Accessible.Heading
                 Accessible.name: text
+            }
+
+            SeenBar {
+                objectName: "cardSeen"
+                visible: place.seen > 0
+                width: parent.width
+                place: place
             }
         }
 

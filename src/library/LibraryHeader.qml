@@ -14,6 +14,8 @@ Item {
     implicitHeight: Theme.headerHeight
 
     Text {
+        id: title
+
         objectName: "libraryTitle"
         anchors.left: parent.left
         anchors.leftMargin: Theme.margin
@@ -23,6 +25,46 @@ Item {
         color: Theme.primaryText
         Accessible.role: Accessible.Heading
         Accessible.name: text
+    }
+
+    // A mark that stays for as long as nothing is written of what is played.
+    Rectangle {
+        objectName: "privacyMark"
+        visible: header.playback.isPrivate
+        anchors.left: title.right
+        anchors.leftMargin: Theme.spacing
+        anchors.verticalCenter: parent.verticalCenter
+        width: mark.implicitWidth + 2 * Theme.chipPadding
+        height: mark.implicitHeight + 2 * Theme.chipRise
+        radius: height / 2
+        color: Theme.surface
+        border.width: Theme.hairline
+        border.color: Theme.surfaceEdge
+        Accessible.role: Accessible.StaticText
+        Accessible.name: words.text
+
+        Row {
+            id: mark
+
+            anchors.centerIn: parent
+            spacing: Theme.headingSpacing
+
+            Symbol {
+                anchors.verticalCenter: parent.verticalCenter
+                name: "eye.slash"
+                size: Theme.sidebarSymbolSize
+                color: Theme.gold
+            }
+
+            Text {
+                id: words
+
+                text: qsTr("Private: nothing is remembered")
+                font: Theme.chip
+                color: Theme.gold
+                Accessible.ignored: true
+            }
+        }
     }
 
     PushButton {

@@ -9,6 +9,7 @@ CommandMenuBar {
     id: bar
 
     required property Commands commands
+    required property bool isPrivate
 
     objectName: "libraryMenuBar"
 
@@ -21,6 +22,12 @@ CommandMenuBar {
             text: qsTr("&Open…")
             keys: bar.commands.open.keys
             onTriggered: bar.commands.open.run()
+        }
+
+        CommandItem {
+            objectName: "privacyCommand"
+            text: bar.isPrivate ? qsTr("End &Private Session") : qsTr("Begin &Private Session")
+            onTriggered: bar.commands.privacy.run()
         }
 
         CommandDivider {}

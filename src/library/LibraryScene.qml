@@ -21,6 +21,7 @@ ColumnLayout {
     LibraryMenuBar {
         Layout.fillWidth: true
         commands: scene.commands
+        isPrivate: scene.playback.isPrivate
     }
 
     LibraryView {

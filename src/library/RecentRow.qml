@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 import Tromelo.Controls
+import Tromelo.Player
 import Tromelo.Theme
 
 // A file that was played. It never takes the keyboard: the list has it.
@@ -12,6 +13,7 @@ T.AbstractButton {
     required property url file
     required property string name
     required property string path
+    required property FilmMemory films
     // The keyboard is on it.
     property bool chosen: false
     // Its menu is open.
@@ -20,7 +22,7 @@ T.AbstractButton {
     // `first` is the entry to start on; -1 for none.
     signal menuRequested(point place, int first)
 
-    implicitHeight: Theme.sidebarRowHeight
+    implicitHeight: place.seen > 0 ? Theme.sidebarSeenRowHeight : Theme.sidebarRowHeight
     leftPadding: Theme.rowSide
     rightPadding: Theme.rowSide
     focusPolicy: Qt.NoFocus
@@ -28,9 +30,16 @@ T.AbstractButton {
     text: name
     Accessible.role: Accessible.ListItem
     Accessible.name: name
-    Accessible.description: path
+    Accessible.description: place.left === "" ? path : place.left + " · " + path
     Accessible.selected: chosen
     Accessible.onPressAction: click()
+
+    FilmPlace {
+        id: place
+
+        films: row.films
+        file: row.file
+    }
 
     HoverTip {
         control: row
@@ -59,10 +68,24 @@ T.AbstractButton {
             anchors.left: sign.right
             anchors.leftMargin: Theme.sidebarRowSpacing
             anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
+            height: seen.visible ? parent.height - seen.height : parent.height
+            verticalAlignment: Text.AlignVCenter
             content: row.name
             font: Theme.sidebarRow
             color: Theme.primaryText
+        }
+
+        SeenBar {
+            id: seen
+
+            objectName: "recentSeen"
+            visible: place.seen > 0
+            anchors.left: sign.right
+            anchors.leftMargin: Theme.sidebarRowSpacing
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: Theme.rowRise
+            place: place
         }
     }
 

@@ -102,6 +102,7 @@ Rectangle {
 
             objectName: "recentRow"
             width: ListView.view.width - Theme.sidebarPadding
+            films: sidebar.playback.films
             chosen: list.activeFocus && ListView.isCurrentItem
             marked: menu.visible && menu.file === file
             onClicked: sidebar.playback.openFile(file)

@@ -26,6 +26,12 @@ constexpr InfoRow kRows[]{
      [](const State& state) { return state.hdrNote(); }},
     {"infoDisplay", QT_TRANSLATE_NOOP("PlayerInfoPanel", "Display"),
      [](const State& state) { return state.display(); }},
+    {"infoPrivate", QT_TRANSLATE_NOOP("PlayerInfoPanel", "Private"),
+     [](const State& state) {
+       return state.isPrivate()
+                  ? QCoreApplication::translate("PlayerInfoPanel", "Nothing is remembered")
+                  : QString();
+     }},
     {"infoDivider", "", nullptr},
     {"infoVideo", QT_TRANSLATE_NOOP("PlayerInfoPanel", "Video"),
      [](const State& state) {

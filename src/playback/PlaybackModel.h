@@ -37,6 +37,7 @@ struct PropertyMapping;
 class PlaybackModel : public PlaybackState {
   Q_OBJECT
   Q_PROPERTY(tromelo::PlayerSettings* settings READ settingsForViews CONSTANT)
+  Q_PROPERTY(tromelo::FilmMemory* films READ films CONSTANT)
 
  public:
   /// What the model works with; the references outlive it.

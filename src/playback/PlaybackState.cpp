@@ -9,7 +9,7 @@ namespace tromelo {
 PlaybackState::PlaybackState(QObject* parent) : QObject(parent) {
   for (const auto changed : {&PlaybackState::dynamicRangeChanged, &PlaybackState::outputChanged,
                              &PlaybackState::displayChanged, &PlaybackState::decoderChanged,
-                             &PlaybackState::containerChanged})
+                             &PlaybackState::containerChanged, &PlaybackState::isPrivateChanged})
     connect(this, changed, this, &PlaybackState::infoChanged);
   for (const auto changed : {&PlaybackState::chaptersChanged, &PlaybackState::bookmarksChanged})
     connect(this, changed, this, &PlaybackState::hasPlacesChanged);

@@ -31,6 +31,7 @@ class Commands : public QObject {
   QML_ELEMENT
   QML_UNCREATABLE("The program has one.")
   Q_PROPERTY(tromelo::Command open READ open CONSTANT)
+  Q_PROPERTY(tromelo::Command privacy READ privacy CONSTANT)
   Q_PROPERTY(tromelo::Command quit READ quit CONSTANT)
   Q_PROPERTY(tromelo::Command settings READ settings CONSTANT)
   Q_PROPERTY(tromelo::Command library READ library CONSTANT)
@@ -42,6 +43,7 @@ class Commands : public QObject {
   /// None may be empty.
   struct Actions {
     Action open;
+    Action togglePrivacy;
     Action quit;
     Action showSettings;
     Action showLibrary;
@@ -53,6 +55,7 @@ class Commands : public QObject {
   explicit Commands(Actions actions);
 
   Command open() const { return {key(Program::open), actions_.open}; }
+  Command privacy() const { return {{}, actions_.togglePrivacy}; }
   Command quit() const { return {key(Program::quit), actions_.quit}; }
   Command settings() const { return {key(Program::settings), actions_.showSettings}; }
   Command library() const { return {key(Program::library), actions_.showLibrary}; }

@@ -17,6 +17,7 @@ const QHash<QString, char16_t>& glyphs() {
       {QStringLiteral("checkmark"), u'\ue5ca'},
       {QStringLiteral("chevron.up.chevron.down"), u'\ue5d7'},
       {QStringLiteral("exclamationmark.triangle.fill"), u'\ue002'},
+      {QStringLiteral("eye.slash"), u'\ue8f5'},
       {QStringLiteral("film"), u'\ue02c'},
       {QStringLiteral("film.stack"), u'\ue04a'},
       {QStringLiteral("folder"), u'\ue2c8'},

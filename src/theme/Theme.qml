@@ -405,7 +405,12 @@ QtObject {
     readonly property real headerHeight: 52
     readonly property real sidebarPadding: 10
     readonly property real sidebarRowHeight: 28
+    readonly property real sidebarSeenRowHeight: 46 // with how far one was
     readonly property real sidebarRowSpacing: 7
+    readonly property font seen: ({ family: fontFamily, pixelSize: 10, weight: Font.Medium, features: { "tnum": 1 } })
+    readonly property color seenTrack: Qt.rgba(1, 1, 1, 0.16)
+    readonly property real seenHeight: 3
+    readonly property real seenGap: 8
     readonly property real sidebarSymbolSize: 14
     readonly property real dividerReach: 4 // on either side of the line
     readonly property real dividerStep: 10 // of a key

@@ -48,7 +48,8 @@ TEST(CommandLine, KnowsTheOptionsThatItsHelpNames) {
       {"--help", &CommandLine::help},
       {"--version", &CommandLine::version},
       {"--display-selftest", &CommandLine::displaySelftest},
-      {"--report", &CommandLine::report}};
+      {"--report", &CommandLine::report},
+      {"--private", &CommandLine::isPrivate}};
   for (const auto& [option, member] : options) {
     EXPECT_TRUE(parse({option}).*member) << option;
     EXPECT_NE(CommandLine::helpText().find(option), std::string::npos) << option;

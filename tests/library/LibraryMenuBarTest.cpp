@@ -17,6 +17,7 @@ TEST(LibraryMenuBarTest, EveryEntryAndEveryKeyRunsItsCommand) {
   QString ran;
   const auto command = [&ran](const char* name) { return [&ran, name] { ran += name; }; };
   Commands commands({.open = command("open"),
+                     .togglePrivacy = command("privacy"),
                      .quit = command("quit"),
                      .showSettings = command("settings"),
                      .showLibrary = command("library"),
@@ -26,8 +27,9 @@ TEST(LibraryMenuBarTest, EveryEntryAndEveryKeyRunsItsCommand) {
   QQuickWindow window;
   window.resize(760, 480);
   QQmlComponent component(&engine, "Tromelo.Library", "LibraryMenuBar");
-  const std::unique_ptr<QQuickItem> bar(qobject_cast<QQuickItem*>(
-      component.createWithInitialProperties({{"commands", QVariant::fromValue(&commands)}})));
+  const std::unique_ptr<QQuickItem> bar(
+      qobject_cast<QQuickItem*>(component.createWithInitialProperties(
+          {{"commands", QVariant::fromValue(&commands)}, {"isPrivate", false}})));
   ASSERT_TRUE(bar) << component.errorString().toStdString();
   QQuickItem content(window.contentItem());
   content.setFocus(true);
@@ -41,9 +43,10 @@ TEST(LibraryMenuBarTest, EveryEntryAndEveryKeyRunsItsCommand) {
     settle();
   };
   const Table<const char*, Qt::Key, Qt::Key> rows{
-      {"open", Qt::Key_F, Qt::Key_O},      {"quit", Qt::Key_F, Qt::Key_Q},
-      {"settings", Qt::Key_E, Qt::Key_S},  {"library", Qt::Key_W, Qt::Key_L},
-      {"shortcuts", Qt::Key_H, Qt::Key_K}, {"about", Qt::Key_H, Qt::Key_A}};
+      {"open", Qt::Key_F, Qt::Key_O},    {"privacy", Qt::Key_F, Qt::Key_P},
+      {"quit", Qt::Key_F, Qt::Key_Q},    {"settings", Qt::Key_E, Qt::Key_S},
+      {"library", Qt::Key_W, Qt::Key_L}, {"shortcuts", Qt::Key_H, Qt::Key_K},
+      {"about", Qt::Key_H, Qt::Key_A}};
   for (const auto& [runs, menu, letter] : rows) {
     type(Qt::ALT | menu);
     type(letter);

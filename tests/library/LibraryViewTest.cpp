@@ -3,6 +3,7 @@
 #include <QMimeData>
 #include <semaphore>
 
+#include "films/FilmMemory.h"
 #include "library/LibraryWindow.h"
 #include "library/SidebarWidth.h"
 #include "overlay/ViewTest.h"
@@ -284,6 +285,38 @@ TEST_F(LibraryViewTest, TakesDroppedFilesAnywhereAndNothingElse) {
   EXPECT_TRUE(enter({50, 300}) && drop({50, 300}));
   EXPECT_TRUE(
       waitFor([this] { return playback_.errorMessage() == u"Tromelo plays local files only."; }));
+}
+
+TEST_F(LibraryViewTest, ShowsHowFarOneWasInAFilmUntilItIsRemoved) {
+  FilmMemory memory(directory_.filePath("films.sqlite"),
+                    [](const QString& told) { ADD_FAILURE() << told.toStdString(); });
+  memory.remember({"1f-aa", 7200}, {.position = 2520}, "/films/b.mkv");
+  defaults_.set("recentFiles", QJsonArray{"/films/a.mkv", "/films/b.mkv"});
+  PlaybackModel::Parts remembering = parts();
+  remembering.films = &memory;
+  remembering.fileExists = [](const std::string&) { return true; };
+  PlaybackModel model(std::move(remembering));
+  show("RecentsList", {{"playback", QVariant::fromValue(&model)},
+                       {"fileManager", QVariant::fromValue(&fileManager_)}})
+      .setSize({230, 400});
+  const auto left = [this] {
+    QStringList texts;
+    for (const QQuickItem* bar : all("recentSeen"))
+      if (bar->isVisible())
+        texts << bar->findChild<QObject*>("seenText")->property("text").toString();
+    return texts;
+  };
+  ASSERT_TRUE(waitFor([&] { return left() == QStringList{"1 h 18 min left"}; }));
+  EXPECT_GT(rows()[1]->height(), rows()[0]->height());
+
+  model.removeRecent(QUrl("file:///films/b.mkv"));
+  bool isForgotten = false;
+  memory.findProgress({"/films/b.mkv"}, &memory, [&](const FilmMemory::Progress& found) {
+    EXPECT_TRUE(found.empty());
+    isForgotten = true;
+  });
+  EXPECT_TRUE(waitFor([&] { return isForgotten; }));
+  view_.reset();
 }
 
 TEST_F(LibraryViewTest, ComesUpBeforeAFileThatIsOpenedWithIt) {
