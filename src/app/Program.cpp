@@ -294,6 +294,9 @@ void Program::offerPictures() {
   for (const auto changed : {&PlaybackState::isLoadedChanged, &PlaybackState::videoSizeChanged,
                              &PlaybackState::durationChanged, &PlaybackState::lastURLChanged})
     QObject::connect(&playback, changed, &pictures_, tell);
+  const auto keep = [this, &playback] { pictures_.setKeepsOnDisk(!playback.isPrivate()); };
+  QObject::connect(&playback, &PlaybackState::isPrivateChanged, &pictures_, keep);
+  keep();
 }
 
 void Program::keepAwake() {

@@ -18,6 +18,9 @@ class FilmStore {
  public:
   explicit FilmStore(const QString& path) : database_(path) {}
 
+  /// Opens the file, which takes a moment that nobody need wait for later.
+  void open() { database_.run(QStringLiteral("SELECT 1")); }
+
   /// None for a film that isn't known.
   std::optional<FilmRecord> film(const FilmKey& film);
 

@@ -111,6 +111,10 @@ FilmThread::FilmThread(QString path, std::function<void(const QString&)> fault)
     : queue_(std::make_shared<Queue>(std::move(fault))) {
   // Detached, since a disk that hangs is not waited for at the end.
   std::thread([queue = queue_, path = std::move(path)] { queue->run(path); }).detach();
+  read([](FilmStore& store) {
+    store.open();
+    return true;
+  });
 }
 
 FilmThread::~FilmThread() { queue_->end(); }

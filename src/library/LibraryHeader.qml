@@ -59,6 +59,7 @@ Item {
             Text {
                 id: words
 
+                anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("Private: nothing is remembered")
                 font: Theme.chip
                 color: Theme.gold
