@@ -233,10 +233,6 @@
 <context>
     <name>ForgetFilms</name>
     <message>
-        <source>Also their bookmarks? This can&apos;t be undone.</source>
-        <translation>Auch ihre Lesezeichen? Das ist endgültig.</translation>
-    </message>
-    <message>
         <source>Places, tracks and bookmarks of films</source>
         <translation>Stellen, Spuren und Lesezeichen</translation>
     </message>
@@ -251,6 +247,10 @@
     <message>
         <source>Forget All Films</source>
         <translation>Alle vergessen</translation>
+    </message>
+    <message>
+        <source>This can&apos;t be undone.</source>
+        <translation>Das ist endgültig.</translation>
     </message>
 </context>
 <context>

@@ -24,7 +24,7 @@ Rectangle {
         x: Theme.rowSpacing
         width: buttons.x - x - Theme.rowSpacing
         height: parent.height
-        text: row.asks ? qsTr("Also their bookmarks? This can't be undone.") : qsTr("Places, tracks and bookmarks of films")
+        text: row.asks ? qsTr("This can't be undone.") : qsTr("Places, tracks and bookmarks of films")
         font: Theme.panelText
         color: Theme.primaryText
         elide: Text.ElideRight
@@ -42,6 +42,18 @@ Rectangle {
         spacing: Theme.groupSpacing
 
         PushButton {
+            objectName: "forgetFilmsNow"
+            visible: row.asks
+            text: qsTr("Forget All Films")
+            onClicked: {
+                row.films.forgetAll();
+                row.asks = false;
+            }
+        }
+
+        PushButton {
+            id: ask
+
             objectName: "forgetFilms"
             visible: !row.asks
             text: qsTr("Forget All Films…")
@@ -51,23 +63,15 @@ Rectangle {
             }
         }
 
+        // In its place, so that a second click by mistake forgets nothing.
         PushButton {
             id: keep
 
             objectName: "keepFilms"
             visible: row.asks
+            width: Math.max(implicitWidth, ask.width)
             text: qsTr("Cancel")
             onClicked: row.asks = false
-        }
-
-        PushButton {
-            objectName: "forgetFilmsNow"
-            visible: row.asks
-            text: qsTr("Forget All Films")
-            onClicked: {
-                row.films.forgetAll();
-                row.asks = false;
-            }
         }
     }
 }

@@ -48,6 +48,35 @@ struct SettingsWindowTest : ::testing::Test, protected Home, protected ViewDrive
                         {"films", QVariant::fromValue(&films_)}}};
 };
 
+TEST_F(SettingsWindowTest, FilmsAreForgottenByWhoSaysSoTwice) {
+  films_.remember({"1f-aa", 7200}, {.position = 100}, "/a.mkv");
+  const auto areKnown = [this] {
+    std::optional<bool> known;
+    films_.findProgress({"/a.mkv"}, &films_,
+                        [&](const FilmMemory::Progress& found) { known = !found.empty(); });
+    EXPECT_TRUE(waitFor([&] { return known.has_value(); }));
+    return known.value_or(false);
+  };
+  show(General);
+  tabTo("forgetFilms");
+  const QRectF place = item("forgetFilms")->mapRectToScene(item("forgetFilms")->boundingRect());
+  key(Qt::Key_Return);
+  layOut();
+  EXPECT_EQ(window().activeFocusItem(), item("keepFilms"));
+  EXPECT_TRUE(
+      item("keepFilms")->mapRectToScene(item("keepFilms")->boundingRect()).contains(place.center()))
+      << "a second click by mistake";
+  key(Qt::Key_Return);
+  layOut();
+  EXPECT_TRUE(areKnown());
+  tabTo("forgetFilms");
+  key(Qt::Key_Return);
+  layOut();
+  tabTo("forgetFilmsNow");
+  key(Qt::Key_Return);
+  EXPECT_FALSE(areKnown());
+}
+
 TEST_F(SettingsWindowTest, EveryControlCanBeUsedByKeys) {
   show(General);
   tabTo("autoHideDelay");
