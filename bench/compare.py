@@ -8,6 +8,7 @@ import tempfile
 import time
 
 import host
+import pictures
 import recents
 from player import LIMIT, Engine, Player, clean_environment
 from screen import Screen
@@ -23,7 +24,7 @@ BAR_MIDDLE = 60  # points above the window's bottom edge
 SLIDER_MIDDLE = 41
 QUIET = 1  # seconds in which a window that is complete draws nothing
 # Who is compared where mpv has nothing of the kind.
-OTHERS = {"library": ("celluloid", "smplayer"), "pointer": (), "scrub": ()}
+OTHERS = {"library": ("celluloid", "smplayer"), "pointer": (), "scrub": (), "pictures": ()}
 # Parts that are programs of their own, each started with the sample.
 PROGRAMS = {
     "events": "bench_drain_events",
@@ -166,14 +167,14 @@ class Bench:
             player.wait_until_age(SETTLED)
             duration = engine.get("duration")
             engine.command("set_property", "pause", True)
-            self.scrub_to(0.2)
+            self.point_at(0.2)
             time.sleep(1)
             engine.get("time-pos")
             seeks = engine.seeks
             self.screen.hold_button(True)
             start = time.monotonic()
             for step in range(SCRUB * POINTER_RATE):
-                self.scrub_to(0.2 + 0.6 * step / (SCRUB * POINTER_RATE))
+                self.point_at(0.2 + 0.6 * step / (SCRUB * POINTER_RATE))
                 time.sleep(max(0, start + (step + 1) / POINTER_RATE - time.monotonic()))
             engine.get("time-pos")
             sought = engine.seeks - seeks
@@ -190,11 +191,14 @@ class Bench:
         self.table.add(name, f"{SCRUB} s of dragging the position: seeks a second", sought / SCRUB, 1)
         self.table.add(name, "  from letting go to the last picture, ms", settled * 1000)
 
-    def scrub_to(self, part):
+    def point_at(self, part):
         """Along the slider of the control bar, which is as wide as the window lets it."""
         reach = (CLIP_SIZE[0] - 40) // 2 - 18 - 66 - 8
         x = self.screen.width // 2 + round((2 * part - 1) * reach)
         self.screen.move_pointer(x, (self.screen.height + CLIP_SIZE[1]) // 2 - SLIDER_MIDDLE)
+
+    def measure_pictures(self, _):
+        pictures.measure(self, SPAN)
 
     def measure_library(self, name):
         with self.start(name) as player:
@@ -280,7 +284,7 @@ class Bench:
 
 
 def main():
-    parts = ("start", "play", "pointer", "scrub", "library", *PROGRAMS)
+    parts = ("start", "play", "pointer", "scrub", "pictures", "library", *PROGRAMS)
     parser = argparse.ArgumentParser(prog="bench/run")
     parser.add_argument("--build", required=True, help=argparse.SUPPRESS)
     parser.add_argument("--sample", required=True, help=argparse.SUPPRESS)
