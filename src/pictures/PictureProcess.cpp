@@ -21,18 +21,21 @@ void PictureProcess::ask(const PictureRequest& request, Answer answer) {
 
 void PictureProcess::start() {
   received_.clear();
-  listener_ = std::make_unique<QObject>();
+  isHeard_ = std::make_shared<bool>();
   process_ = new QProcess;  // see dismiss()
   process_->setProcessEnvironment(HostEnvironment::processEnvironment());
   process_->setStandardErrorFile(QProcess::nullDevice());
+  const auto hear = [this, heard = std::weak_ptr(isHeard_)](void (PictureProcess::*what)()) {
+    return [this, heard, what] {
+      if (!heard.expired()) (this->*what)();
+    };
+  };
   // Posted: a process that can't be started says so before anybody could have asked it.
-  QObject::connect(
-      process_, &QProcess::errorOccurred, listener_.get(), [this] { fail(); },
-      Qt::QueuedConnection);
-  QObject::connect(
-      process_, &QProcess::finished, listener_.get(), [this] { fail(); }, Qt::QueuedConnection);
-  QObject::connect(process_, &QProcess::readyReadStandardOutput, listener_.get(),
-                   [this] { read(); });
+  const auto fails = hear(&PictureProcess::fail);
+  QObject::connect(process_, &QProcess::errorOccurred, process_, fails, Qt::QueuedConnection);
+  QObject::connect(process_, &QProcess::finished, process_, fails, Qt::QueuedConnection);
+  QObject::connect(process_, &QProcess::readyReadStandardOutput, process_,
+                   hear(&PictureProcess::read));
   process_->start(program_.file, program_.arguments);
 }
 
@@ -66,8 +69,7 @@ void PictureProcess::end() {
 
 void PictureProcess::dismiss() {
   limit_.reset();
-  // What is told of from now on is no longer heard. It may be told of here and now.
-  if (listener_) listener_.release()->deleteLater();
+  isHeard_.reset();
   auto* const process = std::exchange(process_, nullptr);
   if (!process) return;
   process->disconnect();

@@ -53,8 +53,8 @@ class PictureProcess {
 
   const Program program_;
   Clock& clock_;
-  QProcess* process_ = nullptr;  // deletes itself once it has ended
-  std::unique_ptr<QObject> listener_;
+  QProcess* process_ = nullptr;          // deletes itself once it has ended
+  std::shared_ptr<const bool> isHeard_;  // what this process tells
   std::unique_ptr<Clock::Timer> limit_;
   PictureRequest request_;
   Answer answer_;

@@ -38,8 +38,7 @@ QImage choosePicture(PictureMaker& maker, const ThumbnailRequest& request) {
   const QSize room(request.size, request.size);
   // The film has to be open before anyone knows how long it is.
   const auto start = maker.make(request.path, room, 0);
-  if (!start) return {};
-  QImage best = start->image;
+  QImage best = start ? start->image : QImage();
   const double duration = maker.duration();
   if (duration <= 0) return best;
   double most = -1;
@@ -55,7 +54,7 @@ QImage choosePicture(PictureMaker& maker, const ThumbnailRequest& request) {
   if (isBright(kFirstPlace)) return best;
   for (const double place : kOtherPlaces)
     if (isBright(place)) break;
-  if (most < kNearlyBlack && brightness(start->image) > most) best = start->image;
+  if (start && most < kNearlyBlack && brightness(start->image) > most) best = start->image;
   return best;
 }
 

@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "engine/MpvClientApi.h"
+#include "pictures/StandardRange.h"
 #include "support/Clips.h"
 
 namespace tromelo::testing {
@@ -71,16 +72,28 @@ TEST_F(PictureMakerTest, HasTheShapeOfTheFilm) {
 }
 
 TEST_F(PictureMakerTest, BringsHighRangeToWhatAScreenShows) {
-  const auto plain = make("bt709.mkv");
-  ASSERT_TRUE(plain);
-  for (const char* clip : {"hdr10.mkv", "hlg.mkv"}) {
-    SCOPED_TRACE(clip);
-    const auto picture = make(clip);
-    ASSERT_TRUE(picture);
-    EXPECT_NE(picture->image, plain->image) << "its values stand for other light";
-    EXPECT_GT(brightnessOf(picture->image), 40);
-    EXPECT_LT(brightnessOf(picture->image), 220);
+  struct Row {
+    const char* transfer;
+    int coded;
+    int shown;
+  };
+  // White, which both have far below their highest value, is nearly as bright as the screen.
+  for (const auto& [transfer, coded, shown] :
+       {Row{"pq", 0, 0}, Row{"pq", 148, 244}, Row{"pq", 255, 255}, Row{"pq", 90, 87},
+        Row{"hlg", 0, 0}, Row{"hlg", 191, 244}, Row{"hlg", 255, 255}, Row{"bt.1886", 148, 148}}) {
+    SCOPED_TRACE(::testing::Message() << transfer << ' ' << coded);
+    QImage picture(1, 1, QImage::Format_RGB32);
+    picture.setPixel(0, 0, qRgb(coded, coded, coded));
+    bringToStandardRange(picture, transfer);
+    EXPECT_NEAR(qGreen(picture.pixel(0, 0)), shown, 3);
   }
+  // The same clip three times, so that what its values stand for makes the difference.
+  const auto plain = make("bt709.mkv");
+  const auto pq = make("hdr10.mkv");
+  const auto hlg = make("hlg.mkv");
+  ASSERT_TRUE(plain && pq && hlg);
+  EXPECT_GT(std::abs(brightnessOf(pq->image) - brightnessOf(plain->image)), 10);
+  EXPECT_GT(std::abs(brightnessOf(hlg->image) - brightnessOf(plain->image)), 5);
 }
 
 TEST_F(PictureMakerTest, HasNoneOfWhatIsNoFilmAndGoesOnWithTheNext) {

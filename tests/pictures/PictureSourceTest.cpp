@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QDirIterator>
 #include <QTemporaryDir>
 #include <fstream>
@@ -30,7 +31,13 @@ struct PictureSourceTest : ::testing::Test {
       ++arrived_;
     });
     source->setFilm(clipPath("sample.mp4"), 100);
+    source->setKeepsOnDisk(false);
     return source;
+  }
+
+  // A thread may still be writing there.
+  ~PictureSourceTest() override {
+    EXPECT_TRUE(waitFor([this] { return QDir(folder_).removeRecursively(); }));
   }
 
   /// Answers each request with a picture of two pixels, when `before` has been done.
@@ -157,6 +164,7 @@ TEST_F(PictureSourceTest, GetsPicturesFromTheProgramItself) {
   QObject::connect(&source, &PictureSource::arrived,
                    [&picture](const QImage& arrived) { picture = arrived; });
   source.setFilm(clipPath("sample.mp4"), 10);
+  source.setKeepsOnDisk(false);
   source.ask(5, {128, 128});
   EXPECT_TRUE(waitFor([&] { return !picture.isNull(); }));
   EXPECT_EQ(picture.size(), QSize(128, 72));
