@@ -51,6 +51,10 @@ def main_thread_wakes(player):
     return int(lines["voluntary_ctxt_switches"])
 
 
+def shown_frames(engine):
+    return engine.get("estimated-frame-number") - engine.drops()
+
+
 def measure(bench, way, what, fullscreen, extra):
     """Without a keyboard no window is active, and the controls hide in full screen only."""
     with start(bench, way, extra) as player:
@@ -58,15 +62,17 @@ def measure(bench, way, what, fullscreen, extra):
         if fullscreen:
             engine.command("set_property", "fullscreen", True)
         player.wait_until_age(SETTLED)
-        drops, wakes = engine.drops(), main_thread_wakes(player)
+        shown, drops = shown_frames(engine), engine.drops()
+        wakes = main_thread_wakes(player)
         processor = player.processor_seconds()
         time.sleep(SPAN)
         player.check()
         processor = player.processor_seconds() - processor
         wakes = main_thread_wakes(player) - wakes
-        drops = engine.drops() - drops
+        shown, drops = shown_frames(engine) - shown, engine.drops() - drops
         add = bench.table.add
         add(way, f"{SPAN} s of playing, {what}: processor, s", processor, 2)
+        add(way, "  for a frame that was shown, ms, " + what, processor * 1000 / max(shown, 1), 2)
         add(way, "  frames dropped, " + what, drops)
         add(way, "  wakes of the main thread a second, " + what, wakes / SPAN, 1)
         add(way, f"  resident memory after {SETTLED + SPAN} s, MB, " + what, player.memory()[0])

@@ -20,7 +20,8 @@ class Row:
         """To the best of the others."""
         mine = self.best("Tromelo")
         theirs = [min(values) for name, values in self.values.items() if name != "Tromelo"]
-        return f"{mine / min(theirs):.2f}" if mine is not None and any(theirs) else "–"
+        best = min(theirs, default=0)
+        return f"{mine / best:.2f}" if mine is not None and best else "–"
 
 
 class Table:
