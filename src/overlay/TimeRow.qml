@@ -10,7 +10,14 @@ Item {
 
     required property PlaybackModel playback
     readonly property SliderInput input: slider
-    readonly property real shownTime: playback.isScrubbing ? playback.scrubPosition : playback.elapsed
+    property real shownTime
+
+    // Whoever sees it: a scene in which nothing changes isn't drawn.
+    Binding on shownTime {
+        when: row.visible
+        restoreMode: Binding.RestoreNone
+        value: row.playback.isScrubbing ? row.playback.scrubPosition : row.playback.elapsed
+    }
 
     implicitHeight: Theme.sliderHeight
 

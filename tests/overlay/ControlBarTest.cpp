@@ -58,6 +58,11 @@ TEST_F(ControlBarTest, ShowsWhatThereIs) {
             0.5);
   EXPECT_EQ(text("elapsedTime"), "0:50");
   EXPECT_EQ(text("remainingTime"), "-0:50");
+  view_->setVisible(false);
+  report(MpvProperty::timePos, 60.0);
+  EXPECT_EQ(text("elapsedTime"), "0:50") << "nobody sees it, and nothing is drawn anew";
+  view_->setVisible(true);
+  EXPECT_EQ(text("elapsedTime"), "1:00");
 
   report(MpvProperty::pause, false);
   EXPECT_EQ(text("playerPlayPause", "symbol"), "pause.fill");
