@@ -1419,6 +1419,229 @@
         <source>Start over (R)</source>
         <translation>Von vorn (R)</translation>
     </message>
+    <message>
+        <source>Right-click, ⇧F10</source>
+        <translation>Rechtsklick, ⇧F10</translation>
+    </message>
+    <message>
+        <source>Menu of all that can be done</source>
+        <translation>Menü mit allem, was geht</translation>
+    </message>
+</context>
+<context>
+    <name>tromelo::PlayerMenu</name>
+    <message>
+        <source>Play</source>
+        <translation>Wiedergeben</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>This video has no chapters.</source>
+        <translation>Dieses Video hat keine Kapitel.</translation>
+    </message>
+    <message>
+        <source>This video has neither chapters nor bookmarks.</source>
+        <translation>Dieses Video hat weder Kapitel noch Lesezeichen.</translation>
+    </message>
+    <message>
+        <source>This is the last video in the queue.</source>
+        <translation>Das ist das letzte Video der Warteschlange.</translation>
+    </message>
+    <message>
+        <source>This is the first video in the queue.</source>
+        <translation>Das ist das erste Video der Warteschlange.</translation>
+    </message>
+    <message>
+        <source>There is no picture.</source>
+        <translation>Es gibt kein Bild.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>This video has no other audio track.</source>
+        <translation>Dieses Video hat keine andere Tonspur.</translation>
+    </message>
+    <message>
+        <source>This video has no subtitles.</source>
+        <translation>Dieses Video hat keine Untertitel.</translation>
+    </message>
+    <message>
+        <source>No subtitles are shown.</source>
+        <translation>Es sind keine Untertitel zu sehen.</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>Back 10 seconds</source>
+        <translation>10 Sekunden zurück</translation>
+    </message>
+    <message>
+        <source>Forward 10 seconds</source>
+        <translation>10 Sekunden vor</translation>
+    </message>
+    <message>
+        <source>Start over</source>
+        <translation>Von vorn</translation>
+    </message>
+    <message>
+        <source>Next frame</source>
+        <translation>Nächstes Bild</translation>
+    </message>
+    <message>
+        <source>Previous frame</source>
+        <translation>Voriges Bild</translation>
+    </message>
+    <message>
+        <source>Slower</source>
+        <translation>Langsamer</translation>
+    </message>
+    <message>
+        <source>Faster</source>
+        <translation>Schneller</translation>
+    </message>
+    <message>
+        <source>Normal speed</source>
+        <translation>Normale Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Loop</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>A–B loop</source>
+        <translation>A–B-Schleife</translation>
+    </message>
+    <message>
+        <source>Go to time…</source>
+        <translation>Zu Zeit springen …</translation>
+    </message>
+    <message>
+        <source>Add a bookmark</source>
+        <translation>Lesezeichen setzen</translation>
+    </message>
+    <message>
+        <source>Chapters and bookmarks</source>
+        <translation>Kapitel und Lesezeichen</translation>
+    </message>
+    <message>
+        <source>Next chapter</source>
+        <translation>Nächstes Kapitel</translation>
+    </message>
+    <message>
+        <source>Previous chapter</source>
+        <translation>Voriges Kapitel</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>Warteschlange</translation>
+    </message>
+    <message>
+        <source>Next in queue</source>
+        <translation>Nächstes Video</translation>
+    </message>
+    <message>
+        <source>Previous in queue</source>
+        <translation>Voriges Video</translation>
+    </message>
+    <message>
+        <source>Open videos…</source>
+        <translation>Videos öffnen …</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Keep the picture</source>
+        <translation>Bild behalten</translation>
+    </message>
+    <message>
+        <source>Keep it without subtitles</source>
+        <translation>Ohne Untertitel behalten</translation>
+    </message>
+    <message>
+        <source>Keep it as it is on the screen</source>
+        <translation>Behalten, wie es zu sehen ist</translation>
+    </message>
+    <message>
+        <source>Copy the picture</source>
+        <translation>Bild kopieren</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Ton</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Stumm</translation>
+    </message>
+    <message>
+        <source>Louder</source>
+        <translation>Lauter</translation>
+    </message>
+    <message>
+        <source>Quieter</source>
+        <translation>Leiser</translation>
+    </message>
+    <message>
+        <source>Next audio track</source>
+        <translation>Nächste Tonspur</translation>
+    </message>
+    <message>
+        <source>Delay −50 ms</source>
+        <translation>Versatz −50 ms</translation>
+    </message>
+    <message>
+        <source>Delay +50 ms</source>
+        <translation>Versatz +50 ms</translation>
+    </message>
+    <message>
+        <source>Subtitles</source>
+        <translation>Untertitel</translation>
+    </message>
+    <message>
+        <source>Next subtitle track</source>
+        <translation>Nächster Untertitel</translation>
+    </message>
+    <message>
+        <source>Previous line</source>
+        <translation>Vorige Zeile</translation>
+    </message>
+    <message>
+        <source>Next line</source>
+        <translation>Nächste Zeile</translation>
+    </message>
+    <message>
+        <source>Subtitles and audio</source>
+        <translation>Untertitel und Ton</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>Vollbild</translation>
+    </message>
+    <message>
+        <source>Playback info</source>
+        <translation>Wiedergabe-Infos</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Stop and close player</source>
+        <translation>Stoppen und schließen</translation>
+    </message>
 </context>
 <context>
     <name>tromelo::PlayerSettings</name>

@@ -71,11 +71,14 @@ double ScrollSteps::take(const ScrollMovement& movement) {
 }
 
 PlayerOverlayInput::PlayerOverlayInput(QQuickItem* parent) : QQuickItem(parent) {
-  setAcceptedMouseButtons(Qt::LeftButton);
+  setAcceptedMouseButtons(Qt::LeftButton | Qt::RightButton);
   setFlag(ItemAcceptsDrops);
 }
 
 void PlayerOverlayInput::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::RightButton) Q_EMIT menuRequested(event->position());
+  // The handler of long touches brings us all buttons.
+  if (event->button() != Qt::LeftButton) return event->ignore();
   const int count = clicks_.press(std::chrono::milliseconds(event->timestamp()),
                                   event->globalPosition(), clickLimits());
   if (!press_.begin(count, event->globalPosition(), window()->position())) Q_EMIT doubleClicked();

@@ -85,6 +85,8 @@ class PlayerOverlayInput : public QQuickItem {
   void doubleClicked();
   /// Whole steps, never 0; up is positive.
   void scrolled(double steps);
+  /// A press of the right button, at this place.
+  void menuRequested(QPointF place);
   /// Never empty.
   void filesDropped(const QList<QUrl>& files);
 

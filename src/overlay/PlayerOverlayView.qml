@@ -37,6 +37,12 @@ PlayerOverlayItem {
         id: overlayInput
 
         anchors.fill: parent
+        onMenuRequested: place => menu.openAt(place)
+
+        TapHandler {
+            acceptedDevices: PointerDevice.TouchScreen
+            onLongPressed: menu.openAt(point.position)
+        }
     }
 
     // These fade together.
@@ -138,6 +144,30 @@ PlayerOverlayItem {
         tipBelow: true
         Accessible.name: Wording.withoutKey(tip)
         onClicked: overlay.player.startOver()
+    }
+
+    Loader {
+        id: menu
+
+        property point place: Qt.point(width / 2, height / 2)
+
+        function openAt(place: point) {
+            menu.place = place;
+            overlay.chrome.showsMenu = true;
+        }
+
+        anchors.fill: parent
+        active: overlay.chrome.showsMenu
+        onLoaded: (item as PlayerMenu).popup(menu, place.x, place.y)
+
+        sourceComponent: PlayerMenu {
+            player: overlay.player
+            backdrop: overlay.backdrop
+            onClosed: {
+                menu.place = Qt.binding(() => Qt.point(menu.width / 2, menu.height / 2));
+                overlay.chrome.showsMenu = false;
+            }
+        }
     }
 
     PlayerShortcutsPanel {

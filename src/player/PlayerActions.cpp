@@ -365,6 +365,10 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
          {QT_TR_NOOP("?"),
           QT_TR_NOOP("This list"),
           {{.keys = {typed(u"?/")}, .act = toggle<PlayerPanel::shortcuts>}}},
+         {QT_TR_NOOP("Right-click, ⇧F10"),
+          QT_TR_NOOP("Menu of all that can be done"),
+          {{.keys = {exactly({}, Qt::Key_Menu), exactly(kShift, Qt::Key_F10)},
+            .act = toggle<PlayerPanel::menu>}}},
      }},
     // The program's, which its menus tell of.
     {nullptr,

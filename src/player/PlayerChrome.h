@@ -16,6 +16,7 @@ class PlayerChrome : public QObject {
   Q_PROPERTY(int panel READ panelNumber NOTIFY panelChanged)
   // Writing false leaves another panel, which may have been opened since, as it is.
   Q_PROPERTY(bool showsShortcuts READ showsShortcuts WRITE setShowsShortcuts NOTIFY panelChanged)
+  Q_PROPERTY(bool showsMenu READ showsMenu WRITE setShowsMenu NOTIFY panelChanged)
   Q_PROPERTY(QList<tromelo::BarPanel> barPanels READ barPanels CONSTANT)
   // The list of speeds over the control bar: no panel, but open in place of one.
   Q_PROPERTY(bool showsSpeeds READ showsSpeeds WRITE setShowsSpeeds NOTIFY showsSpeedsChanged)
@@ -58,6 +59,10 @@ class PlayerChrome : public QObject {
   bool showsShortcuts() const { return panel_ == PlayerPanel::shortcuts; }
   void setShowsShortcuts(bool shows) {
     shows ? setPanel(PlayerPanel::shortcuts) : close(PlayerPanel::shortcuts);
+  }
+  bool showsMenu() const { return panel_ == PlayerPanel::menu; }
+  void setShowsMenu(bool shows) {
+    shows ? setPanel(PlayerPanel::menu) : close(PlayerPanel::menu);
   }
   static QList<BarPanel> barPanels() { return tromelo::barPanels(); }
   QString toastText() const { return toast_.value_or(QString()); }

@@ -140,11 +140,21 @@ bool PlayerHostWindow::isTypedInto() const {
   return item && item->flags().testFlag(QQuickItem::ItemAcceptsInputMethod);
 }
 
-/// What is typed into has all keys first, and those for text are never anyone else's. True when the
+/// Menus and other popups lie on a layer of their own.
+bool PlayerHostWindow::isInPopup() const {
+  for (const QQuickItem* item = activeFocusItem(); item; item = item->parentItem())
+    if (item->inherits("QQuickOverlay")) return true;
+  return false;
+}
+
+/// A menu has all keys. What is typed into has them first, and those for text are never anyone
+/// else's. True when the
 /// event needs to go nowhere else.
 bool PlayerHostWindow::handleKey(QKeyEvent& event) {
-  if (!isTypedInto()) return askMonitor(event);
+  const bool isMenus = isInPopup();
+  if (!isMenus && !isTypedInto()) return askMonitor(event);
   QQuickWindow::event(&event);
+  if (isMenus) return true;
   if (!event.isAccepted() && !isForText(event)) event.setAccepted(askMonitor(event));
   return true;
 }

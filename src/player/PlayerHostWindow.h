@@ -40,7 +40,7 @@ class PlayerHostWindow : public QQuickWindow {
   void setPictureAspect(QSize picture) { edgeResize_.setAspect(picture); }
 
   /// Keys that it doesn't handle go on to what has the focus in the window. While that is something
-  /// to type into, the monitor is asked after it.
+  /// to type into, the monitor is asked after it; while it is a menu, not at all.
   void setKeyMonitor(KeyMonitor monitor) { keyMonitor_ = std::move(monitor); }
 
   /// Mapped, so that its graphics get ready, but with nothing to be seen or clicked.
@@ -68,6 +68,7 @@ class PlayerHostWindow : public QQuickWindow {
   bool handleKey(QKeyEvent& event);
   bool askMonitor(const QKeyEvent& event);
   bool isTypedInto() const;
+  bool isInPopup() const;
   void followPointer(const QSinglePointEvent& event);
   void updateCursor();
 

@@ -19,6 +19,7 @@ enum class PlayerPanel {
   queue,
   shortcuts,
   goTo,  // a time that is typed
+  menu,  // over the picture
 };
 Q_ENUM_NS(PlayerPanel)
 

@@ -12,6 +12,7 @@
 #include "playback/PlayerPresenting.h"
 #include "player/KeyPress.h"
 #include "player/PlayerChrome.h"
+#include "player/PlayerMenu.h"
 #include "player/PlayerOverlay.h"
 #include "player/VideoWindow.h"
 
@@ -57,6 +58,10 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   void escape();
   /// Does what the key is for, and shows the controls; false when it is not the player's.
   bool handleKey(const KeyPress& press);
+  /// What the menu over the picture offers.
+  Q_INVOKABLE QList<tromelo::MenuGroup> menu() const;
+  /// Does what the entry in this row of its table is for.
+  Q_INVOKABLE void chooseFromMenu(int row);
   /// The same in the library while playsWithoutWindow, for the keys that work there. `modifiers`
   /// are Qt::KeyboardModifiers.
   Q_INVOKABLE bool handleLibraryKey(int key, int modifiers, bool isRepeat);

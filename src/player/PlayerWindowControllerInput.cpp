@@ -14,6 +14,13 @@ bool PlayerWindowController::handleKey(const KeyPress& press) {
   return true;
 }
 
+QList<MenuGroup> PlayerWindowController::menu() const { return PlayerMenu::groups(playback_); }
+
+void PlayerWindowController::chooseFromMenu(int row) {
+  chrome_.close(PlayerPanel::menu);  // what is chosen may open another
+  handleKey(PlayerMenu::press(row));
+}
+
 bool PlayerWindowController::handleLibraryKey(int key, int modifiers, bool isRepeat) {
   const Qt::KeyboardModifiers held(modifiers);
   const PlayerActions::Action* action =

@@ -243,6 +243,8 @@ QtObject {
     readonly property real commandPadding: 4
     readonly property real commandSide: 9
     readonly property real commandGap: 28 // before the keys
+    readonly property real menuValueWidth: 140 // at most
+    readonly property color menuBacking: Qt.rgba(0.07, 0.075, 0.09, 0.85)
 
     readonly property int toolTipDelay: 700 // milliseconds
     readonly property real toolTipMargin: 6 // to the window's edges

@@ -1,5 +1,6 @@
 #include "OverlayTest.h"
 #include "support/DrivenAnimations.h"
+#include "support/Reader.h"
 #include "support/Table.h"
 
 namespace tromelo::testing {
@@ -49,6 +50,44 @@ TEST_F(QuickPlayerOverlayTest, PlacesItsViewsAtAnySize) {
   report(MpvProperty::gamma, std::string("hlg"));
   layer_.setSize({520, 300});
   EXPECT_GT(frame("playerSignalBadge").left(), frame("playerCloseButton").right());
+}
+
+TEST_F(QuickPlayerOverlayTest, AMenuOpensOverThePicture) {
+  host_.requestActivate();
+  ASSERT_TRUE(waitFor([this] { return host_.isActive(); }));
+  load(100);
+  const auto opens = [this](const char* name, int count) {
+    return waitFor([&] {
+      layOut();
+      return all(name).size() == count;
+    });
+  };
+  press(QPointF(300, 100), Qt::RightButton);
+  release(QPointF(300, 100), Qt::RightButton);
+  ASSERT_TRUE(opens("menuTitle", 5));
+  EXPECT_LT(std::abs(frame(all("menuTitle").first()).left() - 300), 20);
+  key(Qt::Key_Down);
+  key(Qt::Key_Right);
+  EXPECT_TRUE(waitFor([this] { return !all("menuEntry").isEmpty(); }));
+  takeSent();
+  key(Qt::Key_Down);
+  key(Qt::Key_Return);
+  EXPECT_EQ(takeSent(), Sent{"seek -10.0 relative"});
+  EXPECT_TRUE(opens("menuTitle", 0));
+  EXPECT_EQ(chrome().panel(), std::nullopt);
+
+  chrome().setPanel(PlayerPanel::menu);
+  ASSERT_TRUE(opens("menuTitle", 5));
+  Reader reader(host_);
+  reader.press(QAccessible::MenuItem, "Subtitles");
+  EXPECT_TRUE(reader.state(QAccessible::MenuItem, "Next line").disabled);
+  reader.press(QAccessible::MenuItem, "Subtitles and audio");
+  EXPECT_EQ(chrome().panel(), PlayerPanel::tracks);
+  chrome().setPanel(PlayerPanel::menu);
+  ASSERT_TRUE(opens("menuTitle", 5));
+  key(Qt::Key_Escape);
+  EXPECT_EQ(chrome().panel(), std::nullopt);
+  EXPECT_EQ(take().filter("click"), QStringList());
 }
 
 TEST_F(QuickPlayerOverlayTest, ChromeTakesClicksOnlyWhileItIsShown) {

@@ -203,6 +203,24 @@ TEST_F(Transport, SpeedLoopAndDelaysShowAtOnce) {
   EXPECT_EQ(model().audioDelay(), -0.063);
 }
 
+TEST_F(Transport, ALoopThatPlaysBeginsAtItsStart) {
+  load();
+  report(P::timePos, 5.0);
+  model().markLoop();
+  report(P::timePos, 9.05);
+  report(P::pause, true);
+  Requests expected{{"set", "file-local-options/ab-loop-a", "5.0"},
+                    {"set", "file-local-options/ab-loop-b", "9.05"}};
+  EXPECT_EQ(asked([this] { model().markLoop(); }), expected);
+  model().markLoop();
+  report(P::timePos, 5.0);
+  model().markLoop();
+  report(P::timePos, 9.05);
+  report(P::pause, false);
+  expected.push_back({"seek", "5.0", "absolute+exact"});
+  EXPECT_EQ(asked([this] { model().markLoop(); }), expected);
+}
+
 TEST(AbLoopTest, TakesAMarkAfterTheOtherAndNone) {
   for (const auto& [before, now, after] : Table<AbLoop, double, AbLoop>{
            {{}, 5, {5, {}}},

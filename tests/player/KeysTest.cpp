@@ -5,7 +5,9 @@
 #include "PlayerTest.h"
 #include "engine/MpvValue.h"
 #include "player/PlayerActions.h"
+#include "player/PlayerMenu.h"
 #include "support/Files.h"
+#include "support/Table.h"
 
 namespace tromelo::testing {
 
@@ -73,7 +75,8 @@ struct KeysTest : PlayerTest {
   /// What became of it: what the engine was told, what is open, what is said.
   Sent effects() {
     Sent found = takeSent();
-    static constexpr const char* kPanels[]{"tracks", "chapters", "queue", "shortcuts", "goTo"};
+    static constexpr const char* kPanels[]{"tracks",    "chapters", "queue",
+                                           "shortcuts", "goTo",     "menu"};
     if (chrome().panel()) found.push_back(kPanels[static_cast<int>(*chrome().panel())]);
     if (chrome().showsInfo()) found.push_back("info");
     if (player().isClosing()) found.push_back("closes");
@@ -124,6 +127,7 @@ TEST_F(KeysTest, EachDoesAsTheListSays) {
       {typed("l"), {"set loop-file inf", "\"Loop on\""}},
       {typed("t"), {"\"0:51 / 1:06:40\""}, true},
       {typed("g", kControl), {"goTo"}},
+      {{Qt::Key_F10, {}, kShift}, {"menu"}},
       {typed("x"),
        {"set file-local-options/ab-loop-a 51.5", "set file-local-options/ab-loop-b no",
         "\"Loop from 0:51\""}},
@@ -173,11 +177,11 @@ KeyPress written(QString keys) {
     modifiers.setFlag(modifier, keys.contains(sign));
     keys.remove(sign);
   }
-  static const QHash<QString, int> named{{"Space", Qt::Key_Space}, {"Esc", Qt::Key_Escape},
-                                         {"←", Qt::Key_Left},      {"→", Qt::Key_Right},
-                                         {"↑", Qt::Key_Up},        {"↓", Qt::Key_Down},
-                                         {"Left", Qt::Key_Left},   {"Right", Qt::Key_Right},
-                                         {"Up", Qt::Key_Up},       {"Down", Qt::Key_Down}};
+  static const QHash<QString, int> named{
+      {"Space", Qt::Key_Space}, {"Esc", Qt::Key_Escape}, {"←", Qt::Key_Left},
+      {"→", Qt::Key_Right},     {"↑", Qt::Key_Up},       {"↓", Qt::Key_Down},
+      {"Left", Qt::Key_Left},   {"F10", Qt::Key_F10},    {"Right", Qt::Key_Right},
+      {"Up", Qt::Key_Up},       {"Down", Qt::Key_Down}};
   if (named.contains(keys)) return Stroke{named[keys], {}, modifiers}.pressed();
   return typed(modifiers & kShift ? keys : keys.toLower(), modifiers).pressed();
 }
@@ -191,7 +195,7 @@ bool areFor(const QString& keys, const std::vector<PlayerActions::Action>& actio
 
 TEST_F(KeysTest, WhatIsWrittenOfAKeyIsSo) {
   static const QRegularExpression between("\\s*[/,]\\s*|\\s+and\\s+");
-  const QStringList hands{"Scroll", "double-click"};
+  const QStringList hands{"Scroll", "double-click", "Right-click"};
   std::vector<PlayerActions::Action> all;
   for (const PlayerActions::Group& group : PlayerActions::groups)
     for (const PlayerActions::Line& line : group.lines) {
@@ -222,6 +226,41 @@ TEST_F(KeysTest, WhatIsWrittenOfAKeyIsSo) {
       EXPECT_TRUE(areFor(keys, all)) << qPrintable(keys);
     }
   EXPECT_GT(found, 0);
+}
+
+TEST_F(KeysTest, TheMenuDoesWhatItsKeysDoAndSaysHowThingsAre) {
+  begin();
+  QHash<QString, MenuEntry> entries;
+  for (const MenuGroup& group : player().menu())
+    for (const MenuEntry& entry : group.entries) {
+      EXPECT_TRUE(PlayerActions::find(PlayerMenu::press(entry.row))) << qPrintable(entry.text);
+      entries[group.title + '/' + entry.text] = entry;
+    }
+  for (const auto& [name, keys, value, isOn, isDim] :
+       Table<const char*, const char*, const char*, bool, bool>{
+           {"Playback/Pause", "Space", "", false, false},
+           {"Playback/Normal speed", "=", "", true, false},
+           {"Playback/Next chapter", "Shift+N", "", false, false},
+           {"Playback/Next in queue", "N", "", false, true},
+           {"Playback/Go to time…", "Ctrl+G", "", false, false},
+           {"Picture/Keep the picture", "W", "", false, true},
+           {"Sound/Next audio track", "B", "Track 4", false, false},
+           {"Sound/Louder", "↑", "50%", false, false},
+           {"Subtitles/Next subtitle track", "V", "Off", false, false},
+           {"Subtitles/Next line", ".", "", false, true},
+       }) {
+    const MenuEntry& entry = entries[name];
+    EXPECT_EQ(entry.keys, keys) << name;
+    EXPECT_EQ(entry.value, value) << name;
+    EXPECT_EQ(entry.isOn, isOn) << name;
+    EXPECT_NE(entry.why.isEmpty(), isDim) << name;
+  }
+  chrome().setPanel(PlayerPanel::menu);
+  player().chooseFromMenu(entries["Playback/Queue"].row);
+  EXPECT_EQ(effects(), Sent{"queue"});
+  player().chooseFromMenu(-1);
+  player().chooseFromMenu(1000);
+  EXPECT_EQ(effects(), Sent{"queue"});
 }
 
 TEST_F(KeysTest, OthersPassAndChangeNothing) {

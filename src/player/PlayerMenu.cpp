@@ -1,0 +1,249 @@
+#include "player/PlayerMenu.h"
+
+#include <QHash>
+#include <QKeySequence>
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "playback/PlaybackModel.h"
+#include "player/Format.h"
+
+namespace tromelo {
+
+namespace {
+
+using Playback = const PlaybackModel&;
+/// Completes an entry by how things are.
+using Tell = void(MenuEntry&, Playback);
+
+struct Row {
+  const char* text;
+  KeyPress press;
+  Tell* tell = nullptr;
+};
+struct Group {
+  const char* title;
+  std::vector<Row> rows;
+};
+
+KeyPress typing(const char* character) {
+  KeyPress press;
+  press.characters = QString::fromLatin1(character);
+  return press;
+}
+
+KeyPress pressing(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+  KeyPress press;
+  press.key = key;
+  press.modifiers = modifiers;
+  return press;
+}
+
+KeyPress typingWith(Qt::KeyboardModifier modifier, const char* character) {
+  KeyPress press = typing(character);
+  press.key = Qt::Key(press.characters.front().toUpper().unicode());
+  press.modifiers = modifier;
+  return press;
+}
+
+void setSwitch(MenuEntry& entry, bool isOn) {
+  entry.isSwitch = true;
+  entry.isOn = isOn;
+}
+
+void playing(MenuEntry& entry, Playback playback) {
+  entry.text = playback.isPaused() ? PlayerMenu::tr("Play") : PlayerMenu::tr("Pause");
+}
+
+void speed(MenuEntry& entry, Playback playback) { entry.value = Format::speed(playback.speed()); }
+
+void normalSpeed(MenuEntry& entry, Playback playback) {
+  setSwitch(entry, Format::isSameSpeed(playback.speed(), 1));
+}
+
+void looping(MenuEntry& entry, Playback playback) { setSwitch(entry, playback.isLooping()); }
+
+void abLoop(MenuEntry& entry, Playback playback) {
+  const AbLoop loop = playback.abLoop();
+  setSwitch(entry, loop.isWhole());
+  if (loop.start) entry.value = Format::clock(*loop.start) + QStringLiteral(" –");
+  if (loop.end) entry.value += u' ' + Format::clock(*loop.end);
+}
+
+void chapters(MenuEntry& entry, Playback playback) {
+  if (playback.chapters().isEmpty()) entry.why = PlayerMenu::tr("This video has no chapters.");
+}
+
+void places(MenuEntry& entry, Playback playback) {
+  if (!playback.hasPlaces())
+    entry.why = PlayerMenu::tr("This video has neither chapters nor bookmarks.");
+}
+
+void next(MenuEntry& entry, Playback playback) {
+  if (!playback.hasNext()) entry.why = PlayerMenu::tr("This is the last video in the queue.");
+}
+
+void previous(MenuEntry& entry, Playback playback) {
+  if (!playback.hasPrevious()) entry.why = PlayerMenu::tr("This is the first video in the queue.");
+}
+
+void picture(MenuEntry& entry, Playback playback) {
+  if (!playback.hasVideo()) entry.why = PlayerMenu::tr("There is no picture.");
+}
+
+void muted(MenuEntry& entry, Playback playback) { setSwitch(entry, playback.isMuted()); }
+
+void volume(MenuEntry& entry, Playback playback) {
+  entry.value = QStringLiteral("%1%").arg(std::lround(playback.volume()));
+}
+
+QString selected(const QList<MediaTrack>& tracks) {
+  const auto found = std::ranges::find_if(tracks, &MediaTrack::isSelected);
+  return found == tracks.end() ? PlayerMenu::tr("Off") : found->name();
+}
+
+void audioTrack(MenuEntry& entry, Playback playback) {
+  const QList<MediaTrack> tracks = playback.audioTracks();
+  if (tracks.size() < 2) entry.why = PlayerMenu::tr("This video has no other audio track.");
+  if (!tracks.isEmpty()) entry.value = selected(tracks);
+}
+
+void audioDelay(MenuEntry& entry, Playback playback) {
+  entry.value = Format::delay(playback.audioDelay());
+}
+
+void subtitleTrack(MenuEntry& entry, Playback playback) {
+  const QList<MediaTrack> tracks = playback.subtitleTracks();
+  if (tracks.isEmpty())
+    entry.why = PlayerMenu::tr("This video has no subtitles.");
+  else
+    entry.value = selected(tracks);
+}
+
+void subtitleLine(MenuEntry& entry, Playback playback) {
+  if (std::ranges::none_of(playback.subtitleTracks(), &MediaTrack::isSelected))
+    entry.why = PlayerMenu::tr("No subtitles are shown.");
+}
+
+void subtitleDelay(MenuEntry& entry, Playback playback) {
+  entry.value = Format::delay(playback.subtitleDelay());
+}
+
+void fullScreen(MenuEntry& entry, Playback playback) { setSwitch(entry, playback.isFullscreen()); }
+
+std::vector<Row> playbackRows() {
+  return {
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Play"), pressing(Qt::Key_Space), playing},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Back 10 seconds"), pressing(Qt::Key_Left)},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Forward 10 seconds"), pressing(Qt::Key_Right)},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Start over"), typing("r")},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Next frame"), typing("e")},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Previous frame"), typing("E")},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Slower"), typing("["), speed},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Faster"), typing("]"), speed},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Normal speed"), typing("="), normalSpeed},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Loop"), typing("l"), looping},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "A–B loop"), typing("x"), abLoop},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Go to time…"),
+       typingWith(Qt::ControlModifier, "g")},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Add a bookmark"), typing("d")},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Chapters and bookmarks"), typing("c"), places},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Next chapter"), typing("N"), chapters},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Previous chapter"), typing("P"), chapters},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Queue"), typing("q")},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Next in queue"), typing("n"), next},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Previous in queue"), typing("p"), previous},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Open videos…"), typing("o")},
+  };
+}
+
+const std::vector<Group>& table() {
+  static const std::vector<Group> groups{
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Playback"), playbackRows()},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Picture"),
+       {
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Keep the picture"), typing("w"), picture},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Keep it without subtitles"), typing("W"),
+            picture},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Keep it as it is on the screen"),
+            typingWith(Qt::AltModifier, "w"), picture},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Copy the picture"),
+            typingWith(Qt::ControlModifier, "c"), picture},
+       }},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Sound"),
+       {
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Mute"), typing("m"), muted},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Louder"), pressing(Qt::Key_Up), volume},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Quieter"), pressing(Qt::Key_Down), volume},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Next audio track"), typing("b"), audioTrack},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Delay −50 ms"), typing("j"), audioDelay},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Delay +50 ms"), typing("k"), audioDelay},
+       }},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Subtitles"),
+       {
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Next subtitle track"), typing("v"),
+            subtitleTrack},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Previous line"), typing(","), subtitleLine},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Next line"), typing("."), subtitleLine},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Delay −50 ms"), typing("g"), subtitleDelay},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Delay +50 ms"), typing("h"), subtitleDelay},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Subtitles and audio"), typing("u")},
+       }},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Window"),
+       {
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Full screen"), typing("f"), fullScreen},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Playback info"), typing("i")},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Keyboard shortcuts"), typing("?")},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Stop and close player"), typing("s")},
+       }},
+  };
+  return groups;
+}
+
+/// As people read it.
+QString keysText(const KeyPress& press) {
+  static const QHash<Qt::Key, QString> arrows{{Qt::Key_Left, QStringLiteral("←")},
+                                              {Qt::Key_Right, QStringLiteral("→")},
+                                              {Qt::Key_Up, QStringLiteral("↑")},
+                                              {Qt::Key_Down, QStringLiteral("↓")}};
+  if (arrows.contains(press.key)) return arrows[press.key];
+  QKeyCombination keys(press.modifiers, press.key);
+  if (press.key == Qt::Key_unknown) {
+    const QChar character = press.characters.front();
+    const auto shift = character.isUpper() ? Qt::ShiftModifier : Qt::NoModifier;
+    keys = QKeyCombination(shift, Qt::Key(character.toUpper().unicode()));
+  }
+  return QKeySequence(keys).toString(QKeySequence::NativeText);
+}
+
+}  // namespace
+
+QList<MenuGroup> PlayerMenu::groups(const PlaybackModel& playback) {
+  QList<MenuGroup> groups;
+  int number = 0;
+  for (const Group& group : table()) {
+    MenuGroup shown{.title = tr(group.title), .entries = {}};
+    for (const Row& row : group.rows) {
+      MenuEntry entry;
+      entry.text = tr(row.text);
+      entry.keys = keysText(row.press);
+      entry.row = number++;
+      if (row.tell) row.tell(entry, playback);
+      shown.entries.append(entry);
+    }
+    groups.append(shown);
+  }
+  return groups;
+}
+
+KeyPress PlayerMenu::press(int row) {
+  for (const Group& group : table()) {
+    const auto count = static_cast<int>(group.rows.size());
+    if (row >= 0 && row < count) return group.rows[row].press;
+    row -= count;
+  }
+  return {};
+}
+
+}  // namespace tromelo
