@@ -1709,7 +1709,7 @@
     </message>
     <message>
         <source>No time yet. Write it as 1:02:03, 90 or +30</source>
-        <translation>Noch keine Zeit. Schreibweise: 1:02:03, 90 oder +30</translation>
+        <translation>Noch keine Zeit, wie 1:02:03, 90 oder +30</translation>
     </message>
     <message>
         <source>The film ends at %1</source>

@@ -25,27 +25,34 @@ CommandMenu {
     background: MenuSurface {
         backdrop: group.backdrop
 
-        // What is dim hears of no pointer, so this lies behind it.
-        Repeater {
-            model: group.isMade ? group.content.entries : []
+        // What is dim hears of no pointer, so this lies over it.
+        Item {
+            parent: group.background.parent
+            anchors.fill: parent
+            z: 1
+            clip: true
 
-            T.AbstractButton {
-                id: cover
+            Repeater {
+                model: group.isMade ? group.content.entries : []
 
-                required property menuEntry modelData
-                required property int index
+                T.AbstractButton {
+                    id: cover
 
-                y: group.topPadding + index * Theme.commandRow - (group.contentItem as ListView).contentY
-                width: parent.width
-                height: Theme.commandRow
-                visible: modelData.why !== ""
-                focusPolicy: Qt.NoFocus
-                hoverEnabled: true
-                Accessible.ignored: true
+                    required property menuEntry modelData
+                    required property int index
 
-                HoverTip {
-                    control: cover
-                    tip: cover.modelData.why
+                    y: group.topPadding + index * Theme.commandRow - (group.contentItem as ListView).contentY
+                    width: parent.width
+                    height: Theme.commandRow
+                    visible: modelData.why !== ""
+                    focusPolicy: Qt.NoFocus
+                    hoverEnabled: true
+                    Accessible.ignored: true
+
+                    HoverTip {
+                        control: cover
+                        tip: cover.modelData.why
+                    }
                 }
             }
         }
