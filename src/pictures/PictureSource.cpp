@@ -49,8 +49,9 @@ void PictureSource::setFilm(const std::string& path, double duration) {
   memory_.clear();
   wanted_.reset();
   ++turn_;
-  // The film before may be the one that takes forever.
-  if (std::exchange(isBusy_, false)) process_.end();
+  // The film before may be the one that takes forever, and who is done with films wants none of
+  // them held open.
+  if (std::exchange(isBusy_, false) || film_.isEmpty()) process_.end();
   Q_EMIT filmChanged();
 }
 

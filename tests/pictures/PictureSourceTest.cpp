@@ -112,6 +112,11 @@ TEST_F(PictureSourceTest, EndsAnIdleProcessAndStartsAnotherWhenItIsNeeded) {
   source->ask(20, kPictureRoom);
   ASSERT_TRUE(waitFor([&] { return arrived_ == 2; }));
   EXPECT_EQ(logged().count("start"), 2);
+  source->setFilm({}, 0);
+  source->setFilm(clipPath("sample.mp4"), 100);
+  source->ask(20, kPictureRoom);
+  ASSERT_TRUE(waitFor([&] { return arrived_ == 3; }));
+  EXPECT_EQ(logged().count("start"), 3) << "the film was closed meanwhile";
 }
 
 TEST_F(PictureSourceTest, AsksForAFilmThatFailsTwiceNoMore) {
