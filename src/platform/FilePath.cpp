@@ -56,8 +56,9 @@ QUrl urlFromEncoded(QByteArrayView text) {
   return url.isLocalFile() ? fileUrlFromPath(pathFromFileUrl(url)) : url;
 }
 
-QUrl urlFromArgument(std::string_view argument) {
-  return isUrl(argument) ? urlFromEncoded(argument) : fileUrlFromPath(argument);
+QUrl urlFromArgument(std::string_view argument, std::string_view folder) {
+  if (isUrl(argument)) return urlFromEncoded(argument);
+  return fileUrlFromPath((std::filesystem::path(folder) / argument).string());
 }
 
 QString storedPath(std::string_view pathBytes) {

@@ -24,8 +24,9 @@ std::string pathFromFileUrl(const QUrl& url);
 /// out as fileUrlFromPath() writes it.
 QUrl urlFromEncoded(QByteArrayView text);
 
-/// What an argument of a command line names: a path, or any URL.
-QUrl urlFromArgument(std::string_view argument);
+/// What an argument of a command line names: a path, or any URL. A path that isn't absolute is from
+/// `folder` on, or from the working directory.
+QUrl urlFromArgument(std::string_view argument, std::string_view folder = {});
 
 /// A path as text that keeps its bytes, to be stored: the path itself where it is UTF-8, else its
 /// file URL. A path never begins like one.
