@@ -30,6 +30,7 @@ class NoPlayer final : public PlayerPresenting {
 class NoChooser final : public FileChooser {
  public:
   void chooseFiles(const Request&, Callback) override {}
+  void chooseNewFile(const Request&, const QString&, Callback) override {}
 };
 
 }  // namespace tromelo

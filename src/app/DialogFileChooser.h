@@ -14,8 +14,12 @@ class DialogFileChooser : public FileChooser {
   ~DialogFileChooser() override;
 
   void chooseFiles(const Request& request, Callback chosen) override;
+  void chooseNewFile(const Request& request, const QString& name, Callback chosen) override;
 
  private:
+  bool raises(const QString& prompt);
+  QFileDialog& makeDialog(const Request& request, Callback chosen);
+
   QPointer<QFileDialog> dialog_;
 };
 

@@ -42,6 +42,8 @@ std::vector<MpvOption> platformOptions(const std::string& vulkanDevice) {
   std::vector<MpvOption> options{
       // A machine without a GPU has software Vulkan only, which libmpv refuses unless told.
       {"gpu-sw", "yes", true},
+      // Where films that come in a folder of their own have their subtitles.
+      {"sub-file-paths", "Subs:subs:Subtitles:subtitles"},
       // The program itself keeps the screen awake.
       {"stop-screensaver", "no"},
       // The engine's own dialogs on the picture, and profiles for a configuration that is never

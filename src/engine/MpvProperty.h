@@ -20,6 +20,7 @@ namespace tromelo {
   ROW(duration, "duration", number, lasting, state)                                          \
   ROW(pause, "pause", flag, lasting, state)                                                  \
   ROW(volume, "volume", number, lasting, state)                                              \
+  ROW(eofReached, "eof-reached", flag, lasting, state)                                       \
   ROW(fullscreen, "fullscreen", flag, lasting, state)                                        \
   ROW(voConfigured, "vo-configured", flag, lasting, state)                                   \
   ROW(pausedForCache, "paused-for-cache", flag, lasting, state)                              \
@@ -49,11 +50,12 @@ namespace tromelo {
   ROW(mute, "mute", flag, lasting, state)                                                    \
   ROW(subDelay, "sub-delay", number, lasting, state)                                         \
   ROW(audioDelay, "audio-delay", number, lasting, state)                                     \
-  /* Text, since it holds "no", "inf" or a number of rounds. */                              \
-  ROW(loopFile, "loop-file", string, lasting, state)                                         \
   /* These hold "no" or a time. */                                                           \
   ROW(abLoopA, "ab-loop-a", string, lasting, state)                                          \
-  ROW(abLoopB, "ab-loop-b", string, lasting, state)
+  ROW(abLoopB, "ab-loop-b", string, lasting, state)                                          \
+  /* Texts, since they hold "no", "inf" or a number of rounds. */                            \
+  ROW(loopFile, "loop-file", string, lasting, state)                                         \
+  ROW(loopPlaylist, "loop-playlist", string, lasting, state)
 
 /// The value is also the number under which a change is reported.
 enum class MpvProperty : std::uint64_t {

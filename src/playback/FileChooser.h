@@ -21,6 +21,9 @@ class FileChooser {
 
   virtual ~FileChooser() = default;
   virtual void chooseFiles(const Request& request, Callback chosen) = 0;
+  /// One that is to be written: called `name`, with the first of the extensions, unless the person
+  /// says otherwise, who has been asked about one that is there.
+  virtual void chooseNewFile(const Request& request, const QString& name, Callback chosen) = 0;
 };
 
 /// File-name extensions of subtitle files, lower case, without dot.

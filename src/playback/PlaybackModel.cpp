@@ -2,6 +2,8 @@
 
 #include <QDir>
 #include <QPointer>
+#include <QRandomGenerator>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -10,6 +12,7 @@
 #include "platform/NumberText.h"
 #include "playback/EngineErrors.h"
 #include "playback/FileChooser.h"
+#include "playback/PlaylistFile.h"
 
 namespace tromelo {
 
@@ -40,6 +43,7 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       marks_(parts.films),
       films_(parts.films),
       filmKeeper_(parts.films, parts.clock),
+      shuffle_([](qsizetype end) { return QRandomGenerator::global()->bounded(end); }),
       existence_(std::move(parts.fileExists),
                  [this](const QList<FileExistence::Answer>& answers) { takeAnswers(answers); }),
       localFiles_(std::move(parts.mountedPath)) {
@@ -88,6 +92,11 @@ void PlaybackModel::setShuttingDown(bool shuttingDown) {
 }
 
 void PlaybackModel::open(const QUrl& url, std::optional<double> startAt) {
+  open(QList<QUrl>{url}, startAt);
+}
+
+void PlaybackModel::playFiles(const QUrl& url, const QList<QUrl>& others,
+                              std::optional<double> startAt) {
   if (!engine_.hasHandle()) return;
   title_ = lastPathComponentWithoutExtension(url);
   status_ = QStringLiteral("Opening media");
@@ -95,14 +104,33 @@ void PlaybackModel::open(const QUrl& url, std::optional<double> startAt) {
   player().setAwaitingVideo(true);
   player().setVideoReady(false);
   progress_.opened();
-  load(url, "replace", startAt);
-  engine_.setProperty("pause", "no");
+  load(url, "replace", -1, startAt);
+  setPause(false);
+  append(others);
 }
 
-void PlaybackModel::open(const QList<QUrl>& urls) {
+void PlaybackModel::open(const QList<QUrl>& urls, std::optional<double> startAt) {
   if (urls.isEmpty()) return;
-  open(urls.first());
-  append(urls.sliced(1));
+  reading_.drop();
+  withOpenedLists(urls, [this, startAt](const QList<QUrl>& files) {
+    playFiles(files.first(), files.sliced(1), startAt);
+  });
+}
+
+void PlaybackModel::withOpenedLists(const QList<QUrl>& files,
+                                    const std::function<void(const QList<QUrl>& files)>& use) {
+  if (std::ranges::none_of(files, &isPlaylistFile)) return use(files);
+  reading_.run(
+      [files] { return openLists(files); },
+      [this, use, name = lastPathComponent(files.first())](const OpenedLists& opened) {
+        const QString skipped = opened.sentence();
+        if (!opened.files.isEmpty()) {
+          use(opened.files);
+          if (!skipped.isEmpty()) tell(skipped);
+        } else {
+          refuse(skipped.isEmpty() ? tr("There is nothing to play in %1.").arg(name) : skipped);
+        }
+      });
 }
 
 void PlaybackModel::openFiles(const QList<QUrl>& addresses) {
@@ -119,8 +147,13 @@ void PlaybackModel::withLocalFiles(const QList<QUrl>& addresses,
 
 void PlaybackModel::refuseFilesElsewhere(bool someFollow) {
   const QString sentence = tr("Tromelo plays local files only.");
+  someFollow ? tell(sentence) : refuse(sentence);
+}
+
+/// Nothing comes of what was asked for.
+void PlaybackModel::refuse(const QString& sentence) {
   // A player window that doesn't come now must not say it later.
-  if (someFollow || player().hasWindow()) return tell(sentence);
+  if (player().hasWindow()) return tell(sentence);
   errorMessage_ = sentence;
   player().showLibrary();
 }
@@ -129,22 +162,34 @@ void PlaybackModel::enqueue(const QList<QUrl>& urls) {
   if (!isLoaded_ && queue_.get().isEmpty()) {
     open(urls);
   } else {
-    append(urls);
+    withOpenedLists(urls, [this](const QList<QUrl>& files) { append(files); });
   }
+}
+
+void PlaybackModel::insert(const QList<QUrl>& urls, qint64 gap, bool plays) {
+  if (!isLoaded_ && queue_.get().isEmpty()) return open(urls);
+  withOpenedLists(urls, [this, gap, plays](const QList<QUrl>& files) {
+    for (qsizetype i = 0; i < files.size(); ++i) {
+      progress_.appended();
+      load(files[i], "insert-at", gap + i, {});
+    }
+    if (plays) playQueueItem(gap);
+  });
 }
 
 void PlaybackModel::append(const QList<QUrl>& urls) {
   for (const QUrl& url : urls) {
     progress_.appended();
-    load(url, "append", {});
+    load(url, "append", -1, {});
   }
 }
 
-void PlaybackModel::load(const QUrl& url, const char* mode, std::optional<double> startAt) {
+void PlaybackModel::load(const QUrl& url, const char* mode, qint64 place,
+                         std::optional<double> startAt) {
   const std::string path = pathFromFileUrl(url);
   if (startAt && !std::isfinite(*startAt)) startAt.reset();
-  engine_.command(
-      {"loadfile", path, mode, "-1", fileOptions(startAt, hardware_.softwarePaths.contains(path))});
+  engine_.command({"loadfile", path, mode, std::to_string(place),
+                   fileOptions(startAt, hardware_.softwarePaths.contains(path))});
 }
 
 void PlaybackModel::presentOpenPanel() {

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "engine/MpvEngine.h"
+#include "platform/Background.h"
 #include "platform/FileExistence.h"
 #include "platform/FilePath.h"
 #include "platform/LocalFiles.h"
@@ -19,6 +20,7 @@
 #include "playback/PlaybackState.h"
 #include "playback/PlayerPresenting.h"
 #include "playback/QueueProgress.h"
+#include "playback/QueueShuffle.h"
 #include "playback/RecentFiles.h"
 #include "playback/Screenshots.h"
 #include "settings/PlayerSettings.h"
@@ -85,10 +87,11 @@ class PlaybackModel : public PlaybackState {
   bool isShuttingDown() const { return isShuttingDown_; }
   void setShuttingDown(bool shuttingDown);
 
-  /// Plays a file in place of the current one, from `startAt` seconds on.
+  /// Plays a file in place of the current one, from `startAt` seconds on. A list stands for the
+  /// files that it names, here as in what follows; they are known only later.
   void open(const QUrl& url, std::optional<double> startAt = {});
   /// Plays the first and queues the others.
-  void open(const QList<QUrl>& urls);
+  void open(const QList<QUrl>& urls, std::optional<double> startAt = {});
   Q_INVOKABLE void openFile(const QUrl& url) { open(url); }
   Q_INVOKABLE void openFiles(const QList<QUrl>& addresses);
   /// Does something with what a person or the desktop hands over, once it is known which local
@@ -97,6 +100,13 @@ class PlaybackModel : public PlaybackState {
                       const std::function<void(const QList<QUrl>& files)>& use);
   /// Adds files to the end of the queue; plays them where there is nothing else.
   Q_INVOKABLE void enqueue(const QList<QUrl>& urls);
+  /// Puts files before the item that is now at `gap`, which may be the end, and plays the first
+  /// where that is asked for.
+  void insert(const QList<QUrl>& urls, qint64 gap, bool plays);
+  /// Adds the videos behind the current one in its folder that aren't in the queue, and says so.
+  Q_INVOKABLE void addRestOfFolder();
+  /// Writes the queue into a list, and says so.
+  void saveQueue(const QUrl& file);
 
   /// The list of recent files forgets this one, and so does the memory of films.
   Q_INVOKABLE void removeRecent(const QUrl& file);
@@ -111,6 +121,7 @@ class PlaybackModel : public PlaybackState {
   Q_INVOKABLE void presentOpenPanel();
   Q_INVOKABLE void presentQueuePanel();
   Q_INVOKABLE void presentSubtitleFilePanel();
+  Q_INVOKABLE void presentSavePanel();
 
   Q_INVOKABLE void togglePlayback();
   /// Nothing while no file is loaded.
@@ -155,6 +166,7 @@ class PlaybackModel : public PlaybackState {
   /// Puts the next of the marks between which the current file plays over and over, or takes both
   /// away.
   void markLoop();
+  Q_INVOKABLE void toggleRepeatAll();
   /// Seconds, rounded to milliseconds.
   Q_INVOKABLE void setSubtitleDelay(double seconds);
   Q_INVOKABLE void setAudioDelay(double seconds);
@@ -167,6 +179,11 @@ class PlaybackModel : public PlaybackState {
   Q_INVOKABLE void selectAudio(qint64 track);
   Q_INVOKABLE void playQueueItem(qint64 item);
   Q_INVOKABLE void removeQueueItem(qint64 item);
+  /// To before the item that is now at `gap`, which may be the end.
+  Q_INVOKABLE void moveQueueItem(qint64 item, qint64 gap);
+  /// What has played and what plays stays, the rest comes in an order of chance, as does what is
+  /// added. Turned off, all is as it was, what has come since behind it.
+  Q_INVOKABLE void toggleShuffle();
   /// Takes everything but the current item out of the queue.
   Q_INVOKABLE void clearQueue();
 
@@ -234,6 +251,18 @@ class PlaybackModel : public PlaybackState {
   void tellOf(const QueueProgress::Failure& failure);
   void tellOutputFault();
   void showWaitingToast();
+  void playFiles(const QUrl& first, const QList<QUrl>& others, std::optional<double> startAt);
+  void withOpenedLists(const QList<QUrl>& files,
+                       const std::function<void(const QList<QUrl>& files)>& use);
+  void refuse(const QString& sentence);
+  void setPause(bool paused);
+  void checkEnd();
+  void takeNextOfFolder(const QList<QUrl>& files);
+  void takeRestOfFolder(const QList<QUrl>& files);
+  void takeQueue(const PlayQueue& queue);
+  void reorder(const QueueOrder& wanted);
+  void send(QueueMove move);
+  void showMoved(PlayQueue queue);
   void resetForNewFile();
   void updateStatus();
   void showVideoReady();
@@ -251,7 +280,7 @@ class PlaybackModel : public PlaybackState {
   void showRecents();
   void storeRecents();
 
-  void load(const QUrl& url, const char* mode, std::optional<double> startAt);
+  void load(const QUrl& url, const char* mode, qint64 place, std::optional<double> startAt);
   void append(const QList<QUrl>& urls);
   void refuseFilesElsewhere(bool someFollow);
   void seek(double seconds, const char* how);
@@ -270,19 +299,26 @@ class PlaybackModel : public PlaybackState {
   FilmMemory* const films_;
   FilmKeeper filmKeeper_;
   QueueProgress progress_;
+  QueueShuffle shuffle_;
   RecentFiles recentFiles_;
   FileExistence existence_;
+  Background reading_;  // of lists and folders, for what plays
   LocalFiles localFiles_;
-  std::int64_t entry_ = 0;                  // of the current file, the engine's number for it
-  std::optional<std::string> currentPath_;  // as the engine has reported it since the file started
-  double position_ = 0;                     // to the frame, where elapsed goes in steps; seconds
+  double position_ = 0;                      // to the frame, where elapsed goes in steps; seconds
+  std::int64_t entry_ = 0;                   // of the current file, the engine's number for it
+  std::optional<std::string> currentPath_;   // as the engine has reported it since the file started
+  int unmoved_ = 0;                          // moves that the engine has yet to make
+  std::optional<PlayQueue> queueMeanwhile_;  // as it was told before all were made
   double subtitleLift_ = 0;
-  double lastScrubSeek_ = 0;  // of the clock
-  bool hasStarted_ = false;   // the current file has
-  bool hasPicture_ = false;   // the current file has, and it is shown
-  bool hasFailed_ = false;    // the current file has
-  QString outputFault_;       // of the current file; a sentence
-  QString toast_;             // waits for the player window
+  double lastScrubSeek_ = 0;     // of the clock
+  bool wantsPause_ = true;       // was asked for last
+  bool isAtEnd_ = false;         // the engine shows the file's last picture
+  bool hasAskedFolder_ = false;  // what comes behind this file, since it has ended
+  bool hasStarted_ = false;      // the current file has
+  bool hasPicture_ = false;      // the current file has, and it is shown
+  bool hasFailed_ = false;       // the current file has
+  QString outputFault_;          // of the current file; a sentence
+  QString toast_;                // waits for the player window
   bool toldOfNoSound_ = false;
   std::optional<Restart> restart_;  // the engine has yet to tell where
   bool isShuttingDown_ = false;

@@ -23,14 +23,23 @@ double toMilliseconds(double seconds) { return std::round(seconds * 1000) / 1000
 void PlaybackModel::togglePlayback() { setPaused(!isPaused_); }
 
 void PlaybackModel::setPaused(bool paused) {
-  if (isLoaded_) engine_.setProperty("pause", flagText(paused));
+  if (isLoaded_) setPause(paused);
 }
 
-void PlaybackModel::pauseWhatComes() { engine_.setProperty("pause", flagText(true)); }
+void PlaybackModel::pauseWhatComes() { setPause(true); }
 
-void PlaybackModel::stop() { engine_.command({"stop"}); }
+void PlaybackModel::setPause(bool paused) {
+  wantsPause_ = paused;
+  engine_.setProperty("pause", flagText(paused));
+}
+
+void PlaybackModel::stop() {
+  reading_.drop();
+  engine_.command({"stop"});
+}
 
 void PlaybackModel::stepFrame(int direction) {
+  wantsPause_ = true;  // it does that too
   engine_.command({direction < 0 ? "frame-back-step" : "frame-step"});
 }
 
@@ -110,6 +119,11 @@ void PlaybackModel::markLoop() {
   engine_.setProperty("file-local-options/ab-loop-b", loopMarkText(abLoop().end));
   // The engine has come further meanwhile, and what is played beyond the end never returns.
   if (abLoop().isWhole() && !isPaused_) seekTo(*abLoop().start);
+}
+
+void PlaybackModel::toggleRepeatAll() {
+  isRepeatingAll_ = !isRepeatingAll_;
+  engine_.setProperty("loop-playlist", isRepeatingAll_ ? "inf" : "no");
 }
 
 void PlaybackModel::setSubtitleDelay(double seconds) {
@@ -200,16 +214,6 @@ void PlaybackModel::selectAudio(qint64 track) {
   filmKeeper_.choseAudio();
   engine_.setProperty("aid", std::to_string(track));
 }
-
-void PlaybackModel::playQueueItem(qint64 item) {
-  engine_.command({"playlist-play-index", std::to_string(item)});
-}
-
-void PlaybackModel::removeQueueItem(qint64 item) {
-  engine_.command({"playlist-remove", std::to_string(item)});
-}
-
-void PlaybackModel::clearQueue() { engine_.command({"playlist-clear"}); }
 
 QString PlaybackModel::cycleSubtitle() {
   const QList<MediaTrack>& tracks = subtitleTracks_;

@@ -32,6 +32,7 @@ void PlaybackModel::handle(const event::FileQueued& answer) {
 
 void PlaybackModel::handle(const event::StartFile& start) {
   progress_.started();
+  shuffle_.started(start.entry);
   settleFailures();
   resetForNewFile();
   entry_ = start.entry;
@@ -41,6 +42,8 @@ void PlaybackModel::handle(const event::StartFile& start) {
 
 void PlaybackModel::resetForNewFile() {
   isLoaded_ = false;
+  isAtEnd_ = false;
+  hasAskedFolder_ = false;
   hasStarted_ = false;
   hasPicture_ = false;
   hasFailed_ = false;

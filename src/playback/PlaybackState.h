@@ -40,6 +40,8 @@ class PlaybackState : public QObject {
   Q_PROPERTY(double audioDelay READ audioDelay NOTIFY audioDelayChanged)
   Q_PROPERTY(bool isLooping READ isLooping NOTIFY isLoopingChanged)
   Q_PROPERTY(tromelo::AbLoop abLoop READ abLoop NOTIFY abLoopChanged)
+  Q_PROPERTY(bool isRepeatingAll READ isRepeatingAll NOTIFY isRepeatingAllChanged)
+  Q_PROPERTY(bool isShuffled READ isShuffled NOTIFY isShuffledChanged)
   Q_PROPERTY(QString status READ status NOTIFY statusChanged)
   Q_PROPERTY(QString errorMessage READ errorMessage NOTIFY errorMessageChanged)
   Q_PROPERTY(QString videoSize READ videoSize NOTIFY videoSizeChanged)
@@ -90,10 +92,12 @@ class PlaybackState : public QObject {
   double speed() const { return speed_; }                  // 1 is the file's own
   double subtitleDelay() const { return subtitleDelay_; }  // seconds
   double audioDelay() const { return audioDelay_; }        // seconds
-  bool isLooping() const { return isLooping_; }           // the current file starts over at its end
-  AbLoop abLoop() const { return abLoop_; }               // of the current file
-  QString status() const { return status_; }              // one line on the state
-  QString errorMessage() const { return errorMessage_; }  // the last one, or empty
+  AbLoop abLoop() const { return abLoop_; }                // of the current file
+  bool isLooping() const { return isLooping_; }  // the current file starts over at its end
+  bool isRepeatingAll() const { return isRepeatingAll_; }  // the queue starts over at its end
+  bool isShuffled() const { return isShuffled_; }          // chance says what comes next
+  QString status() const { return status_; }               // one line on the state
+  QString errorMessage() const { return errorMessage_; }   // the last one, or empty
   QString videoSize() const { return videoSize_; }
   QString frameRate() const { return frameRate_; }
   QString codec() const { return codec_; }  // of the video
@@ -147,6 +151,8 @@ class PlaybackState : public QObject {
   void audioDelayChanged();
   void isLoopingChanged();
   void abLoopChanged();
+  void isRepeatingAllChanged();
+  void isShuffledChanged();
   void statusChanged();
   void errorMessageChanged();
   void videoSizeChanged();
@@ -199,6 +205,8 @@ class PlaybackState : public QObject {
   Published<double> audioDelay_{this, &PlaybackState::audioDelayChanged};
   Published<bool> isLooping_{this, &PlaybackState::isLoopingChanged};
   Published<AbLoop> abLoop_{this, &PlaybackState::abLoopChanged};
+  Published<bool> isRepeatingAll_{this, &PlaybackState::isRepeatingAllChanged};
+  Published<bool> isShuffled_{this, &PlaybackState::isShuffledChanged};
   Published<QString> status_{this, &PlaybackState::statusChanged,
                              QStringLiteral("Open a video to begin")};
   Published<QString> errorMessage_{this, &PlaybackState::errorMessageChanged};

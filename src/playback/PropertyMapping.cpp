@@ -56,10 +56,16 @@ struct PropertyMapping::Actions {
     m.isPaused_ = held<bool>(v).value_or(true);
     if (m.isPaused_) m.filmKeeper_.keep();
     m.updateStatus();
+    m.checkEnd();
   }
 
   static void volume(Model& m, const Value& v) {
     if (const auto volume = held<double>(v)) m.volume_ = *volume;
+  }
+
+  static void eofReached(Model& m, const Value& v) {
+    m.isAtEnd_ = held<bool>(v).value_or(false);
+    m.checkEnd();
   }
 
   static void fullscreen(Model& m, const Value& v) {
@@ -105,10 +111,7 @@ struct PropertyMapping::Actions {
         position < 0 ? std::nullopt : std::optional(static_cast<int>(std::min(position, kLast)));
   }
 
-  static void playlist(Model& m, const Value& v) {
-    m.queue_ = playQueue(v);
-    m.settleFailures();
-  }
+  static void playlist(Model& m, const Value& v) { m.takeQueue(playQueue(v)); }
 
   /// The queue's items say which is current.
   static void playlistPos(Model&, const Value&) {}
@@ -124,9 +127,11 @@ struct PropertyMapping::Actions {
   static void audioDelay(Model& m, const Value& v) { m.audioDelay_ = held<double>(v).value_or(0); }
 
   /// Anything but "no" is "inf" or a number of rounds.
-  static void loopFile(Model& m, const Value& v) {
-    m.isLooping_ = held<std::string>(v).value_or("no") != "no";
-  }
+  static bool loops(const Value& v) { return held<std::string>(v).value_or("no") != "no"; }
+
+  static void loopFile(Model& m, const Value& v) { m.isLooping_ = loops(v); }
+
+  static void loopPlaylist(Model& m, const Value& v) { m.isRepeatingAll_ = loops(v); }
 
   static void abLoopA(Model& m, const Value& v) {
     m.abLoop_ = AbLoop{loopMark(held<std::string>(v).value_or("no")), m.abLoop().end};

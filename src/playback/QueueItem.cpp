@@ -1,5 +1,6 @@
 #include "playback/QueueItem.h"
 
+#include <QHash>
 #include <algorithm>
 
 #include "engine/MpvValue.h"
@@ -34,12 +35,33 @@ PlayQueue playQueue(const MpvValue& playlist) {
   PlayQueue queue;
   queue.reserve(static_cast<qsizetype>(entries.size()));
   for (const MpvMap* entry : entries) {
+    const auto* file = mpvEntry<std::string>(*entry, "filename");
     const QString path = nodeText(*entry, "filename").value_or(QString());
     const auto* number = mpvEntry<std::int64_t>(*entry, "id");
-    queue.append(
-        {queue.size(), queueTitle(*entry, path), path, isCurrent(*entry), number ? *number : -1});
+    queue.append({.id = queue.size(),
+                  .title = queueTitle(*entry, path),
+                  .path = path,
+                  .isCurrent = isCurrent(*entry),
+                  .entry = number ? *number : -1,
+                  .file = file ? *file : std::string()});
   }
   return queue;
+}
+
+QueueOrder orderOf(const PlayQueue& queue) {
+  QueueOrder order;
+  order.reserve(queue.size());
+  for (const QueueItem& item : queue) order.append(item.entry);
+  return order;
+}
+
+PlayQueue inOrder(const PlayQueue& queue, const QueueOrder& order) {
+  QHash<qint64, qsizetype> places;
+  for (qsizetype i = 0; i < queue.size(); ++i) places.insert(queue[i].entry, i);
+  PlayQueue ordered;
+  ordered.reserve(order.size());
+  for (const qint64 entry : order) ordered.append(queue[places.value(entry)]);
+  return ordered;
 }
 
 std::optional<qsizetype> currentIndex(const PlayQueue& queue) {

@@ -5,6 +5,9 @@
 #include <QObject>
 #include <QString>
 #include <optional>
+#include <string>
+
+#include "playback/QueueOrder.h"
 
 namespace tromelo {
 
@@ -23,7 +26,8 @@ class QueueItem {
   QString title;
   QString path;  // for people; undecodable bytes show as U+FFFD
   bool isCurrent = false;
-  qint64 entry = -1;  // the engine's own number, the same for as long as the file is queued
+  qint64 entry = -1;      // the engine's own number, the same for as long as the file is queued
+  std::string file = {};  // the path's bytes
 
   friend bool operator==(const QueueItem&, const QueueItem&) = default;
 };
@@ -32,6 +36,12 @@ using PlayQueue = QList<QueueItem>;
 
 /// From the engine's "playlist"; what is not a list gives an empty queue.
 PlayQueue playQueue(const MpvValue& playlist);
+
+/// The engine's numbers of the items.
+QueueOrder orderOf(const PlayQueue& queue);
+
+/// The same items in another order of their numbers.
+PlayQueue inOrder(const PlayQueue& queue, const QueueOrder& order);
 
 /// Position of the first current item.
 std::optional<qsizetype> currentIndex(const PlayQueue& queue);

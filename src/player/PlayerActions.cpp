@@ -104,6 +104,17 @@ QString markLoop(Player&, PlaybackModel& playback) {
   return PlayerActions::tr("Loop %1 – %2").arg(start, Format::clock(*loop.end));
 }
 
+QString toggleShuffle(Player&, PlaybackModel& playback) {
+  playback.toggleShuffle();
+  return playback.isShuffled() ? PlayerActions::tr("Shuffle on") : PlayerActions::tr("Shuffle off");
+}
+
+QString toggleRepeatAll(Player&, PlaybackModel& playback) {
+  playback.toggleRepeatAll();
+  return playback.isRepeatingAll() ? PlayerActions::tr("Repeat all on")
+                                   : PlayerActions::tr("Repeat all off");
+}
+
 QString tellTime(Player&, PlaybackModel& playback) {
   return Format::clock(playback.elapsed()) + QStringLiteral(" / ") +
          Format::clock(playback.duration());
@@ -295,6 +306,22 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
          {QT_TR_NOOP("D"),
           QT_TR_NOOP("Add a bookmark"),
           {{.keys = {typed(u"dD")}, .act = addBookmark}}},
+         {QT_TR_NOOP("Z"),
+          QT_TR_NOOP("Shuffle what is up next"),
+          {{.keys = {typed(u"zZ")},
+            .act = toggleShuffle,
+            .tips = {{Shuffle, QT_TR_NOOP("Shuffle (Z)")}}}}},
+         {QT_TR_NOOP("A"),
+          QT_TR_NOOP("Repeat all of the queue"),
+          {{.keys = {typed(u"aA")},
+            .act = toggleRepeatAll,
+            .tips = {{RepeatAll, QT_TR_NOOP("Repeat all (A)")}}}}},
+         {QT_TR_NOOP("⌘S"),
+          QT_TR_NOOP("Save the queue"),
+          {{.keys = {exactly(kControl, Qt::Key_S)},
+            .act = run<&PlaybackModel::presentSavePanel>,
+            .tips = {{SaveQueue, QT_TR_NOOP("Save queue… (⌘S)")}}}}},
+         {QT_TR_NOOP("Tab, ⌥↑ / ⌥↓"), QT_TR_NOOP("Choose a row, move it in the queue"), {}},
      }},
     {QT_TR_NOOP("Audio & subtitles"),
      {

@@ -24,6 +24,8 @@ namespace tromelo {
       controls, nullptr, noText)                                                                  \
   /* Films go on where they were left. */                                                         \
   ROW(bool, resumesFilms, ResumesFilms, true, asItIs, changed, controls, nullptr, noText)         \
+  /* At the end of the queue. */                                                                  \
+  ROW(bool, goesOnInFolder, GoesOnInFolder, false, asItIs, changed, controls, nullptr, noText)    \
   /* A family; where it is missing, the nearest one. */                                           \
   ROW(QString, subtitleFont, SubtitleFont, QStringLiteral("Helvetica Neue"), asItIs, changed,     \
       subtitles, "sub-font", mpvText)                                                             \

@@ -72,6 +72,22 @@ Item {
                 checked: page.settings.resumesFilms
                 onToggled: page.settings.resumesFilms = checked
             }
+
+            Rectangle {
+                width: rows.width
+                height: Theme.hairline
+                color: Theme.panelDivider
+            }
+
+            CheckToggle {
+                objectName: "goesOnInFolder"
+                width: rows.width
+                height: Theme.formRow
+                font: Theme.panelText
+                text: qsTr("Go on with the folder's next video")
+                checked: page.settings.goesOnInFolder
+                onToggled: page.settings.goesOnInFolder = checked
+            }
         }
     }
 

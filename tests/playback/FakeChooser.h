@@ -12,6 +12,9 @@ struct FakeChooser final : FileChooser {
     asked = request;
     answer = std::move(chosen);
   }
+  void chooseNewFile(const Request& request, const QString&, Callback chosen) override {
+    chooseFiles(request, std::move(chosen));
+  }
 
   std::optional<Request> asked;
   Callback answer;

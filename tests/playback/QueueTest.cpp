@@ -39,7 +39,10 @@ TEST(Queue, EntriesAreNamedByTitleOrFile) {
                            {5, lost, "/films/" + lost + ".mkv", false},
                            {6, "", "/films/a.mkv", false},
                            {7, "", "", true}};
-  EXPECT_EQ(playQueue(listOf(list)), expected);
+  PlayQueue queue = playQueue(listOf(list));
+  EXPECT_EQ(queue[5].file, "/films/\xff.mkv");
+  for (QueueItem& item : queue) item.file.clear();
+  EXPECT_EQ(queue, expected);
   EXPECT_EQ(playQueue(MpvValue(1.0)), PlayQueue());
 }
 

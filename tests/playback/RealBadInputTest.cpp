@@ -72,6 +72,7 @@ TEST_F(BadInput, ListsOfFilesPlayOnAfterABrokenOne) {
     player_.take();
     model_.open(files);
     ASSERT_TRUE(!isBusy || engineLogs("3-good"));
+    ASSERT_TRUE(waitFor([this] { return model_.title() != "3-good"; })) << what;
     ASSERT_TRUE(waitFor([this] { return model_.title() == "3-good" && model_.isLoaded(); }))
         << what;
     EXPECT_EQ(player_.calls.filter("toast").join('\n'),

@@ -25,6 +25,7 @@ const QJsonObject& allStored() {
   static const QJsonObject stored{
       {"autoHideDelay", 0},
       {"resumesFilms", false},
+      {"goesOnInFolder", true},
       {"subtitleFont", "Comic Neue"},
       {"subtitleSize", 52.5},
       {"subtitleColor", QJsonArray{1.0 / 3, 0.93, 0.35, 0.1}},
@@ -106,6 +107,7 @@ TEST(PlayerPreferencesTest, AnEntryOfAnotherTypeLosesOnlyItself) {
       {"subtitleSize", noNumbers},        {"subtitleColor", noColors},
       {"subtitleOutlineColor", noColors}, {"subtitleBorderStyle", {"Box", "", 2, null}},
       {"subtitleBold", noFlags},          {"subtitleOverridesStyled", noFlags},
+      {"goesOnInFolder", noFlags},
   };
   for (const auto& [name, mistyped] : rows) {
     for (const QJsonValue& value : mistyped) {
@@ -150,6 +152,7 @@ TEST_F(PlayerSettingsTest, EveryWriteIsThereAfterARestart) {
     EXPECT_FALSE(defaults_.contains(kKey));
     settings.setAutoHideDelay(0);
     settings.setResumesFilms(false);
+    settings.setGoesOnInFolder(true);
     settings.setSubtitleFont("Comic Neue");
     settings.setSubtitleSize(52.5);
     settings.setSubtitleColor({1.0 / 3, 0.93, 0.35, 0.1});
@@ -165,7 +168,7 @@ TEST_F(PlayerSettingsTest, EveryWriteIsThereAfterARestart) {
   EXPECT_EQ(settings.subtitleColor(), RgbaColor(1.0 / 3, 0.93, 0.35, 0.1));
   settings.resetSubtitleStyle();
   EXPECT_EQ(later.value(kKey).toObject(),
-            storedPreferences({.autoHideDelay = 0, .resumesFilms = false}));
+            storedPreferences({.autoHideDelay = 0, .resumesFilms = false, .goesOnInFolder = true}));
 }
 
 TEST_F(PlayerSettingsTest, LoadingLeavesAHandEditedEntryAsItIs) {

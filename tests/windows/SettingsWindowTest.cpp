@@ -87,6 +87,9 @@ TEST_F(SettingsWindowTest, EveryControlCanBeUsedByKeys) {
   key(Qt::Key_Space);
   EXPECT_FALSE(settings_.resumesFilms());
   key(Qt::Key_Space);
+  tabTo("goesOnInFolder");
+  key(Qt::Key_Return);
+  EXPECT_TRUE(settings_.goesOnInFolder());
   tabTo("forgetFilms");
   key(Qt::Key_Tab);
   EXPECT_EQ(window().activeFocusItem(), item("tabGeneral"));
@@ -105,7 +108,10 @@ TEST_F(SettingsWindowTest, EveryControlCanBeUsedByKeys) {
            {"subtitleOverridesStyled", Qt::Key_Space,
             [this] { return settings_.subtitleOverridesStyled(); }},
            {"resetSubtitleStyle", Qt::Key_Return,
-            [this] { return settings_.preferences() == PlayerPreferences{.autoHideDelay = 0}; }},
+            [this] {
+              return settings_.preferences() ==
+                     PlayerPreferences{.autoHideDelay = 0, .goesOnInFolder = true};
+            }},
        }) {
     tabTo(control);
     this->key(key);
