@@ -24,6 +24,7 @@ class QueueModel : public RecordModel {
     Q_EMIT itemsChanged();
   }
   int current() const { return static_cast<int>(currentIndex(items_).value_or(-1)); }
+  Q_INVOKABLE QString titleAt(int row) const { return items_.value(row).title; }
   int rowCount(const QModelIndex& = {}) const override { return static_cast<int>(items_.size()); }
 
  Q_SIGNALS:

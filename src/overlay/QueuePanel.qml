@@ -17,6 +17,13 @@ Item {
     implicitWidth: Theme.queueWidth
     implicitHeight: content.implicitHeight
 
+    // Behind the last one come the buttons. Rows that have been moved lie in another order than the
+    // list shows.
+    function focusRow(row: int) {
+        const next = list.itemAtIndex(row) ?? (row < 0 ? buttons.last : buttons.first);
+        next.forceActiveFocus(Qt.TabFocusReason);
+    }
+
     ColumnLayout {
         id: content
 
@@ -74,40 +81,86 @@ Item {
             Accessible.name: text
         }
 
-        ListView {
-            id: list
+        RowDrag {
+            id: drag
 
-            objectName: "queueRows"
+            objectName: "queueDrag"
             Layout.fillWidth: true
             Layout.fillHeight: true
-            Layout.preferredHeight: Math.min(contentHeight + topMargin + bottomMargin, Theme.queueRowsHeight)
-            topMargin: Theme.listPadding
-            bottomMargin: Theme.listPadding
-            spacing: Theme.listSpacing
-            boundsBehavior: Flickable.StopAtBounds
-            clip: true
-            // What the pointer did to a row goes with it, so none is used for another file.
-            reuseItems: false
-            Accessible.role: Accessible.List
-            Accessible.name: qsTr("Queue")
+            Layout.preferredHeight: Math.min(list.contentHeight + list.topMargin + list.bottomMargin, Theme.queueRowsHeight)
+            list: list
+            model: rows
+            onDropped: (row, gap) => panel.playback.moveQueueItem(row, gap)
 
-            Component.onCompleted: Qt.callLater(positionViewAtIndex, rows.current, ListView.Contain)
+            ListView {
+                id: list
 
-            model: QueueModel {
-                id: rows
-                items: panel.playback.queue
+                property bool isPlaced: false
+
+                objectName: "queueRows"
+                anchors.fill: parent
+                topMargin: Theme.listPadding
+                bottomMargin: Theme.listPadding
+                spacing: Theme.listSpacing
+                boundsBehavior: Flickable.StopAtBounds
+                clip: true
+                // What the pointer did to a row goes with it, so none is used for another file.
+                reuseItems: false
+                Accessible.role: Accessible.List
+                Accessible.name: qsTr("Queue")
+
+                // Once it has its size.
+                onHeightChanged: if (height > 0 && !isPlaced) {
+                    isPlaced = true;
+                    Qt.callLater(drag.center, rows.current);
+                }
+
+                model: QueueModel {
+                    id: rows
+                    items: panel.playback.queue
+                }
+
+                T.ScrollBar.vertical: ThinScrollBar {}
+
+                delegate: QueueRow {
+                    required property int index
+
+                    objectName: "queueItem"
+                    width: list.width
+                    isLifted: drag.row === index
+                    onChosen: panel.playback.playQueueItem(index)
+                    onStepped: rows => panel.focusRow(index + rows)
+                    onRemoved: {
+                        if (activeFocus)
+                            panel.focusRow(index + 1 < list.count ? index + 1 : index - 1);
+                        panel.playback.removeQueueItem(index);
+                    }
+                    onMoved: by => panel.playback.moveQueueItem(index, by < 0 ? index - 1 : index + 2)
+                    onActiveFocusChanged: if (activeFocus)
+                        list.positionViewAtIndex(index, ListView.Contain)
+                    onIndexChanged: if (activeFocus)
+                        list.positionViewAtIndex(index, ListView.Contain)
+                }
             }
 
-            T.ScrollBar.vertical: ThinScrollBar {}
-
-            delegate: QueueRow {
-                required property int index
-
-                objectName: "queueItem"
-                width: list.width
-                onChosen: panel.playback.playQueueItem(index)
-                onRemoved: panel.playback.removeQueueItem(index)
+            QueueLiftedRow {
+                drag: drag
+                title: rows.titleAt(drag.row)
             }
+        }
+
+        Rectangle {
+            Layout.fillWidth: true
+            implicitHeight: Theme.hairline
+            color: Theme.panelDivider
+        }
+
+        QueueButtons {
+            id: buttons
+
+            Layout.fillWidth: true
+            Layout.margins: Theme.groupedSpacing
+            playback: panel.playback
         }
     }
 }

@@ -12,9 +12,14 @@ PanelRow {
     required property string title
     required property string path
     required property bool isCurrent
+    // It is being dragged, and stands elsewhere meanwhile.
+    property bool isLifted: false
 
     signal chosen
     signal removed
+    signal moved(int rows)
+    // The keyboard goes to another row.
+    signal stepped(int rows)
 
     outset: -Theme.listPadding
     leftPadding: Theme.listPadding + Theme.rowSide
@@ -24,10 +29,23 @@ PanelRow {
     rest: isCurrent ? Theme.currentItem : "transparent"
     tip: path
     Accessible.name: title
-    Accessible.description: path
+    Accessible.description: qsTr("%1. Alt+Up and Alt+Down move it, Delete removes it.").arg(path)
     Accessible.selected: isCurrent
+    opacity: isLifted ? Theme.liftedFrom : 1
+    focusPolicy: Qt.TabFocus
     onClicked: if (!isCurrent)
         chosen()
+    Keys.onTabPressed: stepped(1)
+    Keys.onBacktabPressed: stepped(-1)
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
+
+    RowKeys {
+        active: row.activeFocus
+        onMoved: rows => row.moved(rows)
+        onRemoved: if (!row.isCurrent)
+            row.removed()
+    }
 
     contentItem: RowLayout {
         spacing: Theme.rowSpacing

@@ -28,8 +28,28 @@ class RecordModel : public QAbstractListModel {
   void replace(QList<Record>& rows, const QList<Record>& fresh, Same same);
 
  private:
+  /// Does what has happened to these rows where one of them has gone to the other end.
+  template <typename Record, typename Same>
+  bool moveOne(QList<Record>& rows, const QList<Record>& fresh, int first, int count, Same same);
+
   const QMetaObject& record_;
 };
+
+template <typename Record, typename Same>
+bool RecordModel::moveOne(QList<Record>& rows, const QList<Record>& fresh, int first, int count,
+                          Same same) {
+  const auto old = rows.cbegin() + first;
+  const auto now = fresh.cbegin() + first;
+  const int last = first + count - 1;
+  const bool isDown = std::equal(old + 1, old + count, now, same) && same(*old, now[count - 1]);
+  const bool isUp = std::equal(old, old + count - 1, now + 1, same) && same(old[count - 1], *now);
+  if (!isDown && !isUp) return false;
+  const int from = isDown ? first : last;
+  beginMoveRows({}, from, from, {}, isDown ? last + 1 : first);
+  rows.move(from, isDown ? last : first);
+  endMoveRows();
+  return true;
+}
 
 template <typename Record, typename Same>
 void RecordModel::replace(QList<Record>& rows, const QList<Record>& fresh, Same same) {
@@ -39,12 +59,14 @@ void RecordModel::replace(QList<Record>& rows, const QList<Record>& fresh, Same 
   const auto first = static_cast<int>(head.first - rows.cbegin());
   const auto removed = static_cast<int>(tail.first.base() - head.first);
   const auto inserted = static_cast<int>(tail.second.base() - head.second);
-  if (removed > 0) {
+  const bool isMove = removed > 1 && removed == inserted;
+  const bool isMoved = isMove && moveOne(rows, fresh, first, removed, same);
+  if (removed > 0 && !isMoved) {
     beginRemoveRows({}, first, first + removed - 1);
     rows.remove(first, removed);
     endRemoveRows();
   }
-  if (inserted > 0) {
+  if (inserted > 0 && !isMoved) {
     beginInsertRows({}, first, first + inserted - 1);
     rows = rows.first(first) + fresh.sliced(first, inserted) + rows.sliced(first);
     endInsertRows();

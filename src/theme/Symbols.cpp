@@ -35,10 +35,13 @@ const QHash<QString, char16_t>& glyphs() {
       {QStringLiteral("pencil"), u'\ue3c9'},
       {QStringLiteral("play.fill"), u'\ue037'},
       {QStringLiteral("plus"), u'\ue145'},
+      {QStringLiteral("repeat"), u'\ue040'},
+      {QStringLiteral("shuffle"), u'\ue043'},
       {QStringLiteral("speaker.slash.fill"), u'\ue04f'},
       {QStringLiteral("speaker.wave.1.fill"), u'\ue04e'},
       {QStringLiteral("speaker.wave.2.fill"), u'\ue04d'},
       {QStringLiteral("speaker.wave.3.fill"), u'\ue050'},
+      {QStringLiteral("square.and.arrow.down"), u'\ue161'},
       {QStringLiteral("xmark"), u'\ue5cd'},
       {QStringLiteral("xmark.circle.fill"), u'\ue5c9'},
   };

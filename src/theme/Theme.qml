@@ -142,6 +142,11 @@ QtObject {
     readonly property real queueSymbolWidth: 18
     readonly property real delayWidth: 64 // at least
     readonly property real rowSymbolSize: 12
+    readonly property real panelSymbolSize: 14
+    // A row that is being dragged, and the mark where it would go.
+    readonly property color liftedRow: Qt.rgba(0.2, 0.21, 0.24, 0.96)
+    readonly property real liftedFrom: 0.35 // opacity of its old place
+    readonly property real insertionMark: 2
 
     // Fields and controls of settings.
     readonly property color fieldSurface: Qt.rgba(1, 1, 1, 0.1)
@@ -332,6 +337,23 @@ QtObject {
         hovered: theme.rowHovered
         pressed: theme.rowPressed
         disabled: theme.overlayDisabled
+    }
+    // Of a row of symbols that switch things in a panel.
+    readonly property ButtonLook panelSwitch: ButtonLook {
+        focusPolicy: Qt.TabFocus
+        font: theme.panelText
+        ink: theme.overlayText
+        chosenInk: theme.symbolActive
+        symbolSize: theme.panelSymbolSize
+        width: 32
+        height: 28
+        radius: theme.controlRadius
+        hovered: theme.controlHovered
+        pressed: theme.controlPressed
+        chosen: theme.controlActive
+        disabled: theme.overlayDisabled
+        focusEdge: theme.accent
+        chosenFocusEdge: theme.primaryText
     }
     readonly property ButtonLook closeButton: ButtonLook {
         font: theme.overlayTitle

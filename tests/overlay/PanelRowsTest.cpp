@@ -26,6 +26,10 @@ void listenTo(QAbstractItemModel& model, QStringList& log) {
   };
   QObject::connect(&model, &QAbstractItemModel::rowsRemoved, &model, note("gone"));
   QObject::connect(&model, &QAbstractItemModel::rowsInserted, &model, note("new"));
+  QObject::connect(&model, &QAbstractItemModel::rowsMoved, &model,
+                   [&log](const QModelIndex&, int from, int, const QModelIndex&, int before) {
+                     log << QString("moved %1 %2").arg(from).arg(before);
+                   });
   QObject::connect(
       &model, &QAbstractItemModel::dataChanged, &model,
       [&log](const QModelIndex& first) { log << QString("other %1").arg(first.row()); });
@@ -43,6 +47,11 @@ TEST(QueueModelTest, ChangesNoMoreRowsThanItHasTo) {
            {"the current one is", "aBcd", "aCd", {"gone 1-1", "other 1", "other 2"}},
            {"two are appended", "Ab", "Abcd", {"new 2-3"}},
            {"one comes in between", "Abc", "Axbc", {"new 1-1", "other 2", "other 3"}},
+           {"one goes down", "Abcd", "Acdb", {"moved 1 4", "other 1", "other 2", "other 3"}},
+           {"one goes up",
+            "Abcd",
+            "dAbc",
+            {"moved 3 0", "other 0", "other 1", "other 2", "other 3"}},
            {"one is replaced", "Abc", "Axc", {"gone 1-1", "new 1-1"}},
            {"what is up next is cleared", "abCde", "C", {"gone 0-4", "new 0-0"}},
            {"a file that is there twice", "Aaab", "Aab", {"gone 2-2", "other 2"}},

@@ -207,6 +207,81 @@ TEST_F(PanelsTest, ALongQueueKeepsItsPlaceWhileItChanges) {
   EXPECT_EQ(rows->property("contentY"), 3000);
 }
 
+TEST_F(PanelsTest, ALongQueueOpensAtWhatPlays) {
+  for (const int current : {0, 40, 99}) {
+    reportPlaylist(100, current);
+    show("QueuePanel", {{"playback", playback()}, {"width", 340}, {"height", 400}});
+    layOut();
+    settle();
+    layOut();
+    const int row = static_cast<int>(texts(all("queueItem"), "isCurrent").indexOf("true"));
+    ASSERT_GE(row, 0) << current;
+    EXPECT_TRUE(frame("queueRows").contains(frame(all("queueItem")[row]))) << current;
+  }
+}
+
+TEST_F(PanelsTest, ARowOfTheQueueIsDraggedToAnotherPlace) {
+  reportPlaylist(30, 0);
+  show("QueuePanel", {{"playback", playback()}, {"width", 340}, {"height", 400}});
+  layOut();
+  ASSERT_TRUE(waitFor([this] { return all("queueItem").size() > 8; }));
+  settle();
+  layOut();
+  const auto middle = [this](int row) { return frame(all("queueItem")[row]).center(); };
+  const auto hold = [&](int row, int over) {
+    press(middle(row));
+    drag(middle(row) + QPointF(0, 8));
+    drag(middle(over));
+    layOut();
+  };
+  takeSent();
+  hold(2, 5);
+  EXPECT_TRUE(isShown("liftedRow"));
+  EXPECT_LT(all("queueItem")[2]->opacity(), 1);
+  release(middle(5));
+  EXPECT_EQ(takeSent(), Sent{"playlist-move 2 6"});
+  EXPECT_FALSE(isShown("liftedRow"));
+  hold(5, 1);
+  release(middle(1));
+  EXPECT_EQ(takeSent(), Sent{"playlist-move 5 1"});
+
+  hold(3, 6);
+  key(Qt::Key_Escape);
+  EXPECT_FALSE(isShown("liftedRow"));
+  release(middle(6));
+  EXPECT_EQ(takeSent(), Sent()) << "put back";
+
+  // Held at the edge it goes on to the end.
+  hold(2, 6);
+  drag({middle(6).x(), frame("queueRows").bottom() - 1});
+  ASSERT_TRUE(waitFor(
+      [this] { return frame(all("queueItem").last()).bottom() <= frame("queueRows").bottom(); }));
+  release({middle(0).x(), frame("queueRows").bottom() - 1});
+  EXPECT_EQ(takeSent(), Sent{"playlist-move 2 30"});
+  EXPECT_EQ(item("queueRows")->property("count"), 30);
+}
+
+TEST_F(PanelsTest, ARowOfTheQueueIsMovedAndRemovedByKeys) {
+  reportPlaylist(3, 0);
+  show("QueuePanel", {{"playback", playback()}, {"width", 340}, {"height", 400}});
+  layOut();
+  ASSERT_TRUE(waitFor([this] { return all("queueItem").size() == 3; }));
+  takeSent();
+  const auto chosen = [this] { return texts(all("queueItem"), "activeFocus").indexOf("true"); };
+  key(Qt::Key_Tab);
+  ASSERT_EQ(chosen(), 0);
+  key(Qt::Key_Delete);
+  key(Qt::Key_Up, Qt::AltModifier);
+  EXPECT_EQ(takeSent(), Sent()) << "what plays stays, and there is nothing before the first";
+  key(Qt::Key_Down, Qt::AltModifier);
+  key(Qt::Key_Down, Qt::AltModifier);
+  EXPECT_EQ(takeSent(), Sent({"playlist-move 0 2", "playlist-move 1 3"}));
+  EXPECT_EQ(chosen(), 2) << "it keeps the keyboard";
+  key(Qt::Key_Backtab);
+  key(Qt::Key_Delete);
+  EXPECT_EQ(takeSent(), Sent{"playlist-remove 1"});
+}
+
 /// The panels above the control bar, over a video.
 struct PopoverTest : OverlayTest {
   PopoverTest() { host_.resize(800, 700); }
