@@ -20,8 +20,16 @@ QString MprisPlayer::loopStatus() const { return tromelo::loopStatus(playback_);
 
 void MprisPlayer::setLoopStatus(const QString& status) {
   const bool track = status == QLatin1String("Track");
-  if (!track && status != QLatin1String("None")) return;  // the queue as a whole has no loop
+  const bool all = status == QLatin1String("Playlist");
+  if (!track && !all && status != QLatin1String("None")) return;
   if (track != playback_.isLooping()) playback_.toggleLoop();
+  if (all != playback_.isRepeatingAll()) playback_.toggleRepeatAll();
+}
+
+bool MprisPlayer::shuffle() const { return playback_.isShuffled(); }
+
+void MprisPlayer::setShuffle(bool shuffle) {
+  if (shuffle != playback_.isShuffled()) playback_.toggleShuffle();
 }
 
 double MprisPlayer::rate() const { return playback_.speed(); }
@@ -87,9 +95,7 @@ void MprisPlayer::SetPosition(const QDBusObjectPath& TrackId, qlonglong Position
 void MprisPlayer::OpenUri(const QString& Uri, const QDBusMessage& message) {
   const QUrl url(Uri, QUrl::StrictMode);
   if (url.isLocalFile()) return playback_.open(url);
-  message.setDelayedReply(true);
-  bus_.send(message.createErrorReply(QDBusError::NotSupported,
-                                     QStringLiteral("Tromelo plays local files only.")));
+  refuseUri(bus_, message);
 }
 
 }  // namespace tromelo

@@ -43,8 +43,8 @@ class MprisPlayer : public QDBusAbstractAdaptor {
   void setRate(double rate);
   double minimumRate() const;
   double maximumRate() const;
-  bool shuffle() const { return false; }
-  void setShuffle(bool) {}  // the queue has one order only
+  bool shuffle() const;
+  void setShuffle(bool shuffle);
   QVariantMap metadata() const;
   double volume() const;  // 0 to 1
   void setVolume(double volume);

@@ -1,6 +1,7 @@
 #include "mpris/MprisRoot.h"
 
 #include "mpris/MprisService.h"
+#include "platform/VideoTypes.h"
 #include "playback/PlaybackModel.h"
 
 namespace tromelo {
@@ -22,9 +23,7 @@ QString MprisRoot::desktopEntry() const { return QStringLiteral("org.tromelo.Tro
 
 QStringList MprisRoot::supportedUriSchemes() const { return {QStringLiteral("file")}; }
 
-QStringList MprisRoot::supportedMimeTypes() const {
-  return QStringLiteral(TROMELO_MIME_TYPES).split(u' ', Qt::SkipEmptyParts);
-}
+QStringList MprisRoot::supportedMimeTypes() const { return openedMimeTypes(); }
 
 void MprisRoot::Raise() { shell_.raise(); }
 

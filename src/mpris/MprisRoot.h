@@ -16,7 +16,7 @@ class MprisRoot : public QDBusAbstractAdaptor {
   Q_PROPERTY(bool CanRaise READ yes)
   Q_PROPERTY(bool CanSetFullscreen READ canSetFullscreen)
   Q_PROPERTY(bool Fullscreen READ isFullscreen WRITE setFullscreen)
-  Q_PROPERTY(bool HasTrackList READ hasTrackList)
+  Q_PROPERTY(bool HasTrackList READ yes)
   Q_PROPERTY(QString Identity READ identity)
   Q_PROPERTY(QString DesktopEntry READ desktopEntry)
   Q_PROPERTY(QStringList SupportedUriSchemes READ supportedUriSchemes)
@@ -29,7 +29,6 @@ class MprisRoot : public QDBusAbstractAdaptor {
   bool canSetFullscreen() const;
   bool isFullscreen() const;
   void setFullscreen(bool fullscreen);
-  bool hasTrackList() const { return false; }
   QString identity() const;
   QString desktopEntry() const;
   QStringList supportedUriSchemes() const;

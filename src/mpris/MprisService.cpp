@@ -8,13 +8,14 @@
 #include "mpris/MprisPlayer.h"
 #include "mpris/MprisProperties.h"
 #include "mpris/MprisRoot.h"
+#include "mpris/MprisTrackList.h"
+#include "mpris/MprisValues.h"
 #include "playback/PlaybackModel.h"
 
 namespace tromelo {
 
 namespace {
 
-QString objectPath() { return QStringLiteral("/org/mpris/MediaPlayer2"); }
 QString wantedName() { return QStringLiteral("org.mpris.MediaPlayer2.tromelo"); }
 QString nameOfInstance() {
   return wantedName() + QStringLiteral(".instance%1").arg(QCoreApplication::applicationPid());
@@ -43,17 +44,18 @@ MprisService::MprisService(const QDBusConnection& bus, PlaybackModel& playback, 
       shell_(std::move(shell)),
       root_(new MprisRoot(playback_, shell_, this)),
       player_(new MprisPlayer(bus_, playback_, shell_, this)),
+      tracks_(new MprisTrackList(bus_, playback_, this)),
       rootTold_(told(*root_)),
       playerTold_(told(*player_)) {
   new MprisProperties(bus_, this);
   // The object comes first: whoever finds the name may call at once.
-  if (!bus_.registerObject(objectPath(), this, QDBusConnection::ExportAdaptors)) return;
+  if (!bus_.registerObject(mprisObjectPath(), this, QDBusConnection::ExportAdaptors)) return;
   follow();
   requestName(wantedName());
 }
 
 MprisService::~MprisService() {
-  bus_.unregisterObject(objectPath());
+  bus_.unregisterObject(mprisObjectPath());
   for (const QString& name : {wantedName(), nameOfInstance()})
     bus_.send(callBus("ReleaseName", name));
 }
@@ -74,11 +76,13 @@ void MprisService::requestName(const QString& name) {
 }
 
 void MprisService::follow() {
-  for (const auto changed : {&PlaybackState::titleChanged, &PlaybackState::isLoadedChanged,
-                             &PlaybackState::isPausedChanged, &PlaybackState::isFullscreenChanged,
-                             &PlaybackState::durationChanged, &PlaybackState::volumeChanged,
-                             &PlaybackState::speedChanged, &PlaybackState::isLoopingChanged,
-                             &PlaybackState::queueChanged, &PlaybackState::lastURLChanged})
+  for (const auto changed :
+       {&PlaybackState::titleChanged, &PlaybackState::isLoadedChanged,
+        &PlaybackState::isPausedChanged, &PlaybackState::isFullscreenChanged,
+        &PlaybackState::durationChanged, &PlaybackState::volumeChanged,
+        &PlaybackState::speedChanged, &PlaybackState::isLoopingChanged,
+        &PlaybackState::isRepeatingAllChanged, &PlaybackState::isShuffledChanged,
+        &PlaybackState::queueChanged, &PlaybackState::lastURLChanged})
     connect(&playback_, changed, this, &MprisService::schedule);
   connect(&playback_, &PlaybackModel::seeked, player_, &MprisPlayer::announceSeek);
 }
@@ -86,12 +90,13 @@ void MprisService::follow() {
 void MprisService::schedule() {
   if (scheduled_) return;
   scheduled_ = true;
-  const auto announceBoth = [this] {
+  const auto announceAll = [this] {
     scheduled_ = false;
     announce(*root_, rootTold_);
     announce(*player_, playerTold_);
+    tracks_->announce();
   };
-  QMetaObject::invokeMethod(this, announceBoth, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(this, announceAll, Qt::QueuedConnection);
 }
 
 void MprisService::announce(const QDBusAbstractAdaptor& adaptor, QVariantMap& last) {
@@ -101,9 +106,9 @@ void MprisService::announce(const QDBusAbstractAdaptor& adaptor, QVariantMap& la
   });
   if (changed.isEmpty()) return;
   last.insert(changed);
-  QDBusMessage signal =
-      QDBusMessage::createSignal(objectPath(), QStringLiteral("org.freedesktop.DBus.Properties"),
-                                 QStringLiteral("PropertiesChanged"));
+  QDBusMessage signal = QDBusMessage::createSignal(
+      mprisObjectPath(), QStringLiteral("org.freedesktop.DBus.Properties"),
+      QStringLiteral("PropertiesChanged"));
   signal << MprisProperties::interfaceOf(adaptor) << changed << QStringList();
   bus_.send(signal);
 }

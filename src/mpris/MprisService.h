@@ -11,6 +11,7 @@ namespace tromelo {
 
 class MprisPlayer;
 class MprisRoot;
+class MprisTrackList;
 class PlaybackModel;
 
 /// What the desktop's media controls ask of the program around the model. All are set.
@@ -40,6 +41,7 @@ class MprisService : public QObject {
   const MprisShell shell_;
   MprisRoot* root_;      // owned as children
   MprisPlayer* player_;  //
+  MprisTrackList* tracks_;
   QVariantMap rootTold_;
   QVariantMap playerTold_;
   bool scheduled_ = false;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/FilePath.h"
 #include "playback/PlaybackState.h"
 
 namespace tromelo {
@@ -12,6 +13,8 @@ namespace {
 constexpr double kMicroseconds = 1e6;     // in a second
 constexpr double kLongestSeconds = 9e12;  // that a number of microseconds can hold
 constexpr double kFullVolume = 100;
+constexpr qsizetype kToldBefore = 50;  // tracks before the one that plays
+constexpr qsizetype kTold = 200;       // tracks
 
 }  // namespace
 
@@ -21,16 +24,46 @@ QString playbackStatus(const PlaybackState& state) {
 }
 
 QString loopStatus(const PlaybackState& state) {
-  return state.isLooping() ? QStringLiteral("Track") : QStringLiteral("None");
+  if (state.isLooping()) return QStringLiteral("Track");
+  return state.isRepeatingAll() ? QStringLiteral("Playlist") : QStringLiteral("None");
+}
+
+QString mprisObjectPath() { return QStringLiteral("/org/mpris/MediaPlayer2"); }
+
+QDBusObjectPath noTrack() {
+  return QDBusObjectPath(QStringLiteral("/org/mpris/MediaPlayer2/TrackList/NoTrack"));
+}
+
+QDBusObjectPath trackId(qint64 entry) {
+  return QDBusObjectPath(QStringLiteral("/org/tromelo/Tromelo/track/%1").arg(entry));
 }
 
 QDBusObjectPath trackId(const PlaybackState& state) {
   const PlayQueue queue = state.queue();
   const auto current = currentIndex(queue);
-  if (!state.isLoaded() || !current || queue[*current].entry < 0)
-    return QDBusObjectPath(QStringLiteral("/org/mpris/MediaPlayer2/TrackList/NoTrack"));
-  return QDBusObjectPath(
-      QStringLiteral("/org/tromelo/Tromelo/track/%1").arg(queue[*current].entry));
+  if (!state.isLoaded() || !current || queue[*current].entry < 0) return noTrack();
+  return trackId(queue[*current].entry);
+}
+
+QList<QDBusObjectPath> trackIds(const PlayQueue& queue) {
+  QList<QDBusObjectPath> ids;
+  for (const QueueItem& item : queue) ids.append(trackId(item.entry));
+  return ids;
+}
+
+std::optional<qsizetype> trackIndex(const PlayQueue& queue, const QDBusObjectPath& track) {
+  bool isNumber = false;
+  const QString name = track.path();
+  const qint64 entry = QStringView(name).sliced(name.lastIndexOf(u'/') + 1).toLongLong(&isNumber);
+  if (!isNumber || entry < 0 || track != trackId(entry)) return {};
+  const auto item = std::ranges::find(queue, entry, &QueueItem::entry);
+  if (item == queue.end()) return {};
+  return item - queue.begin();
+}
+
+PlayQueue toldTracks(const PlayQueue& queue) {
+  const qsizetype first = std::max<qsizetype>(currentIndex(queue).value_or(0) - kToldBefore, 0);
+  return queue.sliced(first, std::min(queue.size() - first, kTold));
 }
 
 QVariantMap trackMetadata(const PlaybackState& state) {
@@ -44,6 +77,20 @@ QVariantMap trackMetadata(const PlaybackState& state) {
   if (!state.lastURL().isEmpty())
     told.insert(QStringLiteral("xesam:url"), state.lastURL().toString(QUrl::FullyEncoded));
   return told;
+}
+
+QVariantMap trackMetadata(const PlaybackState& state, const QueueItem& item) {
+  const QDBusObjectPath id = trackId(item.entry);
+  if (id == trackId(state)) return trackMetadata(state);
+  return {{QStringLiteral("mpris:trackid"), QVariant::fromValue(id)},
+          {QStringLiteral("xesam:title"), item.title},
+          {QStringLiteral("xesam:url"), fileUrlFromPath(item.file).toString(QUrl::FullyEncoded)}};
+}
+
+void refuseUri(QDBusConnection bus, const QDBusMessage& message) {
+  message.setDelayedReply(true);
+  bus.send(message.createErrorReply(QDBusError::NotSupported,
+                                    QStringLiteral("Tromelo plays local files only.")));
 }
 
 bool canSeek(const PlaybackState& state) { return state.isLoaded() && state.duration() > 0; }

@@ -21,6 +21,8 @@ class Desktop : public QObject {
     bus_.connect({}, kPath, kProperties, "PropertiesChanged", this,
                  SLOT(propertiesChanged(QString, QVariantMap, QStringList)));
     bus_.connect({}, kPath, kPlayer, "Seeked", this, SLOT(seeked(qlonglong)));
+    for (const char* signal : {"TrackListReplaced", "TrackAdded", "TrackRemoved"})
+      bus_.connect({}, kPath, kTrackList, signal, this, SLOT(tracksChanged(QDBusMessage)));
   }
   QDBusConnection connection(const QString& name) { return daemon_.connect(name); }
   QDBusMessage call(const QString& interface, const QString& method,
@@ -32,8 +34,8 @@ class Desktop : public QObject {
     const QDBusPendingCall pending = bus_.asyncCall(message);
     return waitFor([&pending] { return pending.isFinished(); }) ? pending.reply() : QDBusMessage();
   }
-  QVariantMap properties() {
-    return QDBusReply<QVariantMap>(call(kProperties, "GetAll", {kPlayer})).value();
+  QVariantMap properties(const QString& interface = kPlayer) {
+    return QDBusReply<QVariantMap>(call(kProperties, "GetAll", {interface})).value();
   }
   QDBusMessage set(const QString& name, const QVariant& value) {
     return call(kProperties, "Set", {kPlayer, name, QVariant::fromValue(QDBusVariant(value))});
@@ -42,16 +44,19 @@ class Desktop : public QObject {
 
   QList<QVariantMap> changes;  // of the player, one for each signal
   QList<qlonglong> seeks;      // microseconds
+  QStringList trackSignals;
 
  private Q_SLOTS:
   void propertiesChanged(const QString& interface, const QVariantMap& changed, const QStringList&) {
     if (interface == kPlayer) changes.append(changed);
   }
   void seeked(qlonglong position) { seeks.append(position); }
+  void tracksChanged(const QDBusMessage& signal) { trackSignals << signal.member(); }
 
  private:
   static constexpr const char* kPath = "/org/mpris/MediaPlayer2";
   static constexpr const char* kPlayer = "org.mpris.MediaPlayer2.Player";
+  static constexpr const char* kTrackList = "org.mpris.MediaPlayer2.TrackList";
   static constexpr const char* kProperties = "org.freedesktop.DBus.Properties";
 
   BusDaemon daemon_;

@@ -143,8 +143,11 @@ TEST_F(MprisOnABus, DoesWhatTheViewsDo) {
            {"Rate", 0.0, {{"set", "pause", "yes"}}},
            {"LoopStatus", "Track", {{"set", "loop-file", "inf"}}},
            {"LoopStatus", "Track", {}},
-           {"LoopStatus", "Playlist", {}},
-           {"LoopStatus", "None", {{"set", "loop-file", "no"}}},
+           {"LoopStatus",
+            "Playlist",
+            {{"set", "loop-file", "no"}, {"set", "loop-playlist", "inf"}}},
+           {"LoopStatus", "None", {{"set", "loop-playlist", "no"}}},
+           {"LoopStatus", "All", {}},
        })
     EXPECT_EQ(askedBySetting(property, value), sent) << property;
 }
@@ -188,6 +191,53 @@ TEST_F(MprisOnABus, SignalsWhatHasChangedOnceAndJumpsOnly) {
   EXPECT_EQ(desktop_.changes, QList<QVariantMap>({{{"PlaybackStatus", "Playing"}}}));
   EXPECT_EQ(desktop_.seeks, QList<qlonglong>({0, 28'000'000}));
   EXPECT_EQ(desktop_.properties()["Position"], QVariant(qlonglong(32'000'000)));
+}
+
+TEST_F(MprisOnABus, ShowsTheQueueAndChangesIt) {
+  loadQueue();
+  const QString tracks = "org.mpris.MediaPlayer2.TrackList";
+  const auto path = [](int entry) { return QVariant::fromValue(trackId(qint64(entry))); };
+  const auto shown = [&] {
+    return qdbus_cast<QList<QDBusObjectPath>>(desktop_.properties(tracks)["Tracks"]);
+  };
+  EXPECT_EQ(shown(), QList<QDBusObjectPath>({trackId(7), trackId(9)}));
+  const auto asks = [&](const QString& method, const QVariantList& arguments) {
+    takeRequests();
+    answer_ = desktop_.call(tracks, method, arguments);
+    return takeRequests();
+  };
+  const QVariant none = QVariant::fromValue(noTrack());
+  const auto load = [](const char* place) {
+    return std::vector<std::string>{"loadfile", "/films/b.mkv", "insert-at", place, ""};
+  };
+  for (const auto& [method, arguments, sent] : Table<const char*, QVariantList, Requests>{
+           {"GoTo", {path(9)}, {{"playlist-play-index", "1"}}},
+           {"GoTo", {path(8)}, {}},
+           {"RemoveTrack", {path(9)}, {{"playlist-remove", "1"}}},
+           {"RemoveTrack", {path(7)}, {}},
+           {"AddTrack", {"file:///films/b.mkv", path(7), false}, {load("1")}},
+           {"AddTrack",
+            {"file:///films/b.mkv", none, true},
+            {load("0"), {"playlist-play-index", "0"}}},
+           {"AddTrack", {"https://example.org/b.mkv", none, true}, {}},
+       })
+    EXPECT_EQ(asks(method, arguments), sent) << method;
+  EXPECT_EQ(answer_.errorName(), "org.freedesktop.DBus.Error.NotSupported");
+  asks("GetTracksMetadata",
+       {QVariant::fromValue(QList<QDBusObjectPath>{trackId(9), trackId(8), trackId(7)})});
+  const auto told = qdbus_cast<QList<QVariantMap>>(answer_.arguments().value(0));
+  ASSERT_EQ(told.size(), 2);
+  EXPECT_EQ(told[0]["xesam:url"], "file:///films/9");
+  EXPECT_EQ(told[1]["xesam:title"], "A film");
+
+  ASSERT_TRUE(waitFor([this] { return !desktop_.trackSignals.isEmpty(); }));
+  desktop_.trackSignals.clear();
+  for (const auto& [entries, signal] : Table<std::vector<std::int64_t>, const char*>{
+           {{7, 11, 9}, "TrackAdded"}, {{7, 9}, "TrackRemoved"}, {{9, 7}, "TrackListReplaced"}}) {
+    reportQueue(entries, 7);
+    EXPECT_TRUE(waitFor([&] { return !desktop_.trackSignals.isEmpty(); })) << signal;
+    EXPECT_EQ(std::exchange(desktop_.trackSignals, {}), QStringList{signal});
+  }
 }
 
 TEST_F(MprisOnABus, ASecondPlayerHasANameOfItsOwn) {
