@@ -267,6 +267,10 @@
         <source>Go on where I stopped</source>
         <translation>Dort weiter, wo ich aufgehört habe</translation>
     </message>
+    <message>
+        <source>Go on with the folder&apos;s next video</source>
+        <translation>Mit dem nächsten Video des Ordners weitermachen</translation>
+    </message>
 </context>
 <context>
     <name>GoToPanel</name>
@@ -474,6 +478,28 @@
     </message>
 </context>
 <context>
+    <name>OpenedLists</name>
+    <message numerus="yes">
+        <source>Skipped %1 and %n more, which can&apos;t be played.</source>
+        <translation>
+            <numerusform>%1 und %n weitere Datei wurden übersprungen, da sie sich nicht abspielen lassen.</numerusform>
+            <numerusform>%1 und %n weitere Dateien wurden übersprungen, da sie sich nicht abspielen lassen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Skipped %1, which isn&apos;t there.</source>
+        <translation>%1 wurde übersprungen: Die Datei ist nicht da.</translation>
+    </message>
+    <message>
+        <source>Skipped %1: Tromelo plays local files only.</source>
+        <translation>%1 wurde übersprungen: Tromelo spielt nur lokale Dateien ab.</translation>
+    </message>
+    <message>
+        <source>The list %1 can&apos;t be read.</source>
+        <translation>Die Liste %1 kann nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
     <name>OutputFaults</name>
     <message>
         <source>The picture can&apos;t be drawn with the Vulkan driver of your graphics card; update it to play videos.</source>
@@ -641,6 +667,13 @@
     </message>
 </context>
 <context>
+    <name>QueueButtons</name>
+    <message>
+        <source>Add the Rest of the Folder</source>
+        <translation>Rest des Ordners hinzufügen</translation>
+    </message>
+</context>
+<context>
     <name>QueuePanel</name>
     <message>
         <source>Queue</source>
@@ -664,6 +697,10 @@
     <message>
         <source>Remove from queue</source>
         <translation>Aus der Warteschlange entfernen</translation>
+    </message>
+    <message>
+        <source>%1. Alt+Up and Alt+Down move it, Delete removes it.</source>
+        <translation>%1. Alt+Auf und Alt+Ab verschieben, Entf entfernt.</translation>
     </message>
 </context>
 <context>
@@ -960,6 +997,37 @@
     <message>
         <source>Picture copied</source>
         <translation>Bild kopiert</translation>
+    </message>
+    <message>
+        <source>There is nothing to play in %1.</source>
+        <translation>In %1 ist nichts, das sich abspielen lässt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Added %n videos to queue</source>
+        <translation>
+            <numerusform>%n Video zur Warteschlange hinzugefügt</numerusform>
+            <numerusform>%n Videos zur Warteschlange hinzugefügt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No other video follows in this folder</source>
+        <translation>In diesem Ordner folgt kein weiteres Video</translation>
+    </message>
+    <message>
+        <source>Save Queue</source>
+        <translation>Warteschlange sichern</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>Warteschlange</translation>
+    </message>
+    <message>
+        <source>Queue saved</source>
+        <translation>Warteschlange gesichert</translation>
+    </message>
+    <message>
+        <source>The queue can&apos;t be saved as %1; choose another folder. (%2)</source>
+        <translation>Die Warteschlange kann nicht als %1 gesichert werden; wählen Sie einen anderen Ordner. (%2)</translation>
     </message>
 </context>
 <context>
@@ -1426,6 +1494,66 @@
     <message>
         <source>Menu of all that can be done</source>
         <translation>Menü mit allem, was geht</translation>
+    </message>
+    <message>
+        <source>Shuffle on</source>
+        <translation>Zufällige Reihenfolge ein</translation>
+    </message>
+    <message>
+        <source>Shuffle off</source>
+        <translation>Zufällige Reihenfolge aus</translation>
+    </message>
+    <message>
+        <source>Repeat all on</source>
+        <translation>Alle wiederholen ein</translation>
+    </message>
+    <message>
+        <source>Repeat all off</source>
+        <translation>Alle wiederholen aus</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>Shuffle what is up next</source>
+        <translation>Nächste in zufälliger Reihenfolge</translation>
+    </message>
+    <message>
+        <source>Shuffle (Z)</source>
+        <translation>Zufällige Reihenfolge (Z)</translation>
+    </message>
+    <message>
+        <source>A</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>Repeat all of the queue</source>
+        <translation>Ganze Warteschlange wiederholen</translation>
+    </message>
+    <message>
+        <source>Repeat all (A)</source>
+        <translation>Alle wiederholen (A)</translation>
+    </message>
+    <message>
+        <source>⌘S</source>
+        <translation>⌘S</translation>
+    </message>
+    <message>
+        <source>Save the queue</source>
+        <translation>Warteschlange sichern</translation>
+    </message>
+    <message>
+        <source>Save queue… (⌘S)</source>
+        <translation>Warteschlange sichern … (⌘S)</translation>
+    </message>
+    <message>
+        <source>Tab, ⌥↑ / ⌥↓</source>
+        <translation>Tab, ⌥↑ / ⌥↓</translation>
+    </message>
+    <message>
+        <source>Choose a row, move it in the queue</source>
+        <translation>Zeile wählen, in der Warteschlange verschieben</translation>
     </message>
 </context>
 <context>
