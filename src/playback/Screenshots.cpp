@@ -12,7 +12,7 @@
 #include "engine/MpvEngine.h"
 #include "platform/FilePath.h"
 #include "platform/MainThread.h"
-#include "playback/PictureFile.h"
+#include "playback/ScreenshotFile.h"
 
 namespace tromelo {
 
@@ -123,8 +123,8 @@ void Screenshots::finish(const std::shared_ptr<Job>& job, bool hasPicture, bool 
     if (hasPicture && job->made) result.second = contentOf(job->picture());
     if (hasPicture && job->kept) {
       const std::string signal = hasSignal && holdsHdr(job->signal()) ? job->signal() : "";
-      result.first = keepPictures(job->picture(), signal, job->folder,
-                                  pictureName(job->moment.film, job->moment.seconds));
+      result.first = keepScreenshots(job->picture(), signal, job->folder,
+                                  screenshotName(job->moment.film, job->moment.seconds));
     }
     removeFile(job->picture());
     removeFile(job->signal());

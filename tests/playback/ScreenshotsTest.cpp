@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "RealPlayback.h"
-#include "playback/PictureFile.h"
+#include "playback/ScreenshotFile.h"
 #include "support/Files.h"
 #include "support/Table.h"
 
@@ -11,7 +11,7 @@ namespace tromelo::testing {
 
 namespace fs = std::filesystem;
 
-struct Pictures : RealPlayback {
+struct Shots : RealPlayback {
   std::string folder = directory_.filePath("Pictures/of films").toStdString();
   Screenshots screenshots{model_.engine(), folder};
   std::vector<QUrl> kept;
@@ -23,7 +23,7 @@ struct Pictures : RealPlayback {
   bool isThere(const char* name) const { return fs::file_size(folder + "/" + name) > 100; }
 };
 
-TEST_F(Pictures, AreNamedByFilmAndTimeAndNeverReplaceOneAnother) {
+TEST_F(Shots, AreNamedByFilmAndTimeAndNeverReplaceOneAnother) {
   ASSERT_TRUE(plays(clip("sample.mp4")));
   ASSERT_TRUE(pauses());
   for (int i = 0; i < 3; ++i) keep("Film", 3723.9);
@@ -40,7 +40,7 @@ TEST_F(Pictures, AreNamedByFilmAndTimeAndNeverReplaceOneAnother) {
   EXPECT_TRUE(copied.startsWith("\x89PNG"));
 }
 
-TEST_F(Pictures, ThatCannotBeKeptAreToldOfAndTheNextIsMade) {
+TEST_F(Shots, ThatCannotBeKeptAreToldOfAndTheNextIsMade) {
   ASSERT_TRUE(plays(clip("sample.mp4")));
   ASSERT_TRUE(pauses());
   writeFile(directory_.filePath("Pictures"), "a file");
@@ -53,15 +53,15 @@ TEST_F(Pictures, ThatCannotBeKeptAreToldOfAndTheNextIsMade) {
   EXPECT_TRUE(isThere("Film – 0.00.01.png"));
 }
 
-TEST(PictureName, IsOneThatAFileMayHave) {
+TEST(ScreenshotName, IsOneThatAFileMayHave) {
   for (const auto& [film, seconds, name] : Table<QString, double, std::string>{
            {"Film", 0, "Film – 0.00.00"},
            {"../a/b", 36061, "a b – 10.01.01"},
            {"...", -5, "0.00.00"},
            {"new\nline", std::nan(""), "new line – 0.00.00"},
        })
-    EXPECT_EQ(pictureName(film, seconds), name);
-  EXPECT_LT(pictureName(QString(4000, u'\u20ac'), 1).size(), 240u);
+    EXPECT_EQ(screenshotName(film, seconds), name);
+  EXPECT_LT(screenshotName(QString(4000, u'\u20ac'), 1).size(), 240u);
 }
 
 }  // namespace tromelo::testing

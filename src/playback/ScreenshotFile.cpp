@@ -1,4 +1,4 @@
-#include "playback/PictureFile.h"
+#include "playback/ScreenshotFile.h"
 
 #include <fcntl.h>
 #include <stdio.h>
@@ -40,7 +40,7 @@ bool isTaken(const std::string& path) { return access(path.c_str(), F_OK) == 0; 
 
 }  // namespace
 
-std::string pictureName(const QString& film, double seconds) {
+std::string screenshotName(const QString& film, double seconds) {
   QString name = film;
   for (QChar& character : name)
     if (character == u'/' || character.category() == QChar::Other_Control) character = u' ';
@@ -52,7 +52,7 @@ std::string pictureName(const QString& film, double seconds) {
   return text.empty() ? time : text + " – " + time;
 }
 
-std::string keepPictures(const std::string& picture, const std::string& signal,
+std::string keepScreenshots(const std::string& picture, const std::string& signal,
                          const std::string& folder, const std::string& name) {
   for (int number = 1; number <= kMostOfAName; ++number) {
     const std::string stem =
