@@ -294,6 +294,7 @@ void Program::offerPictures() {
   for (const auto changed : {&PlaybackState::isLoadedChanged, &PlaybackState::videoSizeChanged,
                              &PlaybackState::durationChanged, &PlaybackState::lastURLChanged})
     QObject::connect(&playback, changed, &pictures_, tell);
+  QObject::connect(&films_, &FilmMemory::forgotAll, &pictures_, &PictureSource::forgetAll);
   const auto keep = [this, &playback] { pictures_.setKeepsOnDisk(!playback.isPrivate()); };
   QObject::connect(&playback, &PlaybackState::isPrivateChanged, &pictures_, keep);
   keep();

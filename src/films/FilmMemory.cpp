@@ -112,6 +112,7 @@ void FilmMemory::forget(const std::string& path) {
 
 void FilmMemory::forgetAll() {
   write([](FilmStore& store) { return store.forgetAll(); });
+  Q_EMIT forgotAll();
 }
 
 void FilmMemory::findProgress(const std::vector<std::string>& paths, QObject* asker,

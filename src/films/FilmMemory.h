@@ -61,6 +61,8 @@ class FilmMemory : public QObject {
  Q_SIGNALS:
   /// Something else is remembered than before.
   void changed();
+  /// The person wants nothing kept of any film.
+  void forgotAll();
 
  private:
   template <typename T, typename Read>

@@ -67,6 +67,12 @@ void PictureFiles::write(const QString& name, const QImage& picture) {
   if (!isCounted_ || size_ > limit_) makeRoom();
 }
 
+void PictureFiles::removeAll() {
+  const std::scoped_lock lock(mutex_);
+  QDir(folder_).removeRecursively();
+  size_ = 0;
+}
+
 void PictureFiles::makeRoom() {
   auto files = filesIn(folder_);
   size_ = 0;

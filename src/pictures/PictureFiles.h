@@ -19,6 +19,7 @@ class PictureFiles {
   QImage read(const QString& name);
   /// What can't be kept is let go.
   void write(const QString& name, const QImage& picture);
+  void removeAll();
 
  private:
   QString pathOf(const QString& name) const;

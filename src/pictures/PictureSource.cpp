@@ -1,6 +1,5 @@
 #include "pictures/PictureSource.h"
 
-#include <QPointer>
 #include <algorithm>
 #include <cmath>
 #include <thread>
@@ -8,7 +7,6 @@
 
 #include "films/FilmIdentity.h"
 #include "pictures/PictureFiles.h"
-#include "platform/MainThread.h"
 
 namespace tromelo {
 
@@ -17,17 +15,6 @@ namespace {
 constexpr int kMemoryLimit = 48 * 1024 * 1024;  // bytes
 constexpr double kMostOfOneFilm = 600;          // pictures: no slider is longer in points
 constexpr double kNearest = 0.5;                // seconds between two of them, at least
-
-/// Does something that may wait for a disk, then something with what came of it, if `owner` is
-/// still there. Detached: neither what comes next nor our end waits for it.
-template <typename Work, typename Done>
-void doElsewhere(PictureSource* owner, Work work, Done done) {
-  std::thread([owner = QPointer(owner), work, done] {
-    postToMainThread([owner, done, found = work()] {
-      if (owner) done(found);
-    });
-  }).detach();
-}
 
 }  // namespace
 
@@ -95,26 +82,22 @@ void PictureSource::goOn() {
 
 /// Beside the first picture, which is there sooner.
 void PictureSource::identify() {
-  doElsewhere(
-      this, [path = film_.toStdString()] { return filmIdentity(path); },
-      [this, turn = turn_](const std::optional<FilmIdentity>& found) {
-        if (found && turn == turn_) identity_ = found->text();
-      });
+  disk_.run([path = film_.toStdString()] { return filmIdentity(path); },
+            [this, turn = turn_](const std::optional<FilmIdentity>& found) {
+              if (found && turn == turn_) identity_ = found->text();
+            });
 }
 
 void PictureSource::lookOnDisk(const Moment& moment) {
-  doElsewhere(
-      this,
-      [files = files_, name = QString::fromLatin1(identity_) + u'/' + nameOf(moment)] {
-        return files->read(name);
-      },
-      [this, moment, turn = turn_](const QImage& found) {
-        if (turn != turn_) return;
-        if (found.isNull()) return make(moment);
-        isBusy_ = false;
-        take(moment, found);
-        goOn();
-      });
+  disk_.run([files = files_, name = QString::fromLatin1(identity_) + u'/' +
+                                    nameOf(moment)] { return files->read(name); },
+            [this, moment, turn = turn_](const QImage& found) {
+              if (turn != turn_) return;
+              if (found.isNull()) return make(moment);
+              isBusy_ = false;
+              take(moment, found);
+              goOn();
+            });
 }
 
 void PictureSource::make(const Moment& moment) {
@@ -143,6 +126,11 @@ void PictureSource::keep(const QString& name, const QImage& picture) {
   std::thread([files = files_, path = QString::fromLatin1(identity_) + u'/' + name, picture] {
     files->write(path, picture);
   }).detach();
+}
+
+void PictureSource::forgetAll() {
+  memory_.clear();
+  std::thread([files = files_] { files->removeAll(); }).detach();
 }
 
 }  // namespace tromelo

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "pictures/PictureProcess.h"
+#include "platform/Background.h"
 
 namespace tromelo {
 
@@ -40,6 +41,8 @@ class PictureSource : public QObject {
   /// Asks for a picture of about this moment, to fit `room`, which is in pixels. Of several
   /// requests only the newest is answered, besides one that is being worked on already.
   void ask(double seconds, QSize room);
+  /// Of all films, also those on the disk.
+  void forgetAll();
   /// Nothing is wanted any more.
   void stopAsking() { wanted_.reset(); }
 
@@ -71,6 +74,7 @@ class PictureSource : public QObject {
   const Parts parts_;
   const std::shared_ptr<PictureFiles> files_;  // threads that wait for a disk share it
   PictureProcess process_;
+  Background disk_;
   QCache<QString, QImage> memory_;   // by the picture's name; costs are bytes
   QHash<QByteArray, int> failures_;  // of the process, by the film's path
   QByteArray film_;                  // its path

@@ -46,7 +46,7 @@ TEST_F(PictureFilesTest, KeepNoMoreThanTheLimitAndLetTheOldestGo) {
   EXPECT_FALSE(files.read(QStringLiteral("film/39")).isNull());
 }
 
-TEST_F(PictureFilesTest, AreThereWholeOrNotAtAll) {
+TEST_F(PictureFilesTest, AreThereWholeOrNotAtAllUntilTheyAreForgotten) {
   PictureFiles files(folder_);
   const auto name = QStringLiteral("film/0");
   files.write(name, picture());
@@ -64,6 +64,9 @@ TEST_F(PictureFilesTest, AreThereWholeOrNotAtAll) {
   EXPECT_FALSE(files.read(name).isNull());
   EXPECT_EQ(QFile::permissions(folder_) & (QFile::ReadGroup | QFile::ReadOther),
             QFile::Permissions());
+  files.removeAll();
+  EXPECT_TRUE(files.read(name).isNull());
+  EXPECT_EQ(total(), 0);
 }
 
 TEST_F(PictureFilesTest, DoWithoutAFolder) {
