@@ -1770,6 +1770,18 @@
         <source>Stop and close player</source>
         <translation>Stoppen und schließen</translation>
     </message>
+    <message>
+        <source>Shuffle</source>
+        <translation>Zufällige Reihenfolge</translation>
+    </message>
+    <message>
+        <source>Repeat all</source>
+        <translation>Alle wiederholen</translation>
+    </message>
+    <message>
+        <source>Save the queue…</source>
+        <translation>Warteschlange sichern…</translation>
+    </message>
 </context>
 <context>
     <name>tromelo::PlayerSettings</name>

@@ -132,6 +132,12 @@ void subtitleDelay(MenuEntry& entry, Playback playback) {
 
 void fullScreen(MenuEntry& entry, Playback playback) { setSwitch(entry, playback.isFullscreen()); }
 
+void shuffled(MenuEntry& entry, Playback playback) { setSwitch(entry, playback.isShuffled()); }
+
+void repeatingAll(MenuEntry& entry, Playback playback) {
+  setSwitch(entry, playback.isRepeatingAll());
+}
+
 std::vector<Row> playbackRows() {
   return {
       {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Play"), pressing(Qt::Key_Space), playing},
@@ -154,6 +160,10 @@ std::vector<Row> playbackRows() {
       {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Queue"), typing("q")},
       {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Next in queue"), typing("n"), next},
       {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Previous in queue"), typing("p"), previous},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Shuffle"), typing("z"), shuffled},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Repeat all"), typing("a"), repeatingAll},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Save the queue…"),
+       typingWith(Qt::ControlModifier, "s")},
       {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Open videos…"), typing("o")},
   };
 }
