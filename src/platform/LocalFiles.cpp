@@ -3,10 +3,9 @@
 #include <gio/gio.h>
 
 #include <algorithm>
-#include <thread>
+#include <memory>
 
 #include "platform/FilePath.h"
-#include "platform/MainThread.h"
 
 namespace tromelo {
 
@@ -26,12 +25,9 @@ void LocalFiles::find(const QList<QUrl>& addresses, const Listener& listener) {
     files.removeAll(QUrl());
     return files;
   };
-  // Detached: neither what comes next nor our end waits for it.
-  std::thread([lookUp, listener, wanted = addresses.size(), owner = std::weak_ptr(isThere_)] {
-    postToMainThread([files = lookUp(), listener, wanted, owner] {
-      if (!owner.expired()) listener(files, files.size() == wanted);
-    });
-  }).detach();
+  asking_.run(lookUp, [listener, wanted = addresses.size()](const QList<QUrl>& files) {
+    listener(files, files.size() == wanted);
+  });
 }
 
 }  // namespace tromelo

@@ -3,8 +3,9 @@
 #include <QList>
 #include <QUrl>
 #include <functional>
-#include <memory>
 #include <string>
+
+#include "platform/Background.h"
 
 namespace tromelo {
 
@@ -28,7 +29,7 @@ class LocalFiles {
 
  private:
   PathOf pathOf_;
-  std::shared_ptr<const bool> isThere_ = std::make_shared<bool>();
+  Background asking_;
 };
 
 }  // namespace tromelo

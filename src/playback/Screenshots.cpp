@@ -6,12 +6,10 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <thread>
 #include <utility>
 
 #include "engine/MpvEngine.h"
 #include "platform/FilePath.h"
-#include "platform/MainThread.h"
 #include "playback/ScreenshotFile.h"
 
 namespace tromelo {
@@ -61,16 +59,6 @@ void removeFile(const std::string& path) {
 Screenshots::Screenshots(MpvEngine& engine, std::string folder)
     : engine_(engine), folder_(std::move(folder)) {}
 
-/// Does `work` on a thread of its own, detached: a folder on the network may never answer.
-template <typename Work, typename Then>
-void Screenshots::elsewhere(Work work, Then then) {
-  std::thread([work, then, isThere = std::weak_ptr(isThere_)] {
-    postToMainThread([then, isThere, result = work()] {
-      if (!isThere.expired()) then(result);
-    });
-  }).detach();
-}
-
 void Screenshots::keep(What what, const Moment& moment, const Kept& kept) {
   add(std::make_shared<Job>(Job{what, moment, folder_, kept, {}}));
 }
@@ -92,7 +80,7 @@ void Screenshots::begin() {
     fs::create_directories(folder, error);
     return !error;
   };
-  elsewhere(makeFolder, [this, job](bool isThere) {
+  disk_.run(makeFolder, [this, job](bool isThere) {
     if (!isThere) return finish(job, false, false);
     shoot(job, job->picture(), [this, job](bool succeeded) {
       const bool wantsSignal = job->moment.isHigh && job->what != What::asShown;
@@ -124,13 +112,13 @@ void Screenshots::finish(const std::shared_ptr<Job>& job, bool hasPicture, bool 
     if (hasPicture && job->kept) {
       const std::string signal = hasSignal && holdsHdr(job->signal()) ? job->signal() : "";
       result.first = keepScreenshots(job->picture(), signal, job->folder,
-                                  screenshotName(job->moment.film, job->moment.seconds));
+                                     screenshotName(job->moment.film, job->moment.seconds));
     }
     removeFile(job->picture());
     removeFile(job->signal());
     return result;
   };
-  elsewhere(settle, [this, job](const std::pair<std::string, QByteArray>& result) {
+  disk_.run(settle, [this, job](const std::pair<std::string, QByteArray>& result) {
     jobs_.pop_front();
     if (!jobs_.empty()) begin();
     if (job->kept) job->kept(fileUrlFromPath(result.first));

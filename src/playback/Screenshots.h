@@ -8,6 +8,8 @@
 #include <memory>
 #include <string>
 
+#include "platform/Background.h"
+
 namespace tromelo {
 
 class MpvEngine;
@@ -50,13 +52,11 @@ class Screenshots {
              const std::function<void(bool succeeded)>& then);
   void shootSignal(const std::shared_ptr<Job>& job);
   void finish(const std::shared_ptr<Job>& job, bool hasPicture, bool hasSignal);
-  template <typename Work, typename Then>
-  void elsewhere(Work work, Then then);
 
   MpvEngine& engine_;
   std::string folder_;
   std::deque<std::shared_ptr<Job>> jobs_;  // the first is being made
-  std::shared_ptr<const bool> isThere_ = std::make_shared<bool>();
+  Background disk_;
 };
 
 }  // namespace tromelo
