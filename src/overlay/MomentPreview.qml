@@ -16,6 +16,8 @@ GlassSurface {
     // All that the floating views have.
     required property size room
     property PictureSource pictures: null
+    // Something is open where it would be.
+    property bool isCovered: false
 
     readonly property point corner: PopoverFrame.placeAbove(Qt.rect(bar.positionX + bar.position.pointedX, bar.y, 0, bar.height), Qt.size(width, height), room)
 
@@ -40,7 +42,7 @@ GlassSurface {
         width: implicitWidth
         height: implicitHeight
         source: preview.pictures
-        isWanted: preview.bar.position.isPointedAt
+        isWanted: preview.bar.position.isPointedAt && !preview.isCovered
         moment: preview.bar.position.pointedValue
         room: PopoverFrame.pictureWithin(preview.bar.y, Theme.previewSize)
         radius: Theme.previewRadius - Theme.previewPadding

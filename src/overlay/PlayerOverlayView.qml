@@ -107,6 +107,7 @@ PlayerOverlayItem {
             bar: controlBar
             room: Qt.size(overlay.width, overlay.height)
             pictures: overlay.pictures
+            isCovered: overlay.chrome.panel >= 0 || overlay.chrome.showsSpeeds
         }
     }
 

@@ -64,6 +64,10 @@ TEST_F(MomentPreviewTest, ShowsTheMomentUnderThePointerOnceThereIsAPicture) {
   move({400, 20});
   EXPECT_FALSE(isShown("momentPreview"));
   ASSERT_TRUE(pointAt(0.75));
+  player().chrome().toggle(PlayerPanel::queue);
+  EXPECT_FALSE(isShown("momentPreview")) << "it would be behind the panel";
+  player().chrome().close(PlayerPanel::queue);
+  ASSERT_TRUE(pointAt(0.75));
   pictures_.setFilm({}, 0);
   EXPECT_FALSE(isShown("momentPreview")) << "of the film before";
 }
