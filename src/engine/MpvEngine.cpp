@@ -21,6 +21,16 @@ struct UncheckedHandle {
   mpv_handle* pointer = nullptr;
 };
 
+/// Half of what libmpv has room for: it sets a place aside for each reply, and drops the events
+/// that then find none.
+constexpr int kMostUnanswered = 500;
+
+bool isReply(const mpv_event& event) {
+  return event.event_id == MPV_EVENT_COMMAND_REPLY ||
+         event.event_id == MPV_EVENT_SET_PROPERTY_REPLY ||
+         event.event_id == MPV_EVENT_GET_PROPERTY_REPLY;
+}
+
 constexpr unsigned long kOldestClientApi = MPV_MAKE_VERSION(2, 3);
 
 /// What is wrong with the library that the program found, if anything is.
@@ -112,6 +122,7 @@ void MpvEngine::terminate(std::function<void()> completion) {
   }
   const UncheckedHandle handle{std::exchange(handle_, nullptr)};
   waiting_.clear();
+  unanswered_ = 0;
   refusals_.clear();
   reads_.clear();
   outcomes_.clear();
@@ -175,9 +186,10 @@ void MpvEngine::send(MpvRequest request) {
 }
 
 void MpvEngine::sendWaiting() {
-  while (handle_ && !waiting_.empty()) {
+  while (handle_ && !waiting_.empty() && unanswered_ < kMostUnanswered) {
     const int code = trySend(waiting_.front());
     if (code == MPV_ERROR_EVENT_QUEUE_FULL) return;
+    if (code >= 0) ++unanswered_;
     if (const auto* command = std::get_if<MpvCommand>(&waiting_.front()))
       noteRefusal(*command, code);
     waiting_.pop_front();
@@ -219,6 +231,7 @@ void MpvEngine::drainEvents() {
   while (handle_) {
     const mpv_event* received = api_->waitEvent(handle_, 0);
     if (!received || received->event_id == MPV_EVENT_NONE) break;
+    if (isReply(*received)) --unanswered_;
     if (received->event_id == MPV_EVENT_GET_PROPERTY_REPLY) answerRead(*received);
     if (received->event_id == MPV_EVENT_COMMAND_REPLY &&
         tellOutcome(received->reply_userdata, mpvErrorText(*api_, received->error)))

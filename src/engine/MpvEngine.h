@@ -92,9 +92,10 @@ class MpvEngine {
   std::shared_ptr<WakeupTarget> wakeupTarget_;
   std::shared_ptr<PreloadHook> preload_;
   std::string logFile_;  // a path's bytes
-  // libmpv takes no more requests than it has room for replies, and refuses the rest; these wait
-  // until it has answered some.
+  // libmpv takes no more requests than it has room for replies, and needs some of it for its
+  // events; these wait until it has answered some.
   std::deque<MpvRequest> waiting_;
+  int unanswered_ = 0;
   // By command, of those that libmpv refused on the spot; reported as its later replies are.
   struct Refusal {
     std::uint64_t reply;

@@ -102,6 +102,19 @@ TEST_F(EngineEvents, RequestsBeyondTheEnginesRoomWaitForIt) {
   EXPECT_EQ(mpv.requests[4][1], "pause");
 }
 
+TEST_F(EngineEvents, ThousandsOfRequestsLeaveTheEngineRoomForItsEvents) {
+  constexpr std::size_t kRequests = 5000;
+  constexpr std::size_t kEnginesRoom = 1000;  // libmpv's, for replies and events
+  mpv.room = kRequests;
+  for (std::size_t i = 0; i < kRequests; ++i) engine->command({"loadfile", std::to_string(i)});
+  for (std::size_t answered = 0; answered < kRequests; engine->drainEvents()) {
+    ASSERT_GT(mpv.requests.size(), answered) << "nothing more is asked";
+    EXPECT_LT(mpv.requests.size() - answered, kEnginesRoom - 100);
+    for (; answered < mpv.requests.size(); ++answered) mpv.queue(MPV_EVENT_COMMAND_REPLY);
+  }
+  EXPECT_EQ(mpv.requests.back()[1], std::to_string(kRequests - 1));
+}
+
 TEST_F(EngineEvents, ACommandThatIsRefusedOnTheSpotFailsLater) {
   mpv.refusal = MPV_ERROR_INVALID_PARAMETER;
   engine->command({"no-such-command"});
