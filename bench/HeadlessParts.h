@@ -25,6 +25,7 @@ class NoPlayer final : public PlayerPresenting {
   void close() override {}
   void showLibrary() override {}
   void showToast(const QString&) override {}
+  void showKeptPicture(const QUrl&) override {}
 };
 
 class NoChooser final : public FileChooser {

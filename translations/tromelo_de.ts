@@ -609,6 +609,10 @@
         <source>Start Over</source>
         <translation>Von vorn</translation>
     </message>
+    <message>
+        <source>Show in Finder</source>
+        <translation>Im Finder anzeigen</translation>
+    </message>
 </context>
 <context>
     <name>PlayerPanels</name>
@@ -977,10 +981,6 @@
     <message>
         <source>The picture couldn&apos;t be kept; look whether there is room in your pictures folder.</source>
         <translation>Das Bild konnte nicht gesichert werden; sehen Sie nach, ob in Ihrem Bilderordner Platz ist.</translation>
-    </message>
-    <message>
-        <source>Picture kept: %1</source>
-        <translation>Bild gesichert: %1</translation>
     </message>
     <message>
         <source>No picture to copy</source>
@@ -1839,6 +1839,10 @@
     <message>
         <source>From the beginning</source>
         <translation>Von vorn</translation>
+    </message>
+    <message>
+        <source>Picture kept: %1</source>
+        <translation>Bild gesichert: %1</translation>
     </message>
 </context>
 <context>

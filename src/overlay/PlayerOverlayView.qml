@@ -30,7 +30,7 @@ PlayerOverlayItem {
     Binding {
         target: overlay.backdrop
         property: "isRead"
-        value: Glass.blurs && (floating.visible || toast.visible || startOver.visible || overlay.chrome.panel >= 0 || overlay.chrome.showsSpeeds)
+        value: Glass.blurs && (floating.visible || toast.visible || startOver.visible || keptPicture.visible || overlay.chrome.panel >= 0 || overlay.chrome.showsSpeeds)
     }
 
     PlayerOverlayInput {
@@ -129,22 +129,28 @@ PlayerOverlayItem {
         chrome: overlay.chrome
     }
 
-    // While a film that has gone on is new: it isn't the chrome's, and goes by itself.
-    PushButton {
+    PlayerOffer {
         id: startOver
 
         objectName: "startOver"
         visible: overlay.chrome.offersStartOver
-        look: Theme.closeButton
-        backdrop: overlay.backdrop
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: toast.y + toast.implicitHeight + Theme.toastGap
+        reason: toast
         symbol: "arrow.counterclockwise"
         text: qsTr("Start Over")
         tip: PlayerActions.tip(PlayerActions.StartOver)
-        tipBelow: true
-        Accessible.name: Wording.withoutKey(tip)
         onClicked: overlay.player.startOver()
+    }
+
+    PlayerOffer {
+        id: keptPicture
+
+        objectName: "keptPicture"
+        visible: overlay.chrome.offersPicture
+        reason: toast
+        symbol: "folder"
+        text: Wording.shown(qsTr("Show in Finder"))
+        tip: text
+        onClicked: overlay.player.showPicture()
     }
 
     Loader {

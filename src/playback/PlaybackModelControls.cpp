@@ -163,10 +163,9 @@ void PlaybackModel::keepPicture(Screenshots::What what) {
       fileUrlFromPath(currentPath_.value_or(title_.get().toStdString())));
   screenshots_.keep(
       what, {film, elapsed_, dynamicRangeOf(facts_).isHigh()}, [this](const QUrl& picture) {
-        player().showToast(picture.isEmpty()
-                               ? tr("The picture couldn't be kept; look whether "
-                                    "there is room in your pictures folder.")
-                               : tr("Picture kept: %1").arg(lastPathComponent(picture)));
+        if (!picture.isEmpty()) return player().showKeptPicture(picture);
+        player().showToast(tr(
+            "The picture couldn't be kept; look whether there is room in your pictures folder."));
       });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QUrl>
 
 namespace tromelo {
 
@@ -19,6 +20,8 @@ class PlayerPresenting {
   virtual void close() = 0;
   virtual void showLibrary() = 0;
   virtual void showToast(const QString& text) = 0;
+  /// A picture of the film was kept there.
+  virtual void showKeptPicture(const QUrl& picture) = 0;
 };
 
 }  // namespace tromelo

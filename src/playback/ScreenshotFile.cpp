@@ -53,7 +53,7 @@ std::string screenshotName(const QString& film, double seconds) {
 }
 
 std::string keepScreenshots(const std::string& picture, const std::string& signal,
-                         const std::string& folder, const std::string& name) {
+                            const std::string& folder, const std::string& name) {
   for (int number = 1; number <= kMostOfAName; ++number) {
     const std::string stem =
         folder + "/" + name + (number > 1 ? " (" + std::to_string(number) + ")" : "");

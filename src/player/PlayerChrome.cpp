@@ -30,10 +30,10 @@ void PlayerChrome::setShowsSpeeds(bool shows) {
   Q_EMIT showsSpeedsChanged();
 }
 
-void PlayerChrome::setOffersStartOver(bool offers) {
-  if (offersStartOver_ == offers) return;
-  offersStartOver_ = offers;
-  Q_EMIT offersStartOverChanged();
+void PlayerChrome::setOffer(Offer offer) {
+  if (offer_ == offer) return;
+  offer_ = offer;
+  Q_EMIT offerChanged();
 }
 
 void PlayerChrome::setToast(std::optional<QString> toast) {

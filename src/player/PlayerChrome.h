@@ -21,7 +21,8 @@ class PlayerChrome : public QObject {
   // The list of speeds over the control bar: no panel, but open in place of one.
   Q_PROPERTY(bool showsSpeeds READ showsSpeeds WRITE setShowsSpeeds NOTIFY showsSpeedsChanged)
   // To start the film over that has just gone on where it was left.
-  Q_PROPERTY(bool offersStartOver READ offersStartOver NOTIFY offersStartOverChanged)
+  Q_PROPERTY(bool offersStartOver READ offersStartOver NOTIFY offerChanged)
+  Q_PROPERTY(bool offersPicture READ offersPicture NOTIFY offerChanged)
   Q_PROPERTY(QString toast READ toastText NOTIFY toastChanged)
 
  public:
@@ -41,8 +42,13 @@ class PlayerChrome : public QObject {
   bool showsSpeeds() const { return showsSpeeds_; }
   void setShowsSpeeds(bool shows);
 
-  bool offersStartOver() const { return offersStartOver_; }
-  void setOffersStartOver(bool offers);
+  /// A button that stands below the toast for a while.
+  enum class Offer {
+    none,
+    startOver,    // the film that has gone on
+    showPicture,  // the one that was kept, in its folder
+  };
+  void setOffer(Offer offer);
 
   const std::optional<QString>& toast() const { return toast_; }
   void setToast(std::optional<QString> toast);
@@ -51,26 +57,26 @@ class PlayerChrome : public QObject {
   void showsInfoChanged();
   void panelChanged();
   void showsSpeedsChanged();
-  void offersStartOverChanged();
+  void offerChanged();
   void toastChanged();
 
  private:
+  bool offersStartOver() const { return offer_ == Offer::startOver; }
+  bool offersPicture() const { return offer_ == Offer::showPicture; }
   int panelNumber() const { return panel_ ? static_cast<int>(*panel_) : -1; }
   bool showsShortcuts() const { return panel_ == PlayerPanel::shortcuts; }
   void setShowsShortcuts(bool shows) {
     shows ? setPanel(PlayerPanel::shortcuts) : close(PlayerPanel::shortcuts);
   }
   bool showsMenu() const { return panel_ == PlayerPanel::menu; }
-  void setShowsMenu(bool shows) {
-    shows ? setPanel(PlayerPanel::menu) : close(PlayerPanel::menu);
-  }
+  void setShowsMenu(bool shows) { shows ? setPanel(PlayerPanel::menu) : close(PlayerPanel::menu); }
   static QList<BarPanel> barPanels() { return tromelo::barPanels(); }
   QString toastText() const { return toast_.value_or(QString()); }
 
   bool showsInfo_ = false;
   std::optional<PlayerPanel> panel_;
   bool showsSpeeds_ = false;
-  bool offersStartOver_ = false;
+  Offer offer_ = Offer::none;
   std::optional<QString> toast_;
 };
 

@@ -23,12 +23,13 @@ PlayerWindowController::PlayerWindowController(PlaybackModel& playback, WindowSy
   connect(&playback_, &PlaybackModel::isLoadedChanged, this, [this] {
     isStopping_ = false;
     resumedAt_.reset();
-    chrome_.setOffersStartOver(false);
+    chrome_.setOffer(PlayerChrome::Offer::none);
     if (!playback_.isLoaded()) endReplacing();
     Q_EMIT playsWithoutWindowChanged();
   });
   connect(this, &PlayerWindowController::windowStateChanged, this,
           &PlayerWindowController::playsWithoutWindowChanged);
+  connect(&fileManager_, &FileManager::failed, &playback_, &PlaybackModel::tell);
   followState();
 }
 
@@ -212,7 +213,7 @@ void PlayerWindowController::tearDownWindowState() {
   chrome_.setShowsInfo(false);
   chrome_.setPanel(std::nullopt);
   chrome_.setShowsSpeeds(false);
-  chrome_.setOffersStartOver(false);
+  chrome_.setOffer(PlayerChrome::Offer::none);
   chrome_.setToast(std::nullopt);
   updateSubtitleLift();
   if (window) giveUp(*window);

@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "platform/Clock.h"
+#include "platform/FileManager.h"
 #include "playback/PlayerPresenting.h"
 #include "player/KeyPress.h"
 #include "player/PlayerChrome.h"
@@ -42,6 +43,7 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   Q_INVOKABLE void close() override;
   void showLibrary() override;
   void showToast(const QString& text) override;
+  void showKeptPicture(const QUrl& picture) override;
 
   /// The player's window in front of others, if it is shown.
   void bringToFront();
@@ -51,6 +53,8 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   void restartVideo();
   /// Plays the film from its beginning, and says so.
   Q_INVOKABLE void startOver();
+  /// Shows the picture that was kept last in its folder.
+  Q_INVOKABLE void showPicture();
   void handleDroppedFiles(const QList<QUrl>& addresses);
   /// By percent points, up or down, with a toast.
   void adjustVolume(double percent);
@@ -105,6 +109,7 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   void scheduleChromeHide();
   bool mayHideChrome() const;
   void tellOfResuming();
+  void offer(PlayerChrome::Offer offer);
   void handleActivity();
   void setInfoRefresh(bool shown);
   void updateDisplay();
@@ -127,6 +132,8 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   std::unique_ptr<Clock::Timer> offerTimer_;
   std::unique_ptr<Clock::Timer> hideTimer_;
   std::unique_ptr<Clock::Timer> infoTimer_;
+  FileManager fileManager_;
+  QUrl keptPicture_;
 
   std::optional<double> resumedAt_;  // seconds; to be told when there is a picture
   bool awaitingVideo_ = false;

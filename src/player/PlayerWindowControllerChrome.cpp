@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/FilePath.h"
 #include "playback/PlaybackModel.h"
 #include "player/Format.h"
 #include "player/PlayerWindowController.h"
@@ -113,13 +114,28 @@ void PlayerWindowController::tellOfResuming() {
   if (!resumedAt_ || !isRevealed_) return;
   showToast(tr("Resumed at %1").arg(Format::clock(*resumedAt_)));
   resumedAt_.reset();
-  chrome_.setOffersStartOver(true);
-  offerTimer_ = clock_.after(kOffer, [this] { chrome_.setOffersStartOver(false); });
+  offer(PlayerChrome::Offer::startOver);
+}
+
+void PlayerWindowController::showKeptPicture(const QUrl& picture) {
+  keptPicture_ = picture;
+  showToast(tr("Picture kept: %1").arg(lastPathComponent(picture)));
+  offer(PlayerChrome::Offer::showPicture);
+}
+
+void PlayerWindowController::offer(PlayerChrome::Offer offer) {
+  chrome_.setOffer(offer);
+  offerTimer_ = clock_.after(kOffer, [this] { chrome_.setOffer(PlayerChrome::Offer::none); });
+}
+
+void PlayerWindowController::showPicture() {
+  fileManager_.show(keptPicture_);
+  chrome_.setOffer(PlayerChrome::Offer::none);
 }
 
 void PlayerWindowController::startOver() {
   playback_.startOver();
-  chrome_.setOffersStartOver(false);
+  chrome_.setOffer(PlayerChrome::Offer::none);
   showToast(tr("From the beginning"));
 }
 

@@ -27,6 +27,7 @@ struct FakePlayer final : PlayerPresenting {
   void close() override { log_.calls << "close"; }
   void showLibrary() override { log_.calls << "library"; }
   void showToast(const QString& text) override { log_.calls << "toast " + text; }
+  void showKeptPicture(const QUrl&) override { log_.calls << "picture"; }
 
  private:
   Log& log_;

@@ -126,6 +126,17 @@ TEST_F(ChromeTest, FollowsTheDelayThatThePersonChooses) {
   EXPECT_FALSE(shown());
 }
 
+TEST_F(ChromeTest, AKeptPictureIsOfferedForAWhile) {
+  const auto offers = [this](const char* what) { return chrome().property(what).toBool(); };
+  player().showKeptPicture(QUrl("file:///Pictures/Film.png"));
+  EXPECT_EQ(chrome().toast(), "Picture kept: Film.png");
+  clock_.advance(5000ms);
+  EXPECT_TRUE(offers("offersPicture"));
+  EXPECT_FALSE(offers("offersStartOver"));
+  clock_.advance(5000ms);
+  EXPECT_FALSE(offers("offersPicture"));
+}
+
 TEST_F(ChromeTest, AClosingWindowKeepsItsControlsAndTheNextOneBeginsWithThem) {
   window_.fullscreen = true;  // so that it takes time
   chrome().setShowsInfo(true);
