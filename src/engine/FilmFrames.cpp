@@ -1,5 +1,6 @@
 #include "engine/FilmFrames.h"
 
+#include <algorithm>
 #include <cmath>
 #include <format>
 #include <limits>
@@ -7,6 +8,7 @@
 #include <utility>
 
 #include "engine/MpvClientApi.h"
+#include "engine/MpvOptions.h"
 
 namespace tromelo {
 
@@ -16,13 +18,7 @@ constexpr std::uint64_t kReply = 1;
 constexpr double kNear = 0.1;         // seconds: no other key frame is looked for
 constexpr double kJustAfter = 0.002;  // seconds: what a container's own clock may round away
 
-struct Option {
-  const char* name;
-  const char* value;
-  bool mayBeUnknown = false;
-};
-
-constexpr Option kOptions[] = {
+const MpvOption kOptions[] = {
     {"vo", "null"},
     {"ao", "null"},
     {"aid", "no"},
@@ -52,14 +48,6 @@ constexpr Option kOptions[] = {
     {"load-scripts", "no"},
     {"ytdl", "no", true},
     {"osc", "no", true},
-    {"load-stats-overlay", "no", true},
-    {"load-console", "no", true},
-    {"load-auto-profiles", "no", true},
-    {"load-select", "no", true},
-    {"load-commands", "no", true},
-    {"load-positioning", "no", true},
-    {"clipboard-backends", "", true},
-    {"stop-screensaver", "no"},
     {"osd-level", "0"},
     {"terminal", "no"},
     {"input-default-bindings", "no"},
@@ -121,10 +109,12 @@ bool FilmFrames::start() {
   handle_ = api_->create();
   if (!handle_) return false;
   bool isReady = true;
-  for (const Option& option : kOptions) {
-    const int code = api_->setOptionString(handle_, option.name, option.value);
+  const auto set = [&](const MpvOption& option) {
+    const int code = api_->setOptionString(handle_, option.name.c_str(), option.value.c_str());
     isReady &= code >= 0 || (code == MPV_ERROR_OPTION_NOT_FOUND && option.mayBeUnknown);
-  }
+  };
+  std::ranges::for_each(kOptions, set);
+  std::ranges::for_each(plainOptions(), set);
   if (isReady && api_->initialize(handle_) >= 0) return true;
   api_->terminateDestroy(std::exchange(handle_, nullptr));
   return false;

@@ -1,6 +1,8 @@
 #include "engine/MpvOptions.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <iterator>
 
 namespace tromelo {
 
@@ -44,6 +46,17 @@ std::vector<MpvOption> platformOptions(const std::string& vulkanDevice) {
       {"gpu-sw", "yes", true},
       // Where films that come in a folder of their own have their subtitles.
       {"sub-file-paths", "Subs:subs:Subtitles:subtitles"},
+  };
+  std::ranges::copy(plainOptions(), std::back_inserter(options));
+  // The graphics card that draws the scene, where there are several: another one's pictures would
+  // have to be carried over. A card that libmpv doesn't find is no reason not to play.
+  if (!vulkanDevice.empty())
+    options.push_back({.name = "vulkan-device", .value = vulkanDevice, .mayBeRefused = true});
+  return options;
+}
+
+std::vector<MpvOption> plainOptions() {
+  return {
       // The program itself keeps the screen awake.
       {"stop-screensaver", "no"},
       // The engine's own dialogs on the picture, and profiles for a configuration that is never
@@ -57,11 +70,6 @@ std::vector<MpvOption> platformOptions(const std::string& vulkanDevice) {
       // The clipboard would be a second client of the private display, which has none to offer.
       {"clipboard-backends", "", true},
   };
-  // The graphics card that draws the scene, where there are several: another one's pictures would
-  // have to be carried over. A card that libmpv doesn't find is no reason not to play.
-  if (!vulkanDevice.empty())
-    options.push_back({.name = "vulkan-device", .value = vulkanDevice, .mayBeRefused = true});
-  return options;
 }
 
 std::vector<MpvOption> diagnosticOptions() {

@@ -18,6 +18,9 @@ std::vector<MpvOption> engineOptions(const std::string& logFile);
 /// What this platform adds, set after the others. `vulkanDevice` is a UUID; empty: any.
 std::vector<MpvOption> platformOptions(const std::string& vulkanDevice);
 
+/// What keeps an engine from everything but films.
+std::vector<MpvOption> plainOptions();
+
 /// The socket for watching a running engine from outside, where the variable TROMELO_IPC names one.
 std::vector<MpvOption> diagnosticOptions();
 
