@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "display/HostProxy.h"
-#include "platform/UniqueFd.h"
 #include "linux-dmabuf-v1-client-protocol.h"
+#include "platform/UniqueFd.h"
 
 namespace tromelo {
 

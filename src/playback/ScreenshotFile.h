@@ -13,7 +13,7 @@ std::string screenshotName(const QString& film, double seconds);
 /// folder, with a number where something has the name. Gives the picture's path, empty where it
 /// can't be kept. Waits for the disk.
 std::string keepScreenshots(const std::string& picture, const std::string& signal,
-                         const std::string& folder, const std::string& name);
+                            const std::string& folder, const std::string& name);
 
 /// A PNG says of itself that it holds PQ or HLG (its cICP chunk, PNG third edition 11.3.2.6).
 bool holdsHdr(const std::string& png);
