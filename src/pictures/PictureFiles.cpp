@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <algorithm>
+#include <chrono>
 #include <vector>
 
 namespace tromelo {
@@ -15,6 +16,7 @@ namespace {
 
 constexpr const char* kFormat = "JPEG";
 constexpr int kQuality = 85;
+constexpr std::chrono::milliseconds kAtTheEnd(500);
 constexpr double kAfterwards =
     0.8;  // of the limit, so that the folder isn't looked through each time
 
@@ -43,7 +45,7 @@ QString PictureFiles::pathOf(const QString& name) const {
 QImage PictureFiles::read(const QString& name) {
   const std::scoped_lock lock(mutex_);
   QFile file(pathOf(name));
-  if (!file.open(QFile::ReadOnly)) return {};
+  if (isClosed_ || !file.open(QFile::ReadOnly)) return {};
   const QByteArray content = file.readAll();
   // A damaged one would otherwise be told of on standard error.
   const bool isWhole = content.startsWith("\xff\xd8") && content.endsWith("\xff\xd9");
@@ -59,7 +61,7 @@ QImage PictureFiles::read(const QString& name) {
 void PictureFiles::write(const QString& name, const QImage& picture) {
   const std::scoped_lock lock(mutex_);
   const QString path = pathOf(name);
-  if (!makeFolder(folder_) || !makeFolder(QFileInfo(path).path())) return;
+  if (isClosed_ || !makeFolder(folder_) || !makeFolder(QFileInfo(path).path())) return;
   QSaveFile file(path);
   if (!file.open(QFile::WriteOnly) || !picture.save(&file, kFormat, kQuality) || !file.commit())
     return;
@@ -71,6 +73,11 @@ void PictureFiles::removeAll() {
   const std::scoped_lock lock(mutex_);
   QDir(folder_).removeRecursively();
   size_ = 0;
+}
+
+void PictureFiles::close() {
+  const std::unique_lock lock(mutex_, kAtTheEnd);
+  if (lock) isClosed_ = true;
 }
 
 void PictureFiles::makeRoom() {

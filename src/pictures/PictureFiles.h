@@ -20,6 +20,8 @@ class PictureFiles {
   /// What can't be kept is let go.
   void write(const QString& name, const QImage& picture);
   void removeAll();
+  /// Nothing is read or written from now on; what is being done is waited for, but not for long.
+  void close();
 
  private:
   QString pathOf(const QString& name) const;
@@ -27,9 +29,10 @@ class PictureFiles {
 
   const QString folder_;
   const qint64 limit_;
-  std::mutex mutex_;
+  std::timed_mutex mutex_;
   qint64 size_ = 0;  // bytes, of all of them
   bool isCounted_ = false;
+  bool isClosed_ = false;
 };
 
 }  // namespace tromelo

@@ -6,10 +6,23 @@
 
 namespace tromelo {
 
+namespace {
+
+/// Milliseconds for a process that was killed to be gone.
+constexpr int kPatienceAtTheEnd = 500;
+
+}  // namespace
+
 PictureProcess::PictureProcess(Program program, Clock& clock)
     : program_(std::move(program)), clock_(clock) {}
 
-PictureProcess::~PictureProcess() { end(); }
+PictureProcess::~PictureProcess() {
+  end();
+  for (const QPointer<QProcess>& process : dismissed_)
+    if (process &&
+        (process->state() == QProcess::NotRunning || process->waitForFinished(kPatienceAtTheEnd)))
+      delete process;
+}
 
 void PictureProcess::ask(const PictureRequest& request, Answer answer) {
   request_ = request;
@@ -74,6 +87,8 @@ void PictureProcess::dismiss() {
   if (!process) return;
   process->disconnect();
   // Nobody waits for it to be gone, which the kernel may put off for as long as a disk does.
+  dismissed_.removeIf([](const QPointer<QProcess>& one) { return !one; });
+  dismissed_.append(process);
   if (process->state() == QProcess::NotRunning) return process->deleteLater();
   QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
   process->kill();

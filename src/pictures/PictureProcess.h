@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QProcess>
 #include <QString>
 #include <QStringList>
@@ -54,6 +56,7 @@ class PictureProcess {
   const Program program_;
   Clock& clock_;
   QProcess* process_ = nullptr;          // deletes itself once it has ended
+  QList<QPointer<QProcess>> dismissed_;  // those that have yet to end
   std::shared_ptr<const bool> isHeard_;  // what this process tells
   std::unique_ptr<Clock::Timer> limit_;
   PictureRequest request_;

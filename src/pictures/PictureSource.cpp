@@ -25,7 +25,8 @@ PictureSource::PictureSource(Parts parts, QObject* parent)
       process_(parts_.maker, parts_.clock),
       memory_(kMemoryLimit) {}
 
-PictureSource::~PictureSource() = default;
+/// What a thread still does with pictures needs Qt, which ends with the program.
+PictureSource::~PictureSource() { files_->close(); }
 
 void PictureSource::setFilm(const std::string& path, double duration) {
   duration_ = duration;
