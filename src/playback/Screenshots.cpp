@@ -2,7 +2,7 @@
 
 #include <unistd.h>
 
-#include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -19,8 +19,8 @@ namespace fs = std::filesystem;
 struct Screenshots::Job {
   What what;
   Moment moment;
-  std::string folder;
-  Kept kept;  // one of the two
+  std::string folder;  // wanted, then made
+  Kept kept;           // one of the two
   Made made;
 
   /// The engine writes under names that nobody sees; what is whole gets its own.
@@ -49,6 +49,17 @@ QByteArray contentOf(const std::string& path) {
   return QByteArray::fromStdString({std::istreambuf_iterator<char>(file), {}});
 }
 
+/// Empty where it can't be made. Without one that is wanted, one that nobody else can look into.
+std::string madeFolder(const std::string& wanted) {
+  std::error_code error;
+  if (!wanted.empty()) {
+    fs::create_directories(wanted, error);
+    return error ? std::string() : wanted;
+  }
+  std::string pattern = (fs::temp_directory_path(error) / "tromelo-XXXXXX").string();
+  return mkdtemp(pattern.data()) ? pattern : std::string();
+}
+
 void removeFile(const std::string& path) {
   std::error_code ignored;
   fs::remove(path, ignored);
@@ -64,8 +75,7 @@ void Screenshots::keep(What what, const Moment& moment, const Kept& kept) {
 }
 
 void Screenshots::make(What what, const Made& made) {
-  std::error_code ignored;
-  add(std::make_shared<Job>(Job{what, {}, fs::temp_directory_path(ignored).string(), {}, made}));
+  add(std::make_shared<Job>(Job{what, {}, {}, {}, made}));
 }
 
 void Screenshots::add(std::shared_ptr<Job> job) {
@@ -75,18 +85,15 @@ void Screenshots::add(std::shared_ptr<Job> job) {
 
 void Screenshots::begin() {
   const auto job = jobs_.front();
-  const auto makeFolder = [folder = job->folder] {
-    std::error_code error;
-    fs::create_directories(folder, error);
-    return !error;
-  };
-  disk_.run(makeFolder, [this, job](bool isThere) {
-    if (!isThere) return finish(job, false, false);
-    shoot(job, job->picture(), [this, job](bool succeeded) {
-      const bool wantsSignal = job->moment.isHigh && job->what != What::asShown;
-      succeeded&& wantsSignal ? shootSignal(job) : finish(job, succeeded, false);
-    });
-  });
+  disk_.run([wanted = job->folder] { return madeFolder(wanted); },
+            [this, job](const std::string& folder) {
+              job->folder = folder;
+              if (folder.empty()) return finish(job, false, false);
+              shoot(job, job->picture(), [this, job](bool succeeded) {
+                const bool wantsSignal = job->moment.isHigh && job->what != What::asShown;
+                succeeded&& wantsSignal ? shootSignal(job) : finish(job, succeeded, false);
+              });
+            });
 }
 
 void Screenshots::shoot(const std::shared_ptr<Job>& job, const std::string& path,
@@ -96,8 +103,8 @@ void Screenshots::shoot(const std::shared_ptr<Job>& job, const std::string& path
 }
 
 void Screenshots::shootSignal(const std::shared_ptr<Job>& job) {
-  // The engine leaves the signal as it is where the format for its own pictures can hold that,
-  // whatever the format of this one. Without a doubt of its own it brings it down to SDR.
+  // The engine goes by the format that it would choose itself, not by this picture's: it leaves the
+  // signal as it is for one that can hold HDR, and brings it to SDR for any other.
   engine_.setProperty("screenshot-format", "jxl");
   shoot(job, job->signal(), [this, job](bool succeeded) {
     engine_.setProperty("screenshot-format", "jpg");
@@ -114,8 +121,10 @@ void Screenshots::finish(const std::shared_ptr<Job>& job, bool hasPicture, bool 
       result.first = keepScreenshots(job->picture(), signal, job->folder,
                                      screenshotName(job->moment.film, job->moment.seconds));
     }
+    if (job->folder.empty()) return result;
     removeFile(job->picture());
     removeFile(job->signal());
+    if (job->made) removeFile(job->folder);
     return result;
   };
   disk_.run(settle, [this, job](const std::pair<std::string, QByteArray>& result) {
