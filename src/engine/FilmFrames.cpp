@@ -9,6 +9,7 @@
 
 #include "engine/MpvClientApi.h"
 #include "engine/MpvOptions.h"
+#include "engine/MpvRequest.h"
 
 namespace tromelo {
 
@@ -204,11 +205,7 @@ bool FilmFrames::waitForFrame() {
 }
 
 bool FilmFrames::command(const std::vector<std::string>& arguments) {
-  std::vector<const char*> pointers;
-  pointers.reserve(arguments.size() + 1);
-  for (const std::string& argument : arguments) pointers.push_back(argument.c_str());
-  pointers.push_back(nullptr);
-  return reply(api_->commandAsync(handle_, kReply, pointers.data()));
+  return reply(api_->commandAsync(handle_, kReply, mpvWords(arguments).data()));
 }
 
 /// Null where the engine refuses it. Good until the next event is waited for.

@@ -43,11 +43,7 @@ std::optional<std::string> libraryFault(unsigned long version) {
 }
 
 int sendCommand(const MpvClientApi& api, mpv_handle* handle, const MpvCommand& command) {
-  std::vector<const char*> arguments;
-  arguments.reserve(command.arguments.size() + 1);
-  for (const std::string& argument : command.arguments) arguments.push_back(argument.c_str());
-  arguments.push_back(nullptr);
-  return api.commandAsync(handle, command.reply, arguments.data());
+  return api.commandAsync(handle, command.reply, mpvWords(command.arguments).data());
 }
 
 int sendWrite(const MpvClientApi& api, mpv_handle* handle, const MpvPropertyWrite& write) {

@@ -20,6 +20,15 @@ struct MpvPropertyRead {
   std::string name;
   std::uint64_t reply;  // that the answer comes back with
 };
+/// As libmpv takes them; good for as long as the arguments are.
+inline std::vector<const char*> mpvWords(const std::vector<std::string>& arguments) {
+  std::vector<const char*> words;
+  words.reserve(arguments.size() + 1);
+  for (const std::string& argument : arguments) words.push_back(argument.c_str());
+  words.push_back(nullptr);
+  return words;
+}
+
 using MpvRequest = std::variant<MpvCommand, MpvPropertyWrite, MpvPropertyRead>;
 
 }  // namespace tromelo

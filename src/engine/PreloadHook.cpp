@@ -69,11 +69,7 @@ void PreloadHook::send(const Wish& wish) const {
     api_->setPropertyString(client_, write->name.c_str(), write->value.c_str());
     return;
   }
-  std::vector<const char*> words;
-  for (const std::string& word : std::get<MpvCommand>(wish).arguments)
-    words.push_back(word.c_str());
-  words.push_back(nullptr);
-  api_->command(client_, words.data());
+  api_->command(client_, mpvWords(std::get<MpvCommand>(wish).arguments).data());
 }
 
 }  // namespace tromelo

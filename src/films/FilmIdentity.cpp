@@ -1,14 +1,12 @@
 #include "films/FilmIdentity.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QCryptographicHash>
 #include <algorithm>
 #include <cerrno>
 
-#include "platform/UniqueFd.h"
+#include "platform/RegularFile.h"
 
 namespace tromelo {
 
@@ -33,11 +31,9 @@ bool addPart(QCryptographicHash& hash, int file, qint64 offset, qint64 length) {
 }  // namespace
 
 std::optional<FilmIdentity> filmIdentity(const std::string& path) {
-  // Without O_NONBLOCK, opening a pipe would wait for who writes into it.
-  const UniqueFd file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
   struct stat facts{};
-  if (!file || fstat(file.get(), &facts) != 0 || !S_ISREG(facts.st_mode) || facts.st_size == 0)
-    return {};
+  const UniqueFd file = openRegularFile(path, facts);
+  if (!file || facts.st_size == 0) return {};
 
   const qint64 size = facts.st_size;
   const qint64 first = std::min(size, kEnd);

@@ -115,9 +115,11 @@ void FilmMemory::forgetAll() {
   Q_EMIT forgotAll();
 }
 
-void FilmMemory::findProgress(const std::vector<std::string>& paths, QObject* asker,
-                              const Answer<Progress>& answer) {
-  ask<Progress>([paths](FilmStore& store) { return store.progress(paths); }, asker, answer);
+void FilmMemory::findProgress(const std::string& path, QObject* asker,
+                              const Answer<FilmProgress>& answer) {
+  ask<FilmProgress>(
+      [path](FilmStore& store) { return store.progress(path).value_or(FilmProgress()); }, asker,
+      answer);
 }
 
 void FilmMemory::findBookmarks(const FilmKey& film, QObject* asker,

@@ -48,10 +48,8 @@ class FilmMemory : public QObject {
   void forget(const std::string& path);
   Q_INVOKABLE void forgetAll();
 
-  /// Of the films that were last seen in these places.
-  using Progress = std::map<std::string, FilmProgress>;
-  void findProgress(const std::vector<std::string>& paths, QObject* asker,
-                    const Answer<Progress>& answer);
+  /// In the film that was last seen there; an empty one where there is none.
+  void findProgress(const std::string& path, QObject* asker, const Answer<FilmProgress>& answer);
 
   void findBookmarks(const FilmKey& film, QObject* asker, const Answer<FilmBookmarks>& answer);
   void addBookmark(const FilmKey& film, double position, const QString& name);

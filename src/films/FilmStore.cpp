@@ -79,17 +79,13 @@ bool FilmStore::wipe() {
   return database_.run(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)")).has_value();
 }
 
-std::map<std::string, FilmProgress> FilmStore::progress(const std::vector<std::string>& paths) {
-  std::map<std::string, FilmProgress> found;
-  for (const std::string& path : paths) {
-    const auto rows = database_.run(
-        QStringLiteral("SELECT position, duration FROM places JOIN films ON film = identity "
-                       "WHERE path = ?"),
-        {bytes(path)});
-    if (rows && !rows->isEmpty())
-      found[path] = {rows->first()[0].toDouble(), rows->first()[1].toDouble()};
-  }
-  return found;
+std::optional<FilmProgress> FilmStore::progress(const std::string& path) {
+  const auto rows = database_.run(
+      QStringLiteral("SELECT position, duration FROM places JOIN films ON film = identity "
+                     "WHERE path = ?"),
+      {bytes(path)});
+  if (!rows || rows->isEmpty()) return {};
+  return FilmProgress{rows->first()[0].toDouble(), rows->first()[1].toDouble()};
 }
 
 FilmBookmarks FilmStore::bookmarks(const FilmKey& film) {

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <map>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "films/Film.h"
 #include "films/FilmDatabase.h"
@@ -31,8 +29,8 @@ class FilmStore {
   bool forget(const std::string& path);
   bool forgetAll();
 
-  /// Of the films that were last seen there; the others are missing.
-  std::map<std::string, FilmProgress> progress(const std::vector<std::string>& paths);
+  /// In the film that was last seen there; none where there is none.
+  std::optional<FilmProgress> progress(const std::string& path);
 
   FilmBookmarks bookmarks(const FilmKey& film);
   bool addBookmark(const FilmKey& film, double position, const QString& name);

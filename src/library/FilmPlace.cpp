@@ -26,10 +26,8 @@ void FilmPlace::setFile(const QUrl& file) {
 void FilmPlace::ask() {
   const std::string path = pathFromFileUrl(file_);
   if (!films_ || path.empty()) return;
-  films_->findProgress({path}, this, [this, path](const FilmMemory::Progress& found) {
-    if (path != pathFromFileUrl(file_)) return;
-    const auto progress = found.find(path);
-    take(progress == found.end() ? FilmProgress() : progress->second);
+  films_->findProgress(path, this, [this, path](const FilmProgress& progress) {
+    if (path == pathFromFileUrl(file_)) take(progress);
   });
 }
 

@@ -3,6 +3,8 @@
 #include <QMetaClassInfo>
 #include <cmath>
 
+#include "mpris/MprisValues.h"
+
 namespace tromelo {
 
 namespace {
@@ -32,6 +34,14 @@ QVariantMap MprisProperties::of(const QDBusAbstractAdaptor& adaptor) {
 QString MprisProperties::interfaceOf(const QDBusAbstractAdaptor& adaptor) {
   const QMetaObject* type = adaptor.metaObject();
   return QString::fromLatin1(type->classInfo(type->indexOfClassInfo("D-Bus Interface")).value());
+}
+
+QDBusMessage MprisProperties::changed(const QDBusAbstractAdaptor& adaptor,
+                                      const QVariantMap& values, const QStringList& invalidated) {
+  QDBusMessage signal = QDBusMessage::createSignal(
+      mprisObjectPath(), QStringLiteral("org.freedesktop.DBus.Properties"),
+      QStringLiteral("PropertiesChanged"));
+  return signal << interfaceOf(adaptor) << values << invalidated;
 }
 
 /// All of them for an empty interface, as D-Bus allows.

@@ -25,6 +25,9 @@ class MprisProperties : public QDBusAbstractAdaptor {
   /// All properties of one of our adaptors, by name.
   static QVariantMap of(const QDBusAbstractAdaptor& adaptor);
   static QString interfaceOf(const QDBusAbstractAdaptor& adaptor);
+  /// PropertiesChanged, to be sent: with new values, and names of those that are to be asked for.
+  static QDBusMessage changed(const QDBusAbstractAdaptor& adaptor, const QVariantMap& values,
+                              const QStringList& invalidated = {});
 
  public Q_SLOTS:
   QDBusVariant Get(const QString& interface, const QString& name, const QDBusMessage& call);

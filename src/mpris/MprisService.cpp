@@ -106,11 +106,7 @@ void MprisService::announce(const QDBusAbstractAdaptor& adaptor, QVariantMap& la
   });
   if (changed.isEmpty()) return;
   last.insert(changed);
-  QDBusMessage signal = QDBusMessage::createSignal(
-      mprisObjectPath(), QStringLiteral("org.freedesktop.DBus.Properties"),
-      QStringLiteral("PropertiesChanged"));
-  signal << MprisProperties::interfaceOf(adaptor) << changed << QStringList();
-  bus_.send(signal);
+  bus_.send(MprisProperties::changed(adaptor, changed));
 }
 
 }  // namespace tromelo

@@ -48,12 +48,7 @@ void MprisTrackList::announce() {
   } else {
     Q_EMIT TrackListReplaced(trackIds(tracks), trackId(playback_));
   }
-  QDBusMessage signal = QDBusMessage::createSignal(
-      mprisObjectPath(), QStringLiteral("org.freedesktop.DBus.Properties"),
-      QStringLiteral("PropertiesChanged"));
-  signal << MprisProperties::interfaceOf(*this) << QVariantMap()
-         << QStringList{QStringLiteral("Tracks")};
-  bus_.send(signal);
+  bus_.send(MprisProperties::changed(*this, {}, {QStringLiteral("Tracks")}));
 }
 
 QList<QVariantMap> MprisTrackList::GetTracksMetadata(const QList<QDBusObjectPath>& TrackIds) {

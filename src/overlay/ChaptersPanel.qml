@@ -2,42 +2,24 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Templates as T
 import Tromelo.Controls
 import Tromelo.Player
 import Tromelo.Theme
 
 // The chapters, and the bookmarks below them. Choosing one goes there and closes the panel.
-ListView {
+PanelList {
     id: panel
 
     required property PlaybackModel playback
-    property bool isPlaced: false
 
     signal finished
-
-    function showCurrent() {
-        positionViewAtIndex(playback.currentChapter, ListView.Contain);
-    }
 
     objectName: "chaptersPanel"
     implicitWidth: Theme.chaptersWidth
     implicitHeight: Math.min(contentHeight + topMargin + bottomMargin, Theme.chaptersHeight)
-    topMargin: Theme.listPadding
-    bottomMargin: Theme.listPadding
-    spacing: Theme.listSpacing
     model: playback.chapters
-    boundsBehavior: Flickable.StopAtBounds
-    clip: true
-    Accessible.role: Accessible.List
-    // Once it has its size.
-    onHeightChanged: if (height > 0 && !isPlaced) {
-        isPlaced = true;
-        Qt.callLater(showCurrent);
-    }
+    onPlaced: positionViewAtIndex(playback.currentChapter, ListView.Contain)
     Accessible.name: qsTr("Chapters")
-
-    T.ScrollBar.vertical: ThinScrollBar {}
 
     footer: BookmarkList {
         width: panel.width

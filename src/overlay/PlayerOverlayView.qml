@@ -18,6 +18,8 @@ PlayerOverlayItem {
     // Of the film; none where nobody makes them.
     property PictureSource pictures: null
 
+    // A panel, the menu, or the list of speeds.
+    readonly property bool hasOpen: chrome.panel >= 0 || chrome.showsSpeeds
     readonly property real insetWidth: width - 2 * Theme.overlayInset
     readonly property real insetHeight: height - 2 * Theme.overlayInset
 
@@ -30,7 +32,7 @@ PlayerOverlayItem {
     Binding {
         target: overlay.backdrop
         property: "isRead"
-        value: Glass.blurs && (floating.visible || toast.visible || startOver.visible || keptPicture.visible || overlay.chrome.panel >= 0 || overlay.chrome.showsSpeeds)
+        value: Glass.blurs && (floating.visible || toast.visible || startOver.visible || keptPicture.visible || overlay.hasOpen)
     }
 
     PlayerOverlayInput {
@@ -107,7 +109,7 @@ PlayerOverlayItem {
             bar: controlBar
             room: Qt.size(overlay.width, overlay.height)
             pictures: overlay.pictures
-            isCovered: overlay.chrome.panel >= 0 || overlay.chrome.showsSpeeds
+            isCovered: overlay.hasOpen
         }
     }
 

@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Templates as T
 import Tromelo.Controls
 import Tromelo.Player
 import Tromelo.Theme
@@ -92,35 +91,20 @@ Item {
             model: rows
             onDropped: (row, gap) => panel.playback.moveQueueItem(row, gap)
 
-            ListView {
+            PanelList {
                 id: list
-
-                property bool isPlaced: false
 
                 objectName: "queueRows"
                 anchors.fill: parent
-                topMargin: Theme.listPadding
-                bottomMargin: Theme.listPadding
-                spacing: Theme.listSpacing
-                boundsBehavior: Flickable.StopAtBounds
-                clip: true
                 // What the pointer did to a row goes with it, so none is used for another file.
                 reuseItems: false
-                Accessible.role: Accessible.List
                 Accessible.name: qsTr("Queue")
-
-                // Once it has its size.
-                onHeightChanged: if (height > 0 && !isPlaced) {
-                    isPlaced = true;
-                    Qt.callLater(drag.center, rows.current);
-                }
+                onPlaced: drag.center(rows.current)
 
                 model: QueueModel {
                     id: rows
                     items: panel.playback.queue
                 }
-
-                T.ScrollBar.vertical: ThinScrollBar {}
 
                 delegate: QueueRow {
                     required property int index

@@ -1,11 +1,8 @@
 #include "playback/PlaylistFile.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
-#include <QStringDecoder>
 #include <algorithm>
 #include <cerrno>
 #include <optional>
@@ -13,7 +10,7 @@
 #include <utility>
 
 #include "platform/FilePath.h"
-#include "platform/UniqueFd.h"
+#include "platform/RegularFile.h"
 
 namespace tromelo {
 
@@ -27,12 +24,6 @@ constexpr int kDeepest = 8;                         // lists in lists
 constexpr qsizetype kLongestTold = 80;              // that people are told
 constexpr std::string_view kMark = "\xef\xbb\xbf";  // of UTF-8
 constexpr std::string_view kStreamTag = "#EXT-X-";
-
-bool isUtf8(std::string_view bytes) {
-  QStringDecoder decoder(QStringDecoder::Utf8);
-  const QString text = decoder(QByteArrayView(bytes));
-  return !decoder.hasError() && !text.isNull();
-}
 
 std::string latin1AsUtf8(std::string_view bytes) {
   return QString::fromLatin1(bytes).toStdString();
@@ -53,12 +44,9 @@ class Lines {
  public:
   /// `left` is how many bytes may still be read.
   Lines(const std::string& path, qint64& left)
-      // A pipe would wait for who writes into it.
-      : left_(left), file_(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC)) {
-    isReadable_ = file_.get() >= 0 && fstat(file_.get(), &facts_) == 0 && S_ISREG(facts_.st_mode);
-  }
+      : left_(left), file_(openRegularFile(path, facts_)) {}
 
-  bool areReadable() const { return isReadable_; }
+  bool areReadable() const { return bool(file_); }
   std::pair<dev_t, ino_t> identity() const { return {facts_.st_dev, facts_.st_ino}; }
 
   template <typename Take>
@@ -91,14 +79,13 @@ class Lines {
     do got = ::read(file_.get(), part.data(), part.size());
     while (got < 0 && errno == EINTR);
     part.resize(left_ > 0 && got > 0 ? std::size_t(got) : 0);
-    left_ -= got;
+    left_ -= qint64(part.size());
     return part;
   }
 
   qint64& left_;
-  UniqueFd file_;
   struct stat facts_ = {};
-  bool isReadable_ = false;
+  UniqueFd file_;
 };
 
 class ListReader {
@@ -154,7 +141,7 @@ class ListReader {
   static std::optional<QUrl> found(std::string_view line, const std::string& folder) {
     std::string text(line);
     std::vector<std::string> ways{text};
-    if (!isUtf8(text)) ways.push_back(latin1AsUtf8(text));
+    if (!QByteArrayView(text).isValidUtf8()) ways.push_back(latin1AsUtf8(text));
     if (text.find('\\') != std::string::npos)
       for (std::size_t i = ways.size(); i > 0; --i) ways.push_back(withSlashes(ways[i - 1]));
     for (const std::string& way : ways) {
@@ -185,7 +172,7 @@ QString oneLine(QString text) {
 
 /// The path or, where a line can't hold that, the address.
 std::string lineFor(const std::string& path, const std::string& folder) {
-  const bool isPlain = isUtf8(path) &&
+  const bool isPlain = QByteArrayView(path).isValidUtf8() &&
                        std::ranges::none_of(path, [](unsigned char byte) { return byte < 0x20; }) &&
                        !path.ends_with(' ');
   if (!isPlain) return fileUrlFromPath(path).toEncoded().toStdString();

@@ -1,6 +1,5 @@
 #include "playback/QueueItem.h"
 
-#include <QHash>
 #include <algorithm>
 
 #include "engine/MpvValue.h"
@@ -10,7 +9,7 @@ namespace tromelo {
 
 namespace {
 
-/// Of a folder its name.
+/// The directory's own name for a directory.
 QString lastComponent(QStringView path) {
   while (path.size() > 1 && path.endsWith(u'/')) path.chop(1);
   return path.sliced(path.lastIndexOf(u'/') + 1).toString();
@@ -56,8 +55,7 @@ QueueOrder orderOf(const PlayQueue& queue) {
 }
 
 PlayQueue inOrder(const PlayQueue& queue, const QueueOrder& order) {
-  QHash<qint64, qsizetype> places;
-  for (qsizetype i = 0; i < queue.size(); ++i) places.insert(queue[i].entry, i);
+  const auto places = placesIn(orderOf(queue));
   PlayQueue ordered;
   ordered.reserve(order.size());
   for (const qint64 entry : order) ordered.append(queue[places.value(entry)]);

@@ -1,6 +1,5 @@
 #include "playback/QueueOrder.h"
 
-#include <QHash>
 #include <algorithm>
 
 namespace tromelo {
@@ -10,8 +9,7 @@ namespace {
 /// The most entries that can stay where they are: those of a longest rising subsequence of the
 /// places that they are to have.
 QSet<qint64> entriesThatStay(const QueueOrder& order, const QueueOrder& wanted) {
-  QHash<qint64, qsizetype> places;
-  for (qsizetype i = 0; i < wanted.size(); ++i) places.insert(wanted[i], i);
+  const auto places = placesIn(wanted);
   QList<qsizetype> ends;  // of the best one of each length, an index into the order
   QList<qsizetype> former(order.size(), -1);
   const auto placeOf = [&](qsizetype index) { return places.value(order[index]); };
@@ -36,6 +34,12 @@ void shuffle(QueueOrder::iterator first, QueueOrder::iterator last,
 }
 
 }  // namespace
+
+QHash<qint64, qsizetype> placesIn(const QueueOrder& order) {
+  QHash<qint64, qsizetype> places;
+  for (qsizetype i = 0; i < order.size(); ++i) places.insert(order[i], i);
+  return places;
+}
 
 QList<QueueMove> movesBetween(QueueOrder order, const QueueOrder& wanted) {
   const QSet<qint64> stay = entriesThatStay(order, wanted);
@@ -79,8 +83,7 @@ QueueOrder mixedIn(const QueueOrder& order, const QSet<qint64>& fresh, qint64 cu
 }
 
 QueueOrder restored(const QueueOrder& order, const QueueOrder& before) {
-  QHash<qint64, qsizetype> places;
-  for (qsizetype i = 0; i < before.size(); ++i) places.insert(before[i], i);
+  const auto places = placesIn(before);
   QueueOrder result = order;
   std::ranges::sort(result, {}, [&](qint64 entry) {
     return std::pair(places.value(entry, before.size()), entry);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QSet>
 #include <functional>
@@ -8,6 +9,9 @@ namespace tromelo {
 
 /// The order of the queue's entries, each by the engine's number for it.
 using QueueOrder = QList<qint64>;
+
+/// Where each entry stands.
+QHash<qint64, qsizetype> placesIn(const QueueOrder& order);
 
 /// The entry at position `from` goes before the one at `before`, both as they are by then; behind
 /// the last one where there is none.

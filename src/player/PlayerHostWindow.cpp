@@ -148,8 +148,7 @@ bool PlayerHostWindow::isInPopup() const {
 }
 
 /// A menu has all keys. What is typed into has them first, and those for text are never anyone
-/// else's. True when the
-/// event needs to go nowhere else.
+/// else's. True when the event needs to go nowhere else.
 bool PlayerHostWindow::handleKey(QKeyEvent& event) {
   const bool isMenus = isInPopup();
   if (!isMenus && !isTypedInto()) return askMonitor(event);

@@ -311,8 +311,8 @@ TEST_F(LibraryViewTest, ShowsHowFarOneWasInAFilmUntilItIsRemoved) {
 
   model.removeRecent(QUrl("file:///films/b.mkv"));
   bool isForgotten = false;
-  memory.findProgress({"/films/b.mkv"}, &memory, [&](const FilmMemory::Progress& found) {
-    EXPECT_TRUE(found.empty());
+  memory.findProgress("/films/b.mkv", &memory, [&](const FilmProgress& found) {
+    EXPECT_EQ(found, FilmProgress());
     isForgotten = true;
   });
   EXPECT_TRUE(waitFor([&] { return isForgotten; }));

@@ -52,8 +52,8 @@ TEST_F(SettingsWindowTest, FilmsAreForgottenByWhoSaysSoTwice) {
   films_.remember({"1f-aa", 7200}, {.position = 100}, "/a.mkv");
   const auto areKnown = [this] {
     std::optional<bool> known;
-    films_.findProgress({"/a.mkv"}, &films_,
-                        [&](const FilmMemory::Progress& found) { known = !found.empty(); });
+    films_.findProgress("/a.mkv", &films_,
+                        [&](const FilmProgress& found) { known = found != FilmProgress(); });
     EXPECT_TRUE(waitFor([&] { return known.has_value(); }));
     return known.value_or(false);
   };
