@@ -33,6 +33,14 @@ GlassSurface {
     Accessible.name: time.text
     Accessible.description: chapter.text
 
+    // Subtitles would be read through its words.
+    Rectangle {
+        z: -1
+        anchors.fill: parent
+        radius: preview.radius
+        color: Theme.popoverBacking
+    }
+
     MomentPicture {
         id: picture
 
