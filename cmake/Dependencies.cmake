@@ -25,6 +25,7 @@ if(NOT WLROOTS_FOUND)
   message(FATAL_ERROR "Tromelo needs wlroots 0.18 or 0.19 with its development files.")
 endif()
 
+pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb)
 pkg_check_modules(ICU REQUIRED IMPORTED_TARGET icu-uc)
 pkg_check_modules(WAYLAND_SERVER REQUIRED IMPORTED_TARGET wayland-server)
 pkg_check_modules(WAYLAND_CLIENT REQUIRED IMPORTED_TARGET wayland-client>=1.23)

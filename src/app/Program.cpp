@@ -304,6 +304,7 @@ void Program::keepAwake() {
   std::vector<AskForInhibition> ways;
   if (const auto bus = sessionBus()) ways = {portalInhibition(*bus), screenSaverInhibition(*bus)};
   ways.push_back(hostInhibition());
+  ways.push_back(serverInhibition(clock_));
   idleInhibitor_ = std::make_unique<IdleInhibitor>(std::move(ways), clock_);
   PlaybackModel& playback = delegate_->playback();
   const auto decide = [this, &playback] {

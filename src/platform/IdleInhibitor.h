@@ -52,4 +52,8 @@ AskForInhibition screenSaverInhibition(const QDBusConnection& bus);
 /// the application object.
 AskForInhibition hostInhibition();
 
+/// The X server's own, which ends with us too. To be made after the application object; `clock`
+/// outlives it.
+AskForInhibition serverInhibition(Clock& clock);
+
 }  // namespace tromelo

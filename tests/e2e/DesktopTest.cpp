@@ -1,8 +1,10 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QUrl>
+#include <utility>
 
 #include "EndToEnd.h"
+#include "IdleTime.h"
 #include "support/BusDaemon.h"
 #include "support/FakeScreenSaver.h"
 
@@ -60,6 +62,26 @@ TEST_F(DesktopEndToEnd, MediaControlsSteerWhatPlaysAndTheScreenStaysAwakeMeanwhi
   EXPECT_TRUE(isAwake(true));
   player.kill();
   EXPECT_TRUE(isAwake(false));
+}
+
+TEST_F(EndToEnd, AnXServerWithoutASessionBusStaysAwakeWhileAFilmPlays) {
+  if (!screen::isX11()) GTEST_SKIP() << "a Wayland host has a protocol of its own";
+  using std::chrono::milliseconds;
+  screen::run("xset", {"s", "3"});
+  IdleTime idle;
+  milliseconds last{};
+  const auto beginsAnew = [&] {
+    const milliseconds before = std::exchange(last, idle.now());
+    return last < before;
+  };
+  player.start({clip("sample.mp4")});
+  ASSERT_TRUE(player.waitUntilPlaying());
+  EXPECT_TRUE(player.waitUntil(beginsAnew));
+  last = {};
+  EXPECT_TRUE(player.waitUntil(beginsAnew)) << "only once";
+  probe().set("pause", true);
+  EXPECT_TRUE(player.waitUntil([&] { return idle.now() > milliseconds(2500); }));
+  screen::run("xset", {"s", "default"});
 }
 
 }  // namespace tromelo::testing
