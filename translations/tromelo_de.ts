@@ -1029,6 +1029,10 @@
         <source>The queue can&apos;t be saved as %1; choose another folder. (%2)</source>
         <translation>Die Warteschlange kann nicht als %1 gesichert werden; wählen Sie einen anderen Ordner. (%2)</translation>
     </message>
+    <message>
+        <source>Tromelo broke off while hardware decoded this film; it is decoded in software until you update your graphics driver.</source>
+        <translation>Tromelo brach ab, während Hardware diesen Film dekodierte; er wird in Software dekodiert, bis Sie Ihren Grafiktreiber aktualisieren.</translation>
+    </message>
 </context>
 <context>
     <name>tromelo::PlaybackState</name>

@@ -45,7 +45,8 @@ OpenedFile PreloadHook::openedFile() const {
   return {.entry = number<std::int64_t>(("playlist/" + std::to_string(place) + "/id").c_str()),
           .path = text("path"),
           .duration = number<double>("duration"),
-          .hasStart = text("start") != "none"};
+          .hasStart = text("start") != "none",
+          .versions = text("mpv-version") + ' ' + text("ffmpeg-version")};
 }
 
 std::string PreloadHook::text(const char* name) const {

@@ -20,10 +20,11 @@ struct MpvClientApi;
 
 /// A file that the engine has opened, before it chooses tracks and where to begin.
 struct OpenedFile {
-  std::int64_t entry = 0;  // the engine's number for it
-  std::string path;        // bytes
-  double duration = 0;     // seconds; 0 where it isn't known
-  bool hasStart = false;   // it was told where to begin
+  std::int64_t entry = 0;     // the engine's number for it
+  std::string path;           // bytes
+  double duration = 0;        // seconds; 0 where it isn't known
+  bool hasStart = false;      // it was told where to begin
+  std::string versions = {};  // of the engine and its decoders
 };
 
 /// Asks of each file how it is to begin, while the engine waits: on a thread of its own, since the

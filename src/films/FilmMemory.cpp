@@ -1,43 +1,18 @@
 #include "films/FilmMemory.h"
 
-#include <condition_variable>
 #include <memory>
-#include <mutex>
 #include <thread>
 #include <utility>
 
 #include "films/FilmIdentity.h"
 #include "films/FilmStore.h"
+#include "platform/Awaited.h"
 #include "platform/FilePath.h"
 #include "platform/MainThread.h"
 
 namespace tromelo {
 
 namespace {
-
-/// What one thread waits for and another finds out, perhaps when nobody waits any more.
-template <typename T>
-class Awaited {
- public:
-  void put(std::optional<T> found) {
-    const std::scoped_lock lock(mutex_);
-    found_ = std::move(found);
-    isThere_ = true;
-    arrived_.notify_one();
-  }
-
-  std::optional<T> wait(std::chrono::steady_clock::time_point until) {
-    std::unique_lock lock(mutex_);
-    if (!arrived_.wait_until(lock, until, [this] { return isThere_; })) return {};
-    return found_;
-  }
-
- private:
-  std::mutex mutex_;
-  std::condition_variable arrived_;
-  bool isThere_ = false;
-  std::optional<T> found_;
-};
 
 bool isGone(const std::string& choice) { return choice.starts_with('/') && !fileExists(choice); }
 

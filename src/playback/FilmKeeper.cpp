@@ -20,21 +20,17 @@ constexpr double kInterval = 5;  // seconds between two times that it is remembe
 
 using Wishes = std::vector<PreloadHook::Wish>;
 
-MpvPropertyWrite forThisFile(const std::string& option, std::string value) {
-  return {"file-local-options/" + option, std::move(value)};
-}
-
 void wishTrack(Wishes& wishes, const std::string& choice, const char* option, const char* add) {
   if (choice.starts_with('/'))
     wishes.push_back(MpvCommand{.arguments = {add, choice, "cached"}});
   else if (!choice.empty())
-    wishes.push_back(forThisFile(option, choice));
+    wishes.push_back(fileOption(option, choice));
 }
 
 Wishes wishes(const FilmRecord& record, std::optional<double> start) {
-  Wishes wishes{forThisFile("audio-delay", numberText(record.audioDelay)),
-                forThisFile("sub-delay", numberText(record.subtitleDelay))};
-  if (start) wishes.push_back(forThisFile("start", numberText(*start)));
+  Wishes wishes{fileOption("audio-delay", numberText(record.audioDelay)),
+                fileOption("sub-delay", numberText(record.subtitleDelay))};
+  if (start) wishes.push_back(fileOption("start", numberText(*start)));
   wishTrack(wishes, record.audio, "aid", "audio-add");
   wishTrack(wishes, record.subtitle, "sid", "sub-add");
   return wishes;
@@ -49,15 +45,19 @@ std::string choiceOf(const QList<MediaTrack>& tracks) {
 
 }  // namespace
 
+MpvPropertyWrite fileOption(const std::string& option, std::string value) {
+  return {"file-local-options/" + option, std::move(value)};
+}
+
 FilmKeeper::FilmKeeper(FilmMemory* memory, Clock& clock) : memory_(memory), clock_(clock) {
   session_->keeper = this;
 }
 
 FilmKeeper::~FilmKeeper() { session_->keeper = nullptr; }
 
-PreloadHook::Prepare FilmKeeper::prepareFile() {
+PreloadHook::Prepare FilmKeeper::prepareFile(const Preparation& also) {
   if (!memory_) return {};
-  return [memory = memory_, session = session_](const OpenedFile& file) {
+  return [memory = memory_, session = session_, also](const OpenedFile& file) {
     const auto known = memory->recall(file.path, file.duration, kPatience);
     if (!known) return Wishes();
     const bool goesOn = known->record && session->resumes;
@@ -68,7 +68,9 @@ PreloadHook::Prepare FilmKeeper::prepareFile() {
     postToMainThread([session, opened = Opened{file, *known, start}] {
       if (session->keeper) session->keeper->take(opened);
     });
-    return goesOn ? wishes(*known->record, start) : Wishes();
+    Wishes all = goesOn ? wishes(*known->record, start) : Wishes();
+    if (also) std::ranges::move(also(file, known->film.identity), std::back_inserter(all));
+    return all;
   };
 }
 

@@ -15,6 +15,9 @@ namespace tromelo {
 
 class Clock;
 
+/// Sets an option of the engine for the file that it opens.
+MpvPropertyWrite fileOption(const std::string& option, std::string value);
+
 /// Brings each film back to where it was left, and remembers where it is left. Main thread only.
 class FilmKeeper {
  public:
@@ -24,8 +27,11 @@ class FilmKeeper {
   FilmKeeper(const FilmKeeper&) = delete;
   FilmKeeper& operator=(const FilmKeeper&) = delete;
 
+  /// What else is to be done with a film that is known, on the engine's thread.
+  using Preparation = std::function<std::vector<PreloadHook::Wish>(const OpenedFile& file,
+                                                                   const QByteArray& identity)>;
   /// For the engine. Empty without a memory.
-  PreloadHook::Prepare prepareFile();
+  PreloadHook::Prepare prepareFile(const Preparation& also = {});
 
   /// Whether films go on where they were left.
   void setResumes(bool resumes) { session_->resumes = resumes; }

@@ -36,10 +36,11 @@ void store(const SoftwareDecodePaths& paths, UserDefaults& defaults) {
 void HardwareDecoding::fileStarted() {
   errorBursts = 0;
   lastError = 0;
+  tookProgramDown = false;
 }
 
 void HardwareDecoding::pathReported(const std::string& path) {
-  forcedSoftware = softwarePaths.contains(path);
+  forcedSoftware = tookProgramDown || softwarePaths.contains(path);
 }
 
 bool HardwareDecoding::givesUpAfterError(double now) {
@@ -51,12 +52,15 @@ bool HardwareDecoding::givesUpAfterError(double now) {
   return true;
 }
 
+bool isHardwareDecoder(const std::optional<std::string>& reported) {
+  return reported && !reported->empty() && *reported != "no";
+}
+
 std::optional<QString> decoderText(const std::optional<std::string>& reported, bool forcedSoftware,
                                    bool isLoaded) {
-  const std::string hardware = reported.value_or("no");
-  if (!hardware.empty() && hardware != "no") {
+  if (isHardwareDecoder(reported)) {
     return QCoreApplication::translate("HardwareDecoding", "Hardware (%1)")
-        .arg(QString::fromUtf8(hardware));
+        .arg(QString::fromUtf8(*reported));
   }
   if (forcedSoftware)
     return QCoreApplication::translate("HardwareDecoding",

@@ -24,7 +24,8 @@ struct HardwareDecoding {
   int errorBursts = 0;   // in the current file
   double lastError = 0;  // in the current file
   double lastPlaybackRestart = 0;
-  bool forcedSoftware = false;  // the current file is decoded in software because of its errors
+  bool forcedSoftware = false;   // the current file is decoded in software because of its errors
+  bool tookProgramDown = false;  // the hardware, with the current file, before this start
   SoftwareDecodePaths softwarePaths;
 
   void fileStarted();
@@ -32,6 +33,9 @@ struct HardwareDecoding {
   /// The decoder warned about the hardware. True when the file is to go on in software from now on.
   bool givesUpAfterError(double now);
 };
+
+/// Whether `reported`, the engine's name for what decodes, is hardware.
+bool isHardwareDecoder(const std::optional<std::string>& reported);
 
 /// What decodes, for people: `reported` is the engine's name for it. None where it isn't known yet.
 std::optional<QString> decoderText(const std::optional<std::string>& reported, bool forcedSoftware,

@@ -43,12 +43,15 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       marks_(parts.films),
       films_(parts.films),
       filmKeeper_(parts.films, parts.clock),
+      trial_(parts.diagnosticsDirectory + QStringLiteral("/decoding"),
+             [this](bool isNew) { takeFall(isNew); }),
       shuffle_([](qsizetype end) { return QRandomGenerator::global()->bounded(end); }),
       existence_(std::move(parts.fileExists),
                  [this](const QList<FileExistence::Answer>& answers) { takeAnswers(answers); }),
       localFiles_(std::move(parts.mountedPath)) {
   connect(&marks_, &Bookmarks::changed, this, [this] { bookmarks_ = marks_.all(); });
   hardware_.softwarePaths = storedSoftwareDecodePaths(defaults_);
+  if (films_) connect(films_, &FilmMemory::forgotAll, this, [this] { trial_.forgetAll(); });
   loadRecents();
   filmKeeper_.setResumes(settings_.resumesFilms());
   connect(&settings_, &PlayerSettings::changed, this,
@@ -68,7 +71,7 @@ void PlaybackModel::startEngine(const Parts& parts) {
   engine_.onEvent = [model = QPointer(this)](const MpvEvent& received) {
     if (model) model->handleEvent(received);
   };
-  engine_.prepareFile = filmKeeper_.prepareFile();
+  engine_.prepareFile = filmKeeper_.prepareFile(trial_.preparation());
   if (const auto error = initializeEngine(parts)) {
     status_ = *error;
     errorMessage_ = *error;
@@ -87,7 +90,10 @@ PlayerPresenting& PlaybackModel::player() {
 }
 
 void PlaybackModel::setShuttingDown(bool shuttingDown) {
-  if (shuttingDown) filmKeeper_.keep();
+  if (shuttingDown) {
+    filmKeeper_.keep();
+    trial_.ended();
+  }
   if (std::exchange(isShuttingDown_, shuttingDown) != shuttingDown) Q_EMIT isShuttingDownChanged();
 }
 

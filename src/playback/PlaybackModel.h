@@ -17,6 +17,7 @@
 #include "playback/Bookmarks.h"
 #include "playback/FilmKeeper.h"
 #include "playback/HardwareDecoding.h"
+#include "playback/HardwareTrial.h"
 #include "playback/PlaybackState.h"
 #include "playback/PlayerPresenting.h"
 #include "playback/QueueProgress.h"
@@ -270,6 +271,7 @@ class PlaybackModel : public PlaybackState {
   void checkRestart();
   void publishTracks(const MpvValue& list);
   PlayerSettings* settingsForViews() { return &settings_; }
+  void takeFall(bool isNew);
   void rememberSoftwareDecode(const std::string& path);
   void noteMove();
   void loadRecents();
@@ -298,6 +300,7 @@ class PlaybackModel : public PlaybackState {
   HardwareDecoding hardware_;
   FilmMemory* const films_;
   FilmKeeper filmKeeper_;
+  HardwareTrial trial_;
   QueueProgress progress_;
   QueueShuffle shuffle_;
   RecentFiles recentFiles_;

@@ -37,6 +37,7 @@ void PlaybackModel::handle(const event::StartFile& start) {
   resetForNewFile();
   entry_ = start.entry;
   filmKeeper_.started(entry_);
+  trial_.started(entry_);
   status_ = QStringLiteral("Opening media");
 }
 
@@ -82,6 +83,7 @@ void PlaybackModel::handle(const event::PlaybackRestart&) {
   const bool isFirst = !hasStarted_;
   buffering_ = Buffering::ready;
   hardware_.lastPlaybackRestart = clock_.now();
+  trial_.played();
   noteRestart();
   showVideoReady();
   if (isFirst && filmKeeper_.resumedAt()) Q_EMIT resumed(*filmKeeper_.resumedAt());
@@ -108,6 +110,7 @@ void PlaybackModel::showVideoReady() {
 
 void PlaybackModel::handle(const event::EndFile& end) {
   filmKeeper_.keep();
+  trial_.ended();
   isLoaded_ = false;
   // A film that was shown without its sound has been played.
   if (!end.error || (end.lacksSoundDevice && hasPicture_)) {
@@ -189,6 +192,14 @@ void PlaybackModel::tellOutputFault() {
     errorMessage_ = outputFault_;
   else if (!std::exchange(toldOfNoSound_, true))
     tell(outputFault_);
+}
+
+void PlaybackModel::takeFall(bool isNew) {
+  hardware_.tookProgramDown = hardware_.forcedSoftware = true;
+  if (isNew)
+    tell(tr(
+        "Tromelo broke off while hardware decoded this film; it is decoded in software until you "
+        "update your graphics driver."));
 }
 
 void PlaybackModel::rememberSoftwareDecode(const std::string& path) {

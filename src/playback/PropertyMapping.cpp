@@ -94,6 +94,7 @@ struct PropertyMapping::Actions {
   }
 
   static void hwdecCurrent(Model& m, const Value& v) {
+    m.trial_.decodes(isHardwareDecoder(held<std::string>(v)));
     const bool forced = m.hardware_.forcedSoftware;
     if (const auto text = decoderText(held<std::string>(v), forced, m.isLoaded_)) {
       m.decoder_ = *text;
