@@ -9,8 +9,8 @@
 
 #include "engine/MpvClientApi.h"
 #include "pictures/PictureMessage.h"
-#include "pictures/ProcessLimits.h"
 #include "pictures/StandardRange.h"
+#include "platform/ProcessLimits.h"
 
 namespace tromelo {
 

@@ -1,17 +1,13 @@
 #pragma once
 
 #include <QByteArray>
-#include <QList>
-#include <QObject>
-#include <QPointer>
-#include <QProcess>
-#include <QString>
-#include <QStringList>
 #include <functional>
 #include <memory>
+#include <utility>
 
 #include "pictures/PictureMessage.h"
 #include "platform/Clock.h"
+#include "platform/HelperProcess.h"
 
 namespace tromelo {
 
@@ -20,10 +16,7 @@ namespace tromelo {
 /// thread only; nothing here waits.
 class PictureProcess {
  public:
-  struct Program {
-    QString file;
-    QStringList arguments;
-  };
+  using Program = HelperProcess::Program;
   static constexpr std::chrono::seconds kPatience{10};  // with an answer
   static constexpr std::chrono::seconds kRest{20};      // until it is ended
 
@@ -34,30 +27,24 @@ class PictureProcess {
   using Answer = std::function<void(const Outcome&)>;
 
   /// `clock` outlives it.
-  PictureProcess(Program program, Clock& clock);
-  ~PictureProcess();
-  PictureProcess(const PictureProcess&) = delete;
-  PictureProcess& operator=(const PictureProcess&) = delete;
+  PictureProcess(Program program, Clock& clock) : program_(std::move(program)), clock_(clock) {}
 
   /// One request at a time. `answer` comes from the event loop, and may ask for the next.
   void ask(const PictureRequest& request, Answer answer);
 
   /// Ends it, whatever it is doing, without an answer.
   void end();
-  bool isRunning() const { return process_ != nullptr; }
+  bool isRunning() const { return process_.isRunning(); }
 
  private:
   void start();
-  void read();
+  void read(const QByteArray& output);
   void finish(const Outcome& outcome);
   void fail();
-  void dismiss();
 
   const Program program_;
   Clock& clock_;
-  QProcess* process_ = nullptr;          // deletes itself once it has ended
-  QList<QPointer<QProcess>> dismissed_;  // those that have yet to end
-  std::shared_ptr<const bool> isHeard_;  // what this process tells
+  HelperProcess process_;
   std::unique_ptr<Clock::Timer> limit_;
   PictureRequest request_;
   Answer answer_;

@@ -10,8 +10,8 @@
 
 #include "engine/MpvClientApi.h"
 #include "pictures/PictureMaker.h"
-#include "pictures/ProcessLimits.h"
 #include "platform/FilePath.h"
+#include "platform/ProcessLimits.h"
 
 namespace tromelo {
 

@@ -1,4 +1,4 @@
-#include "pictures/ProcessLimits.h"
+#include "platform/ProcessLimits.h"
 
 #include <malloc.h>
 #include <sys/prctl.h>
