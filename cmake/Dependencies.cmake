@@ -19,6 +19,9 @@ if(NOT MPV_FOUND)
     "Tromelo needs libmpv 0.38 or newer (client API 2.3); found API '${MPV_ANY_VERSION}'.")
 endif()
 
+# What libmpv reads files with: its headers; the libraries are opened where they are needed.
+pkg_check_modules(AV REQUIRED libavformat libavcodec libavutil)
+
 pkg_check_modules(GLIB REQUIRED IMPORTED_TARGET glib-2.0 gio-2.0)
 pkg_search_module(WLROOTS QUIET IMPORTED_TARGET wlroots-0.19 wlroots-0.18)
 if(NOT WLROOTS_FOUND)

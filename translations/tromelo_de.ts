@@ -451,6 +451,40 @@
     </message>
 </context>
 <context>
+    <name>LineRow</name>
+    <message>
+        <source>This line is spoken now</source>
+        <translation>Diese Zeile wird jetzt gesprochen</translation>
+    </message>
+    <message>
+        <source>This line is spoken now (Shift+Enter)</source>
+        <translation>Diese Zeile wird jetzt gesprochen (Umschalt+Eingabe)</translation>
+    </message>
+</context>
+<context>
+    <name>LinesPanel</name>
+    <message>
+        <source>Search the lines</source>
+        <translation>Die Zeilen durchsuchen</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Subtitle lines</source>
+        <translation>Untertitelzeilen</translation>
+    </message>
+    <message>
+        <source>No line has these words.</source>
+        <translation>In keiner Zeile stehen diese Wörter.</translation>
+    </message>
+    <message>
+        <source>Timing</source>
+        <translation>Versatz</translation>
+    </message>
+</context>
+<context>
     <name>MediaTrack</name>
     <message>
         <source>Mono</source>
@@ -631,6 +665,10 @@
     <message>
         <source>Go to time</source>
         <translation>Zu Zeit springen</translation>
+    </message>
+    <message>
+        <source>Subtitle lines</source>
+        <translation>Untertitelzeilen</translation>
     </message>
 </context>
 <context>
@@ -1032,6 +1070,10 @@
     <message>
         <source>Tromelo broke off while hardware decoded this film; it is decoded in software until you update your graphics driver.</source>
         <translation>Tromelo brach ab, während Hardware diesen Film dekodierte; er wird in Software dekodiert, bis Sie Ihren Grafiktreiber aktualisieren.</translation>
+    </message>
+    <message>
+        <source>No line follows</source>
+        <translation>Es folgt keine Zeile</translation>
     </message>
 </context>
 <context>
@@ -1559,6 +1601,22 @@
         <source>Choose a row, move it in the queue</source>
         <translation>Zeile wählen, in der Warteschlange verschieben</translation>
     </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>All lines of the subtitles</source>
+        <translation>Alle Zeilen der Untertitel</translation>
+    </message>
+    <message>
+        <source>⇧Y</source>
+        <translation>⇧Y</translation>
+    </message>
+    <message>
+        <source>The next subtitle line is spoken now</source>
+        <translation>Die nächste Untertitelzeile wird jetzt gesprochen</translation>
+    </message>
 </context>
 <context>
     <name>tromelo::PlayerMenu</name>
@@ -1786,6 +1844,14 @@
         <source>Save the queue…</source>
         <translation>Warteschlange sichern…</translation>
     </message>
+    <message>
+        <source>All lines…</source>
+        <translation>Alle Zeilen …</translation>
+    </message>
+    <message>
+        <source>The next line is spoken now</source>
+        <translation>Die nächste Zeile wird jetzt gesprochen</translation>
+    </message>
 </context>
 <context>
     <name>tromelo::PlayerSettings</name>
@@ -1847,6 +1913,33 @@
     <message>
         <source>Picture kept: %1</source>
         <translation>Bild gesichert: %1</translation>
+    </message>
+</context>
+<context>
+    <name>tromelo::SubtitleLines</name>
+    <message>
+        <source>No subtitles are shown.</source>
+        <translation>Es sind keine Untertitel zu sehen.</translation>
+    </message>
+    <message>
+        <source>These subtitles are pictures: there are no lines to list.</source>
+        <translation>Diese Untertitel sind Bilder: Es gibt keine Zeilen, die sich auflisten ließen.</translation>
+    </message>
+    <message>
+        <source>The lines of these subtitles can&apos;t be listed.</source>
+        <translation>Die Zeilen dieser Untertitel lassen sich nicht auflisten.</translation>
+    </message>
+    <message>
+        <source>The lines are being read…</source>
+        <translation>Die Zeilen werden gelesen …</translation>
+    </message>
+    <message>
+        <source>The subtitles couldn&apos;t be read; look whether their file is still there.</source>
+        <translation>Die Untertitel konnten nicht gelesen werden; sehen Sie nach, ob ihre Datei noch da ist.</translation>
+    </message>
+    <message>
+        <source>These subtitles have no lines.</source>
+        <translation>Diese Untertitel haben keine Zeilen.</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,7 @@ namespace tromelo {
 /// As the first argument, the process is another kind of program: the player's own helper, which
 /// people don't start, or the desktop's thumbnailer.
 constexpr const char* kPicturesOption = "--pictures";
+constexpr const char* kLinesOption = "--lines";
 constexpr const char* kThumbnailOption = "--thumbnail";
 
 /// What the arguments ask for. Options that the program doesn't know are ignored.

@@ -150,6 +150,8 @@ void Program::makeDelegate() {
         .picturesFolder = QFile::encodeName(userPicturesDirectory()).toStdString(),
         .copyPicture = &putOntoClipboard,
         .films = &films_,
+        .lineReader = {.file = QCoreApplication::applicationFilePath(),
+                       .arguments = {QString::fromLatin1(kLinesOption)}},
         .engineFault = displayFault_});
   };
   parts.makeLibraryWindow = [this](PlaybackModel& playback, PlayerWindowController& player) {

@@ -16,6 +16,7 @@
 #include "app/CommandLine.h"
 #include "app/Program.h"
 #include "app/SelftestCommand.h"
+#include "lines/LineReader.h"
 #include "pictures/PictureMaker.h"
 #include "pictures/Thumbnailer.h"
 #include "platform/HostEnvironment.h"
@@ -107,6 +108,7 @@ int main(int argc, char** argv) {
   // These are no players: they need neither a display nor a bus, and touch neither.
   const std::string_view first = argc > 1 ? argv[1] : "";
   if (first == tromelo::kPicturesOption) return tromelo::runPictureMaker();
+  if (first == tromelo::kLinesOption) return tromelo::runLineReader(arguments.subspan(2));
   if (first == tromelo::kThumbnailOption) return tromelo::runThumbnailer(arguments.subspan(2));
   const auto line = tromelo::CommandLine::parse(arguments);
   if (line.help) return std::fputs(tromelo::CommandLine::helpText().c_str(), stdout) < 0;

@@ -50,6 +50,8 @@ namespace tromelo {
   ROW(mute, "mute", flag, lasting, state)                                                    \
   ROW(subDelay, "sub-delay", number, lasting, state)                                         \
   ROW(audioDelay, "audio-delay", number, lasting, state)                                     \
+  ROW(fileBegin, "demuxer-start-time", number, lasting, state)                               \
+  ROW(subCodepage, "sub-codepage", string, lasting, state)                                   \
   /* These hold "no" or a time. */                                                           \
   ROW(abLoopA, "ab-loop-a", string, lasting, state)                                          \
   ROW(abLoopB, "ab-loop-b", string, lasting, state)                                          \

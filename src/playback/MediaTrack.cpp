@@ -36,6 +36,11 @@ std::optional<qint64> channelCount(const MpvMap& entry) {
   return {};
 }
 
+std::optional<qint64> streamNumber(const MpvMap& entry) {
+  const auto* number = mpvEntry<std::int64_t>(entry, "ff-index");
+  return number && *number >= 0 ? std::optional<qint64>(*number) : std::nullopt;
+}
+
 std::string fileName(const MpvMap& entry) {
   const auto* name = mpvEntry<std::string>(entry, "external-filename");
   return name ? *name : std::string();
@@ -54,7 +59,8 @@ MediaTrack mediaTrack(const MpvMap& entry, qint64 id, MediaTrack::Kind kind) {
           .isForced = flag(entry, "forced"),
           .isExternal = flag(entry, "external"),
           .isSelected = flag(entry, "selected"),
-          .file = fileName(entry)};
+          .file = fileName(entry),
+          .stream = streamNumber(entry)};
 }
 
 QString channelText(qint64 count) {

@@ -34,7 +34,8 @@ class MediaTrack {
   bool isForced = false;
   bool isExternal = false;
   bool isSelected = false;
-  std::string file = {};  // the path of an external one, bytes
+  std::string file = {};              // the path of an external one, bytes
+  std::optional<qint64> stream = {};  // in its file, as libavformat counts them; none: it isn't one
 
   /// For people, with the language in theirs: "Commentary (English)".
   QString name() const;

@@ -48,7 +48,8 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       shuffle_([](qsizetype end) { return QRandomGenerator::global()->bounded(end); }),
       existence_(std::move(parts.fileExists),
                  [this](const QList<FileExistence::Answer>& answers) { takeAnswers(answers); }),
-      localFiles_(std::move(parts.mountedPath)) {
+      localFiles_(std::move(parts.mountedPath)),
+      lines_(std::move(parts.lineReader), parts.clock) {
   connect(&marks_, &Bookmarks::changed, this, [this] { bookmarks_ = marks_.all(); });
   hardware_.softwarePaths = storedSoftwareDecodePaths(defaults_);
   if (films_) connect(films_, &FilmMemory::forgotAll, this, [this] { trial_.forgetAll(); });

@@ -24,6 +24,7 @@
 #include "playback/QueueShuffle.h"
 #include "playback/RecentFiles.h"
 #include "playback/Screenshots.h"
+#include "playback/SubtitleLines.h"
 #include "settings/PlayerSettings.h"
 
 namespace tromelo {
@@ -41,6 +42,7 @@ class PlaybackModel : public PlaybackState {
   Q_OBJECT
   Q_PROPERTY(tromelo::PlayerSettings* settings READ settingsForViews CONSTANT)
   Q_PROPERTY(tromelo::FilmMemory* films READ films CONSTANT)
+  Q_PROPERTY(tromelo::SubtitleLines* subtitleLines READ subtitleLines CONSTANT)
 
  public:
   /// What the model works with; the references outlive it.
@@ -62,8 +64,9 @@ class PlaybackModel : public PlaybackState {
     std::string picturesFolder = {};  // where pictures of films are kept
     /// Puts a picture, as PNG, onto the desktop's clipboard.
     std::function<void(const QByteArray& png)> copyPicture = [](const QByteArray&) {};
-    FilmMemory* films = nullptr;  // none: no film is remembered
-    QString engineFault = {};     // a sentence: why the engine can't be started; empty: it can
+    FilmMemory* films = nullptr;             // none: no film is remembered
+    HelperProcess::Program lineReader = {};  // reads the lines of subtitles
+    QString engineFault = {};  // a sentence: why the engine can't be started; empty: it can
   };
 
   /// Starts the engine; a failure shows in status and errorMessage.
@@ -194,6 +197,12 @@ class PlaybackModel : public PlaybackState {
   Q_INVOKABLE QString cycleAudio();
   /// To the next line of the subtitles that are shown, or to the one before; false where none are.
   bool stepSubtitleLine(int steps);
+  SubtitleLines* subtitleLines() { return &lines_; }
+  /// The line that starts at `lineStart`, without any delay, is spoken now: the delay follows.
+  Q_INVOKABLE void syncSubtitles(double lineStart);
+  /// The same for the line that comes next. Calls `done`, maybe later, with why that can't be: a
+  /// sentence; empty: the delay has followed.
+  void syncToNextLine(const std::function<void(const QString& fault)>& done);
   /// A bookmark here; where one is already, that one is returned, and stays the only one.
   std::optional<FilmBookmark> addBookmark();
   Q_INVOKABLE void renameBookmark(qint64 id, const QString& name) { marks_.rename(id, name); }
@@ -270,6 +279,7 @@ class PlaybackModel : public PlaybackState {
   void noteRestart();
   void checkRestart();
   void publishTracks(const MpvValue& list);
+  void showLinesOfSubtitles();
   PlayerSettings* settingsForViews() { return &settings_; }
   void takeFall(bool isNew);
   void rememberSoftwareDecode(const std::string& path);
@@ -307,6 +317,9 @@ class PlaybackModel : public PlaybackState {
   FileExistence existence_;
   Background reading_;  // of lists and folders, for what plays
   LocalFiles localFiles_;
+  SubtitleLines lines_;
+  double fileBegin_ = 0;                     // by the file's own clock; seconds
+  std::string subtitleCodepage_;             // the engine's name for it
   double position_ = 0;                      // to the frame, where elapsed goes in steps; seconds
   std::int64_t entry_ = 0;                   // of the current file, the engine's number for it
   std::optional<std::string> currentPath_;   // as the engine has reported it since the file started

@@ -187,6 +187,7 @@ void PlaybackModel::publishTracks(const MpvValue& list) {
   audioTracks_ = mediaTracks(list, MediaTrack::Kind::audio);
   subtitleTracks_ = mediaTracks(list, MediaTrack::Kind::sub);
   filmKeeper_.tracksChanged(audioTracks_, subtitleTracks_);
+  showLinesOfSubtitles();
 }
 
 void PlaybackModel::selectSubtitle(qint64 track) {

@@ -63,6 +63,7 @@ void PlaybackModel::resetForNewFile() {
   buffering_ = Buffering::loading;
   currentChapter_ = std::nullopt;
   hardware_.fileStarted();
+  showLinesOfSubtitles();
 }
 
 void PlaybackModel::handle(const event::FileLoaded&) {

@@ -26,6 +26,7 @@ void PlaybackModel::takePath(const std::string& path) {
   lastURL_ = fileUrlFromPath(path);
   hardware_.pathReported(path);
   if (isLoaded_) remember(path);
+  showLinesOfSubtitles();
 }
 
 /// The engine doesn't report a path again that is that of the file before.

@@ -127,6 +127,16 @@ struct PropertyMapping::Actions {
 
   static void audioDelay(Model& m, const Value& v) { m.audioDelay_ = held<double>(v).value_or(0); }
 
+  static void fileBegin(Model& m, const Value& v) {
+    m.fileBegin_ = held<double>(v).value_or(0);
+    m.showLinesOfSubtitles();
+  }
+
+  static void subCodepage(Model& m, const Value& v) {
+    m.subtitleCodepage_ = held<std::string>(v).value_or("");
+    m.showLinesOfSubtitles();
+  }
+
   /// Anything but "no" is "inf" or a number of rounds.
   static bool loops(const Value& v) { return held<std::string>(v).value_or("no") != "no"; }
 

@@ -156,6 +156,14 @@ QString stepSubtitleLine(Player&, PlaybackModel& playback) {
   return playback.stepSubtitleLine(steps) ? QString() : PlayerActions::tr("No subtitles");
 }
 
+QString syncToNextLine(Player& player, PlaybackModel& playback) {
+  playback.syncToNextLine([&player, &playback](const QString& fault) {
+    const QString delay = Format::delay(playback.subtitleDelay());
+    player.showToast(fault.isEmpty() ? PlayerActions::tr("Subtitle delay %1").arg(delay) : fault);
+  });
+  return {};
+}
+
 template <Screenshots::What what>
 QString keepPicture(Player&, PlaybackModel& playback) {
   playback.keepPicture(what);
@@ -364,6 +372,12 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
           QT_TR_NOOP("Previous / next subtitle line"),
           {{.keys = {typed(u",")}, .act = stepSubtitleLine<-1>, .held = Held::again},
            {.keys = {typed(u".")}, .act = stepSubtitleLine<1>, .held = Held::again}}},
+         {QT_TR_NOOP("Y"),
+          QT_TR_NOOP("All lines of the subtitles"),
+          {{.keys = {typed(u"y")}, .act = toggle<PlayerPanel::lines>}}},
+         {QT_TR_NOOP("⇧Y"),
+          QT_TR_NOOP("The next subtitle line is spoken now"),
+          {{.keys = {typed(u"Y")}, .act = syncToNextLine}}},
      }},
     {QT_TR_NOOP("Window"),
      {

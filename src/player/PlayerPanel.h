@@ -18,8 +18,9 @@ enum class PlayerPanel {
   chapters,
   queue,
   shortcuts,
-  goTo,  // a time that is typed
-  menu,  // over the picture
+  goTo,   // a time that is typed
+  lines,  // of the subtitles
+  menu,   // over the picture
 };
 Q_ENUM_NS(PlayerPanel)
 
@@ -74,6 +75,9 @@ inline QList<BarPanel> barPanels() {
       {.panel = PlayerPanel::goTo,
        .body = QStringLiteral("GoToPanel"),
        .name = QT_TRANSLATE_NOOP("PlayerPanels", "Go to time")},
+      {.panel = PlayerPanel::lines,
+       .body = QStringLiteral("LinesPanel"),
+       .name = QT_TRANSLATE_NOOP("PlayerPanels", "Subtitle lines")},
   };
 }
 

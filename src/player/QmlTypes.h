@@ -74,6 +74,13 @@ struct FilmMemoryForQml {
   QML_UNCREATABLE("The program has one.")
 };
 
+struct SubtitleLinesForQml {
+  Q_GADGET
+  QML_FOREIGN(tromelo::SubtitleLines)
+  QML_NAMED_ELEMENT(SubtitleLines)
+  QML_UNCREATABLE("The model has one.")
+};
+
 struct PlaybackModelForQml {
   Q_GADGET
   QML_FOREIGN(tromelo::PlaybackModel)

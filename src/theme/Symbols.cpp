@@ -42,6 +42,7 @@ const QHash<QString, char16_t>& glyphs() {
       {QStringLiteral("speaker.wave.2.fill"), u'\ue04d'},
       {QStringLiteral("speaker.wave.3.fill"), u'\ue050'},
       {QStringLiteral("square.and.arrow.down"), u'\ue161'},
+      {QStringLiteral("timer"), u'\ue425'},
       {QStringLiteral("xmark"), u'\ue5cd'},
       {QStringLiteral("xmark.circle.fill"), u'\ue5c9'},
   };

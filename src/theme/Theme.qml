@@ -121,6 +121,10 @@ QtObject {
     readonly property real chaptersHeight: 420
     readonly property real queueWidth: 340
     readonly property real goToWidth: 300
+    readonly property real linesWidth: 420
+    readonly property real linesHeight: 460 // at most
+    readonly property real lineTimeWidth: 48
+    readonly property int lineRows: 3 // of a line of subtitles, at most
     readonly property real queueRowsHeight: 360
     readonly property real panelPadding: 16
     readonly property real listPadding: 10
