@@ -75,8 +75,8 @@ struct KeysTest : PlayerTest {
   /// What became of it: what the engine was told, what is open, what is said.
   Sent effects() {
     Sent found = takeSent();
-    static constexpr const char* kPanels[]{"tracks",    "chapters", "queue",
-                                           "shortcuts", "goTo",     "menu"};
+    static constexpr const char* kPanels[]{"tracks", "chapters", "queue", "shortcuts",
+                                           "goTo",   "lines",    "menu"};
     if (chrome().panel()) found.push_back(kPanels[static_cast<int>(*chrome().panel())]);
     if (chrome().showsInfo()) found.push_back("info");
     if (player().isClosing()) found.push_back("closes");
@@ -127,6 +127,8 @@ TEST_F(KeysTest, EachDoesAsTheListSays) {
       {typed("l"), {"set loop-file inf", "\"Loop on\""}},
       {typed("t"), {"\"0:51 / 1:06:40\""}, true},
       {typed("g", kControl), {"goTo"}},
+      {typed("y"), {"lines"}},
+      {typed("Y"), {"\"The lines of these subtitles can't be listed.\""}},
       {{Qt::Key_F10, {}, kShift}, {"menu"}},
       {typed("x"),
        {"set file-local-options/ab-loop-a 51.5", "set file-local-options/ab-loop-b no",
