@@ -59,7 +59,7 @@ QString foldedText(const QString& text) {
   for (const QChar character : text.normalized(QString::NormalizationForm_KD).toCaseFolded())
     if (character.category() != QChar::Mark_NonSpacing)
       folded += character == QChar::LineSeparator ? QChar(u' ') : character;
-  return folded;
+  return folded.replace(u'ß', QStringLiteral("ss"));  // which Qt folds to itself
 }
 
 }  // namespace tromelo

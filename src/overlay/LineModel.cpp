@@ -7,6 +7,12 @@
 
 namespace tromelo {
 
+namespace {
+
+constexpr double kSoon = 0.2;  // seconds: the position is told in steps of this
+
+}  // namespace
+
 LineModel::~LineModel() {
   if (lines_) lines_->setWanted(false);
 }
@@ -100,7 +106,7 @@ void LineModel::append(int first) {
 
 void LineModel::updateCurrent() {
   const auto next = std::ranges::upper_bound(
-      rows_, seconds_, {}, [this](int line) { return lines_->all()[line].start; });
+      rows_, seconds_ + kSoon, {}, [this](int line) { return lines_->all()[line].start; });
   const auto current = static_cast<int>(next - rows_.begin()) - 1;
   if (std::exchange(current_, current) != current) Q_EMIT currentChanged();
 }

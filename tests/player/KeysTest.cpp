@@ -128,7 +128,7 @@ TEST_F(KeysTest, EachDoesAsTheListSays) {
       {typed("t"), {"\"0:51 / 1:06:40\""}, true},
       {typed("g", kControl), {"goTo"}},
       {typed("y"), {"lines"}},
-      {typed("Y"), {"\"The lines of these subtitles can't be listed.\""}},
+      {typed("Y"), {"\"No subtitles are shown.\""}},
       {{Qt::Key_F10, {}, kShift}, {"menu"}},
       {typed("x"),
        {"set file-local-options/ab-loop-a 51.5", "set file-local-options/ab-loop-b no",
