@@ -1075,6 +1075,10 @@
         <source>No line follows</source>
         <translation>Es folgt keine Zeile</translation>
     </message>
+    <message>
+        <source>the graphics card stopped answering; update its driver.</source>
+        <translation>die Grafikkarte antwortet nicht mehr; aktualisieren Sie ihren Treiber.</translation>
+    </message>
 </context>
 <context>
     <name>tromelo::PlaybackState</name>

@@ -1,12 +1,23 @@
 #include "app/AppDelegate.h"
 
+#include <QPointer>
+#include <chrono>
+#include <utility>
+
 #include "app/DefaultsMigration.h"
 
 namespace tromelo {
 
+namespace {
+
+/// With an engine that is told to end. What is left of five seconds is for the disk.
+constexpr std::chrono::seconds kEnginePatience(4);
+
+}  // namespace
+
 AppDelegate::AppDelegate(const CommandLine& commandLine, UserDefaults& defaults,
-                         const std::vector<UserDefaults>& formerDefaults, Parts parts)
-    : parts_(std::move(parts)), commandLine_(commandLine) {
+                         const std::vector<UserDefaults>& formerDefaults, Clock& clock, Parts parts)
+    : clock_(clock), parts_(std::move(parts)), commandLine_(commandLine) {
   // The settings are loaded by the model, so what the former edition left has to be there before.
   migrateDefaultsFromOrvo(defaults, formerDefaults);
   playback_ = parts_.makePlayback();
@@ -57,8 +68,21 @@ TerminateReply AppDelegate::applicationShouldTerminate() {
   playback_->setShuttingDown(true);
   Q_EMIT willTerminate();
   player().prepareForTermination();
-  playback_->engine().terminate([this] { Q_EMIT readyToTerminate(); });
+  endEngine();
   return TerminateReply::later;
+}
+
+void AppDelegate::endEngine() {
+  patience_ = clock_.after(kEnginePatience, [this] {
+    engineHangs_ = true;
+    Q_EMIT readyToTerminate();
+  });
+  playback_->engine().terminate([self = QPointer(this)] {
+    // One that hung before may be left.
+    if (!self || self->engineHangs_ || self->playback_->engine().isDestroying()) return;
+    self->patience_.reset();
+    Q_EMIT self->readyToTerminate();
+  });
 }
 
 void AppDelegate::quit() {

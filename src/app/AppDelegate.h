@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/CommandLine.h"
+#include "platform/Clock.h"
 #include "platform/UserDefaults.h"
 #include "playback/PlaybackModel.h"
 #include "player/ControlledWindow.h"
@@ -31,9 +32,10 @@ class AppDelegate : public QObject {
         makeLibraryWindow;
   };
 
-  /// `defaults` outlives it; `formerDefaults` are the former edition's stores, asked in order.
+  /// `defaults` and `clock` outlive it; `formerDefaults` are the former edition's stores, asked in
+  /// order.
   AppDelegate(const CommandLine& commandLine, UserDefaults& defaults,
-              const std::vector<UserDefaults>& formerDefaults, Parts parts);
+              const std::vector<UserDefaults>& formerDefaults, Clock& clock, Parts parts);
   ~AppDelegate() override;
 
   PlaybackModel& playback() { return *playback_; }
@@ -46,23 +48,31 @@ class AppDelegate : public QObject {
   TerminateReply applicationShouldTerminate();
   void showLibraryWindow();
 
+  /// It was given up at the end, and its threads still run.
+  bool engineHangs() const { return engineHangs_; }
+
   /// Asks whether to quit, and quits when that may be: see readyToTerminate.
   void quit();
 
  Q_SIGNALS:
   /// The engine is about to be destroyed.
   void willTerminate();
-  /// The engine is gone: nothing keeps the process any more.
+  /// Nothing keeps the process any more: the engine is gone, or is not waited for any longer.
   void readyToTerminate();
 
  private:
   void open(const QUrl& url, std::optional<double> start);
 
+  void endEngine();
+
+  Clock& clock_;
   Parts parts_;
   bool didFinishLaunching_ = false;
   const CommandLine commandLine_;
   std::unique_ptr<PlaybackModel> playback_;
   std::unique_ptr<ControlledWindow> libraryWindow_;
+  std::unique_ptr<Clock::Timer> patience_;  // with the engine, at the end
+  bool engineHangs_ = false;
 };
 
 }  // namespace tromelo

@@ -157,7 +157,7 @@ void Program::makeDelegate() {
   parts.makeLibraryWindow = [this](PlaybackModel& playback, PlayerWindowController& player) {
     return makeLibraryWindow(playback, player);
   };
-  delegate_ = std::make_unique<AppDelegate>(commandLine_, defaults_, storesOfOrvo(), parts);
+  delegate_ = std::make_unique<AppDelegate>(commandLine_, defaults_, storesOfOrvo(), clock_, parts);
   delegate_->playback().setPictureWay(pictureWay_);
   if (commandLine_.isPrivate) delegate_->playback().setPrivate(true);
   QObject::connect(delegate_.get(), &AppDelegate::readyToTerminate, qApp,

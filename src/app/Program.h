@@ -38,6 +38,9 @@ class Program {
   /// Runs until the person quits; gives the process's exit status.
   int run();
 
+  /// The engine was given up: the application object would wait for it for ever.
+  bool engineHangs() const { return delegate_ && delegate_->engineHangs(); }
+
  private:
   void startDisplay();
   void preparePlayerWindow();

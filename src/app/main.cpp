@@ -101,6 +101,13 @@ struct Translations {
   QTranslator qt;
 };
 
+/// What is ours has ended in order, and nothing waits for the engine's threads.
+[[noreturn]] void endUnderTheEngine(int status) {
+  std::fputs("The playback engine hangs, and was left behind.\n", stderr);
+  std::fflush(nullptr);
+  std::_Exit(status);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -126,6 +133,10 @@ int main(int argc, char** argv) {
   if (line.displaySelftest)
     return std::fputs(qPrintable(tromelo::runDisplaySelftest()), stdout) < 0;
   const Translations translations;  // before any text is made
-  tromelo::Program program(line);
-  return program.run();
+  std::optional<tromelo::Program> program(std::in_place, line);
+  const int status = program->run();
+  const bool engineHangs = program->engineHangs();
+  program.reset();
+  if (engineHangs) endUnderTheEngine(status);
+  return status;
 }

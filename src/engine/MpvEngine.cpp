@@ -124,13 +124,15 @@ void MpvEngine::terminate(std::function<void()> completion) {
   outcomes_.clear();
   wakeupTarget_->engine = nullptr;
   api_->setWakeupCallback(handle.pointer, nullptr, nullptr);
+  ++*undestroyed_;
   // The application object waits for the pool before it is gone, so that the process never ends
   // under libmpv's threads.
   QThreadPool::globalInstance()->start([destroy = api_->terminateDestroy, handle,
-                                        preload = std::move(preload_),
+                                        preload = std::move(preload_), left = undestroyed_,
                                         completion = std::move(completion)]() mutable {
     preload.reset();
     destroy(handle.pointer);
+    --*left;
     postToMainThread(completion);
   });
 }

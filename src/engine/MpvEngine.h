@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <atomic>
 #include <deque>
 #include <functional>
 #include <map>
@@ -52,6 +53,9 @@ class MpvEngine {
   /// main thread afterwards (at once when there is no handle).
   void terminate(std::function<void()> completion);
 
+  /// A handle that was taken away isn't destroyed yet.
+  bool isDestroying() const { return *undestroyed_ > 0; }
+
   /// A command's failure comes back as an event.
   void command(std::vector<std::string> arguments);
   /// Called on the main thread with what went wrong, if anything did; never after terminate().
@@ -91,6 +95,7 @@ class MpvEngine {
   mpv_handle* handle_ = nullptr;
   std::shared_ptr<WakeupTarget> wakeupTarget_;
   std::shared_ptr<PreloadHook> preload_;
+  std::shared_ptr<std::atomic<int>> undestroyed_ = std::make_shared<std::atomic<int>>(0);
   std::string logFile_;  // a path's bytes
   // libmpv takes no more requests than it has room for replies, and needs some of it for its
   // events; these wait until it has answered some.

@@ -79,6 +79,11 @@ struct VideoOutputFailed {
   friend bool operator==(VideoOutputFailed, VideoOutputFailed) = default;
 };
 
+/// The graphics card has given up what the picture is drawn with.
+struct VideoDeviceLost {
+  friend bool operator==(VideoDeviceLost, VideoDeviceLost) = default;
+};
+
 /// The file's sound has nowhere to go; its picture, if it has one, plays on.
 struct AudioOutputFailed {
   friend bool operator==(AudioOutputFailed, AudioOutputFailed) = default;
@@ -90,6 +95,6 @@ using MpvEvent =
     std::variant<event::Property, event::EndFile, event::CommandFailed, event::FileQueued,
                  event::StartFile, event::FileLoaded, event::PlaybackRestart,
                  event::VideoReconfigured, event::Idle, event::Shutdown, event::HardwareDecodeError,
-                 event::VideoOutputFailed, event::AudioOutputFailed>;
+                 event::VideoOutputFailed, event::VideoDeviceLost, event::AudioOutputFailed>;
 
 }  // namespace tromelo

@@ -29,6 +29,7 @@ std::optional<MpvEvent> translateLog(const mpv_event_log_message* message) {
   if (prefix == "vd" && says("hardware decoding")) return event::HardwareDecodeError{};
   // No event or property tells of an output that is missing while the other plays on.
   if (prefix == "cplayer" && says("(--vo) device")) return event::VideoOutputFailed{};
+  if (prefix.starts_with("vo/") && says("ERROR_DEVICE_LOST")) return event::VideoDeviceLost{};
   if (prefix == "cplayer" && says("initialize audio device")) return event::AudioOutputFailed{};
   return {};
 }

@@ -36,6 +36,9 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       defaults_(parts.defaults),
       makePlayer_(std::move(parts.makePlayer)),
       hasVulkanDevice_(std::move(parts.hasVulkanDevice)),
+      diagnosticsDirectory_(parts.diagnosticsDirectory),
+      vulkanDevice_(parts.vulkanDevice),
+      engineFault_(parts.engineFault),
       engine_(parts.api),
       settings_(parts.defaults),
       screenshots_(engine_, parts.picturesFolder),
@@ -45,6 +48,7 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       filmKeeper_(parts.films, parts.clock),
       trial_(parts.diagnosticsDirectory + QStringLiteral("/decoding"),
              [this](bool isNew) { takeFall(isNew); }),
+      watch_(parts.clock, watchedEngine()),
       shuffle_([](qsizetype end) { return QRandomGenerator::global()->bounded(end); }),
       existence_(std::move(parts.fileExists),
                  [this](const QList<FileExistence::Answer>& answers) { takeAnswers(answers); }),
@@ -57,7 +61,7 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
   filmKeeper_.setResumes(settings_.resumesFilms());
   connect(&settings_, &PlayerSettings::changed, this,
           [this] { filmKeeper_.setResumes(settings_.resumesFilms()); });
-  startEngine(parts);
+  startEngine();
   settings_.apply(engine_);
   // Queued: the change is announced before it is made.
   settingsObserver_ = connect(
@@ -67,21 +71,21 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
 
 PlaybackModel::~PlaybackModel() = default;
 
-void PlaybackModel::startEngine(const Parts& parts) {
-  QDir().mkpath(parts.diagnosticsDirectory);
+void PlaybackModel::startEngine() {
+  QDir().mkpath(diagnosticsDirectory_);
   engine_.onEvent = [model = QPointer(this)](const MpvEvent& received) {
     if (model) model->handleEvent(received);
   };
   engine_.prepareFile = filmKeeper_.prepareFile(trial_.preparation());
-  if (const auto error = initializeEngine(parts)) {
+  if (const auto error = initializeEngine()) {
     status_ = *error;
     errorMessage_ = *error;
   }
 }
 
-std::optional<QString> PlaybackModel::initializeEngine(const Parts& parts) {
-  if (!parts.engineFault.isEmpty()) return parts.engineFault;
-  const auto error = engine_.initialize(parts.diagnosticsDirectory, parts.vulkanDevice);
+std::optional<QString> PlaybackModel::initializeEngine() {
+  if (!engineFault_.isEmpty()) return engineFault_;
+  const auto error = engine_.initialize(diagnosticsDirectory_, vulkanDevice_);
   return error ? std::optional(engineErrorText(*error)) : std::nullopt;
 }
 

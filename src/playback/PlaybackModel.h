@@ -15,6 +15,7 @@
 #include "platform/LocalFiles.h"
 #include "platform/ScreenHeadroom.h"
 #include "playback/Bookmarks.h"
+#include "playback/EngineWatch.h"
 #include "playback/FilmKeeper.h"
 #include "playback/HardwareDecoding.h"
 #include "playback/HardwareTrial.h"
@@ -241,8 +242,13 @@ class PlaybackModel : public PlaybackState {
     double tolerance;
   };
 
-  void startEngine(const Parts& parts);
-  std::optional<QString> initializeEngine(const Parts& parts);
+  void startEngine();
+  std::optional<QString> initializeEngine();
+  EngineWatch::Engine watchedEngine();
+  void recover();
+  void replaceEngine();
+  void reload(const PlayQueue& queue, double position, bool isPaused);
+  void giveUp();
   void handleEvent(const MpvEvent& received);
   void handle(const event::Property& change);
   void handle(const event::EndFile& end);
@@ -256,6 +262,7 @@ class PlaybackModel : public PlaybackState {
   void handle(const event::Shutdown&);
   void handle(const event::HardwareDecodeError&);
   void handle(const event::VideoOutputFailed&);
+  void handle(const event::VideoDeviceLost&);
   void handle(const event::AudioOutputFailed&);
   void settleFailures();
   void tellOf(const QueueProgress::Failure& failure);
@@ -302,6 +309,9 @@ class PlaybackModel : public PlaybackState {
   UserDefaults& defaults_;
   std::function<std::unique_ptr<PlayerPresenting>(PlaybackModel&)> makePlayer_;
   std::function<bool()> hasVulkanDevice_;
+  const QString diagnosticsDirectory_;
+  const std::string vulkanDevice_;
+  const QString engineFault_;
   MpvEngine engine_;
   PlayerSettings settings_;
   Screenshots screenshots_;
@@ -311,6 +321,10 @@ class PlaybackModel : public PlaybackState {
   FilmMemory* const films_;
   FilmKeeper filmKeeper_;
   HardwareTrial trial_;
+  EngineWatch watch_;
+  // The last film, by its path, that was brought into a new engine, and when.
+  std::optional<std::string> recovered_;
+  double recoveredAt_ = 0;  // of the clock
   QueueProgress progress_;
   QueueShuffle shuffle_;
   RecentFiles recentFiles_;

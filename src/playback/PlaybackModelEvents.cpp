@@ -68,6 +68,7 @@ void PlaybackModel::resetForNewFile() {
 
 void PlaybackModel::handle(const event::FileLoaded&) {
   isLoaded_ = true;
+  watch_.heard();
   buffering_ = Buffering::ready;
   if (currentPath_)
     remember(*currentPath_);

@@ -6,6 +6,7 @@ namespace tromelo {
 void PlaybackModel::noteMove() {
   // Before it plays, the position is one that it is on the way to.
   if (isLoaded_ && hasStarted_) filmKeeper_.moved(elapsed_);
+  if (isLoaded_) watch_.heard();
 }
 
 void PlaybackModel::startOver() { seekTo(0); }

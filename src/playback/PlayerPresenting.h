@@ -16,6 +16,8 @@ class PlayerPresenting {
   /// Playback of the current file has (re)started.
   virtual void setVideoReady(bool ready) = 0;
   virtual bool hasWindow() const = 0;
+  /// The engine's window goes, and another comes with the same film.
+  virtual void replaceWindow() = 0;
   virtual void reveal() = 0;
   virtual void close() = 0;
   virtual void showLibrary() = 0;

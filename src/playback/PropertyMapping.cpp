@@ -55,6 +55,7 @@ struct PropertyMapping::Actions {
   static void pause(Model& m, const Value& v) {
     m.isPaused_ = held<bool>(v).value_or(true);
     if (m.isPaused_) m.filmKeeper_.keep();
+    m.watch_.heard();
     m.updateStatus();
     m.checkEnd();
   }

@@ -112,9 +112,13 @@ void PlayerWindowController::forgetWhenDestroyed(VideoWindow& window) {
           [this](QObject* gone) { adoptedWindows_.remove(gone); });
 }
 
-void PlayerWindowController::restartVideo() {
+void PlayerWindowController::replaceWindow() {
   isReplacing_ = window_ && !isClosing_;
   setVideoReady(false);
+}
+
+void PlayerWindowController::restartVideo() {
+  replaceWindow();
   playback_.restartVideoOutput();
 }
 

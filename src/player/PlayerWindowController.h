@@ -39,6 +39,7 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   void setVideoReady(bool ready) override;
   /// One that stays.
   bool hasWindow() const override { return window_ && !isReplacing_; }
+  void replaceWindow() override;
   void reveal() override;
   Q_INVOKABLE void close() override;
   void showLibrary() override;

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QJsonObject>
+#include <QThreadPool>
+#include <future>
 
 #include "platform/FilePath.h"
 #include "player/PlayerTest.h"
@@ -18,7 +20,7 @@ CommandLine fileAt(const std::string& path, std::optional<double> start = {}) {
 struct AppDelegateTest : ::testing::Test, protected PlayerParts {
   void launch(const CommandLine& line) {
     delegate_ = std::make_unique<AppDelegate>(
-        line, defaults_, std::vector{former_},
+        line, defaults_, std::vector{former_}, clock_,
         AppDelegate::Parts{[this] { return std::make_unique<PlaybackModel>(parts()); },
                            [this](PlaybackModel&, PlayerWindowController&) {
                              ++libraries_;
@@ -110,6 +112,22 @@ TEST_F(AppDelegateTest, QuitsOnceHoweverOftenItIsAsked) {
   settle();
   EXPECT_EQ(ready_, 1);
   EXPECT_EQ(mpv_.destroyed, 1);
+}
+
+TEST_F(AppDelegateTest, QuitsWithinFiveSecondsWhateverTheEngineDoes) {
+  std::promise<void> comesBack;
+  api_.terminateDestroy = [&](mpv_handle*) { comesBack.get_future().wait(); };
+  launch({});
+  delegate_->quit();
+  settle();
+  EXPECT_EQ(ready_, 0);
+  clock_.advance(std::chrono::seconds(5));
+  EXPECT_EQ(ready_, 1);
+  EXPECT_TRUE(delegate_->engineHangs());
+  comesBack.set_value();
+  QThreadPool::globalInstance()->waitForDone();
+  settle();
+  EXPECT_EQ(ready_, 1);
 }
 
 TEST_F(AppDelegateTest, QuitsAtOnceWithoutAnEngine) {

@@ -51,6 +51,8 @@ TEST(Translation, ThePlayersWordsOnItsOutputsCount) {
   const char* noVideo = "Error opening/initializing the selected video_out (--vo) device.\n";
   const char* noAudio = "Could not open/initialize audio device -> no sound.\n";
   EXPECT_EQ(translatedLog("cplayer", noVideo), MpvEvent(event::VideoOutputFailed{}));
+  EXPECT_EQ(translatedLog("vo/gpu-next/libplacebo", "vkQueueSubmit2: VK_ERROR_DEVICE_LOST"),
+            MpvEvent(event::VideoDeviceLost{}));
   EXPECT_EQ(translatedLog("cplayer", noAudio), MpvEvent(event::AudioOutputFailed{}));
   EXPECT_EQ(translatedLog("vo", noVideo), std::nullopt);
   EXPECT_EQ(translatedLog("cplayer", "No audio."), std::nullopt);

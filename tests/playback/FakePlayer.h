@@ -22,6 +22,7 @@ struct FakePlayer final : PlayerPresenting {
     log_.calls << (awaiting ? "awaiting" : "not awaiting");
   }
   void setVideoReady(bool ready) override { log_.calls << (ready ? "ready" : "not ready"); }
+  void replaceWindow() override { log_.calls << "replace"; }
   bool hasWindow() const override { return log_.hasWindow; }
   void reveal() override { log_.calls << "reveal"; }
   void close() override { log_.calls << "close"; }

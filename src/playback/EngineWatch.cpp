@@ -1,0 +1,35 @@
+#include "playback/EngineWatch.h"
+
+#include <utility>
+
+namespace tromelo {
+
+namespace {
+
+// Looks are counted, and no time is measured: a process that was stopped meanwhile hasn't waited.
+constexpr std::chrono::seconds kBetweenLooks(1);
+constexpr int kMostSilentLooks = 5;
+
+}  // namespace
+
+EngineWatch::EngineWatch(Clock& clock, Engine engine) : clock_(clock), engine_(std::move(engine)) {}
+
+void EngineWatch::heard() {
+  hasHeard_ = true;
+  if (!next_) next_ = clock_.every(kBetweenLooks, [this] { look(); });
+}
+
+void EngineWatch::look() {
+  if (!engine_.shouldPlay()) return next_.reset();
+  if (std::exchange(hasHeard_, false)) {
+    silentLooks_ = 0;
+    return;
+  }
+  if (silentLooks_++ == 0) engine_.ask([this] { heard(); });
+  if (silentLooks_ < kMostSilentLooks) return;
+  silentLooks_ = 0;
+  next_.reset();
+  engine_.hangs();
+}
+
+}  // namespace tromelo

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "platform/Clock.h"
+
+namespace tromelo {
+
+/// Notices that the engine hangs: a film that should play doesn't come further, and a question
+/// isn't answered. A film that stands still by itself (a still picture, a slow share) is told from
+/// that by the answer. Main thread only.
+class EngineWatch {
+ public:
+  struct Engine {
+    std::function<bool()> shouldPlay;
+    /// Asks it something that both its core and its output have to answer.
+    std::function<void(std::function<void()> answered)> ask;
+    std::function<void()> hangs;
+  };
+
+  EngineWatch(Clock& clock, Engine engine);
+
+  /// Something was heard of it, such as that the film has come further.
+  void heard();
+
+ private:
+  void look();
+
+  Clock& clock_;
+  const Engine engine_;
+  bool hasHeard_ = false;
+  int silentLooks_ = 0;
+  std::unique_ptr<Clock::Timer> next_;  // while something should play
+};
+
+}  // namespace tromelo

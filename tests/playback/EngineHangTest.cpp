@@ -1,0 +1,87 @@
+#include "ModelTest.h"
+#include "support/WaitFor.h"
+
+namespace tromelo::testing {
+
+using P = MpvProperty;
+using namespace std::chrono_literals;
+
+struct EngineHang : ModelTest {
+  EngineHang() {
+    plays();
+    takeRequests();
+  }
+
+  void plays() {
+    load(600);
+    reportPlaylist({"a.mkv", "b.mkv", "c.mkv"}, 1);
+    report(P::path, "/films/b.mkv");
+    report(P::mediaTitle, "b");
+    report(P::width, std::int64_t(640));
+    report(P::height, std::int64_t(360));
+    report(P::pause, false);
+    report(event::PlaybackRestart{});
+    report(P::timePos, 12.5);
+  }
+  /// It says what it is asked, or nothing.
+  void wait(std::chrono::seconds seconds, bool answers = false) {
+    for (auto second = 0s; second < seconds; ++second) {
+      clock_.advance(1s);
+      if (!answers) continue;
+      for (const auto& words : takeRequests())
+        if (words.front() == "get")
+          mpv_.queue(MPV_EVENT_GET_PROPERTY_REPLY, nullptr, std::stoul(words[2]));
+      model().engine().drainEvents();
+    }
+  }
+};
+
+TEST_F(EngineHang, AFilmGoesOnInANewEngineInItsPlaceOfTheQueue) {
+  model().setVolume(40);
+  takeRequests();
+  wait(10s);
+  EXPECT_EQ(mpv_.created, 2);
+  EXPECT_TRUE(waitFor([&] { return mpv_.destroyed == 1; }));
+  EXPECT_TRUE(player_.calls.contains("replace"));
+  Requests loads;
+  for (auto& words : takeRequests())
+    if (words.front() == "loadfile") loads.push_back(words);
+  EXPECT_EQ(loads, (Requests{{"loadfile", "/films/b.mkv", "replace", "-1", "start=12.5"},
+                             {"loadfile", "/films/a.mkv", "insert-at", "0", ""},
+                             {"loadfile", "/films/c.mkv", "append", "-1", ""}}));
+
+  plays();
+  wait(10s);  // at the same film once more
+  EXPECT_EQ(mpv_.created, 3);
+  EXPECT_TRUE(player_.calls.contains("library"));
+  EXPECT_TRUE(model().errorMessage().startsWith("Could not play b: the graphics card stopped"));
+  EXPECT_TRUE(waitFor([&] { return mpv_.destroyed == 2; }));
+}
+
+TEST_F(EngineHang, AFilmWhoseDeviceIsLostGoesOnAsItWas) {
+  report(P::pause, true);
+  takeRequests();
+  report(event::VideoDeviceLost{});
+  EXPECT_EQ(mpv_.created, 2);
+  const auto sent = takeRequests();
+  EXPECT_NE(std::ranges::find(sent, std::vector<std::string>{"set", "pause", "yes"}), sent.end());
+  plays();
+  report(P::pause, true);
+  clock_.advance(2min);
+  report(event::VideoDeviceLost{});  // by no means soon
+  EXPECT_FALSE(player_.calls.contains("library"));
+  EXPECT_TRUE(waitFor([&] { return mpv_.destroyed == 2; }));
+}
+
+TEST_F(EngineHang, AnEngineThatAnswersOrNeedntMoveIsLeftAlone) {
+  wait(60s, true);  // a picture that stands still
+  report(P::timePos, 13.0);
+  report(P::pause, true);
+  wait(60s);
+  report(P::pause, false);
+  report(P::eofReached, true);
+  wait(60s);
+  EXPECT_EQ(mpv_.created, 1);
+}
+
+}  // namespace tromelo::testing
