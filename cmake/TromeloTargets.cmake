@@ -16,6 +16,10 @@ if(TROMELO_SANITIZE)
   # The sanitizers look at our own code.
   set(TROMELO_QML_OPTIONS NO_CACHEGEN)
 endif()
+if(TROMELO_SANITIZE_THREADS)
+  target_compile_options(tromelo_options INTERFACE -fsanitize=thread)
+  target_link_options(tromelo_options INTERFACE -fsanitize=thread)
+endif()
 
 # What most sources include is read once, and sources are compiled several at a time: nine tenths of
 # the time went into Qt's headers. The target all_headers_alone keeps our own headers whole.

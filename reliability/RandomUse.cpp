@@ -36,7 +36,7 @@ bool RandomUse::chance(double probability) {
 
 RandomUse::Step RandomUse::step() {
   const bool waits = chance(0.6);
-  switch (below(10)) {
+  switch (below(16)) {
     case 0:
     case 1:
     case 2:
@@ -49,6 +49,14 @@ RandomUse::Step RandomUse::step() {
     case 6:
     case 7:
       return pause();
+    case 8:
+    case 9:
+    case 10:
+      return pressKey();
+    case 11:
+      return resize();
+    case 12:
+      return openOtherWindow();
     default:
       return close();
   }
@@ -107,6 +115,34 @@ RandomUse::Step RandomUse::pause() {
   return {.name = paused ? "pause" : "play", .isDone = true};
 }
 
+RandomUse::Step RandomUse::pressKey() {
+  const char* key = kPlayerKeys[std::size_t(below(int(kPlayerKeys.size())))];
+  // Elsewhere it could close the library, and so the program.
+  if (player_.isRevealed() && waitForKeyboard()) screen::press(QString::fromLatin1(key));
+  return {.name = key, .isDone = player_.isRunning()};
+}
+
+RandomUse::Step RandomUse::resize() {
+  const QString window =
+      screen::windowOf(player_.processId(), player_.said(QStringLiteral("title")));
+  if (player_.isRevealed() && !window.isEmpty())
+    screen::xdotool({QStringLiteral("windowsize"), window, QString::number(400 + below(800)),
+                     QString::number(250 + below(500))});
+  return {.name = "resize", .isDone = true};
+}
+
+RandomUse::Step RandomUse::openOtherWindow() {
+  if (!player_.isRevealed() || !waitForKeyboard()) return {.name = "no window", .isDone = true};
+  screen::press(QStringLiteral("ctrl+comma"));
+  const QString title = QStringLiteral("^Settings");
+  const auto isOpen = [&] { return !screen::windowOf(player_.processId(), title).isEmpty(); };
+  const auto isActive = [&] { return screen::isActive(player_.processId(), title); };
+  // The film's window may have closed before the key reached it.
+  const bool opened = player_.waitUntil([&] { return isActive() || !player_.isRevealed(); });
+  if (isActive()) screen::press(QStringLiteral("Escape"));
+  return {.name = "settings", .isDone = opened && player_.waitUntil([&] { return !isOpen(); })};
+}
+
 /// The film's window has the keyboard; false when there is none any more.
 bool RandomUse::waitForKeyboard() {
   return player_.waitUntil([&] {
@@ -118,8 +154,18 @@ bool RandomUse::waitForKeyboard() {
   }) && player_.isRevealed();
 }
 
+/// Panels take keys for themselves. False where there is no film's window any more.
+bool RandomUse::closePanel() {
+  const auto isClosed = [&] {
+    return player_.said(QStringLiteral("panel")) == QStringLiteral("none");
+  };
+  if (!isClosed()) screen::press(QStringLiteral("Escape"));
+  return player_.waitUntil([&] { return isClosed() || !player_.isRevealed(); }) &&
+         player_.isRevealed();
+}
+
 RandomUse::Step RandomUse::close() {
-  const bool hasKeyboard = waitForKeyboard();
+  const bool hasKeyboard = waitForKeyboard() && closePanel();
   QElapsedTimer timer;
   timer.start();
   if (hasKeyboard)

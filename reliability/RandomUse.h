@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <chrono>
 #include <optional>
 #include <random>
@@ -11,8 +12,17 @@
 
 namespace tromelo::testing {
 
-/// Somebody who opens, plays, seeks, pauses and closes films without a plan, and often without
-/// waiting for what comes of it. The same seed does the same. X11.
+/// Keys that a person may press while a film plays, without a file being written or a dialog
+/// opened.
+inline constexpr std::array kPlayerKeys{
+    "space",    "Left", "Right", "shift+Right", "Up", "Down", "bracketleft", "bracketright",
+    "equal",    "i",    "u",     "c",           "q",  "d",    "x",           "l",
+    "question", "f",    "v",     "b",           "g",  "h",    "m",           "n",
+    "p",        "e"};
+
+/// Somebody who opens, plays, seeks, pauses and closes films, presses keys, changes the window's
+/// size and opens other windows without a plan, and often without waiting for what comes of it. The
+/// same seed does the same. X11.
 class RandomUse {
  public:
   /// `player` has been started.
@@ -34,11 +44,15 @@ class RandomUse {
   Step next(bool waits);
   Step seek();
   Step pause();
+  Step pressKey();
+  Step resize();
+  Step openOtherWindow();
   bool chance(double probability);
   int below(int limit);
   bool waitForFilm(const QString& name);
   bool waitForKeyboard();
   bool waitForIdle();
+  bool closePanel();
 
   RunningPlayer& player_;
   EngineProbe engine_;

@@ -1,9 +1,11 @@
+#include <QElapsedTimer>
 #include <algorithm>
 #include <iostream>
 #include <vector>
 
-#include "EndToEnd.h"
+#include "Curve.h"
 #include "RandomUse.h"
+#include "ReliabilityTest.h"
 
 namespace tromelo::testing {
 namespace {
@@ -15,13 +17,10 @@ constexpr int kDescriptorSlack = 4;
 constexpr int kThreadSlack = 4;
 constexpr std::chrono::seconds kLongestClosing(2);
 
-constexpr int kSettling = 50;  // steps, until everything has been loaded that is loaded once
+constexpr double kMemoryGrowth = 0.03;  // from the 50th film on
+constexpr std::chrono::seconds kBetweenSamples(2);
 
-unsigned number(const char* variable, unsigned otherwise) {
-  bool isNumber = false;
-  const unsigned value = qEnvironmentVariable(variable).toUInt(&isNumber);
-  return isNumber ? value : otherwise;
-}
+constexpr int kSettling = 50;  // steps, until everything has been loaded that is loaded once
 
 std::ostream& operator<<(std::ostream& out, const ProcessUse& use) {
   return out << use.memory << " kB, " << use.descriptors << " descriptors, " << use.threads
@@ -51,34 +50,50 @@ void expectLevel(const std::vector<ProcessUse>& uses, qint64 memorySlack) {
   EXPECT_LE(after.threads, before.threads + kThreadSlack);
 }
 
-class Reliability : public EndToEnd {
+class Reliability : public ReliabilityTest {
  protected:
   void SetUp() override {
-    if (!screen::isX11()) GTEST_SKIP() << "no one types on the headless Wayland host";
-#ifdef __SANITIZE_ADDRESS__
-    player.environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(TROMELO_KEPT_LIBRARIES));
-#endif
-    player.start();
-    ASSERT_TRUE(player.waitFor(QStringLiteral("status"), QStringLiteral("Open a video to begin")));
+    ReliabilityTest::SetUp();
+    ASSERT_TRUE(starts());
+    since_.start();
   }
 
-  void TearDown() override {
-    EXPECT_EQ(player.quit(), 0);
-    for (const char* report : {"Sanitizer", "runtime error:"})
-      EXPECT_FALSE(player.errors().contains(report)) << player.errors().toStdString();
+  double minutes() const { return double(since_.elapsed()) / 60'000; }
+
+  void sample() {
+    if (!lastSample_.isValid() || lastSample_.durationElapsed() >= kBetweenSamples) {
+      lastSample_.start();
+      samples_.push_back({minutes(), ProcessUse::of(player.processId()), gaps.takeLongest()});
+    }
   }
+
+  void tellGaps() const {
+    const auto worst =
+        std::ranges::max(samples_, {}, [](const Sample& one) { return one.gap.wait; });
+    std::cout << "Longest gap of the main thread: " << double(worst.gap.wait.count()) / 1000
+              << " ms, it computed for " << double(worst.gap.busy.count()) / 1000
+              << " ms of them\n";
+  }
+
+  std::vector<Sample> samples_;
+
+ private:
+  QElapsedTimer since_;
+  QElapsedTimer lastSample_;
 };
 
+/// For so many steps or, where that is said, so many minutes.
 TEST_F(Reliability, HoldsUnderRandomUse) {
   const unsigned steps = number("TROMELO_STEPS", 500);
-  const unsigned seed = number("TROMELO_SEED", std::random_device()());
-  std::cout << steps << " steps; again with TROMELO_SEED=" << seed << std::endl;
+  const unsigned limit = number("TROMELO_MINUTES", 0);
   RandomUse use(player, seed);
   std::vector<ProcessUse> uses;
   std::chrono::milliseconds longest(0);
   std::string trail;
-  for (unsigned i = 0; i < steps; ++i) {
+  unsigned i = 0;
+  for (; limit > 0 ? minutes() < limit : i < steps; ++i) {
     const auto step = use.step();
+    sample();
     trail += "\n  " + step.name;
     ASSERT_TRUE(player.isRunning() && step.isDone)
         << "step " << i << " of seed " << seed << trail << '\n'
@@ -86,21 +101,39 @@ TEST_F(Reliability, HoldsUnderRandomUse) {
     longest = std::max(longest, step.closing.value_or(longest));
     if (step.use && i >= kSettling) uses.push_back(*step.use);
   }
+  std::cout << i << " steps in " << minutes() << " minutes\n";
   std::cout << "Longest way to the library: " << longest.count() << " ms\n";
+  tellGaps();
+  if (const QString picture = qEnvironmentVariable("TROMELO_CURVE"); !picture.isEmpty())
+    drawCurves(samples_, picture);
   EXPECT_LE(longest, kLongestClosing);
   expectLevel(uses, kMemorySlack);
 }
 
-TEST_F(Reliability, FiftyFilesLeaveNothingBehind) {
+TEST_F(Reliability, FilmsInARowLeaveNothingBehind) {
+  const unsigned films = number("TROMELO_FILMS", 50);
   RandomUse use(player, 1);
   std::vector<ProcessUse> uses;
-  for (int i = 0; i < 50; ++i) {
+  for (unsigned i = 1; i <= films; ++i) {
     ASSERT_TRUE(use.openAndWait().isDone) << i;
     const auto closed = use.close();
     ASSERT_TRUE(closed.isDone) << i;
-    if (i >= 10) uses.push_back(*closed.use);
+    uses.push_back(*closed.use);
+    sample();
+    if (i % 50 == 0) std::cout << "After " << i << " films: " << uses.back() << std::endl;
   }
-  expectLevel(uses, kFewFilesMemorySlack);
+  tellGaps();
+  if (const QString picture = qEnvironmentVariable("TROMELO_CURVE"); !picture.isEmpty())
+    drawCurves(samples_, picture);
+  if (films <= kSettling)
+    return expectLevel({uses.begin() + uses.size() / 5, uses.end()}, kFewFilesMemorySlack);
+  const std::span all(uses);
+  const auto before = median(all.subspan(kSettling - 10, 20));
+  const auto after = median(all.last(20));
+  std::cout << "Memory grew by " << 100 * (double(after.memory) / double(before.memory) - 1)
+            << " %\n";
+  EXPECT_LE(double(after.memory), double(before.memory) * (1 + kMemoryGrowth));
+  expectLevel({uses.begin() + kSettling, uses.end()}, kMemorySlack);
 }
 
 }  // namespace

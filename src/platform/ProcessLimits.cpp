@@ -41,7 +41,7 @@ void limitThisProcess() {
   lower(RLIMIT_CORE, 0);
   // Each thread's own heap would take addresses that it never uses.
   mallopt(M_ARENA_MAX, 1);
-#ifndef __SANITIZE_ADDRESS__  // which takes terabytes of addresses
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)  // which take terabytes
   lower(RLIMIT_AS, kMemory);
 #endif
 }

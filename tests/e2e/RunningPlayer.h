@@ -39,6 +39,7 @@ struct RunningPlayer {
   QProcessEnvironment environment;
 
   void start(const QStringList& arguments = {}) {
+    said_.clear();
     process_.setProcessEnvironment(environment);
     process_.start(TROMELO_PROGRAM, QStringList{"--report"} + arguments);
   }
@@ -47,8 +48,12 @@ struct RunningPlayer {
   QString said(const QString& key) const { return said_.value(key); }
   /// Says what the program last said when that takes too long.
   [[nodiscard]] bool waitUntil(const std::function<bool()>& condition) {
+    bool holds = false;
+    const bool ran = isRunning();  // what has ended since comes to nothing any more
     // Software Vulkan next to another test takes its time to start.
-    if (testing::waitFor(condition, std::chrono::seconds(60))) return true;
+    (void)testing::waitFor([&] { return (holds = condition()) || (ran && !isRunning()); },
+                           std::chrono::seconds(60));
+    if (holds) return true;
     std::cerr << "The program runs: " << isRunning() << "\nIt said:\n";
     for (auto [key, value] : said_.asKeyValueRange())
       std::cerr << "  " << qPrintable(key) << ": " << qPrintable(value) << '\n';

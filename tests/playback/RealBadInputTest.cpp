@@ -6,6 +6,7 @@
 
 #include "RealPlayback.h"
 #include "support/Files.h"
+#include "support/HostileFiles.h"
 #include "support/Table.h"
 
 namespace tromelo::testing {
@@ -107,6 +108,18 @@ TEST_F(BadInput, AnyNameThatAFileSystemAllowsPlays) {
     fs::remove(path);  // not every name is one that Qt's own clearing up can spell
   }
   EXPECT_EQ(deep.size(), 4000u);
+}
+
+TEST_F(BadInput, AHostileFileOfEachKindPlaysOrIsNamed) {
+  HostileFiles files((home() / "hostile").string(), 18);
+  for (int number = 0; number < HostileFiles::kinds; ++number) {
+    const auto file = files.make(number);
+    restarts_ = 0;
+    model_.open(fileUrlFromPath(file.path));
+    EXPECT_TRUE(waitFor([this] { return restarts_ > 0 || !model_.errorMessage().isEmpty(); }))
+        << file.what;
+  }
+  EXPECT_TRUE(plays(clip("short-wide.mp4")));
 }
 
 TEST_F(BadInput, AnEmptyDirectoryIsNoFilm) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusConnectionInterface>
 #include <QDBusContext>
 #include <QDBusMessage>
 #include <QDBusServiceWatcher>
@@ -32,7 +33,10 @@ class FakeScreenSaver : public QObject, protected QDBusContext {
  public Q_SLOTS:
   uint Inhibit(const QString&, const QString&) {
     watcher_.addWatchedService(message().service());
-    held_.emplace(++asked_, message().service());
+    ++asked_;
+    // Who asked may have died before it was heard.
+    if (connection().interface()->isServiceRegistered(message().service()))
+      held_.emplace(asked_, message().service());
     return asked_;
   }
   void UnInhibit(uint cookie) { held_.erase(cookie); }
