@@ -17,7 +17,10 @@ constexpr std::chrono::seconds kEnginePatience(4);
 
 AppDelegate::AppDelegate(const CommandLine& commandLine, UserDefaults& defaults,
                          const std::vector<UserDefaults>& formerDefaults, Clock& clock, Parts parts)
-    : clock_(clock), parts_(std::move(parts)), commandLine_(commandLine) {
+    : clock_(clock),
+      parts_(std::move(parts)),
+      commandLine_(commandLine),
+      launchFile_(commandLine.file) {
   // The settings are loaded by the model, so what the former edition left has to be there before.
   migrateDefaultsFromOrvo(defaults, formerDefaults);
   playback_ = parts_.makePlayback();
@@ -32,7 +35,7 @@ PlayerWindowController& AppDelegate::player() {
 void AppDelegate::applicationDidFinishLaunching() {
   didFinishLaunching_ = true;
   showLibraryWindow();
-  if (const auto file = commandLine_.fileToOpen()) open(*file, commandLine_.start);
+  launchFile_.whenThere([this](const QUrl& file) { open(file, commandLine_.start); });
 }
 
 void AppDelegate::applicationOpen(const QList<QUrl>& urls, std::optional<double> start) {
@@ -43,6 +46,7 @@ void AppDelegate::applicationOpen(const QList<QUrl>& urls, std::optional<double>
 }
 
 void AppDelegate::open(const QUrl& url, std::optional<double> start) {
+  launchFile_.drop();
   playback_->withLocalFiles(
       {url}, [this, start](const QList<QUrl>& files) { playback_->open(files.first(), start); });
 }

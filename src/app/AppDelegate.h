@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/CommandLine.h"
+#include "app/LaunchFile.h"
 #include "platform/Clock.h"
 #include "platform/UserDefaults.h"
 #include "playback/PlaybackModel.h"
@@ -69,6 +70,7 @@ class AppDelegate : public QObject {
   Parts parts_;
   bool didFinishLaunching_ = false;
   const CommandLine commandLine_;
+  LaunchFile launchFile_;
   std::unique_ptr<PlaybackModel> playback_;
   std::unique_ptr<ControlledWindow> libraryWindow_;
   std::unique_ptr<Clock::Timer> patience_;  // with the engine, at the end

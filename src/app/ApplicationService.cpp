@@ -25,15 +25,16 @@ void takeActivation(const QVariantMap& platformData) {
 }  // namespace
 
 bool ApplicationService::handOver(const Request& request, std::chrono::milliseconds patience) {
+  const auto file = request.file && !request.isFileMissing() ? request.file : std::nullopt;
   QDBusMessage call = QDBusMessage::createMethodCall(
       serviceName(), objectPath(), QStringLiteral("org.freedesktop.Application"),
-      request.file ? QStringLiteral("Open") : QStringLiteral("Activate"));
+      file ? QStringLiteral("Open") : QStringLiteral("Activate"));
   QVariantMap platformData;
   if (const QString token = qEnvironmentVariable(kTokenVariable); !token.isEmpty())
     platformData.insert(tokenKey(), token);
   if (request.start) platformData.insert(startKey(), *request.start);
   if (request.isPrivate) platformData.insert(privateKey(), true);
-  if (request.file) call << QStringList{request.file->toString(QUrl::FullyEncoded)};
+  if (file) call << QStringList{file->toString(QUrl::FullyEncoded)};
   call << platformData;
   const QDBusMessage answer = bus_->call(call, QDBus::Block, static_cast<int>(patience.count()));
   if (answer.type() == QDBusMessage::ReplyMessage) return true;

@@ -25,6 +25,8 @@ class ApplicationService : public QObject {
     std::optional<QUrl> file;
     std::optional<double> start;  // seconds
     bool isPrivate = false;       // nothing is to be written of what is played from now on
+    /// Asked before it is handed over; may wait.
+    std::function<bool()> isFileMissing = [] { return false; };
   };
 
   enum class Role {

@@ -43,11 +43,6 @@ CommandLine CommandLine::parse(std::span<char* const> arguments) {
   return line;
 }
 
-std::optional<QUrl> CommandLine::fileToOpen() const {
-  const bool isMissing = file && file->isLocalFile() && !fileExists(pathFromFileUrl(*file));
-  return isMissing ? std::nullopt : file;
-}
-
 std::string CommandLine::helpText() {
   return R"(Usage: tromelo [FILE] [--start=SECONDS]
 

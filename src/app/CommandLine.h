@@ -26,9 +26,6 @@ struct CommandLine {
   /// `arguments` begins with the program's own name.
   static CommandLine parse(std::span<char* const> arguments);
 
-  /// The file, unless it is a local one that isn't there.
-  std::optional<QUrl> fileToOpen() const;
-
   static std::string helpText();
 };
 

@@ -50,9 +50,11 @@ Program::Program(const CommandLine& commandLine)
 Program::~Program() = default;
 
 int Program::run() {
-  role_ = service_.start({.file = commandLine_.fileToOpen(),
+  const auto isMissing = [this] { return LaunchFile(commandLine_.file).isMissing(); };
+  role_ = service_.start({.file = commandLine_.file,
                           .start = commandLine_.start,
-                          .isPrivate = commandLine_.isPrivate});
+                          .isPrivate = commandLine_.isPrivate,
+                          .isFileMissing = isMissing});
   if (role_ == ApplicationService::Role::handedOver) return 0;
   startDisplay();
   makeDelegate();

@@ -20,6 +20,7 @@
 #include "pictures/PictureMaker.h"
 #include "pictures/Thumbnailer.h"
 #include "platform/HostEnvironment.h"
+#include "platform/SessionBus.h"
 
 namespace {
 
@@ -124,6 +125,7 @@ int main(int argc, char** argv) {
     std::fputs("Tromelo needs a display: start it in a Wayland or X11 session.\n", stderr);
     return 1;
   }
+  tromelo::leaveSilentSessionBus();
   prepareGraphics();
   std::optional<DisplayGuard> guard(std::in_place);
   QApplication application(argc, argv);

@@ -16,7 +16,7 @@ class Awaited {
     const std::scoped_lock lock(mutex_);
     found_ = std::move(found);
     isThere_ = true;
-    arrived_.notify_one();
+    arrived_.notify_all();
   }
 
   std::optional<T> wait(std::chrono::steady_clock::time_point until) {

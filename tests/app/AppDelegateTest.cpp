@@ -50,6 +50,7 @@ struct AppDelegateTest : ::testing::Test, protected PlayerParts {
 TEST_F(AppDelegateTest, OpensTheFirstOfTheFilesHandedOverAndNoneThatIsMissing) {
   launch(fileAt("/no/such/movie.mkv"));
   delegate_->applicationDidFinishLaunching();
+  settle();
   delegate_->applicationOpen({});
   EXPECT_EQ(takeLoaded(), std::vector<std::string>{});
   EXPECT_EQ(delegate_->playback().errorMessage(), QString());
@@ -65,6 +66,7 @@ TEST_F(AppDelegateTest, OpensTheLaunchFileOnceAndAfterTheLibraryIsShown) {
   delegate_->applicationOpen({fileUrlFromPath(movie)});  // the desktop hands it over as well
   delegate_->applicationDidFinishLaunching();
   EXPECT_TRUE(library_->visible);
+  EXPECT_TRUE(waitFor([this] { return !mpv_.requests.empty(); }));
   EXPECT_EQ(takeLoaded(), std::vector{movie + " start=90.0"});
   delegate_->applicationOpen({fileUrlFromPath(movie)});
   EXPECT_EQ(takeLoaded(), std::vector{movie + " "});
