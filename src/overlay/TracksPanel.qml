@@ -78,6 +78,11 @@ Flickable {
                 delay: panel.playback.subtitleDelay
                 onChosen: seconds => panel.playback.setSubtitleDelay(seconds)
             }
+
+            CodingRow {
+                width: parent.width
+                coding: panel.playback.subtitleCoding
+            }
         }
 
         Section {

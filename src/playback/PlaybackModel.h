@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QSize>
 #include <QString>
 #include <QUrl>
 #include <functional>
@@ -25,6 +26,7 @@
 #include "playback/QueueShuffle.h"
 #include "playback/RecentFiles.h"
 #include "playback/Screenshots.h"
+#include "playback/SubtitleCoding.h"
 #include "playback/SubtitleLines.h"
 #include "settings/PlayerSettings.h"
 
@@ -43,6 +45,7 @@ class PlaybackModel : public PlaybackState {
   Q_OBJECT
   Q_PROPERTY(tromelo::PlayerSettings* settings READ settingsForViews CONSTANT)
   Q_PROPERTY(tromelo::FilmMemory* films READ films CONSTANT)
+  Q_PROPERTY(tromelo::SubtitleCoding* subtitleCoding READ subtitleCoding CONSTANT)
   Q_PROPERTY(tromelo::SubtitleLines* subtitleLines READ subtitleLines CONSTANT)
 
  public:
@@ -138,6 +141,8 @@ class PlaybackModel : public PlaybackState {
   /// One picture back or forth, which pauses.
   void stepFrame(int direction);
   void setFullscreen(bool fullscreen);
+  /// Calls `use`, later, with the film's own size in square pixels, as it was made.
+  void withPictureSize(const std::function<void(QSize)>& use);
   /// Into the person's pictures folder, and says so.
   void keepPicture(Screenshots::What what);
   /// Onto the clipboard, and says so.
@@ -198,6 +203,7 @@ class PlaybackModel : public PlaybackState {
   Q_INVOKABLE QString cycleAudio();
   /// To the next line of the subtitles that are shown, or to the one before; false where none are.
   bool stepSubtitleLine(int steps);
+  SubtitleCoding* subtitleCoding() { return &coding_; }
   SubtitleLines* subtitleLines() { return &lines_; }
   /// The line that starts at `lineStart`, without any delay, is spoken now: the delay follows.
   Q_INVOKABLE void syncSubtitles(double lineStart);
@@ -332,8 +338,8 @@ class PlaybackModel : public PlaybackState {
   Background reading_;  // of lists and folders, for what plays
   LocalFiles localFiles_;
   SubtitleLines lines_;
+  SubtitleCoding coding_{engine_};
   double fileBegin_ = 0;                     // by the file's own clock; seconds
-  std::string subtitleCodepage_;             // the engine's name for it
   double position_ = 0;                      // to the frame, where elapsed goes in steps; seconds
   std::int64_t entry_ = 0;                   // of the current file, the engine's number for it
   std::optional<std::string> currentPath_;   // as the engine has reported it since the file started

@@ -157,6 +157,16 @@ void PlaybackModel::setFullscreen(bool fullscreen) {
   engine_.setProperty("fullscreen", flagText(fullscreen));
 }
 
+void PlaybackModel::withPictureSize(const std::function<void(QSize)>& use) {
+  engine_.readProperty("dwidth", [this, use](const std::optional<std::string>& width) {
+    engine_.readProperty("dheight", [width, use](const std::optional<std::string>& height) {
+      const QSize size(QByteArray::fromStdString(width.value_or("")).toInt(),
+                       QByteArray::fromStdString(height.value_or("")).toInt());
+      if (!size.isEmpty()) use(size);
+    });
+  });
+}
+
 void PlaybackModel::keepPicture(Screenshots::What what) {
   if (!isLoaded_ || !facts_.hasPicture()) return player().showToast(tr("No picture to keep"));
   const QString film = lastPathComponentWithoutExtension(

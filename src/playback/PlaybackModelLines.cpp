@@ -25,12 +25,14 @@ void PlaybackModel::showLinesOfSubtitles() {
   const auto track = std::ranges::find_if(tracks, &MediaTrack::isSelected);
   const bool isOwnFile = track != tracks.end() && !track->file.empty();
   // Between two films the tracks may still be those of the first.
+  const bool isTextFile = isOwnFile && kindOf(*track) == Kind::text;
+  coding_.setFile(isTextFile ? std::optional(track->file) : std::nullopt);
   if (track == tracks.end() || (!isOwnFile && !currentPath_)) return lines_.setSource({});
   lines_.setSource({.kind = kindOf(*track),
                     .request = {.path = isOwnFile ? track->file : *currentPath_,
                                 .stream = static_cast<int>(track->stream.value_or(-1)),
                                 .isOwnFile = isOwnFile,
-                                .codepage = subtitleCodepage_},
+                                .codepage = isOwnFile ? coding_.codepage() : ""},
                     .begin = isOwnFile ? 0 : fileBegin_});
 }
 

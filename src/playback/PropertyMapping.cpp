@@ -134,7 +134,7 @@ struct PropertyMapping::Actions {
   }
 
   static void subCodepage(Model& m, const Value& v) {
-    m.subtitleCodepage_ = held<std::string>(v).value_or("");
+    m.coding_.setCodepage(held<std::string>(v).value_or(""));
     m.showLinesOfSubtitles();
   }
 

@@ -74,6 +74,13 @@ struct FilmMemoryForQml {
   QML_UNCREATABLE("The program has one.")
 };
 
+struct SubtitleCodingForQml {
+  Q_GADGET
+  QML_FOREIGN(tromelo::SubtitleCoding)
+  QML_NAMED_ELEMENT(SubtitleCoding)
+  QML_UNCREATABLE("The model has one.")
+};
+
 struct SubtitleLinesForQml {
   Q_GADGET
   QML_FOREIGN(tromelo::SubtitleLines)
