@@ -61,6 +61,13 @@
     </message>
 </context>
 <context>
+    <name>CodingRow</name>
+    <message>
+        <source>Encoding</source>
+        <translation>Zeichensatz</translation>
+    </message>
+</context>
+<context>
     <name>DefaultsFile</name>
     <message>
         <source>Your settings in %1 can&apos;t be read, and changes can&apos;t be saved: %2.</source>
@@ -1621,6 +1628,38 @@
         <source>The next subtitle line is spoken now</source>
         <translation>Die nächste Untertitelzeile wird jetzt gesprochen</translation>
     </message>
+    <message>
+        <source>0 / 1 / 2</source>
+        <translation>0 / 1 / 2</translation>
+    </message>
+    <message>
+        <source>Half, original, double size</source>
+        <translation>Halbe, originale, doppelte Größe</translation>
+    </message>
+    <message>
+        <source>3</source>
+        <translation>3</translation>
+    </message>
+    <message>
+        <source>As large as the screen allows</source>
+        <translation>So groß, wie der Bildschirm erlaubt</translation>
+    </message>
+    <message>
+        <source>4</source>
+        <translation>4</translation>
+    </message>
+    <message>
+        <source>Mini player, and back</source>
+        <translation>Mini-Player und zurück</translation>
+    </message>
+    <message>
+        <source>5</source>
+        <translation>5</translation>
+    </message>
+    <message>
+        <source>Stay on top</source>
+        <translation>Im Vordergrund bleiben</translation>
+    </message>
 </context>
 <context>
     <name>tromelo::PlayerMenu</name>
@@ -1856,6 +1895,38 @@
         <source>The next line is spoken now</source>
         <translation>Die nächste Zeile wird jetzt gesprochen</translation>
     </message>
+    <message>
+        <source>The window fills the screen.</source>
+        <translation>Das Fenster füllt den Bildschirm.</translation>
+    </message>
+    <message>
+        <source>This desktop lets no program keep its window on top.</source>
+        <translation>Dieser Desktop lässt kein Programm sein Fenster im Vordergrund halten.</translation>
+    </message>
+    <message>
+        <source>Half size</source>
+        <translation>Halbe Größe</translation>
+    </message>
+    <message>
+        <source>Original size</source>
+        <translation>Originalgröße</translation>
+    </message>
+    <message>
+        <source>Double size</source>
+        <translation>Doppelte Größe</translation>
+    </message>
+    <message>
+        <source>Fit to the screen</source>
+        <translation>An den Bildschirm anpassen</translation>
+    </message>
+    <message>
+        <source>Mini player</source>
+        <translation>Mini-Player</translation>
+    </message>
+    <message>
+        <source>Stay on top</source>
+        <translation>Im Vordergrund bleiben</translation>
+    </message>
 </context>
 <context>
     <name>tromelo::PlayerSettings</name>
@@ -1917,6 +1988,101 @@
     <message>
         <source>Picture kept: %1</source>
         <translation>Bild gesichert: %1</translation>
+    </message>
+    <message>
+        <source>Not in full screen</source>
+        <translation>Nicht im Vollbild</translation>
+    </message>
+    <message>
+        <source>This desktop lets no program keep its window on top</source>
+        <translation>Dieser Desktop lässt kein Programm sein Fenster im Vordergrund halten</translation>
+    </message>
+    <message>
+        <source>Stays on top</source>
+        <translation>Bleibt im Vordergrund</translation>
+    </message>
+    <message>
+        <source>No longer stays on top</source>
+        <translation>Bleibt nicht mehr im Vordergrund</translation>
+    </message>
+</context>
+<context>
+    <name>tromelo::SubtitleCoding</name>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Western European</source>
+        <translation>Westeuropäisch</translation>
+    </message>
+    <message>
+        <source>Central European</source>
+        <translation>Mitteleuropäisch</translation>
+    </message>
+    <message>
+        <source>Baltic</source>
+        <translation>Baltisch</translation>
+    </message>
+    <message>
+        <source>Cyrillic</source>
+        <translation>Kyrillisch</translation>
+    </message>
+    <message>
+        <source>Cyrillic (KOI8)</source>
+        <translation>Kyrillisch (KOI8)</translation>
+    </message>
+    <message>
+        <source>Greek</source>
+        <translation>Griechisch</translation>
+    </message>
+    <message>
+        <source>Turkish</source>
+        <translation>Türkisch</translation>
+    </message>
+    <message>
+        <source>Hebrew</source>
+        <translation>Hebräisch</translation>
+    </message>
+    <message>
+        <source>Arabic</source>
+        <translation>Arabisch</translation>
+    </message>
+    <message>
+        <source>Thai</source>
+        <translation>Thailändisch</translation>
+    </message>
+    <message>
+        <source>Vietnamese</source>
+        <translation>Vietnamesisch</translation>
+    </message>
+    <message>
+        <source>Chinese, simplified</source>
+        <translation>Chinesisch, vereinfacht</translation>
+    </message>
+    <message>
+        <source>Chinese, traditional</source>
+        <translation>Chinesisch, traditionell</translation>
+    </message>
+    <message>
+        <source>Japanese</source>
+        <translation>Japanisch</translation>
+    </message>
+    <message>
+        <source>Korean</source>
+        <translation>Koreanisch</translation>
+    </message>
+    <message>
+        <source>Only subtitles in a text file of their own can be coded in different ways.</source>
+        <translation>Nur bei Untertiteln in einer eigenen Textdatei ist der Zeichensatz ungewiss.</translation>
+    </message>
+    <message>
+        <source>The file of these subtitles can&apos;t be read.</source>
+        <translation>Die Datei dieser Untertitel ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>This file says itself how it is coded.</source>
+        <translation>Diese Datei sagt selbst, welchen Zeichensatz sie hat.</translation>
     </message>
 </context>
 <context>

@@ -64,7 +64,7 @@ PlayerOverlayItem {
             x: Theme.overlayMargin
             y: Theme.overlayMargin
             symbol: "xmark"
-            text: qsTr("Close")
+            text: overlay.chrome.isMini ? "" : qsTr("Close")
             tip: PlayerActions.tip(PlayerActions.ClosePlayer)
             tipBelow: true
             Accessible.name: Wording.withoutKey(tip)
@@ -73,6 +73,7 @@ PlayerOverlayItem {
 
         PlayerSignalBadge {
             id: badge
+            visible: !overlay.chrome.isMini
             backdrop: overlay.backdrop
             anchors.right: parent.right
             anchors.top: parent.top
@@ -93,6 +94,7 @@ PlayerOverlayItem {
 
         PlayerControlBar {
             id: controlBar
+            visible: !overlay.chrome.isMini
             backdrop: overlay.backdrop
             anchors.horizontalCenter: parent.horizontalCenter
             anchors.bottom: parent.bottom
@@ -101,6 +103,19 @@ PlayerOverlayItem {
             playback: overlay.playback
             chrome: overlay.chrome
             onFullscreenToggled: overlay.player.toggleFullscreen()
+        }
+
+        // All that there is in a mini player, beside the button that closes it.
+        PushButton {
+            objectName: "miniPlayPause"
+            look: Theme.closeButton
+            backdrop: overlay.backdrop
+            visible: overlay.chrome.isMini
+            anchors.centerIn: parent
+            symbol: overlay.playback.isPaused ? "play.fill" : "pause.fill"
+            symbolSize: Theme.playSymbolSize
+            tip: PlayerActions.tip(overlay.playback.isPaused ? PlayerActions.Play : PlayerActions.Pause)
+            onClicked: overlay.playback.togglePlayback()
         }
 
         MomentPreview {

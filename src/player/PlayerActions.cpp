@@ -164,6 +164,11 @@ QString syncToNextLine(Player& player, PlaybackModel& playback) {
   return {};
 }
 
+template <double scale>
+QString resizePicture(Player& player, PlaybackModel&) {
+  return player.resizePicture(scale);
+}
+
 template <Screenshots::What what>
 QString keepPicture(Player&, PlaybackModel& playback) {
   playback.keepPicture(what);
@@ -406,6 +411,20 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
          {QT_TR_NOOP("?"),
           QT_TR_NOOP("This list"),
           {{.keys = {typed(u"?/")}, .act = toggle<PlayerPanel::shortcuts>}}},
+         {QT_TR_NOOP("0 / 1 / 2"),
+          QT_TR_NOOP("Half, original, double size"),
+          {{.keys = {typed(u"0")}, .act = resizePicture<0.5>},
+           {.keys = {typed(u"1")}, .act = resizePicture<1.0>},
+           {.keys = {typed(u"2")}, .act = resizePicture<2.0>}}},
+         {QT_TR_NOOP("3"),
+          QT_TR_NOOP("As large as the screen allows"),
+          {{.keys = {typed(u"3")}, .act = run<&Player::fitScreen>}}},
+         {QT_TR_NOOP("4"),
+          QT_TR_NOOP("Mini player, and back"),
+          {{.keys = {typed(u"4")}, .act = run<&Player::toggleMini>}}},
+         {QT_TR_NOOP("5"),
+          QT_TR_NOOP("Stay on top"),
+          {{.keys = {typed(u"5")}, .act = run<&Player::toggleStaysOnTop>}}},
          {QT_TR_NOOP("Right-click, ⇧F10"),
           QT_TR_NOOP("Menu of all that can be done"),
           {{.keys = {exactly({}, Qt::Key_Menu), exactly(kShift, Qt::Key_F10)},

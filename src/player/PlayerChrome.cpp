@@ -23,6 +23,17 @@ void PlayerChrome::toggle(PlayerPanel panel) {
   setPanel(panel_ == panel ? std::nullopt : std::optional(panel));
 }
 
+void PlayerChrome::setMini(bool isMini) {
+  if (isMini_ == isMini) return;
+  isMini_ = isMini;
+  if (isMini) {
+    setPanel(std::nullopt);
+    setShowsSpeeds(false);
+    setShowsInfo(false);
+  }
+  Q_EMIT isMiniChanged();
+}
+
 void PlayerChrome::setShowsSpeeds(bool shows) {
   if (showsSpeeds_ == shows) return;
   showsSpeeds_ = shows;

@@ -18,6 +18,8 @@ class PlayerChrome : public QObject {
   Q_PROPERTY(bool showsShortcuts READ showsShortcuts WRITE setShowsShortcuts NOTIFY panelChanged)
   Q_PROPERTY(bool showsMenu READ showsMenu WRITE setShowsMenu NOTIFY panelChanged)
   Q_PROPERTY(QList<tromelo::BarPanel> barPanels READ barPanels CONSTANT)
+  // The window is so small that it shows next to nothing but the picture.
+  Q_PROPERTY(bool isMini READ isMini NOTIFY isMiniChanged)
   // The list of speeds over the control bar: no panel, but open in place of one.
   Q_PROPERTY(bool showsSpeeds READ showsSpeeds WRITE setShowsSpeeds NOTIFY showsSpeedsChanged)
   // To start the film over that has just gone on where it was left.
@@ -39,6 +41,9 @@ class PlayerChrome : public QObject {
   /// Leaves any other open.
   Q_INVOKABLE void close(tromelo::PlayerPanel panel);
 
+  bool isMini() const { return isMini_; }
+  void setMini(bool isMini);
+
   bool showsSpeeds() const { return showsSpeeds_; }
   void setShowsSpeeds(bool shows);
 
@@ -56,6 +61,7 @@ class PlayerChrome : public QObject {
  Q_SIGNALS:
   void showsInfoChanged();
   void panelChanged();
+  void isMiniChanged();
   void showsSpeedsChanged();
   void offerChanged();
   void toastChanged();
@@ -75,6 +81,7 @@ class PlayerChrome : public QObject {
 
   bool showsInfo_ = false;
   std::optional<PlayerPanel> panel_;
+  bool isMini_ = false;
   bool showsSpeeds_ = false;
   Offer offer_ = Offer::none;
   std::optional<QString> toast_;

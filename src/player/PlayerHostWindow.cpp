@@ -14,6 +14,11 @@ namespace {
 // A window of this size is dressed and mapped before the engine says how large its picture is.
 constexpr QSize kProvisionalSize(640, 360);
 
+// In points.
+constexpr QSize kMiniSize(320, 320);  // its longer side counts
+constexpr QSize kMiniMinimum(160, 90);
+constexpr int kMiniMargin = 16;
+
 /// Types, or moves about in what is typed: also where there is no room, and where that ends.
 bool isForText(const QKeyEvent& event) {
   const bool isArrow = event.key() >= Qt::Key_Left && event.key() <= Qt::Key_Down;
@@ -50,8 +55,9 @@ QSize PlayerHostWindow::pixelSize() const { return (QSizeF(size()) * devicePixel
 void PlayerHostWindow::resizeToPixels(QSize pixels) {
   const QSize points = roomFor((QSizeF(pixels) / devicePixelRatio()).toSize());
   if (points == size()) return;
+  const QPoint middle = geometry().center();
   resize(points);
-  center();
+  center(middle);
 }
 
 /// A picture smaller than the smallest window is enlarged with its aspect kept, where the screen
@@ -64,18 +70,41 @@ QSize PlayerHostWindow::roomFor(QSize picture) const {
   return enlarged.boundedTo(available) == enlarged ? enlarged : atLeast;
 }
 
-void PlayerHostWindow::center() {
+void PlayerHostWindow::center(QPoint middle) {
   if (!screen()) return;
   const QRect available = screen()->availableGeometry();
   QRect frame(QPoint(), size());
   // A window that a person has seen stays where it is, one that is new goes to the middle.
-  frame.moveCenter(scene_->opacity() > 0 ? geometry().center() : available.center());
+  frame.moveCenter(scene_->opacity() > 0 ? middle : available.center());
   setPosition(keptInside(frame, available).topLeft());
+}
+
+QSize PlayerHostWindow::pixelRoom() const {
+  return screen() ? (QSizeF(screen()->availableSize()) * devicePixelRatio()).toSize() : pixelSize();
+}
+
+void PlayerHostWindow::setMini(bool isMini) {
+  if (isMini == beforeMini_.has_value()) return;
+  if (isMini) {
+    beforeMini_ = Shape{minimumSize(), geometry()};
+    setMinimumSize(kMiniMinimum);
+    resize(size().scaled(kMiniSize, Qt::KeepAspectRatio).expandedTo(kMiniMinimum));
+    if (!screen()) return;
+    const int margin = kMiniMargin;
+    QRect frame(QPoint(), size());
+    frame.moveBottomRight(screen()->availableGeometry().bottomRight() - QPoint(margin, margin));
+    setPosition(frame.topLeft());
+  } else {
+    const Shape shape = *std::exchange(beforeMini_, std::nullopt);
+    setMinimumSize(shape.minimum);
+    resize(shape.frame.size());
+    setPosition(shape.frame.topLeft());
+  }
 }
 
 void PlayerHostWindow::showUnseen() {
   if (isVisible()) return;
-  center();
+  center(geometry().center());
   // Without a compositor a transparent window is a black one: leave it one pixel to be.
   setMask(QRegion(0, 0, 1, 1));
   setVisible(true);

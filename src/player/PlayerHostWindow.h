@@ -3,6 +3,7 @@
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <memory>
+#include <optional>
 
 #include "display/EngineWindowItem.h"
 #include "player/EdgeResize.h"
@@ -36,6 +37,11 @@ class PlayerHostWindow : public QQuickWindow {
   /// Gives the window `pixels`, kept on its screen and round the same centre where the host lets us
   /// place windows.
   void resizeToPixels(QSize pixels);
+  /// Of its screen for a window, in device pixels.
+  QSize pixelRoom() const;
+  /// Small, in the corner where the host lets us place windows; then as it was.
+  void setMini(bool isMini);
+  void setStaysOnTop(bool stays) { setFlag(Qt::WindowStaysOnTopHint, stays); }
   /// What a hand that resizes the window keeps to; in any unit.
   void setPictureAspect(QSize picture) { edgeResize_.setAspect(picture); }
 
@@ -63,7 +69,7 @@ class PlayerHostWindow : public QQuickWindow {
  private:
   QSize roomFor(QSize picture) const;
   void fillWindow();
-  void center();
+  void center(QPoint middle);
   bool handlePointer(QEvent& event);
   bool handleKey(QKeyEvent& event);
   bool askMonitor(const QKeyEvent& event);
@@ -81,6 +87,11 @@ class PlayerHostWindow : public QQuickWindow {
   Qt::Edges edgesUnderPointer_;
   QPointF pointer_;  // on the screen, where it was last seen
   bool pointerHidden_ = false;
+  struct Shape {
+    QSize minimum;
+    QRect frame;
+  };
+  std::optional<Shape> beforeMini_;
 };
 
 }  // namespace tromelo

@@ -7,7 +7,9 @@
 #include <vector>
 
 #include "playback/PlaybackModel.h"
+#include "player/EdgeResize.h"
 #include "player/Format.h"
+#include "player/PlayerWindowController.h"
 
 namespace tromelo {
 
@@ -16,11 +18,13 @@ namespace {
 using Playback = const PlaybackModel&;
 /// Completes an entry by how things are.
 using Tell = void(MenuEntry&, Playback);
+using TellOfWindow = void(MenuEntry&, const PlayerWindowController&);
 
 struct Row {
   const char* text;
   KeyPress press;
   Tell* tell = nullptr;
+  TellOfWindow* tellOfWindow = nullptr;
 };
 struct Group {
   const char* title;
@@ -132,6 +136,20 @@ void subtitleDelay(MenuEntry& entry, Playback playback) {
 
 void fullScreen(MenuEntry& entry, Playback playback) { setSwitch(entry, playback.isFullscreen()); }
 
+void windowed(MenuEntry& entry, Playback playback) {
+  if (playback.isFullscreen()) entry.why = PlayerMenu::tr("The window fills the screen.");
+}
+
+void mini(MenuEntry& entry, const PlayerWindowController& player) {
+  setSwitch(entry, player.chrome().isMini());
+}
+
+void onTop(MenuEntry& entry, const PlayerWindowController& player) {
+  setSwitch(entry, player.staysOnTop());
+  if (!canPlaceWindows())
+    entry.why = PlayerMenu::tr("This desktop lets no program keep its window on top.");
+}
+
 void shuffled(MenuEntry& entry, Playback playback) { setSwitch(entry, playback.isShuffled()); }
 
 void repeatingAll(MenuEntry& entry, Playback playback) {
@@ -206,6 +224,12 @@ const std::vector<Group>& table() {
       {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Window"),
        {
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Full screen"), typing("f"), fullScreen},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Half size"), typing("0"), windowed},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Original size"), typing("1"), windowed},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Double size"), typing("2"), windowed},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Fit to the screen"), typing("3"), windowed},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Mini player"), typing("4"), windowed, mini},
+           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Stay on top"), typing("5"), nullptr, onTop},
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Playback info"), typing("i")},
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Keyboard shortcuts"), typing("?")},
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Stop and close player"), typing("s")},
@@ -232,7 +256,8 @@ QString keysText(const KeyPress& press) {
 
 }  // namespace
 
-QList<MenuGroup> PlayerMenu::groups(const PlaybackModel& playback) {
+QList<MenuGroup> PlayerMenu::groups(const PlaybackModel& playback,
+                                    const PlayerWindowController* player) {
   QList<MenuGroup> groups;
   int number = 0;
   for (const Group& group : table()) {
@@ -243,6 +268,7 @@ QList<MenuGroup> PlayerMenu::groups(const PlaybackModel& playback) {
       entry.keys = keysText(row.press);
       entry.row = number++;
       if (row.tell) row.tell(entry, playback);
+      if (row.tellOfWindow && player) row.tellOfWindow(entry, *player);
       shown.entries.append(entry);
     }
     groups.append(shown);

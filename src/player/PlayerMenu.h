@@ -10,6 +10,7 @@
 namespace tromelo {
 
 class PlaybackModel;
+class PlayerWindowController;
 
 /// Something that can be done with the film, in the menu over the picture.
 class MenuEntry {
@@ -51,7 +52,8 @@ class PlayerMenu : public QObject {
 
  public:
   /// As things are now, in the person's language.
-  static QList<MenuGroup> groups(const PlaybackModel& playback);
+  static QList<MenuGroup> groups(const PlaybackModel& playback,
+                                 const PlayerWindowController* player);
   /// The key that does what the entry in this row of the table is for.
   static KeyPress press(int row);
 };

@@ -112,6 +112,18 @@ std::unique_ptr<PlayerOverlay> PlayerWindow::installOverlay(PlaybackModel& playb
 
 void PlayerWindow::setKeyMonitor(KeyMonitor monitor) { host_->setKeyMonitor(std::move(monitor)); }
 
+void PlayerWindow::showPictureIn(QSize pixels) {
+  if (chosenSize_.isEmpty() || asksForFullscreen()) return;
+  const bool isUpright = chosenSize_.width() < chosenSize_.height();
+  if (isUpright != (pixels.width() < pixels.height())) pixels.transpose();  // a film on its side
+  const QSize wanted = chosenSize_.scaled(pixels, Qt::KeepAspectRatioByExpanding);
+  const QSize room = host_->pixelRoom();
+  const bool fits = wanted.boundedTo(room) == wanted;
+  host_->resizeToPixels(fits ? wanted : chosenSize_.scaled(room, Qt::KeepAspectRatio));
+}
+
+void PlayerWindow::fitScreen() { showPictureIn(host_->pixelRoom()); }
+
 void PlayerWindow::hidePointer() { host_->hidePointer(); }
 
 void PlayerWindow::showPointer() { host_->showPointer(); }
@@ -193,6 +205,7 @@ std::unique_ptr<PlayerHostWindow> PlayerWindow::takeHost() {
   host_->fade().setOpacity(0);
   host_->video().setEngineWindow(nullptr);
   host_->setPictureAspect({});
+  host_->setMini(false);
   host_->setKeyMonitor({});
   if (host_->windowStates() != Qt::WindowNoState) host_->setWindowState(Qt::WindowNoState);
   return std::move(host_);

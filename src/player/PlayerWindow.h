@@ -42,6 +42,10 @@ class PlayerWindow : public VideoWindow {
   std::unique_ptr<PlayerOverlay> installOverlay(PlaybackModel& playback,
                                                 PlayerWindowController& controller) override;
   void setKeyMonitor(KeyMonitor monitor) override;
+  void showPictureIn(QSize pixels) override;
+  void fitScreen() override;
+  void setMini(bool isMini) override { host_->setMini(isMini); }
+  void setStaysOnTop(bool stays) override { host_->setStaysOnTop(stays); }
   void hidePointer() override;
   void showPointer() override;
 

@@ -68,6 +68,7 @@ void PlayerWindowController::adopt(VideoWindow& window) {
   if (window_) tearDownWindowState();
   window.setOpacity(0);
   window.dress(kMinimumSize);
+  window.setStaysOnTop(staysOnTop_);
   window_ = &window;
   isRevealed_ = false;
   isClosing_ = false;
@@ -88,7 +89,7 @@ void PlayerWindowController::installOverlay(VideoWindow& window) {
   overlay_ = window.installOverlay(playback_, *this);
   overlay_->onActivity = [this] { handleActivity(); };
   overlay_->onClick = [this] { toggleChrome(); };
-  overlay_->onDoubleClick = [this] { toggleFullscreen(); };
+  overlay_->onDoubleClick = [this] { chrome_.isMini() ? leaveMini() : toggleFullscreen(); };
   overlay_->onLayout = [this] { updateSubtitleLift(); };
   overlay_->onScroll = [this](double steps) { adjustVolume(steps); };
   overlay_->onDropFiles = [this](const QList<QUrl>& urls) { handleDroppedFiles(urls); };
@@ -208,6 +209,7 @@ void PlayerWindowController::tearDownWindowState() {
   hideTimer_.reset();
   revealFallback_.reset();
   fullscreenExitFallback_.reset();
+  leaveMini();
   overlay_.reset();
   const QPointer<VideoWindow> window = window_;
   window_ = nullptr;

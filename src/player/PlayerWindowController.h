@@ -50,6 +50,16 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   void bringToFront();
   /// Asks the engine, whose window it is.
   Q_INVOKABLE void toggleFullscreen();
+  /// The film's own size, times `scale`, as far as the screen has room. Returns a toast, or
+  /// nothing.
+  QString resizePicture(double scale);
+  QString fitScreen();
+  /// A small window with next to nothing on it, and back.
+  void toggleMini();
+  void leaveMini();
+  /// Returns a toast.
+  QString toggleStaysOnTop();
+  bool staysOnTop() const { return staysOnTop_; }
   /// Has the engine make its output and its window anew, while the file goes on.
   void restartVideo();
   /// Plays the film from its beginning, and says so.
@@ -137,6 +147,7 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   QUrl keptPicture_;
 
   std::optional<double> resumedAt_;  // seconds; to be told when there is a picture
+  bool staysOnTop_ = false;
   bool awaitingVideo_ = false;
   bool videoReady_ = false;
   bool chromeVisible_ = true;

@@ -34,8 +34,11 @@ void PlayerWindowController::followState() {
     if (window_) playback_.isPaused() ? showChrome() : scheduleChromeHide();
   });
   connect(&chrome_, &PlayerChrome::panelChanged, this, [this] {
+    // There is room for a menu only.
+    if (chrome_.panel() && chrome_.panel() != PlayerPanel::menu) leaveMini();
     if (window_) chrome_.panel() ? showChrome() : scheduleChromeHide();
   });
+  connect(&chrome_, &PlayerChrome::isMiniChanged, this, [this] { updateSubtitleLift(); });
   connect(&playback_, &PlaybackModel::hasPlacesChanged, this, [this] {
     // Its button is gone, and there is nothing to be seen in it.
     if (!playback_.hasPlaces()) chrome_.close(PlayerPanel::chapters);
@@ -44,8 +47,10 @@ void PlayerWindowController::followState() {
     resumedAt_ = position;
     tellOfResuming();
   });
-  connect(&chrome_, &PlayerChrome::showsInfoChanged, this,
-          [this] { setInfoRefresh(chrome_.showsInfo()); });
+  connect(&chrome_, &PlayerChrome::showsInfoChanged, this, [this] {
+    if (chrome_.showsInfo()) leaveMini();
+    setInfoRefresh(chrome_.showsInfo());
+  });
   connect(
       &playback_.settings(), &PlayerSettings::autoHideDelayChanged, this,
       [this] {
@@ -140,7 +145,7 @@ void PlayerWindowController::startOver() {
 }
 
 void PlayerWindowController::updateSubtitleLift() {
-  const bool covered = overlay_ && chromeVisible_ && overlay_->height() > 0;
+  const bool covered = overlay_ && chromeVisible_ && !chrome_.isMini() && overlay_->height() > 0;
   const double lift = covered ? subtitleLift(overlay_->controlsTop(), overlay_->height()) : 0;
   if (std::abs(lift - playback_.subtitleLift()) <= kLiftStep) return;
   playback_.setSubtitleLift(lift);

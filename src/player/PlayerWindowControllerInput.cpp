@@ -1,5 +1,6 @@
 #include "playback/PlaybackModel.h"
 #include "player/DraggedFiles.h"
+#include "player/EdgeResize.h"
 #include "player/PlayerActions.h"
 #include "player/PlayerWindowController.h"
 
@@ -14,7 +15,9 @@ bool PlayerWindowController::handleKey(const KeyPress& press) {
   return true;
 }
 
-QList<MenuGroup> PlayerWindowController::menu() const { return PlayerMenu::groups(playback_); }
+QList<MenuGroup> PlayerWindowController::menu() const {
+  return PlayerMenu::groups(playback_, this);
+}
 
 void PlayerWindowController::chooseFromMenu(int row) {
   chrome_.close(PlayerPanel::menu);  // what is chosen may open another
@@ -34,13 +37,54 @@ void PlayerWindowController::escape() {
   if (playsWithoutWindow()) return stopPlayback();
   if (chrome_.showsSpeeds()) return chrome_.setShowsSpeeds(false);
   if (chrome_.panel()) return chrome_.setPanel(std::nullopt);
+  if (chrome_.isMini()) return leaveMini();
   if (!window_ || !window_->isFullscreen()) return close();
   playback_.setFullscreen(false);
 }
 
 void PlayerWindowController::toggleFullscreen() {
   if (!window_) return;
+  leaveMini();
   playback_.setFullscreen(!window_->isFullscreen());
+}
+
+QString PlayerWindowController::resizePicture(double scale) {
+  if (!window_) return {};
+  if (window_->isFullscreen()) return tr("Not in full screen");
+  leaveMini();
+  playback_.withPictureSize([this, scale](QSize picture) {
+    if (window_) window_->showPictureIn(picture * scale);
+  });
+  return {};
+}
+
+QString PlayerWindowController::fitScreen() {
+  if (!window_) return {};
+  if (window_->isFullscreen()) return tr("Not in full screen");
+  leaveMini();
+  window_->fitScreen();
+  return {};
+}
+
+void PlayerWindowController::toggleMini() {
+  if (!window_) return;
+  if (chrome_.isMini()) return leaveMini();
+  if (window_->isFullscreen()) return showToast(tr("Not in full screen"));
+  chrome_.setMini(true);
+  window_->setMini(true);
+}
+
+void PlayerWindowController::leaveMini() {
+  if (!chrome_.isMini()) return;
+  chrome_.setMini(false);
+  if (window_) window_->setMini(false);
+}
+
+QString PlayerWindowController::toggleStaysOnTop() {
+  if (!canPlaceWindows()) return tr("This desktop lets no program keep its window on top");
+  staysOnTop_ = !staysOnTop_;
+  if (window_) window_->setStaysOnTop(staysOnTop_);
+  return staysOnTop_ ? tr("Stays on top") : tr("No longer stays on top");
 }
 
 void PlayerWindowController::adjustVolume(double percent) {

@@ -42,6 +42,15 @@ class VideoWindow : public ControlledWindow {
                                                         PlayerWindowController& controller) = 0;
   /// Is asked first about every key that goes down in the window, in place of the one before it.
   virtual void setKeyMonitor(KeyMonitor monitor) = 0;
+  /// So large that the picture is shown in `pixels` of the screen, or as large as the screen has
+  /// room for; nothing in full screen.
+  virtual void showPictureIn(QSize pixels) = 0;
+  /// As large as the screen has room for.
+  virtual void fitScreen() = 0;
+  /// A small window in the screen's corner, where windows may be placed; then back as it was.
+  virtual void setMini(bool isMini) = 0;
+  /// Above other windows, where the host allows that.
+  virtual void setStaysOnTop(bool stays) = 0;
   /// Until the pointer next moves.
   virtual void hidePointer() = 0;
   virtual void showPointer() = 0;

@@ -85,6 +85,10 @@ struct FakeVideoWindow final : FakeWindow<VideoWindow> {
     return made;
   }
   void setKeyMonitor(KeyMonitor monitor) override { keyMonitor = std::move(monitor); }
+  void showPictureIn(QSize pixels) override { pictureSize = pixels; }
+  void fitScreen() override {}
+  void setMini(bool mini) override { isMini = mini; }
+  void setStaysOnTop(bool stays) override { staysOnTop = stays; }
   void hidePointer() override { pointerShown = false; }
   void showPointer() override { pointerShown = true; }
 
@@ -95,6 +99,9 @@ struct FakeVideoWindow final : FakeWindow<VideoWindow> {
   QSize minimumSize;
   bool key = true;
   bool pointerShown = true;
+  bool isMini = false;
+  bool staysOnTop = false;
+  QSize pictureSize;
   std::optional<ScreenHeadroom> headroom = ScreenHeadroom();
   FakeOverlay* overlay = nullptr;
   KeyMonitor keyMonitor;

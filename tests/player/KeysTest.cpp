@@ -129,6 +129,7 @@ TEST_F(KeysTest, EachDoesAsTheListSays) {
       {typed("g", kControl), {"goTo"}},
       {typed("y"), {"lines"}},
       {typed("Y"), {"\"No subtitles are shown.\""}},
+      {typed("5"), {"\"Stays on top\""}},
       {{Qt::Key_F10, {}, kShift}, {"menu"}},
       {typed("x"),
        {"set file-local-options/ab-loop-a 51.5", "set file-local-options/ab-loop-b no",
@@ -350,6 +351,26 @@ TEST_F(KeysTest, EscapeGoesBackOneStepAtATime) {
   window_.fullscreen = false;
   EXPECT_TRUE(press(escape));
   EXPECT_EQ(effects(), (Sent{"set pause yes", "closes"}));
+}
+
+TEST_F(KeysTest, AMiniPlayerIsLeftForWhatHasNoRoomInIt) {
+  begin();
+  for (const Stroke& leaves : {typed("4"), typed("q"), typed("i"), typed("f"), typed("3"),
+                               Stroke{Qt::Key_Escape, "\x1b"}}) {
+    SCOPED_TRACE(qPrintable(leaves.text));
+    chrome().setPanel(PlayerPanel::tracks);
+    EXPECT_TRUE(press(typed("4")));
+    EXPECT_TRUE(chrome().isMini() && window_.isMini);
+    EXPECT_FALSE(chrome().panel());
+    EXPECT_TRUE(press(leaves));
+    EXPECT_FALSE(chrome().isMini() || window_.isMini);
+    EXPECT_FALSE(player().isClosing());
+    chrome().setShowsInfo(false);
+  }
+  chrome().setPanel(std::nullopt);
+  window_.fullscreen = true;
+  EXPECT_TRUE(press(typed("4")));
+  EXPECT_FALSE(chrome().isMini());
 }
 
 TEST_F(KeysTest, CloseAndOpen) {
