@@ -38,6 +38,7 @@ CommandLine CommandLine::parse(std::span<char* const> arguments) {
     line.version |= argument == "--version";
     line.displaySelftest |= argument == "--display-selftest";
     line.report |= argument == "--report";
+    line.timeline |= argument == "--timeline";
     line.isPrivate |= argument == "--private";
   }
   return line;
@@ -51,6 +52,7 @@ Plays FILE, or shows the library when there is none.
   --start=SECONDS     begin playing there, as in --start=90.5
   --private           write nothing of what is played: no place in it, no recent file
   --report            say on standard output what the player is doing, a "key: value" line a change
+  --timeline          print on standard error how long each step took until the first picture
   --thumbnail [-s PIXELS] FILE PICTURE.png
                       write a picture of FILE, as desktops ask for it, and exit
   --display-selftest  print what the video path finds on this machine, and exit

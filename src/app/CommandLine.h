@@ -22,6 +22,7 @@ struct CommandLine {
   bool displaySelftest = false;
   bool report = false;
   bool isPrivate = false;
+  bool timeline = false;
 
   /// `arguments` begins with the program's own name.
   static CommandLine parse(std::span<char* const> arguments);

@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QMimeData>
 #include <cstdio>
+#include <thread>
 
 #include "app/DefaultsMigration.h"
 #include "display/EglDevice.h"
@@ -20,6 +21,7 @@
 #include "platform/FilePath.h"
 #include "platform/HostEnvironment.h"
 #include "platform/SessionBus.h"
+#include "platform/Timeline.h"
 #include "platform/UserPaths.h"
 #include "theme/Motion.h"
 
@@ -56,8 +58,11 @@ int Program::run() {
                           .isPrivate = commandLine_.isPrivate,
                           .isFileMissing = isMissing});
   if (role_ == ApplicationService::Role::handedOver) return 0;
+  Timeline::note("other programs asked");
   startDisplay();
+  Timeline::note("private display started");
   makeDelegate();
+  Timeline::note("engine started");
   connectService();
   if (commandLine_.report) startReport();
   tellOfStorageErrors();
@@ -66,22 +71,27 @@ int Program::run() {
   offerMediaControls();
   offerPictures();
   keepAwake();
+  Timeline::note("desktop told");
   delegate_->applicationDidFinishLaunching();
+  Timeline::note("file handed to the engine");
   // From here on the engine opens the file, if there is one, beside us.
   applyDrawing();
+  Timeline::note("drawing chosen");
   followReducedMotion();
   QMetaObject::invokeMethod(
       delegate_.get(), [this] { preparePlayerWindow(); }, Qt::QueuedConnection);
+  Timeline::note("event loop begins");
   const int status = QCoreApplication::exec();
   defaults_.flush();
   if (report_) report_->flush();
   return status;
 }
 
-/// In the loop's first turn, behind the library.
+/// In the loop's first turn, before the library.
 void Program::preparePlayerWindow() {
   if (delegate_->player().isAwaitingVideo())
     stage_->prepareWindow(delegate_->playback(), delegate_->player());
+  Timeline::note("player window prepared");
 }
 
 const SceneDrawing& Program::drawing() {
@@ -107,6 +117,8 @@ void Program::followReducedMotion() {
 }
 
 void Program::startDisplay() {
+  // Loading the engine's library keeps nobody waiting who does something else meanwhile.
+  std::jthread loading([] { MpvClientApi::libmpv(); });
   // What the scene is drawn with is found out now only where the sink depends on it: that takes
   // a moment, which the engine can use to open the file.
   const VideoSinkKind sink =
@@ -121,6 +133,7 @@ void Program::startDisplay() {
     return;
   }
   if (sink.dmabuf) vulkanDevice_ = vulkanUuidForScene(sink.dmabuf->mainDevice);
+  loading.join();  // it reads the environment
   HostEnvironment::enterPrivateDisplay(display_.socketPath());
 }
 

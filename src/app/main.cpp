@@ -21,6 +21,7 @@
 #include "pictures/Thumbnailer.h"
 #include "platform/HostEnvironment.h"
 #include "platform/SessionBus.h"
+#include "platform/Timeline.h"
 
 namespace {
 
@@ -121,21 +122,27 @@ int main(int argc, char** argv) {
   const auto line = tromelo::CommandLine::parse(arguments);
   if (line.help) return std::fputs(tromelo::CommandLine::helpText().c_str(), stdout) < 0;
   if (line.version) return std::puts("Tromelo " TROMELO_VERSION) < 0;
+  if (line.timeline) tromelo::Timeline::begin();
+  tromelo::Timeline::note("main() reached");
   if (!hasHostDisplay()) {
     std::fputs("Tromelo needs a display: start it in a Wayland or X11 session.\n", stderr);
     return 1;
   }
   tromelo::leaveSilentSessionBus();
+  tromelo::Timeline::note("session bus asked");
   prepareGraphics();
   std::optional<DisplayGuard> guard(std::in_place);
   QApplication application(argc, argv);
   guard.reset();
+  tromelo::Timeline::note("application object made");
   describe(application);
   darken(application);
   if (line.displaySelftest)
     return std::fputs(qPrintable(tromelo::runDisplaySelftest()), stdout) < 0;
   const Translations translations;  // before any text is made
+  tromelo::Timeline::note("translations loaded");
   std::optional<tromelo::Program> program(std::in_place, line);
+  tromelo::Timeline::note("program made");
   const int status = program->run();
   const bool engineHangs = program->engineHangs();
   program.reset();

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "display/PicturePlacement.h"
+#include "platform/Timeline.h"
 
 namespace tromelo {
 
@@ -205,7 +206,9 @@ void HostSubsurfaceSink::fail() {
 }
 
 void HostSubsurfaceSink::tellFirstShown() {
-  if (!std::exchange(hasShown_, true)) tell(&Events::firstShown);
+  if (std::exchange(hasShown_, true)) return;
+  Timeline::note("first picture drawn");
+  tell(&Events::firstShown);
 }
 
 std::function<void()> HostSubsurfaceSink::when(Way way, void (HostSubsurfaceSink::*step)()) {

@@ -8,6 +8,7 @@
 #include "display/PictureNode.h"
 #include "display/PixelFormat.h"
 #include "display/VideoSinkKind.h"
+#include "platform/Timeline.h"
 
 namespace tromelo {
 
@@ -41,6 +42,7 @@ std::optional<VideoSinkKind> sceneItemSink(const VideoSinkHost& host, PictureWay
 }
 
 void SceneItemSink::commit(std::shared_ptr<Frame> frame) {
+  Timeline::note("engine's first picture committed");
   const QRegion damage = frame ? frame->content().damage : QRegion();
   const std::scoped_lock lock(mutex_);
   const bool isWaiting = picture_.has_value();
@@ -83,7 +85,9 @@ void SceneItemSink::rewind() {
 }
 
 void SceneItemSink::shown() {
-  if (!std::exchange(hasShown_, true)) tell(&Events::firstShown);
+  if (std::exchange(hasShown_, true)) return;
+  Timeline::note("first picture drawn");
+  tell(&Events::firstShown);
 }
 
 void SceneItemSink::refused() { tell(&Events::refused); }

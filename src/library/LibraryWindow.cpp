@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QQmlComponent>
 
+#include "platform/Timeline.h"
 #include "playback/PlaybackModel.h"
 #include "player/Commands.h"
 #include "player/PlayerWindowController.h"
@@ -99,6 +100,12 @@ void LibraryWindow::fadeTo(double opacity, std::chrono::milliseconds duration,
 void LibraryWindow::makeKeyAndOrderFront() {
   isComing_ = true;
   if (window_) return present();
+  QMetaObject::invokeMethod(this, &LibraryWindow::comeUp, Qt::QueuedConnection);
+}
+
+/// What is to be done for a film that is on its way, the library gives way to.
+void LibraryWindow::comeUp() {
+  if (!player_.isAwaitingVideo()) return present();
   QMetaObject::invokeMethod(this, &LibraryWindow::present, Qt::QueuedConnection);
 }
 
@@ -106,6 +113,7 @@ void LibraryWindow::present() {
   if (!isComing_) return;
   isComing_ = false;
   if (!window_) make();
+  Timeline::note("library made");
   // Not show(), which also undoes a maximised window.
   if (window_->windowStates() & Qt::WindowMinimized)
     window_->setWindowStates(window_->windowStates() & ~Qt::WindowMinimized);
@@ -113,6 +121,7 @@ void LibraryWindow::present() {
   settled_.start();
   window_->raise();
   window_->requestActivate();
+  Timeline::note("library shown");
 }
 
 void LibraryWindow::orderOut() {

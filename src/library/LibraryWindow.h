@@ -46,6 +46,7 @@ class LibraryWindow : public ControlledWindow {
 
  private:
   void make();
+  void comeUp();
   void present();
   void saveFrame();
 

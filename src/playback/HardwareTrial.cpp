@@ -11,6 +11,7 @@
 #include "platform/Awaited.h"
 #include "platform/DriverStamp.h"
 #include "platform/MainThread.h"
+#include "platform/Timeline.h"
 
 namespace tromelo {
 
@@ -108,12 +109,14 @@ HardwareTrial::~HardwareTrial() {
 
 FilmKeeper::Preparation HardwareTrial::preparation() {
   return [disk = disk_, session = session_](const OpenedFile& file, const QByteArray& identity) {
+    Timeline::note("film known by its content");
     const Film film = disk->newFilm(identity, file.versions);
     disk->want(film);
     const auto advice = std::make_shared<Awaited<Advice>>();
     disk->inBackground([film, advice](Disk& there) { advice->put(there.advise(film)); });
     const Advice given =
         advice->wait(Moment::now() + kPatienceOfTheEngine).value_or(Advice::hardware);
+    Timeline::note("film marked");
     const bool isSoftware = given != Advice::hardware;
     postToMainThread([=, entry = file.entry] {
       if (session->trial)

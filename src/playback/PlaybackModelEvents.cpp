@@ -3,6 +3,7 @@
 
 #include "engine/MpvValue.h"
 #include "platform/Clock.h"
+#include "platform/Timeline.h"
 #include "playback/EngineErrors.h"
 #include "playback/PlaybackModel.h"
 #include "playback/PropertyMapping.h"
@@ -67,6 +68,7 @@ void PlaybackModel::resetForNewFile() {
 }
 
 void PlaybackModel::handle(const event::FileLoaded&) {
+  Timeline::note("film opened");
   isLoaded_ = true;
   watch_.heard();
   buffering_ = Buffering::ready;
@@ -78,6 +80,7 @@ void PlaybackModel::handle(const event::FileLoaded&) {
 }
 
 void PlaybackModel::handle(const event::VideoReconfigured&) {
+  Timeline::note("engine's output made");
   if (isLoaded_ && !hasStarted_) hasPicture_ = true;
 }
 
@@ -105,6 +108,7 @@ void PlaybackModel::checkRestart() {
 }
 
 void PlaybackModel::showVideoReady() {
+  Timeline::note("engine ready");
   player().setVideoReady(true);
   player().reveal();
   showWaitingToast();

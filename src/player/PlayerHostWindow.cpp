@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/KeptInside.h"
+#include "platform/Timeline.h"
 
 namespace tromelo {
 
@@ -108,9 +109,15 @@ void PlayerHostWindow::showUnseen() {
   // Without a compositor a transparent window is a black one: leave it one pixel to be.
   setMask(QRegion(0, 0, 1, 1));
   setVisible(true);
+  Timeline::note("player window mapped");
 }
 
 void PlayerHostWindow::present() {
+  Timeline::note("player window revealed");
+  if (Timeline::isRunning())
+    connect(this, &QQuickWindow::frameSwapped, this, [this] {
+      if (scene_->opacity() > 0) Timeline::finish("first picture on the screen");
+    });
   setMask(QRegion());
   // Not show(), which also ends full screen.
   if (windowStates() & Qt::WindowMinimized) setWindowStates(windowStates() & ~Qt::WindowMinimized);

@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <algorithm>
 
+#include "platform/Timeline.h"
 #include "playback/PlaybackModel.h"
 
 namespace tromelo {
@@ -54,6 +55,7 @@ void PlayerStage::prepareHost() {
 }
 
 void PlayerStage::add(EngineWindow& engineWindow) {
+  Timeline::note("engine's window there");
   prepareHost();
   auto window = std::make_unique<PlayerWindow>(engineWindow, std::move(spareHost_), overlayFactory_,
                                                headroom_);
