@@ -43,7 +43,6 @@ void arguments(Input input) {
   for (std::string& word : words) pointers.push_back(word.data());
   const CommandLine line = CommandLine::parse(pointers);
   check(!line.start || std::isfinite(*line.start));
-  line.fileToOpen();
 
   ApplicationService service({});
   QList<QUrl> opened;
