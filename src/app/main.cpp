@@ -1,3 +1,5 @@
+#include <malloc.h>
+
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -52,6 +54,14 @@ class DisplayGuard {
   static inline std::mutex mutex;  // messages come from any thread
   static inline QStringList held;
 };
+
+/// Each film comes with threads of its own. With a heap for each thread they would leave holes in
+/// as many heaps as there may be, and the program would grow for dozens of films.
+void shareHeaps() {
+#ifdef __GLIBC__
+  mallopt(M_ARENA_MAX, 2);
+#endif
+}
 
 bool hasHostDisplay() {
   for (const char* name : {"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "WAYLAND_SOCKET", "DISPLAY"})
@@ -130,6 +140,7 @@ int main(int argc, char** argv) {
   }
   tromelo::leaveSilentSessionBus();
   tromelo::Timeline::note("session bus asked");
+  shareHeaps();
   prepareGraphics();
   std::optional<DisplayGuard> guard(std::in_place);
   QApplication application(argc, argv);
