@@ -46,6 +46,8 @@ std::vector<MpvOption> platformOptions(const std::string& vulkanDevice) {
       {"gpu-sw", "yes", true},
       // Where films that come in a folder of their own have their subtitles.
       {"sub-file-paths", "Subs:subs:Subtitles:subtitles"},
+      // Where the film says that its pictures are made of two halves; older engines can't.
+      {"deinterlace", "auto", true},
   };
   std::ranges::copy(plainOptions(), std::back_inserter(options));
   // The graphics card that draws the scene, where there are several: another one's pictures would

@@ -31,6 +31,7 @@ namespace tromelo {
   ROW(videoFormat, "video-format", string, session, fact)                                    \
   ROW(hwdecCurrent, "hwdec-current", string, session, state)                                 \
   ROW(fileFormat, "file-format", string, session, fact)                                      \
+  ROW(displayFps, "display-fps", number, lasting, fact)                                      \
   ROW(decoderDrops, "decoder-frame-drop-count", int64, lasting, fact)                        \
   ROW(outputDrops, "frame-drop-count", int64, lasting, fact)                                 \
   ROW(gamma, "video-params/gamma", string, session, fact)                                    \

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QString>
 #include <QtTypes>
+#include <map>
 #include <string>
 
 namespace tromelo {
@@ -17,6 +18,9 @@ struct FilmKey {
   friend bool operator==(const FilmKey&, const FilmKey&) = default;
 };
 
+/// What a person has changed about a film: values by names that are theirs alone who know them.
+using AdjustmentValues = std::map<std::string, std::string>;
+
 /// How a person left a film.
 struct FilmRecord {
   double position = 0;  // seconds
@@ -26,6 +30,7 @@ struct FilmRecord {
   std::string subtitle = {};
   double audioDelay = 0;     // seconds
   double subtitleDelay = 0;  // seconds
+  AdjustmentValues adjustments = {};
 
   friend bool operator==(const FilmRecord&, const FilmRecord&) = default;
 };

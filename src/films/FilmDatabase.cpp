@@ -36,7 +36,9 @@ const std::array kTables{
     "CREATE TABLE IF NOT EXISTS bookmarks (id INTEGER PRIMARY KEY,"
     " film TEXT NOT NULL REFERENCES films ON DELETE CASCADE, position REAL NOT NULL,"
     " name TEXT NOT NULL)",
-    "CREATE INDEX IF NOT EXISTS bookmarks_of_film ON bookmarks (film, position)"};
+    "CREATE INDEX IF NOT EXISTS bookmarks_of_film ON bookmarks (film, position)",
+    "CREATE TABLE IF NOT EXISTS adjustments (film TEXT NOT NULL REFERENCES films ON DELETE CASCADE,"
+    " name TEXT NOT NULL, value BLOB NOT NULL, PRIMARY KEY (film, name)) WITHOUT ROWID"};
 
 QString nextConnection() {
   static std::atomic<int> count = 0;

@@ -1,6 +1,7 @@
 #include "films/FilmStore.h"
 
 #include <QDateTime>
+#include <algorithm>
 
 namespace tromelo {
 
@@ -32,7 +33,29 @@ std::optional<FilmRecord> FilmStore::film(const FilmKey& film) {
                     .audio = text(row[1]),
                     .subtitle = text(row[2]),
                     .audioDelay = row[3].toDouble(),
-                    .subtitleDelay = row[4].toDouble()};
+                    .subtitleDelay = row[4].toDouble(),
+                    .adjustments = adjustments(film)};
+}
+
+AdjustmentValues FilmStore::adjustments(const FilmKey& film) {
+  AdjustmentValues values;
+  const auto rows = database_.run(
+      QStringLiteral("SELECT name, value FROM adjustments WHERE film = ?"), {identity(film)});
+  for (const QVariantList& row : rows.value_or(FilmDatabase::Rows()))
+    values[row[0].toString().toStdString()] = text(row[1]);
+  return values;
+}
+
+bool FilmStore::rememberAdjustments(const FilmKey& film, const AdjustmentValues& values) {
+  const bool areGone =
+      database_.run(QStringLiteral("DELETE FROM adjustments WHERE film = ?"), {identity(film)})
+          .has_value();
+  return areGone && std::ranges::all_of(values, [&](const auto& one) {
+           return database_
+               .run(QStringLiteral("INSERT INTO adjustments VALUES (?, ?, ?)"),
+                    {identity(film), QString::fromStdString(one.first), bytes(one.second)})
+               .has_value();
+         });
 }
 
 /// Another film that begins and ends alike gives way.
@@ -56,6 +79,7 @@ bool FilmStore::remember(const FilmKey& film, const FilmRecord& record, const st
                                         "played = excluded.played"),
                          {identity(film), film.duration, record.position, bytes(record.audio),
                           bytes(record.subtitle), record.audioDelay, record.subtitleDelay, now}) &&
+           rememberAdjustments(film, record.adjustments) &&
            database_.run(QStringLiteral("INSERT OR REPLACE INTO places VALUES (?, ?, ?)"),
                          {bytes(path), identity(film), now});
   });

@@ -43,6 +43,8 @@ class FilmStore {
 
  private:
   bool makeRoom(const FilmKey& film);
+  AdjustmentValues adjustments(const FilmKey& film);
+  bool rememberAdjustments(const FilmKey& film, const AdjustmentValues& values);
   bool wipe();
 
   FilmDatabase database_;

@@ -39,6 +39,7 @@ CommandMenu {
             required property menuGroup modelData
 
             content: modelData
+            player: menu.player
             backdrop: menu.backdrop
             onChosen: row => menu.player.chooseFromMenu(row)
         }

@@ -6,7 +6,8 @@ import Tromelo.Controls
 import Tromelo.Theme
 
 // An entry of the menu over the picture: whether it is on, what it is called, how things are, and the
-// key that does the same. What opens a menu of its own ends with an arrow.
+// key that does the same. What opens a menu of its own ends with an arrow; a value between two arrows
+// goes back and forth by them, and by the arrow keys, while the menu stays open.
 T.MenuItem {
     id: entry
 
@@ -14,6 +15,9 @@ T.MenuItem {
     property string keys
     // It can't be done now.
     property string why
+    property bool isStepped: false
+
+    signal stepped(int steps)
 
     font: Theme.field
     implicitWidth: Math.ceil(label.implicitWidth + tail.width) + leftPadding + rightPadding
@@ -24,7 +28,14 @@ T.MenuItem {
     hoverEnabled: true
     Accessible.name: text
     Accessible.description: why || [value, keys].filter(part => part !== "").join(", ")
-    Accessible.onPressAction: click()
+    Accessible.onPressAction: isStepped ? stepped(1) : click()
+    Accessible.onIncreaseAction: stepped(1)
+    Accessible.onDecreaseAction: stepped(-1)
+    Keys.onLeftPressed: event => isStepped ? stepped(-1) : event.accepted = false
+    Keys.onRightPressed: event => isStepped ? stepped(1) : event.accepted = false
+    Keys.onSpacePressed: event => isStepped ? stepped(1) : event.accepted = false
+    Keys.onReturnPressed: event => isStepped ? stepped(1) : event.accepted = false
+    Keys.onEnterPressed: event => isStepped ? stepped(1) : event.accepted = false
 
     indicator: Symbol {
         x: Theme.commandSide
@@ -57,6 +68,18 @@ T.MenuItem {
             leftPadding: Theme.commandGap
             spacing: Theme.rowSpacing
 
+            Text {
+                id: back
+
+                height: parent.height
+                visible: entry.isStepped
+                text: "‹"
+                textFormat: Text.PlainText
+                font: entry.font
+                color: Theme.secondaryText
+                verticalAlignment: Text.AlignVCenter
+            }
+
             OneLine {
                 width: Math.min(implicitWidth, Theme.menuValueWidth)
                 height: parent.height
@@ -70,13 +93,21 @@ T.MenuItem {
             Text {
                 height: parent.height
                 visible: text !== ""
-                text: entry.subMenu ? "›" : entry.keys
+                text: entry.subMenu || entry.isStepped ? "›" : entry.keys
                 textFormat: Text.PlainText
                 font: entry.font
                 color: entry.highlighted ? Theme.primaryText : Theme.secondaryText
                 verticalAlignment: Text.AlignVCenter
             }
         }
+    }
+
+    // A click doesn't close the menu.
+    MouseArea {
+        objectName: "menuSteps"
+        anchors.fill: parent
+        visible: entry.isStepped
+        onClicked: mouse => entry.stepped(mouse.x < mapFromItem(back, back.width, 0).x + Theme.rowSpacing && mouse.x > mapFromItem(back, -Theme.rowSpacing, 0).x ? -1 : 1)
     }
 
     background: Rectangle {

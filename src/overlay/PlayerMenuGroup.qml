@@ -11,11 +11,13 @@ import Tromelo.Theme
 CommandMenu {
     id: group
 
+    required property PlayerWindowController player
     required property menuGroup content
     required property Item backdrop
     property bool isMade: false
 
     signal chosen(int row)
+    signal changed
 
     objectName: "menuGroup"
     text: content.title
@@ -69,16 +71,32 @@ CommandMenu {
         onObjectRemoved: (index, object) => group.removeItem(object as PlayerMenuEntry)
 
         delegate: PlayerMenuEntry {
+            id: item
+
             required property menuEntry modelData
+            property menuEntry now: modelData
 
             objectName: "menuEntry"
-            text: modelData.text
-            value: modelData.value
-            keys: modelData.keys
-            why: modelData.why
-            checkable: modelData.isSwitch
-            checked: modelData.isOn
-            onTriggered: group.chosen(modelData.row)
+            text: now.text
+            value: now.value
+            keys: now.keys
+            why: now.why
+            checkable: now.isSwitch
+            checked: now.isOn
+            isStepped: now.isStepped
+            onTriggered: group.chosen(now.row)
+            onStepped: steps => {
+                group.player.stepFromMenu(now.row, steps);
+                group.changed();
+            }
+
+            Connections {
+                target: group
+
+                function onChanged() {
+                    item.now = group.player.menuEntry(item.now.row);
+                }
+            }
         }
     }
 }

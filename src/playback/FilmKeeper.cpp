@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <ranges>
 
+#include "adjustments/FilmAdjustments.h"
 #include "films/FilmResume.h"
 #include "platform/Clock.h"
 #include "platform/FilePath.h"
@@ -27,20 +28,24 @@ void wishTrack(Wishes& wishes, const std::string& choice, const char* option, co
     wishes.push_back(fileOption(option, choice));
 }
 
-Wishes wishes(const FilmRecord& record, std::optional<double> start) {
-  Wishes wishes{fileOption("audio-delay", numberText(record.audioDelay)),
-                fileOption("sub-delay", numberText(record.subtitleDelay))};
+void wishAdjustments(Wishes& wishes, const AdjustmentValues& forAll,
+                     const AdjustmentValues& ofFilm) {
+  for (const MpvPropertyWrite& write : engineWrites(forAll, ofFilm))
+    wishes.push_back(fileOption(write.name, write.value));
+}
+
+void wishPlace(Wishes& wishes, const FilmRecord& record, std::optional<double> start) {
+  wishes.push_back(fileOption("audio-delay", numberText(record.audioDelay)));
+  wishes.push_back(fileOption("sub-delay", numberText(record.subtitleDelay)));
   if (start) wishes.push_back(fileOption("start", numberText(*start)));
   wishTrack(wishes, record.audio, "aid", "audio-add");
   wishTrack(wishes, record.subtitle, "sid", "sub-add");
-  return wishes;
 }
 
 /// As FilmRecord has it.
 std::string choiceOf(const QList<MediaTrack>& tracks) {
   const auto selected = std::ranges::find_if(tracks, &MediaTrack::isSelected);
-  if (selected == tracks.end()) return "no";
-  return selected->isExternal ? absolutePath(selected->file) : std::to_string(selected->id);
+  return selected == tracks.end() ? "no" : selected->choice();
 }
 
 }  // namespace
@@ -59,19 +64,37 @@ PreloadHook::Prepare FilmKeeper::prepareFile(const Preparation& also) {
   if (!memory_) return {};
   return [memory = memory_, session = session_, also](const OpenedFile& file) {
     const auto known = memory->recall(file.path, file.duration, kPatience);
-    if (!known) return Wishes();
-    const bool goesOn = known->record && session->resumes;
-    const auto start = goesOn && !file.hasStart
-                           ? resumePosition({known->record->position, file.duration})
-                           : std::nullopt;
+    Wishes wishes;
+    const auto record = known ? known->record : std::nullopt;
+    wishAdjustments(wishes, session->adjustmentsForAll(),
+                    record ? record->adjustments : AdjustmentValues());
+    if (!known) return wishes;
+    const bool goesOn = record && session->resumes;
+    const auto start =
+        goesOn && !file.hasStart ? resumePosition({record->position, file.duration}) : std::nullopt;
     // Ahead of what the engine tells of the loaded file.
     postToMainThread([session, opened = Opened{file, *known, start}] {
       if (session->keeper) session->keeper->take(opened);
     });
-    Wishes all = goesOn ? wishes(*known->record, start) : Wishes();
-    if (also) std::ranges::move(also(file, known->film.identity), std::back_inserter(all));
-    return all;
+    if (goesOn) wishPlace(wishes, *record, start);
+    if (also) std::ranges::move(also(file, known->film.identity), std::back_inserter(wishes));
+    return wishes;
   };
+}
+
+AdjustmentValues FilmKeeper::Session::adjustmentsForAll() {
+  const std::scoped_lock lock(mutex);
+  return forAll;
+}
+
+void FilmKeeper::setForAll(AdjustmentValues values) {
+  const std::scoped_lock lock(session_->mutex);
+  session_->forAll = std::move(values);
+}
+
+void FilmKeeper::adjusted(const AdjustmentValues& values) {
+  next_.adjustments = values;
+  keepSoon();
 }
 
 void FilmKeeper::started(std::int64_t entry) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 
@@ -36,6 +37,9 @@ class FilmKeeper {
   /// Whether films go on where they were left.
   void setResumes(bool resumes) { session_->resumes = resumes; }
 
+  /// What films of which nothing else is known begin with.
+  void setForAll(AdjustmentValues values);
+
   /// The engine begins with this entry of its playlist.
   void started(std::int64_t entry);
 
@@ -45,6 +49,7 @@ class FilmKeeper {
   void choseSubtitle() { choosesSubtitle_ = true; }
   void choseAudioDelay(double seconds) { next_.audioDelay = seconds; }
   void choseSubtitleDelay(double seconds) { next_.subtitleDelay = seconds; }
+  void adjusted(const AdjustmentValues& values);
   /// The engine has these, and plays those that are selected; without any the film is at its end.
   void tracksChanged(const QList<MediaTrack>& audio, const QList<MediaTrack>& subtitles);
 
@@ -57,6 +62,9 @@ class FilmKeeper {
 
   /// What plays; none until it is known, or where it can't be.
   const std::optional<FilmKey>& film() const { return film_; }
+  /// What was changed about it when it was left; with the event that the file is loaded, not
+  /// before.
+  const AdjustmentValues& adjustments() const { return kept_.adjustments; }
   /// Where it went on, in seconds; none where it began at its beginning or where it was told to.
   std::optional<double> resumedAt() const { return resumedAt_; }
 
@@ -70,6 +78,9 @@ class FilmKeeper {
   /// What the engine's thread knows of us, which may outlive us.
   struct Session {
     std::atomic<bool> resumes = true;
+    std::mutex mutex;  // of the next
+    AdjustmentValues forAll;
+    AdjustmentValues adjustmentsForAll();
     FilmKeeper* keeper = nullptr;  // main thread only
   };
 

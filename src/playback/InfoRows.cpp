@@ -32,6 +32,10 @@ constexpr InfoRow kRows[]{
                   ? QCoreApplication::translate("PlayerInfoPanel", "Nothing is remembered")
                   : QString();
      }},
+    {"infoMotion", QT_TRANSLATE_NOOP("PlayerInfoPanel", "Motion"),
+     [](const State& state) { return state.motion(); }},
+    {"infoChanges", QT_TRANSLATE_NOOP("PlayerInfoPanel", "Changed"),
+     [](const State& state) { return state.changes(); }},
     {"infoDivider", "", nullptr},
     {"infoVideo", QT_TRANSLATE_NOOP("PlayerInfoPanel", "Video"),
      [](const State& state) {

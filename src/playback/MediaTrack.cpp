@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "engine/MpvValue.h"
+#include "platform/FilePath.h"
 #include "platform/LanguageName.h"
 
 namespace tromelo {
@@ -46,6 +47,11 @@ std::string fileName(const MpvMap& entry) {
   return name ? *name : std::string();
 }
 
+bool isSecond(const MpvMap& entry) {
+  const auto* place = mpvEntry<std::int64_t>(entry, "main-selection");
+  return flag(entry, "selected") && place && *place > 0;
+}
+
 MediaTrack mediaTrack(const MpvMap& entry, qint64 id, MediaTrack::Kind kind) {
   auto title = nodeText(entry, "title");
   if (title && title->isEmpty()) title.reset();
@@ -58,7 +64,8 @@ MediaTrack mediaTrack(const MpvMap& entry, qint64 id, MediaTrack::Kind kind) {
           .isDefault = flag(entry, "default"),
           .isForced = flag(entry, "forced"),
           .isExternal = flag(entry, "external"),
-          .isSelected = flag(entry, "selected"),
+          .isSelected = flag(entry, "selected") && !isSecond(entry),
+          .isSecond = isSecond(entry),
           .file = fileName(entry),
           .stream = streamNumber(entry)};
 }
@@ -90,6 +97,10 @@ QString MediaTrack::name() const {
   if (!title) return named;
   if (containsWithoutCase(*title, named)) return *title;
   return QStringLiteral("%1 (%2)").arg(*title, named);
+}
+
+std::string MediaTrack::choice() const {
+  return isExternal ? absolutePath(file) : std::to_string(id);
 }
 
 QString MediaTrack::details() const {

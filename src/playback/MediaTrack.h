@@ -34,6 +34,7 @@ class MediaTrack {
   bool isForced = false;
   bool isExternal = false;
   bool isSelected = false;
+  bool isSecond = false;              // of the subtitles, shown beside the selected ones
   std::string file = {};              // the path of an external one, bytes
   std::optional<qint64> stream = {};  // in its file, as libavformat counts them; none: it isn't one
 
@@ -41,6 +42,9 @@ class MediaTrack {
   QString name() const;
   /// "EAC3 · 6 ch · Forced"; may be empty.
   QString details() const;
+
+  /// As FilmRecord has it.
+  std::string choice() const;
 
   friend bool operator==(const MediaTrack&, const MediaTrack&) = default;
 };

@@ -49,6 +49,7 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       trial_(parts.diagnosticsDirectory + QStringLiteral("/decoding"),
              [this](bool isNew) { takeFall(isNew); }),
       watch_(parts.clock, watchedEngine()),
+      adjustments_(parts.defaults),
       shuffle_([](qsizetype end) { return QRandomGenerator::global()->bounded(end); }),
       existence_(std::move(parts.fileExists),
                  [this](const QList<FileExistence::Answer>& answers) { takeAnswers(answers); }),
@@ -61,6 +62,8 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
   filmKeeper_.setResumes(settings_.resumesFilms());
   connect(&settings_, &PlayerSettings::changed, this,
           [this] { filmKeeper_.setResumes(settings_.resumesFilms()); });
+  filmKeeper_.setForAll(adjustments_.forAll());
+  connect(this, &PlaybackState::infoChanged, this, &PlaybackModel::updateMotion);
   startEngine();
   settings_.apply(engine_);
   // Queued: the change is announced before it is made.

@@ -7,8 +7,11 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 
+#include "adjustments/FilmAdjustments.h"
+#include "adjustments/SmoothMotion.h"
 #include "engine/MpvEngine.h"
 #include "platform/Background.h"
 #include "platform/FileExistence.h"
@@ -181,6 +184,22 @@ class PlaybackModel : public PlaybackState {
   Q_INVOKABLE void setSubtitleDelay(double seconds);
   Q_INVOKABLE void setAudioDelay(double seconds);
 
+  /// What is changed about how the film was made.
+  const FilmAdjustments& adjustments() const { return adjustments_; }
+  /// A value that makes no sense changes nothing.
+  void adjust(Adjustment adjustment, const std::string& value);
+  /// So many steps on; the second subtitles go round among the tracks, black bars on or off.
+  void stepAdjustment(Adjustment adjustment, int steps);
+  /// "110%", as it is now.
+  QString adjustmentText(Adjustment adjustment) const;
+  /// The engine has what is needed for it.
+  bool canAdjust(Adjustment adjustment) const;
+  void makeAsMade(AdjustmentGroup group);
+  /// Films that come begin with what is changed about this one, where that makes sense.
+  void useForAll(AdjustmentGroup group);
+  /// Shows the picture as made for a while.
+  void compare(bool isAsMade);
+
   /// By the number of the track or of the item that was last reported.
   Q_INVOKABLE void selectSubtitle(qint64 track);
   /// From a local file, which is shown at once.
@@ -293,6 +312,15 @@ class PlaybackModel : public PlaybackState {
   void checkRestart();
   void publishTracks(const MpvValue& list);
   void showLinesOfSubtitles();
+  void takeAdjustments();
+  void writeAdjustment(const AdjustmentRow& row, const std::string& value);
+  void writeForFilm(const MpvPropertyWrite& write, const AdjustmentRow* row = nullptr);
+  void refused(const AdjustmentRow& row);
+  void adjusted(const AdjustmentRow& row);
+  void placeSubtitles();
+  void showSecondSubtitle();
+  void stepSecondSubtitle(int steps);
+  void updateMotion();
   PlayerSettings* settingsForViews() { return &settings_; }
   void takeFall(bool isNew);
   void rememberSoftwareDecode(const std::string& path);
@@ -331,6 +359,11 @@ class PlaybackModel : public PlaybackState {
   // The last film, by its path, that was brought into a new engine, and when.
   std::optional<std::string> recovered_;
   double recoveredAt_ = 0;  // of the clock
+  FilmAdjustments adjustments_;
+  SmoothMotion smoothMotion_;      // as the engine was told
+  std::set<std::string> lacking_;  // options that the engine hasn't
+  std::string addedSecond_;        // a file that the second subtitles were asked for from
+  double subtitlePlace_ = 100;     // as the engine was told; percent of the height
   QueueProgress progress_;
   QueueShuffle shuffle_;
   RecentFiles recentFiles_;

@@ -198,6 +198,7 @@ void PlaybackModel::publishTracks(const MpvValue& list) {
   subtitleTracks_ = mediaTracks(list, MediaTrack::Kind::sub);
   filmKeeper_.tracksChanged(audioTracks_, subtitleTracks_);
   showLinesOfSubtitles();
+  showSecondSubtitle();
 }
 
 void PlaybackModel::selectSubtitle(qint64 track) {
@@ -212,7 +213,7 @@ void PlaybackModel::addSubtitle(const QUrl& file) {
 
 void PlaybackModel::setSubtitleLift(double percent) {
   subtitleLift_ = percent;
-  engine_.setProperty("sub-pos", QString::number(100 - percent, 'f', 2).toStdString());
+  placeSubtitles();
 }
 
 void PlaybackModel::turnSubtitlesOff() {

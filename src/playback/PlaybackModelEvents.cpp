@@ -39,6 +39,7 @@ void PlaybackModel::handle(const event::StartFile& start) {
   entry_ = start.entry;
   filmKeeper_.started(entry_);
   trial_.started(entry_);
+  adjustments_.fileStarted();
   status_ = QStringLiteral("Opening media");
 }
 
@@ -72,6 +73,7 @@ void PlaybackModel::handle(const event::FileLoaded&) {
   isLoaded_ = true;
   watch_.heard();
   buffering_ = Buffering::ready;
+  takeAdjustments();
   if (currentPath_)
     remember(*currentPath_);
   else

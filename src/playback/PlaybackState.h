@@ -115,6 +115,10 @@ class PlaybackState : public QObject {
   DynamicRange dynamicRange() const { return dynamicRange_; }
   QString output() const { return output_; }    // what the engine sends to the screen
   QString display() const { return display_; }  // what the screen can show
+  /// An HDR film is on the screen as one.
+  bool isShownAsHdr() const { return dynamicRange().isHigh() && hdrNote().isEmpty(); }
+  QString changes() const { return changes_; }  // of how the film was made; empty: none
+  QString motion() const { return motion_; }    // how it is smoothed, or empty
   /// Why an HDR film isn't shown as that, or empty.
   QString hdrNote() const;
   QList<MediaTrack> audioTracks() const { return audioTracks_; }
@@ -220,6 +224,8 @@ class PlaybackState : public QObject {
   Published<qint64> outputFrameDrops_{this, &PlaybackState::outputFrameDropsChanged};
   Published<DynamicRange> dynamicRange_{this, &PlaybackState::dynamicRangeChanged};
   Published<QString> output_{this, &PlaybackState::outputChanged, kUnknown};
+  Published<QString> changes_{this, &PlaybackState::infoChanged};
+  Published<QString> motion_{this, &PlaybackState::infoChanged};
   Published<QString> display_{this, &PlaybackState::displayChanged, kUnknown};
   Published<QList<MediaTrack>> audioTracks_{this, &PlaybackState::audioTracksChanged};
   Published<QList<MediaTrack>> subtitleTracks_{this, &PlaybackState::subtitleTracksChanged};

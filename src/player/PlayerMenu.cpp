@@ -6,6 +6,7 @@
 #include <cmath>
 #include <vector>
 
+#include "adjustments/AdjustmentValue.h"
 #include "playback/PlaybackModel.h"
 #include "player/EdgeResize.h"
 #include "player/Format.h"
@@ -21,10 +22,12 @@ using Tell = void(MenuEntry&, Playback);
 using TellOfWindow = void(MenuEntry&, const PlayerWindowController&);
 
 struct Row {
-  const char* text;
-  KeyPress press;
+  const char* text = nullptr;
+  KeyPress press = {};
   Tell* tell = nullptr;
   TellOfWindow* tellOfWindow = nullptr;
+  std::optional<Adjustment> adjustment = {};  // in place of all of these
+  void (*act)(PlaybackModel&) = nullptr;      // in place of a key
 };
 struct Group {
   const char* title;
@@ -156,6 +159,75 @@ void repeatingAll(MenuEntry& entry, Playback playback) {
   setSwitch(entry, playback.isRepeatingAll());
 }
 
+bool isHdr(Playback playback) { return playback.dynamicRange().isHigh(); }
+
+QString whyNoSubtitles(Playback playback) {
+  return playback.subtitleTracks().isEmpty() ? PlayerMenu::tr("This video has no subtitles.")
+                                             : QString();
+}
+
+/// Why it can't be changed now, or nothing.
+QString whyNot(Adjustment adjustment, Playback playback) {
+  if (!playback.canAdjust(adjustment)) return PlayerMenu::tr("The installed libmpv can't do that.");
+  switch (adjustment) {
+    case Adjustment::toneMapping:
+      if (!isHdr(playback)) return PlayerMenu::tr("This video isn't HDR.");
+      return playback.isShownAsHdr() ? PlayerMenu::tr("The screen shows HDR itself.") : QString();
+    case Adjustment::subtitleBrightness:
+      return isHdr(playback) ? whyNoSubtitles(playback) : PlayerMenu::tr("This video isn't HDR.");
+    case Adjustment::secondSubtitle:
+      return playback.subtitleTracks().size() > 1
+                 ? QString()
+                 : PlayerMenu::tr("This video has no second subtitles.");
+    case Adjustment::subtitleScale:
+    case Adjustment::subtitlePosition:
+    case Adjustment::subtitlesWithoutNotes:
+      return whyNoSubtitles(playback);
+    case Adjustment::nightMode:
+    case Adjustment::downmix:
+      return playback.audioTracks().isEmpty() ? PlayerMenu::tr("This video has no sound.")
+                                              : QString();
+    default:
+      return playback.hasVideo() ? QString() : PlayerMenu::tr("There is no picture.");
+  }
+}
+
+void tellAdjustment(MenuEntry& entry, Adjustment adjustment, Playback playback) {
+  const AdjustmentRow& row = adjustmentRow(adjustment);
+  entry.text = adjustmentName(row);
+  entry.why = whyNot(adjustment, playback);
+  const bool isOnOff = row.isSwitch() || row.kind == AdjustmentRow::Kind::crop;
+  if (isOnOff) return setSwitch(entry, playback.adjustments().value(adjustment) != asMade(row));
+  entry.isStepped = true;
+  entry.value = playback.adjustmentText(adjustment);
+}
+
+template <AdjustmentGroup group>
+void asItWasMade(MenuEntry& entry, Playback playback) {
+  if (!playback.adjustments().isChanged(group))
+    entry.why = PlayerMenu::tr("Nothing here is changed.");
+}
+
+template <AdjustmentGroup group>
+void forAllFilms(MenuEntry& entry, Playback playback) {
+  if (!playback.adjustments().suitsAll(group))
+    entry.why = PlayerMenu::tr("Nothing here is changed that suits all films.");
+}
+
+/// What can be changed, and what becomes of the changes.
+template <AdjustmentGroup group>
+std::vector<Row> adjustmentRowsAfter(std::vector<Row> rows) {
+  for (const AdjustmentRow& row : adjustmentRows())
+    if (row.group == group) rows.push_back({.adjustment = row.adjustment});
+  rows.push_back({.text = QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "As made"),
+                  .tell = asItWasMade<group>,
+                  .act = [](PlaybackModel& playback) { playback.makeAsMade(group); }});
+  rows.push_back({.text = QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Use for all films"),
+                  .tell = forAllFilms<group>,
+                  .act = [](PlaybackModel& playback) { playback.useForAll(group); }});
+  return rows;
+}
+
 std::vector<Row> playbackRows() {
   return {
       {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Play"), pressing(Qt::Key_Space), playing},
@@ -190,7 +262,7 @@ const std::vector<Group>& table() {
   static const std::vector<Group> groups{
       {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Playback"), playbackRows()},
       {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Picture"),
-       {
+       adjustmentRowsAfter<AdjustmentGroup::picture>({
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Keep the picture"), typing("w"), picture},
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Keep it without subtitles"), typing("W"),
             picture},
@@ -198,18 +270,18 @@ const std::vector<Group>& table() {
             typingWith(Qt::AltModifier, "w"), picture},
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Copy the picture"),
             typingWith(Qt::ControlModifier, "c"), picture},
-       }},
+       })},
       {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Sound"),
-       {
+       adjustmentRowsAfter<AdjustmentGroup::sound>({
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Mute"), typing("m"), muted},
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Louder"), pressing(Qt::Key_Up), volume},
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Quieter"), pressing(Qt::Key_Down), volume},
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Next audio track"), typing("b"), audioTrack},
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Delay −50 ms"), typing("j"), audioDelay},
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Delay +50 ms"), typing("k"), audioDelay},
-       }},
+       })},
       {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Subtitles"),
-       {
+       adjustmentRowsAfter<AdjustmentGroup::subtitles>({
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Next subtitle track"), typing("v"),
             subtitleTrack},
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Previous line"), typing(","), subtitleLine},
@@ -220,7 +292,7 @@ const std::vector<Group>& table() {
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Delay −50 ms"), typing("g"), subtitleDelay},
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Delay +50 ms"), typing("h"), subtitleDelay},
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Subtitles and audio"), typing("u")},
-       }},
+       })},
       {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Window"),
        {
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Full screen"), typing("f"), fullScreen},
@@ -240,6 +312,7 @@ const std::vector<Group>& table() {
 
 /// As people read it.
 QString keysText(const KeyPress& press) {
+  if (press.key == Qt::Key_unknown && press.characters.isEmpty()) return {};
   static const QHash<Qt::Key, QString> arrows{{Qt::Key_Left, QStringLiteral("←")},
                                               {Qt::Key_Right, QStringLiteral("→")},
                                               {Qt::Key_Up, QStringLiteral("↑")},
@@ -254,35 +327,52 @@ QString keysText(const KeyPress& press) {
   return QKeySequence(keys).toString(QKeySequence::NativeText);
 }
 
+const Row& rowAt(int number) {
+  const auto& groups = table();
+  auto group = groups.begin();
+  while (number >= std::ssize(group->rows)) number -= static_cast<int>((group++)->rows.size());
+  return group->rows[number];
+}
+
 }  // namespace
 
-QList<MenuGroup> PlayerMenu::groups(const PlaybackModel& playback,
-                                    const PlayerWindowController* player) {
+MenuEntry PlayerMenu::entry(const PlaybackModel& playback, const PlayerWindowController* player, int number) {
+  const Row& row = rowAt(number);
+  MenuEntry entry;
+  entry.row = number;
+  if (row.adjustment) {
+    tellAdjustment(entry, *row.adjustment, playback);
+    return entry;
+  }
+  entry.text = tr(row.text);
+  entry.keys = keysText(row.press);
+  if (row.tell) row.tell(entry, playback);
+  if (row.tellOfWindow && player) row.tellOfWindow(entry, *player);
+  return entry;
+}
+
+QList<MenuGroup> PlayerMenu::groups(const PlaybackModel& playback, const PlayerWindowController* player) {
   QList<MenuGroup> groups;
   int number = 0;
   for (const Group& group : table()) {
     MenuGroup shown{.title = tr(group.title), .entries = {}};
-    for (const Row& row : group.rows) {
-      MenuEntry entry;
-      entry.text = tr(row.text);
-      entry.keys = keysText(row.press);
-      entry.row = number++;
-      if (row.tell) row.tell(entry, playback);
-      if (row.tellOfWindow && player) row.tellOfWindow(entry, *player);
-      shown.entries.append(entry);
-    }
+    for (qsizetype i = 0; i < std::ssize(group.rows); ++i)
+      shown.entries.append(entry(playback, player, number++));
     groups.append(shown);
   }
   return groups;
 }
 
-KeyPress PlayerMenu::press(int row) {
-  for (const Group& group : table()) {
-    const auto count = static_cast<int>(group.rows.size());
-    if (row >= 0 && row < count) return group.rows[row].press;
-    row -= count;
-  }
+std::optional<KeyPress> PlayerMenu::choose(PlaybackModel& playback, int number) {
+  const Row& row = rowAt(number);
+  if (!row.adjustment && !row.act) return row.press;
+  row.act ? row.act(playback) : playback.stepAdjustment(*row.adjustment, 1);
   return {};
+}
+
+void PlayerMenu::step(PlaybackModel& playback, int number, int steps) {
+  if (const Row& row = rowAt(number); row.adjustment)
+    playback.stepAdjustment(*row.adjustment, steps);
 }
 
 }  // namespace tromelo

@@ -4,6 +4,7 @@
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <optional>
 
 #include "player/KeyPress.h"
 
@@ -21,6 +22,7 @@ class MenuEntry {
   Q_PROPERTY(QString value MEMBER value CONSTANT)
   Q_PROPERTY(bool isSwitch MEMBER isSwitch CONSTANT)
   Q_PROPERTY(bool isOn MEMBER isOn CONSTANT)
+  Q_PROPERTY(bool isStepped MEMBER isStepped CONSTANT)
   Q_PROPERTY(QString why MEMBER why CONSTANT)
   Q_PROPERTY(int row MEMBER row CONSTANT)
 
@@ -30,8 +32,9 @@ class MenuEntry {
   QString value;          // as it is now, or empty
   bool isSwitch = false;  // it is on or off
   bool isOn = false;
-  QString why;   // it can't be done now: a sentence; else empty
-  int row = -1;  // in the menu's table
+  bool isStepped = false;  // its value goes back and forth, and the menu stays open
+  QString why;             // it can't be done now: a sentence; else empty
+  int row = -1;            // in the menu's table
 };
 
 class MenuGroup {
@@ -45,17 +48,20 @@ class MenuGroup {
   QList<MenuEntry> entries;
 };
 
-/// The menu over the picture. What its entries do is in PlayerActions, by their keys. Main thread
-/// only.
+/// The menu over the picture. What its entries do is in PlayerActions, by their keys, or in the
+/// table of adjustments. Main thread only.
 class PlayerMenu : public QObject {
   Q_OBJECT
 
  public:
   /// As things are now, in the person's language.
-  static QList<MenuGroup> groups(const PlaybackModel& playback,
-                                 const PlayerWindowController* player);
-  /// The key that does what the entry in this row of the table is for.
-  static KeyPress press(int row);
+  static QList<MenuGroup> groups(const PlaybackModel& playback, const PlayerWindowController* player);
+  static MenuEntry entry(const PlaybackModel& playback, const PlayerWindowController* player, int row);
+  /// The key that does what the entry in this row of the table is for; none where it has none,
+  /// which is then done.
+  static std::optional<KeyPress> choose(PlaybackModel& playback, int row);
+  /// Goes so many steps on.
+  static void step(PlaybackModel& playback, int row, int steps);
 };
 
 }  // namespace tromelo

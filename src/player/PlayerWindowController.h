@@ -77,6 +77,9 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   Q_INVOKABLE QList<tromelo::MenuGroup> menu() const;
   /// Does what the entry in this row of its table is for.
   Q_INVOKABLE void chooseFromMenu(int row);
+  /// Changes a value there by so many steps; the menu stays open.
+  Q_INVOKABLE void stepFromMenu(int row, int steps);
+  Q_INVOKABLE tromelo::MenuEntry menuEntry(int row) const;
   /// The same in the library while playsWithoutWindow, for the keys that work there. `modifiers`
   /// are Qt::KeyboardModifiers.
   Q_INVOKABLE bool handleLibraryKey(int key, int modifiers, bool isRepeat);

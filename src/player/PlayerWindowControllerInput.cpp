@@ -21,7 +21,15 @@ QList<MenuGroup> PlayerWindowController::menu() const {
 
 void PlayerWindowController::chooseFromMenu(int row) {
   chrome_.close(PlayerPanel::menu);  // what is chosen may open another
-  handleKey(PlayerMenu::press(row));
+  if (const auto press = PlayerMenu::choose(playback_, row)) handleKey(*press);
+}
+
+void PlayerWindowController::stepFromMenu(int row, int steps) {
+  PlayerMenu::step(playback_, row, steps);
+}
+
+MenuEntry PlayerWindowController::menuEntry(int row) const {
+  return PlayerMenu::entry(playback_, this, row);
 }
 
 bool PlayerWindowController::handleLibraryKey(int key, int modifiers, bool isRepeat) {
