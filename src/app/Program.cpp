@@ -35,6 +35,12 @@ void putOntoClipboard(const QByteArray& png) {
   QGuiApplication::clipboard()->setMimeData(content.release());
 }
 
+/// The program itself, as its process for pictures.
+PictureProcess::Program pictureMaker() {
+  return {.file = QCoreApplication::applicationFilePath(),
+          .arguments = {QString::fromLatin1(kPicturesOption)}};
+}
+
 }  // namespace
 
 Program::Program(const CommandLine& commandLine)
@@ -44,8 +50,7 @@ Program::Program(const CommandLine& commandLine)
              [this](const QString& sentence) { tellOfStorage(sentence); }),
       reducedMotion_(qgetenv("TROMELO_REDUCED_MOTION"), sessionBus()),
       service_(sessionBus()),
-      pictures_({.maker = {.file = QCoreApplication::applicationFilePath(),
-                           .arguments = {QString::fromLatin1(kPicturesOption)}},
+      pictures_({.maker = pictureMaker(),
                  .folder = userCacheDirectory() + QStringLiteral("/Tromelo/pictures"),
                  .clock = clock_}) {}
 
@@ -164,6 +169,7 @@ void Program::makeDelegate() {
         .vulkanDevice = vulkanDevice_,
         .picturesFolder = QFile::encodeName(userPicturesDirectory()).toStdString(),
         .copyPicture = &putOntoClipboard,
+        .pictureMaker = pictureMaker(),
         .films = &films_,
         .lineReader = {.file = QCoreApplication::applicationFilePath(),
                        .arguments = {QString::fromLatin1(kLinesOption)}},

@@ -58,8 +58,9 @@ OverlaySurface {
             textFormat: Text.PlainText
             font: Theme.overlayValue
             color: Theme.infoValue
+            wrapMode: Text.WordWrap
             elide: Text.ElideRight
-            maximumLineCount: 1
+            maximumLineCount: Theme.infoLines
             Accessible.ignored: true
         }
     }

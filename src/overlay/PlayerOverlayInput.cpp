@@ -106,7 +106,7 @@ void PlayerOverlayInput::mouseUngrabEvent() { press_.cancel(); }
 
 void PlayerOverlayInput::wheelEvent(QWheelEvent* event) {
   const double steps = scroll_.take(scrollMovement(*event, !canPlaceWindows()));
-  if (steps != 0) Q_EMIT scrolled(steps);
+  if (steps != 0) Q_EMIT scrolled(steps, event->modifiers().testFlag(Qt::ControlModifier));
 }
 
 void PlayerOverlayInput::dragEnterEvent(QDragEnterEvent* event) { acceptDraggedFiles(*event); }

@@ -84,7 +84,7 @@ class PlayerOverlayInput : public QQuickItem {
   void clicked();
   void doubleClicked();
   /// Whole steps, never 0; up is positive.
-  void scrolled(double steps);
+  void scrolled(double steps, bool isControlHeld);
   /// A press of the right button, at this place.
   void menuRequested(QPointF place);
   /// Never empty.

@@ -59,7 +59,9 @@ QuickPlayerOverlay::~QuickPlayerOverlay() {
 void QuickPlayerOverlay::connectInput(PlayerOverlayInput& input) {
   connect(&input, &PlayerOverlayInput::clicked, this, [this] { onClick(); });
   connect(&input, &PlayerOverlayInput::doubleClicked, this, [this] { onDoubleClick(); });
-  connect(&input, &PlayerOverlayInput::scrolled, this, [this](double steps) { onScroll(steps); });
+  connect(&input, &PlayerOverlayInput::scrolled, this, [this](double steps, bool isControlHeld) {
+    isControlHeld ? onControlScroll(steps) : onScroll(steps);
+  });
   connect(&input, &PlayerOverlayInput::filesDropped, this,
           [this](const QList<QUrl>& files) { onDropFiles(files); });
 }

@@ -50,6 +50,7 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
              [this](bool isNew) { takeFall(isNew); }),
       watch_(parts.clock, watchedEngine()),
       adjustments_(parts.defaults),
+      barsFinder_(std::move(parts.pictureMaker), parts.clock),
       shuffle_([](qsizetype end) { return QRandomGenerator::global()->bounded(end); }),
       existence_(std::move(parts.fileExists),
                  [this](const QList<FileExistence::Answer>& answers) { takeAnswers(answers); }),

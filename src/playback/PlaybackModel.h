@@ -13,6 +13,7 @@
 #include "adjustments/FilmAdjustments.h"
 #include "adjustments/SmoothMotion.h"
 #include "engine/MpvEngine.h"
+#include "pictures/BarsFinder.h"
 #include "platform/Background.h"
 #include "platform/FileExistence.h"
 #include "platform/FilePath.h"
@@ -71,6 +72,8 @@ class PlaybackModel : public PlaybackState {
     std::string picturesFolder = {};  // where pictures of films are kept
     /// Puts a picture, as PNG, onto the desktop's clipboard.
     std::function<void(const QByteArray& png)> copyPicture = [](const QByteArray&) {};
+    /// Of pictures of films, which are looked at for black bars.
+    HelperProcess::Program pictureMaker = {};
     FilmMemory* films = nullptr;             // none: no film is remembered
     HelperProcess::Program lineReader = {};  // reads the lines of subtitles
     QString engineFault = {};  // a sentence: why the engine can't be started; empty: it can
@@ -192,6 +195,8 @@ class PlaybackModel : public PlaybackState {
   void stepAdjustment(Adjustment adjustment, int steps);
   /// "110%", as it is now.
   QString adjustmentText(Adjustment adjustment) const;
+  /// "Zoom 110%", for a toast.
+  QString adjustmentToast(Adjustment adjustment) const;
   /// The engine has what is needed for it.
   bool canAdjust(Adjustment adjustment) const;
   void makeAsMade(AdjustmentGroup group);
@@ -320,6 +325,8 @@ class PlaybackModel : public PlaybackState {
   void placeSubtitles();
   void showSecondSubtitle();
   void stepSecondSubtitle(int steps);
+  void cutBars();
+  void tellOfBars(const std::variant<QRect, NoBars>& found);
   void updateMotion();
   PlayerSettings* settingsForViews() { return &settings_; }
   void takeFall(bool isNew);
@@ -360,6 +367,7 @@ class PlaybackModel : public PlaybackState {
   std::optional<std::string> recovered_;
   double recoveredAt_ = 0;  // of the clock
   FilmAdjustments adjustments_;
+  BarsFinder barsFinder_;
   SmoothMotion smoothMotion_;      // as the engine was told
   std::set<std::string> lacking_;  // options that the engine hasn't
   std::string addedSecond_;        // a file that the second subtitles were asked for from

@@ -11,9 +11,8 @@ namespace {
 constexpr double kBottom = 100;  // percent of the height
 
 QString changeText(const PlaybackModel& model, const AdjustmentRow& row) {
-  const QString name = adjustmentName(row);
   const bool saysItself = row.isSwitch() || row.kind == AdjustmentRow::Kind::crop;
-  return saysItself ? name : name + u' ' + model.adjustmentText(row.adjustment);
+  return saysItself ? adjustmentName(row) : model.adjustmentToast(row.adjustment);
 }
 
 const MediaTrack* chosen(const QList<MediaTrack>& tracks, const std::string& choice) {
@@ -50,6 +49,10 @@ QString PlaybackModel::adjustmentText(Adjustment adjustment) const {
   return track ? track->name() : tr("Off");
 }
 
+QString PlaybackModel::adjustmentToast(Adjustment adjustment) const {
+  return adjustmentName(adjustmentRow(adjustment)) + u' ' + adjustmentText(adjustment);
+}
+
 bool PlaybackModel::canAdjust(Adjustment adjustment) const {
   const char* needs = adjustmentRow(adjustment).needs;
   return !needs || !lacking_.contains(needs);
@@ -64,6 +67,7 @@ void PlaybackModel::adjust(Adjustment adjustment, const std::string& value) {
 
 void PlaybackModel::stepAdjustment(Adjustment adjustment, int steps) {
   if (adjustment == Adjustment::secondSubtitle) return stepSecondSubtitle(steps);
+  if (adjustment == Adjustment::crop) return cutBars();
   const AdjustmentRow& row = adjustmentRow(adjustment);
   adjust(adjustment, steppedValue(row, adjustments_.value(adjustment), steps));
 }
@@ -142,6 +146,37 @@ void PlaybackModel::stepSecondSubtitle(int steps) {
   const auto count = std::ssize(choices);
   const auto from = now == choices.end() ? 0 : now - choices.begin();
   adjust(Adjustment::secondSubtitle, choices[((from + steps) % count + count) % count]);
+}
+
+/// Or puts them back.
+void PlaybackModel::cutBars() {
+  if (!adjustments_.value(Adjustment::crop).empty()) return adjust(Adjustment::crop, {});
+  if (!isLoaded_ || !facts_.hasPicture() || !currentPath_) return;
+  player().showToast(tr("Looking for black bars…"));
+  barsFinder_.find(*currentPath_, QSize(int(*facts_.width), int(*facts_.height)), duration_,
+                   [this](const std::variant<QRect, NoBars>& found) { tellOfBars(found); });
+}
+
+void PlaybackModel::tellOfBars(const std::variant<QRect, NoBars>& found) {
+  if (const auto* part = std::get_if<QRect>(&found)) {
+    adjust(Adjustment::crop, QStringLiteral("%1x%2+%3+%4")
+                                 .arg(part->width())
+                                 .arg(part->height())
+                                 .arg(part->x())
+                                 .arg(part->y())
+                                 .toStdString());
+    return player().showToast(adjustmentName(adjustmentRow(Adjustment::crop)));
+  }
+  switch (std::get<NoBars>(found)) {
+    case NoBars::none:
+      return player().showToast(tr("There are no black bars"));
+    case NoBars::tooDark:
+      return player().showToast(tr("Too dark to tell where the bars end"));
+    case NoBars::vary:
+      return player().showToast(tr("The picture's shape changes in this film, so nothing is cut"));
+    case NoBars::failed:
+      return player().showToast(tr("The film couldn't be searched for black bars"));
+  }
 }
 
 /// What is said of the film's changes, too.

@@ -6,8 +6,9 @@
 
 namespace tromelo {
 
-/// A key that went down, as the player's table of keys sees it. Keys of the keypad are their plain
-/// twins, and a key that picks another character (AltGr) shows in the character alone.
+/// A key that went down, or comes up again, as the player's table of keys sees it. Keys of the
+/// keypad are their plain twins, and a key that picks another character (AltGr) shows in the
+/// character alone.
 struct KeyPress {
   static constexpr auto kModifiers =
       Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
@@ -18,6 +19,7 @@ struct KeyPress {
   /// of it. A key with a letter of another script has the Latin one that is printed beside it.
   QString characters;
   bool isRepeat = false;  // the key is held
+  bool isUp = false;      // it is let go of
 
   static KeyPress from(const QKeyEvent& event);
 };

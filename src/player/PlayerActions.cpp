@@ -175,6 +175,18 @@ QString keepPicture(Player&, PlaybackModel& playback) {
   return {};
 }
 
+template <Adjustment adjustment, int steps>
+QString adjust(Player&, PlaybackModel& playback) {
+  playback.stepAdjustment(adjustment, steps);
+  return playback.adjustmentToast(adjustment);
+}
+
+template <bool isAsMade>
+QString compare(Player&, PlaybackModel& playback) {
+  playback.compare(isAsMade);
+  return isAsMade ? PlayerActions::tr("The picture as made") : QString();
+}
+
 QString addBookmark(Player&, PlaybackModel& playback) {
   if (!playback.isLoaded()) return {};
   if (const auto there = playback.addBookmark())
@@ -275,6 +287,9 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
          {QT_TR_NOOP("⌘C"),
           QT_TR_NOOP("Copy the picture"),
           {{.keys = {exactly(kControl, Qt::Key_C)}, .act = run<&PlaybackModel::copyPicture>}}},
+         {QT_TR_NOOP("Hold Y"),
+          QT_TR_NOOP("Compare with the picture as made"),
+          {{.keys = {typed(u"yY")}, .act = compare<true>, .release = compare<false>}}},
          {QT_TR_NOOP("R"),
           QT_TR_NOOP("Start over"),
           {{.keys = {typed(u"rR")},
@@ -383,6 +398,22 @@ const std::vector<PlayerActions::Group> PlayerActions::groups{
          {QT_TR_NOOP("⇧Y"),
           QT_TR_NOOP("The next subtitle line is spoken now"),
           {{.keys = {typed(u"Y")}, .act = syncToNextLine}}},
+         {QT_TR_NOOP("⌘+ / ⌘−, ⌘Scroll"),
+          QT_TR_NOOP("Subtitles larger / smaller"),
+          {{.keys = {{.characters = u"+=", .modifiers = kControl, .anyway = kShift}},
+            .act = adjust<Adjustment::subtitleScale, 1>,
+            .held = Held::again},
+           {.keys = {{.characters = u"-_", .modifiers = kControl, .anyway = kShift}},
+            .act = adjust<Adjustment::subtitleScale, -1>,
+            .held = Held::again}}},
+         {QT_TR_NOOP("Page ↑ / Page ↓"),
+          QT_TR_NOOP("Subtitles higher / lower"),
+          {{.keys = {exactly({}, Qt::Key_PageUp)},
+            .act = adjust<Adjustment::subtitlePosition, -1>,
+            .held = Held::again},
+           {.keys = {exactly({}, Qt::Key_PageDown)},
+            .act = adjust<Adjustment::subtitlePosition, 1>,
+            .held = Held::again}}},
      }},
     {QT_TR_NOOP("Window"),
      {

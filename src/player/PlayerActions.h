@@ -91,6 +91,7 @@ class PlayerActions : public QObject {
     bool withoutWindow = false;  // also for a file that has no window, in the library
     Program program = Program::no;
     std::vector<std::pair<Tip, const char*>> tips = {};
+    Act* release = nullptr;  // when the key comes up again
   };
 
   /// A line in the list of keys, with the actions that it stands for; none where it is the hand's.

@@ -198,13 +198,30 @@ bool PlayerHostWindow::askMonitor(const QKeyEvent& event) {
   KeyPress press = KeyPress::from(event);
   press.isRepeat = heldKey_.isRepeatedBy(event);
   const KeyMonitor monitor = keyMonitor_;  // a key can be what takes it away
-  return monitor && monitor(press);
+  if (!monitor || !monitor(press)) return false;
+  down_ = press;
+  return true;
+}
+
+/// Whichever key comes up, and when the keyboard is another window's: what is done for as long as a
+/// key is down must not go on.
+void PlayerHostWindow::letGo() {
+  auto press = std::exchange(down_, {});
+  if (!press || !keyMonitor_) return;
+  press->isUp = true;
+  const KeyMonitor monitor = keyMonitor_;
+  monitor(*press);
 }
 
 bool PlayerHostWindow::event(QEvent* event) {
   if (handlePointer(*event)) return true;
   if (event->type() == QEvent::KeyPress && handleKey(static_cast<QKeyEvent&>(*event))) return true;
-  if (event->type() == QEvent::KeyRelease) heldKey_.release(static_cast<QKeyEvent&>(*event));
+  if (event->type() == QEvent::KeyRelease) {
+    const auto& key = static_cast<QKeyEvent&>(*event);
+    heldKey_.release(key);
+    if (!key.isAutoRepeat()) letGo();
+  }
+  if (event->type() == QEvent::FocusOut) letGo();
   if (event->type() == QEvent::Close) {
     event->ignore();
     Q_EMIT closeRequested();

@@ -73,6 +73,7 @@ class PlayerHostWindow : public QQuickWindow {
   bool handlePointer(QEvent& event);
   bool handleKey(QKeyEvent& event);
   bool askMonitor(const QKeyEvent& event);
+  void letGo();
   bool isTypedInto() const;
   bool isInPopup() const;
   void followPointer(const QSinglePointEvent& event);
@@ -84,6 +85,7 @@ class PlayerHostWindow : public QQuickWindow {
   EdgeResize edgeResize_{*this};
   KeyMonitor keyMonitor_;
   HeldKey heldKey_;
+  std::optional<KeyPress> down_;  // the last that the monitor took, while it is down
   Qt::Edges edgesUnderPointer_;
   QPointF pointer_;  // on the screen, where it was last seen
   bool pointerHidden_ = false;

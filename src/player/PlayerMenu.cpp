@@ -327,27 +327,31 @@ QString keysText(const KeyPress& press) {
   return QKeySequence(keys).toString(QKeySequence::NativeText);
 }
 
-const Row& rowAt(int number) {
-  const auto& groups = table();
-  auto group = groups.begin();
-  while (number >= std::ssize(group->rows)) number -= static_cast<int>((group++)->rows.size());
-  return group->rows[number];
+/// Null for a number that is none's.
+const Row* rowAt(int number) {
+  for (const Group& group : table()) {
+    const auto count = static_cast<int>(group.rows.size());
+    if (number >= 0 && number < count) return &group.rows[number];
+    number -= count;
+  }
+  return nullptr;
 }
 
 }  // namespace
 
 MenuEntry PlayerMenu::entry(const PlaybackModel& playback, const PlayerWindowController* player, int number) {
-  const Row& row = rowAt(number);
   MenuEntry entry;
   entry.row = number;
-  if (row.adjustment) {
-    tellAdjustment(entry, *row.adjustment, playback);
+  const Row* row = rowAt(number);
+  if (!row) return entry;
+  if (row->adjustment) {
+    tellAdjustment(entry, *row->adjustment, playback);
     return entry;
   }
-  entry.text = tr(row.text);
-  entry.keys = keysText(row.press);
-  if (row.tell) row.tell(entry, playback);
-  if (row.tellOfWindow && player) row.tellOfWindow(entry, *player);
+  entry.text = tr(row->text);
+  entry.keys = keysText(row->press);
+  if (row->tell) row->tell(entry, playback);
+  if (row->tellOfWindow && player) row->tellOfWindow(entry, *player);
   return entry;
 }
 
@@ -363,16 +367,20 @@ QList<MenuGroup> PlayerMenu::groups(const PlaybackModel& playback, const PlayerW
   return groups;
 }
 
-std::optional<KeyPress> PlayerMenu::choose(PlaybackModel& playback, int number) {
-  const Row& row = rowAt(number);
-  if (!row.adjustment && !row.act) return row.press;
-  row.act ? row.act(playback) : playback.stepAdjustment(*row.adjustment, 1);
-  return {};
+std::optional<KeyPress> PlayerMenu::press(int number) {
+  const Row* row = rowAt(number);
+  return row && !row->adjustment && !row->act ? std::optional(row->press) : std::nullopt;
+}
+
+void PlayerMenu::choose(PlaybackModel& playback, int number) {
+  const Row* row = rowAt(number);
+  if (row && row->act) row->act(playback);
+  if (row && row->adjustment) playback.stepAdjustment(*row->adjustment, 1);
 }
 
 void PlayerMenu::step(PlaybackModel& playback, int number, int steps) {
-  if (const Row& row = rowAt(number); row.adjustment)
-    playback.stepAdjustment(*row.adjustment, steps);
+  const Row* row = rowAt(number);
+  if (row && row->adjustment) playback.stepAdjustment(*row->adjustment, steps);
 }
 
 }  // namespace tromelo

@@ -55,11 +55,13 @@ class PlayerMenu : public QObject {
 
  public:
   /// As things are now, in the person's language.
-  static QList<MenuGroup> groups(const PlaybackModel& playback, const PlayerWindowController* player);
+  static QList<MenuGroup> groups(const PlaybackModel& playback,
+                                 const PlayerWindowController* player);
   static MenuEntry entry(const PlaybackModel& playback, const PlayerWindowController* player, int row);
-  /// The key that does what the entry in this row of the table is for; none where it has none,
-  /// which is then done.
-  static std::optional<KeyPress> choose(PlaybackModel& playback, int row);
+  /// The key that does what the entry in this row of the table is for; none where it has none.
+  static std::optional<KeyPress> press(int row);
+  /// Does what has no key.
+  static void choose(PlaybackModel& playback, int row);
   /// Goes so many steps on.
   static void step(PlaybackModel& playback, int row, int steps);
 };

@@ -21,6 +21,8 @@ class PlayerOverlay {
   std::function<void()> onLayout = [] {};
   /// Whole steps, never 0; up is positive.
   std::function<void(double)> onScroll = [](double) {};
+  /// The same with Control held.
+  std::function<void(double)> onControlScroll = [](double) {};
   /// Never an empty list; in the order that the drag had.
   std::function<void(const QList<QUrl>&)> onDropFiles = [](const QList<QUrl>&) {};
 

@@ -92,6 +92,7 @@ void PlayerWindowController::installOverlay(VideoWindow& window) {
   overlay_->onDoubleClick = [this] { chrome_.isMini() ? leaveMini() : toggleFullscreen(); };
   overlay_->onLayout = [this] { updateSubtitleLift(); };
   overlay_->onScroll = [this](double steps) { adjustVolume(steps); };
+  overlay_->onControlScroll = [this](double steps) { resizeSubtitles(steps); };
   overlay_->onDropFiles = [this](const QList<QUrl>& urls) { handleDroppedFiles(urls); };
   chromeVisible_ = true;
   overlay_->setChromeVisible(true, false);

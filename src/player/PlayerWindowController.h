@@ -68,6 +68,7 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   Q_INVOKABLE void showPicture();
   void handleDroppedFiles(const QList<QUrl>& addresses);
   /// By percent points, up or down, with a toast.
+  void resizeSubtitles(double steps);
   void adjustVolume(double percent);
   /// One step back: out of a panel, of full screen, of the player.
   void escape();

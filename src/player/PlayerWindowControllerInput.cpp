@@ -9,6 +9,10 @@ namespace tromelo {
 bool PlayerWindowController::handleKey(const KeyPress& press) {
   const PlayerActions::Action* action = PlayerActions::find(press);
   if (!action) return false;
+  if (press.isUp) {
+    if (action->release) action->release(*this, playback_);
+    return true;
+  }
   const QString toast = PlayerActions::perform(*action, press.isRepeat, *this, playback_);
   if (!toast.isEmpty()) showToast(toast);
   handleActivity();
@@ -21,7 +25,11 @@ QList<MenuGroup> PlayerWindowController::menu() const {
 
 void PlayerWindowController::chooseFromMenu(int row) {
   chrome_.close(PlayerPanel::menu);  // what is chosen may open another
-  if (const auto press = PlayerMenu::choose(playback_, row)) handleKey(*press);
+  if (const auto press = PlayerMenu::press(row)) {
+    handleKey(*press);
+  } else {
+    PlayerMenu::choose(playback_, row);
+  }
 }
 
 void PlayerWindowController::stepFromMenu(int row, int steps) {
@@ -98,6 +106,11 @@ QString PlayerWindowController::toggleStaysOnTop() {
 void PlayerWindowController::adjustVolume(double percent) {
   playback_.setVolume(playback_.volume() + percent);
   showToast(PlayerActions::volumeText(playback_));
+}
+
+void PlayerWindowController::resizeSubtitles(double steps) {
+  playback_.stepAdjustment(Adjustment::subtitleScale, static_cast<int>(steps));
+  showToast(playback_.adjustmentToast(Adjustment::subtitleScale));
 }
 
 void PlayerWindowController::handleDroppedFiles(const QList<QUrl>& addresses) {

@@ -274,6 +274,7 @@ QtObject {
     readonly property real infoRadius: 18
     readonly property real infoPadding: 14
     readonly property real infoSpacing: 8
+    readonly property int infoLines: 4
     readonly property real infoLabelWidth: 66
     readonly property real infoLabelGap: 10
     readonly property real shortcutsKeysWidth: 100 // at least

@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <map>
+#include <set>
 
 #include "FakeChooser.h"
 #include "FakePlayer.h"
+#include "adjustments/AdjustmentValue.h"
 #include "platform/Clock.h"
 #include "platform/FilePath.h"
 #include "playback/PlaybackModel.h"
@@ -177,6 +180,58 @@ TEST_F(RealFilms, GoesOnInAQueueButNotWhereItIsToldToBeginOrShallNot) {
   session_->model_.settings().setResumesFilms(false);
   ASSERT_TRUE(session_->plays(film_));
   EXPECT_NEAR(*session_->first_, 0, 2);
+}
+
+/// What the engine says of all that adjustments are told it by.
+std::map<std::string, std::string> adjusted(PlaybackModel& model) {
+  std::map<std::string, std::string> values;
+  int asked = 0;
+  std::set<std::string> names{"video-sync", "interpolation", "secondary-sid", "sub-pos"};
+  for (const AdjustmentRow& row : adjustmentRows())
+    for (const MpvPropertyWrite& write : engineWrites(row, asMade(row))) names.insert(write.name);
+  for (const std::string& name : names)
+    model.engine().readProperty(name, [&, name](const std::optional<std::string>& value) {
+      values[name] = value.value_or("none");
+      ++asked;
+    });
+  EXPECT_TRUE(waitFor([&] { return asked == std::ssize(names); }));
+  return values;
+}
+
+TEST_F(RealFilms, WhatIsChangedAboutAFilmIsDoneUndoneAndKeptWithIt) {
+  start();
+  fs::copy_file(clipPath("tracks.mkv"), film_, fs::copy_options::overwrite_existing);
+  ASSERT_TRUE(session_->plays(film_));
+  auto made = adjusted(session_->model_);
+  for (const AdjustmentRow& row : adjustmentRows()) {
+    // Without a screen there is nothing to be in step with.
+    if (row.adjustment == Adjustment::smoothMotion || row.needs) continue;
+    auto& model = session_->model_;
+    if (row.adjustment == Adjustment::crop)
+      model.adjust(row.adjustment, "300x100+10+40");
+    else
+      model.stepAdjustment(row.adjustment, 1);
+    EXPECT_TRUE(waitFor([&] { return adjusted(model) != made; })) << row.name;
+    EXPECT_FALSE(model.changes().isEmpty()) << row.name;
+    model.makeAsMade(row.group);
+    EXPECT_TRUE(waitFor([&] { return adjusted(model) == made; })) << row.name;
+    EXPECT_TRUE(model.changes().isEmpty()) << row.name;
+  }
+  for (const Adjustment one : {Adjustment::zoom, Adjustment::secondSubtitle,
+                               Adjustment::subtitlePosition, Adjustment::nightMode})
+    session_->model_.stepAdjustment(one, -1);
+  session_->model_.useForAll(AdjustmentGroup::sound);
+  ASSERT_TRUE(waitFor([&] { return session_->model_.subtitleTracks()[3].isSecond; }));
+  const auto changed = adjusted(session_->model_);
+  session_->model_.seekTo(3);
+  ASSERT_TRUE(session_->comesTo(3));
+
+  restart();
+  ASSERT_TRUE(session_->plays(film_));
+  EXPECT_TRUE(waitFor([&] { return adjusted(session_->model_) == changed; }));
+  made["af"] = changed.at("af");
+  ASSERT_TRUE(session_->plays(clipPath("sample.mkv")));
+  EXPECT_TRUE(waitFor([&] { return adjusted(session_->model_) == made; })) << "another film";
 }
 
 TEST_F(RealFilms, AFilmInPrivateLeavesNoTrace) {
