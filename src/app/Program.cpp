@@ -36,7 +36,7 @@ void putOntoClipboard(const QByteArray& png) {
 }
 
 /// The program itself, as its process for pictures.
-PictureProcess::Program pictureMaker() {
+HelperProcess::Program pictureMaker() {
   return {.file = QCoreApplication::applicationFilePath(),
           .arguments = {QString::fromLatin1(kPicturesOption)}};
 }
@@ -192,6 +192,7 @@ void Program::makeDelegate() {
       QVariantMap{
           {QStringLiteral("settings"), QVariant::fromValue(&delegate_->playback().settings())},
           {QStringLiteral("pages"), QVariant::fromValue(&settingsPages_)},
+          {QStringLiteral("devices"), QVariant::fromValue(&delegate_->playback().soundDevices())},
           {QStringLiteral("films"), QVariant::fromValue(&films_)}});
   makeCommands();
 }

@@ -121,6 +121,7 @@ void MpvEngine::terminate(std::function<void()> completion) {
   unanswered_ = 0;
   refusals_.clear();
   reads_.clear();
+  nodes_.clear();
   outcomes_.clear();
   wakeupTarget_->engine = nullptr;
   api_->setWakeupCallback(handle.pointer, nullptr, nullptr);
@@ -157,7 +158,17 @@ void MpvEngine::readProperty(std::string name, Answer answer) {
   send(MpvPropertyRead{std::move(name), lastReply_});
 }
 
+void MpvEngine::readNode(std::string name, NodeAnswer answer) {
+  if (!handle_) return;
+  nodes_.emplace(++lastReply_, std::move(answer));
+  send(MpvPropertyRead{std::move(name), lastReply_, true});
+}
+
 void MpvEngine::answerRead(const mpv_event& reply) {
+  if (const auto node = nodes_.extract(reply.reply_userdata)) {
+    const auto* property = static_cast<const mpv_event_property*>(reply.data);
+    return node.mapped()(reply.error >= 0 && property ? mpvValue(*property) : MpvValue());
+  }
   const auto read = reads_.extract(reply.reply_userdata);
   if (!read) return;
   const auto* property = static_cast<const mpv_event_property*>(reply.data);
@@ -206,7 +217,8 @@ int MpvEngine::trySend(const MpvRequest& request) {
     return sendCommand(*api_, handle_, *command);
   }
   if (const auto* read = std::get_if<MpvPropertyRead>(&request)) {
-    return api_->getPropertyAsync(handle_, read->reply, read->name.c_str(), MPV_FORMAT_OSD_STRING);
+    return api_->getPropertyAsync(handle_, read->reply, read->name.c_str(),
+                                  read->isNode ? MPV_FORMAT_NODE : MPV_FORMAT_OSD_STRING);
   }
   return sendWrite(*api_, handle_, std::get<MpvPropertyWrite>(request));
 }

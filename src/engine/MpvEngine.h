@@ -68,6 +68,9 @@ class MpvEngine {
   /// Called on the main thread with the value as people read it, or none; never after terminate().
   using Answer = std::function<void(std::optional<std::string>)>;
   void readProperty(std::string name, Answer answer);
+  /// The same, with a tree of values.
+  using NodeAnswer = std::function<void(const MpvValue&)>;
+  void readNode(std::string name, NodeAnswer answer);
 
   /// Whether the engine writes its log, which names what is played. It does from the start.
   void setLogging(bool writes);
@@ -108,6 +111,7 @@ class MpvEngine {
   };
   std::vector<Refusal> refusals_;
   std::map<std::uint64_t, Answer> reads_;      // without an answer yet, by their reply
+  std::map<std::uint64_t, NodeAnswer> nodes_;  // the same of trees
   std::map<std::uint64_t, Outcome> outcomes_;  // the same of commands
   std::uint64_t lastReply_ = 0;
 };

@@ -19,6 +19,7 @@ struct MpvPropertyWrite {
 struct MpvPropertyRead {
   std::string name;
   std::uint64_t reply;  // that the answer comes back with
+  bool isNode = false;  // as a tree of values; else as people read it
 };
 /// As libmpv takes them; good for as long as the arguments are.
 inline std::vector<const char*> mpvWords(const std::vector<std::string>& arguments) {

@@ -77,6 +77,8 @@ CommandMenu {
             property menuEntry now: modelData
 
             objectName: "menuEntry"
+            // The engine has answered since the menu opened.
+            Component.onCompleted: now = group.player.menuEntry(modelData.row)
             text: now.text
             value: now.value
             keys: now.keys

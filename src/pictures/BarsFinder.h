@@ -20,7 +20,7 @@ class BarsFinder {
   using Answer = std::function<void(const std::variant<QRect, NoBars>& found)>;
 
   /// `clock` outlives it.
-  BarsFinder(PictureProcess::Program maker, Clock& clock) : process_(std::move(maker), clock) {}
+  BarsFinder(HelperProcess::Program maker, Clock& clock) : process_(std::move(maker), clock) {}
 
   /// `size` is the film's in pixels, as they are stored; `duration` in seconds. In place of what is
   /// under way, which is never answered.

@@ -30,6 +30,7 @@
 #include "playback/QueueShuffle.h"
 #include "playback/RecentFiles.h"
 #include "playback/Screenshots.h"
+#include "playback/SoundDevices.h"
 #include "playback/SubtitleCoding.h"
 #include "playback/SubtitleLines.h"
 #include "settings/PlayerSettings.h"
@@ -85,6 +86,9 @@ class PlaybackModel : public PlaybackState {
 
   MpvEngine& engine() { return engine_; }
   PlayerSettings& settings() { return settings_; }
+  const PlayerSettings& settings() const { return settings_; }
+  SoundDevices& soundDevices() { return soundDevices_; }
+  const SoundDevices& soundDevices() const { return soundDevices_; }
   PlayerPresenting& player();
 
   /// Percent of the picture's height by which subtitles are lifted above the controls.
@@ -187,6 +191,8 @@ class PlaybackModel : public PlaybackState {
   Q_INVOKABLE void setSubtitleDelay(double seconds);
   Q_INVOKABLE void setAudioDelay(double seconds);
 
+  /// Asks what a menu of adjustments needs to know: sound devices, what the engine can do.
+  void lookAround();
   /// What is changed about how the film was made.
   const FilmAdjustments& adjustments() const { return adjustments_; }
   /// A value that makes no sense changes nothing.
@@ -355,6 +361,7 @@ class PlaybackModel : public PlaybackState {
   const QString engineFault_;
   MpvEngine engine_;
   PlayerSettings settings_;
+  SoundDevices soundDevices_{engine_, settings_};
   Screenshots screenshots_;
   std::function<void(const QByteArray&)> copyPicture_;
   Bookmarks marks_;

@@ -28,6 +28,13 @@ void PlaybackModel::takeAdjustments() {
     tell(tr("Some of what was kept for this film made no sense; look at what is changed in it."));
   addedSecond_.clear();
   smoothMotion_ = {};
+  placeSubtitles();
+  showSecondSubtitle();
+  updateMotion();
+}
+
+void PlaybackModel::lookAround() {
+  soundDevices_.refresh();
   for (const AdjustmentRow& row : adjustmentRows()) {
     if (!row.needs || lacking_.contains(row.needs)) continue;
     engine_.readProperty("option-info/" + std::string(row.needs) + "/name",
@@ -35,9 +42,6 @@ void PlaybackModel::takeAdjustments() {
                            if (!name) lacking_.insert(option);
                          });
   }
-  placeSubtitles();
-  showSecondSubtitle();
-  updateMotion();
 }
 
 QString PlaybackModel::adjustmentText(Adjustment adjustment) const {
@@ -111,6 +115,7 @@ void PlaybackModel::writeForFilm(const MpvPropertyWrite& write, const Adjustment
 }
 
 void PlaybackModel::refused(const AdjustmentRow& row) {
+  if (row.needs) lacking_.insert(row.needs);
   adjustments_.set(row.adjustment, asMade(row));
   filmKeeper_.adjusted(adjustments_.ofFilm());
   updateMotion();

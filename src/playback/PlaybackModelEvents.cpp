@@ -187,6 +187,7 @@ void PlaybackModel::handle(const event::VideoOutputFailed&) {
 }
 
 void PlaybackModel::handle(const event::AudioOutputFailed&) {
+  if (const QString sentence = soundDevices_.lost(); !sentence.isEmpty()) return tell(sentence);
   if (!outputFault_.isEmpty()) return;
   outputFault_ = audioOutputFault();
   tellOutputFault();

@@ -26,8 +26,9 @@ struct Row {
   KeyPress press = {};
   Tell* tell = nullptr;
   TellOfWindow* tellOfWindow = nullptr;
-  std::optional<Adjustment> adjustment = {};  // in place of all of these
-  void (*act)(PlaybackModel&) = nullptr;      // in place of a key
+  std::optional<Adjustment> adjustment = {};          // in place of all of these
+  void (*step)(PlaybackModel&, int steps) = nullptr;  // in place of a key, as the next
+  QString (*act)(PlaybackModel&) = nullptr;           // in place of a key
 };
 struct Group {
   const char* title;
@@ -114,6 +115,15 @@ void audioTrack(MenuEntry& entry, Playback playback) {
   const QList<MediaTrack> tracks = playback.audioTracks();
   if (tracks.size() < 2) entry.why = PlayerMenu::tr("This video has no other audio track.");
   if (!tracks.isEmpty()) entry.value = selected(tracks);
+}
+
+void soundDevice(MenuEntry& entry, Playback playback) {
+  entry.isStepped = true;
+  entry.value = playback.soundDevices().label();
+}
+
+void throughToReceiver(MenuEntry& entry, Playback playback) {
+  setSwitch(entry, playback.settings().passesSoundThrough());
 }
 
 void audioDelay(MenuEntry& entry, Playback playback) {
@@ -221,10 +231,16 @@ std::vector<Row> adjustmentRowsAfter(std::vector<Row> rows) {
     if (row.group == group) rows.push_back({.adjustment = row.adjustment});
   rows.push_back({.text = QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "As made"),
                   .tell = asItWasMade<group>,
-                  .act = [](PlaybackModel& playback) { playback.makeAsMade(group); }});
+                  .act = [](PlaybackModel& playback) {
+                    playback.makeAsMade(group);
+                    return PlayerMenu::tr("As made");
+                  }});
   rows.push_back({.text = QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Use for all films"),
                   .tell = forAllFilms<group>,
-                  .act = [](PlaybackModel& playback) { playback.useForAll(group); }});
+                  .act = [](PlaybackModel& playback) {
+                    playback.useForAll(group);
+                    return PlayerMenu::tr("Used for all films");
+                  }});
   return rows;
 }
 
@@ -277,6 +293,20 @@ const std::vector<Group>& table() {
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Louder"), pressing(Qt::Key_Up), volume},
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Quieter"), pressing(Qt::Key_Down), volume},
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Next audio track"), typing("b"), audioTrack},
+           {.text = QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Sound goes to"),
+            .tell = soundDevice,
+            .step = [](PlaybackModel& playback,
+                       int steps) { playback.soundDevices().step(steps); }},
+           {.text = QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Leave Dolby and DTS to the receiver"),
+            .tell = throughToReceiver,
+            .act =
+                [](PlaybackModel& playback) {
+                  PlayerSettings& settings = playback.settings();
+                  settings.setPassesSoundThrough(!settings.passesSoundThrough());
+                  return settings.passesSoundThrough()
+                             ? PlayerMenu::tr("Dolby and DTS go to the receiver")
+                             : PlayerMenu::tr("Dolby and DTS are decoded here");
+                }},
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Delay −50 ms"), typing("j"), audioDelay},
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Delay +50 ms"), typing("k"), audioDelay},
        })},
@@ -369,17 +399,23 @@ QList<MenuGroup> PlayerMenu::groups(const PlaybackModel& playback, const PlayerW
 
 std::optional<KeyPress> PlayerMenu::press(int number) {
   const Row* row = rowAt(number);
-  return row && !row->adjustment && !row->act ? std::optional(row->press) : std::nullopt;
+  return row && !row->adjustment && !row->act && !row->step ? std::optional(row->press)
+                                                            : std::nullopt;
 }
 
-void PlayerMenu::choose(PlaybackModel& playback, int number) {
+QString PlayerMenu::choose(PlaybackModel& playback, int number) {
   const Row* row = rowAt(number);
-  if (row && row->act) row->act(playback);
-  if (row && row->adjustment) playback.stepAdjustment(*row->adjustment, 1);
+  if (!row) return {};
+  if (row->act) return row->act(playback);
+  step(playback, number, 1);
+  // The search for black bars takes a moment, and tells itself what it found.
+  const bool tellsItself = !row->adjustment || *row->adjustment == Adjustment::crop;
+  return tellsItself ? QString() : playback.adjustmentToast(*row->adjustment);
 }
 
 void PlayerMenu::step(PlaybackModel& playback, int number, int steps) {
   const Row* row = rowAt(number);
+  if (row && row->step) row->step(playback, steps);
   if (row && row->adjustment) playback.stepAdjustment(*row->adjustment, steps);
 }
 

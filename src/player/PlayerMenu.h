@@ -60,8 +60,8 @@ class PlayerMenu : public QObject {
   static MenuEntry entry(const PlaybackModel& playback, const PlayerWindowController* player, int row);
   /// The key that does what the entry in this row of the table is for; none where it has none.
   static std::optional<KeyPress> press(int row);
-  /// Does what has no key.
-  static void choose(PlaybackModel& playback, int row);
+  /// Does what has no key, and returns a toast, or nothing.
+  static QString choose(PlaybackModel& playback, int row);
   /// Goes so many steps on.
   static void step(PlaybackModel& playback, int row, int steps);
 };

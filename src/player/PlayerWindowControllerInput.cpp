@@ -20,6 +20,7 @@ bool PlayerWindowController::handleKey(const KeyPress& press) {
 }
 
 QList<MenuGroup> PlayerWindowController::menu() const {
+  playback_.lookAround();
   return PlayerMenu::groups(playback_, this);
 }
 
@@ -27,8 +28,8 @@ void PlayerWindowController::chooseFromMenu(int row) {
   chrome_.close(PlayerPanel::menu);  // what is chosen may open another
   if (const auto press = PlayerMenu::press(row)) {
     handleKey(*press);
-  } else {
-    PlayerMenu::choose(playback_, row);
+  } else if (const QString toast = PlayerMenu::choose(playback_, row); !toast.isEmpty()) {
+    showToast(toast);
   }
 }
 

@@ -88,6 +88,13 @@ struct SubtitleLinesForQml {
   QML_UNCREATABLE("The model has one.")
 };
 
+struct SoundDevicesForQml {
+  Q_GADGET
+  QML_FOREIGN(tromelo::SoundDevices)
+  QML_NAMED_ELEMENT(SoundDevices)
+  QML_UNCREATABLE("The program has one.")
+};
+
 struct PlaybackModelForQml {
   Q_GADGET
   QML_FOREIGN(tromelo::PlaybackModel)

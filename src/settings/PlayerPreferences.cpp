@@ -40,6 +40,7 @@ std::string mpvText(const QString& text) { return text.toStdString(); }
 std::string mpvText(double number) { return numberText(number); }
 std::string mpvText(bool flag) { return flagText(flag); }
 std::string mpvText(const RgbaColor& color) { return mpvColor(color); }
+std::string receiverFormats(bool passes) { return passes ? "ac3,eac3,dts,dts-hd,truehd" : ""; }
 std::string forceOrScale(bool overrides) { return overrides ? "force" : "scale"; }
 template <typename T>
 std::string noText(const T&) {

@@ -41,7 +41,13 @@ namespace tromelo {
   ROW(bool, subtitleBold, SubtitleBold, false, asItIs, changed, subtitles, "sub-bold", mpvText)   \
   /* Also where the subtitles bring a style of their own. */                                      \
   ROW(bool, subtitleOverridesStyled, SubtitleOverridesStyled, false, asItIs, changed, subtitles,  \
-      "sub-ass-override", forceOrScale)
+      "sub-ass-override", forceOrScale)                                                           \
+  /* The engine's name for where sound goes; "auto" is the desktop's choice. */                   \
+  ROW(QString, audioDevice, AudioDevice, QStringLiteral("auto"), asItIs, changed, controls,       \
+      "audio-device", mpvText)                                                                    \
+  /* What a receiver decodes goes to it as it is, where the device takes that. */                 \
+  ROW(bool, passesSoundThrough, PassesSoundThrough, false, asItIs, changed, controls,             \
+      "audio-spdif", receiverFormats)
 
 /// The values of all preferences.
 struct PlayerPreferences {

@@ -190,6 +190,7 @@ QtObject {
     readonly property real settingLabelWidth: 42
     readonly property real settingSpacing: 10
     readonly property real fontPickerWidth: 170 // at most
+    readonly property real devicePickerWidth: 220
     readonly property real sizeTextWidth: 26
     readonly property real settingsWidth: 520
     readonly property real settingsPadding: 20

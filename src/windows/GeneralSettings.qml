@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Tromelo.Controls
-import Tromelo.Player
 import Tromelo.Settings
 import Tromelo.Theme
 
@@ -11,9 +10,8 @@ Item {
     id: page
 
     required property PlayerSettings settings
-    required property FilmMemory films
 
-    implicitHeight: Math.max(Theme.generalHeight, forget.y + forget.height + Theme.settingsPadding)
+    implicitHeight: Math.max(Theme.generalHeight, note.y + note.height + Theme.settingsPadding)
 
     Rectangle {
         id: form
@@ -56,38 +54,6 @@ Item {
                     onActivated: index => page.settings.autoHideIndex = index
                 }
             }
-
-            Rectangle {
-                width: rows.width
-                height: Theme.hairline
-                color: Theme.panelDivider
-            }
-
-            CheckToggle {
-                objectName: "resumesFilms"
-                width: rows.width
-                height: Theme.formRow
-                font: Theme.panelText
-                text: qsTr("Go on where I stopped")
-                checked: page.settings.resumesFilms
-                onToggled: page.settings.resumesFilms = checked
-            }
-
-            Rectangle {
-                width: rows.width
-                height: Theme.hairline
-                color: Theme.panelDivider
-            }
-
-            CheckToggle {
-                objectName: "goesOnInFolder"
-                width: rows.width
-                height: Theme.formRow
-                font: Theme.panelText
-                text: qsTr("Go on with the folder's next video")
-                checked: page.settings.goesOnInFolder
-                onToggled: page.settings.goesOnInFolder = checked
-            }
         }
     }
 
@@ -104,15 +70,5 @@ Item {
         wrapMode: Text.Wrap
         Accessible.role: Accessible.StaticText
         Accessible.name: text
-    }
-
-    ForgetFilms {
-        id: forget
-
-        anchors.top: note.bottom
-        anchors.topMargin: Theme.sectionSpacing
-        x: Theme.settingsPadding
-        width: form.width
-        films: page.films
     }
 }

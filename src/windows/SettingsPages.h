@@ -17,7 +17,7 @@ class SettingsPages : public QObject {
   using QObject::QObject;
 
   /// In the order of their tabs.
-  enum Page { General, Subtitles, Shortcuts };
+  enum Page { General, Playback, Subtitles, Shortcuts };
   Q_ENUM(Page)
 
   Page page() const { return page_; }

@@ -6,13 +6,14 @@ import Tromelo.Player
 import Tromelo.Settings
 import Tromelo.Theme
 
-// The settings, on three pages. A change takes effect at once.
+// The settings, on four pages. A change takes effect at once.
 FocusScope {
     id: view
 
     required property PlayerSettings settings
     required property SettingsPages pages
     required property FilmMemory films
+    required property SoundDevices devices
 
     implicitWidth: Theme.settingsWidth
     implicitHeight: content.y + content.height
@@ -24,8 +25,8 @@ FocusScope {
         anchors.horizontalCenter: parent.horizontalCenter
         topPadding: Theme.commandPadding
         focus: true
-        labels: [qsTr("General"), qsTr("Subtitles"), qsTr("Shortcuts")]
-        symbols: ["gearshape", "captions.bubble", "keyboard"]
+        labels: [qsTr("General"), qsTr("Playback"), qsTr("Subtitles"), qsTr("Shortcuts")]
+        symbols: ["gearshape", "play.fill", "captions.bubble", "keyboard"]
         current: view.pages.page
         onChosen: index => view.pages.page = index
     }
@@ -45,7 +46,7 @@ FocusScope {
 
         anchors.top: line.bottom
         width: parent.width
-        sourceComponent: [general, subtitles, shortcuts][view.pages.page]
+        sourceComponent: [general, playback, subtitles, shortcuts][view.pages.page]
     }
 
     Component {
@@ -53,6 +54,15 @@ FocusScope {
 
         GeneralSettings {
             settings: view.settings
+        }
+    }
+
+    Component {
+        id: playback
+
+        PlaybackSettings {
+            settings: view.settings
+            devices: view.devices
             films: view.films
         }
     }

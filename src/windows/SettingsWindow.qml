@@ -12,6 +12,7 @@ Window {
     required property PlayerSettings settings
     required property SettingsPages pages
     required property FilmMemory films
+    required property SoundDevices devices
 
     title: qsTr("Settings")
     color: Theme.backdrop
@@ -30,6 +31,7 @@ Window {
         settings: window.settings
         pages: window.pages
         films: window.films
+        devices: window.devices
         Keys.onEscapePressed: window.close()
         Keys.onPressed: event => {
             if (event.key === Qt.Key_W && event.modifiers === Qt.ControlModifier)

@@ -33,6 +33,8 @@ const QJsonObject& allStored() {
       {"subtitleBorderStyle", "box"},
       {"subtitleBold", true},
       {"subtitleOverridesStyled", true},
+      {"audioDevice", "alsa/hdmi"},
+      {"passesSoundThrough", true},
   };
   return stored;
 }
@@ -57,9 +59,15 @@ TEST(EnginePropertiesTest, WritesEveryPreferenceInOrder) {
                           .subtitleColor = {1.0 / 3, 0.8, 0, 0.0004},
                           .subtitleOutlineColor = {0.9999, 0.5, 1, 0.25},
                           .subtitleBold = true,
-                          .subtitleOverridesStyled = true};
-  const Lines first{"sub-font Noto Sans ゴシック", "sub-font-size 52.5",
-                    "sub-color 0.333/0.800/0.000/0.000", "sub-bold yes", "sub-ass-override force"};
+                          .subtitleOverridesStyled = true,
+                          .passesSoundThrough = true};
+  const Lines first{"sub-font Noto Sans ゴシック",
+                    "sub-font-size 52.5",
+                    "sub-color 0.333/0.800/0.000/0.000",
+                    "sub-bold yes",
+                    "sub-ass-override force",
+                    "audio-device auto",
+                    "audio-spdif ac3,eac3,dts,dts-hd,truehd"};
   const std::string edge = "sub-outline-color 1.000/0.500/1.000/0.250";
   for (const auto& [border, more] : Table<SubtitleBorderStyle, Lines>{
            {SubtitleBorderStyle::outline,
@@ -160,6 +168,8 @@ TEST_F(PlayerSettingsTest, EveryWriteIsThereAfterARestart) {
     settings.setSubtitleBorderStyle(SubtitleBorderStyle::box);
     settings.setSubtitleBold(true);
     settings.setSubtitleOverridesStyled(true);
+    settings.setAudioDevice("alsa/hdmi");
+    settings.setPassesSoundThrough(true);
     defaults_.flush();
   }
   UserDefaults later(path_);
@@ -167,8 +177,11 @@ TEST_F(PlayerSettingsTest, EveryWriteIsThereAfterARestart) {
   PlayerSettings settings(later);
   EXPECT_EQ(settings.subtitleColor(), RgbaColor(1.0 / 3, 0.93, 0.35, 0.1));
   settings.resetSubtitleStyle();
-  EXPECT_EQ(later.value(kKey).toObject(),
-            storedPreferences({.autoHideDelay = 0, .resumesFilms = false, .goesOnInFolder = true}));
+  EXPECT_EQ(later.value(kKey).toObject(), storedPreferences({.autoHideDelay = 0,
+                                                             .resumesFilms = false,
+                                                             .goesOnInFolder = true,
+                                                             .audioDevice = "alsa/hdmi",
+                                                             .passesSoundThrough = true}));
 }
 
 TEST_F(PlayerSettingsTest, LoadingLeavesAHandEditedEntryAsItIs) {

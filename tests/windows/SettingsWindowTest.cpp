@@ -6,7 +6,10 @@
 #include <QQuickItem>
 #include <QTest>
 
+#include "engine/MpvClientApi.h"
+#include "engine/MpvEngine.h"
 #include "films/FilmMemory.h"
+#include "playback/SoundDevices.h"
 #include "settings/PlayerSettings.h"
 #include "support/Home.h"
 #include "support/Reader.h"
@@ -37,6 +40,8 @@ struct SettingsWindowTest : ::testing::Test, protected Home, protected ViewDrive
   }
 
   PlayerSettings settings_{defaults_};
+  MpvEngine mpv_{MpvClientApi::libmpv()};
+  SoundDevices devices_{mpv_, settings_};
   FilmMemory films_{directory_.filePath("films.sqlite"),
                     [](const QString& told) { ADD_FAILURE() << told.toStdString(); }};
   QQmlEngine engine_;
@@ -45,6 +50,7 @@ struct SettingsWindowTest : ::testing::Test, protected Home, protected ViewDrive
                        "SettingsWindow",
                        {{"settings", QVariant::fromValue(&settings_)},
                         {"pages", QVariant::fromValue(&pages_)},
+                        {"devices", QVariant::fromValue(&devices_)},
                         {"films", QVariant::fromValue(&films_)}}};
 };
 
@@ -57,7 +63,7 @@ TEST_F(SettingsWindowTest, FilmsAreForgottenByWhoSaysSoTwice) {
     EXPECT_TRUE(waitFor([&] { return known.has_value(); }));
     return known.value_or(false);
   };
-  show(General);
+  show(Playback);
   tabTo("forgetFilms");
   const QRectF place = item("forgetFilms")->mapRectToScene(item("forgetFilms")->boundingRect());
   key(Qt::Key_Return);
@@ -83,6 +89,9 @@ TEST_F(SettingsWindowTest, EveryControlCanBeUsedByKeys) {
   for (int i = 0; i < 4; ++i) key(Qt::Key_Down);
   EXPECT_EQ(settings_.autoHideDelay(), 0);
   EXPECT_EQ(defaults_.value("playerSettings")[u"autoHideDelay"], QJsonValue(0));
+  tabTo("tabGeneral");
+  key(Qt::Key_Right);
+  layOut();
   tabTo("resumesFilms");
   key(Qt::Key_Space);
   EXPECT_FALSE(settings_.resumesFilms());
@@ -92,7 +101,7 @@ TEST_F(SettingsWindowTest, EveryControlCanBeUsedByKeys) {
   EXPECT_TRUE(settings_.goesOnInFolder());
   tabTo("forgetFilms");
   key(Qt::Key_Tab);
-  EXPECT_EQ(window().activeFocusItem(), item("tabGeneral"));
+  EXPECT_EQ(window().activeFocusItem(), item("tabPlayback"));
   key(Qt::Key_Right);
   layOut();
   ASSERT_EQ(window().activeFocusItem(), item("tabSubtitles"));

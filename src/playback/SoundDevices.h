@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+namespace tromelo {
+
+class MpvEngine;
+class MpvValue;
+class PlayerSettings;
+
+/// Where sound can go. The engine looks for devices when it is asked, not all the time. Main thread
+/// only.
+class SoundDevices : public QObject {
+  Q_OBJECT
+  Q_PROPERTY(QStringList labels READ labels NOTIFY changed)
+  Q_PROPERTY(int index READ index WRITE choose NOTIFY changed)
+
+ public:
+  /// Both outlive it.
+  SoundDevices(MpvEngine& engine, PlayerSettings& settings);
+
+  /// Asks what is plugged in now.
+  Q_INVOKABLE void refresh();
+
+  /// For people; the first is the desktop's own choice.
+  QStringList labels() const;
+  /// Of the one that the person wants, also where it isn't plugged in.
+  int index() const;
+  QString label() const { return labels().at(index()); }
+  void choose(int index);
+  void step(int steps);
+
+  /// The sound couldn't be opened. A sentence where it goes elsewhere now; empty where there is
+  /// nothing to be done.
+  QString lost();
+
+ Q_SIGNALS:
+  void changed();
+
+ private:
+  struct Device {
+    QString name;  // the engine's
+    QString label;
+
+    friend bool operator==(const Device&, const Device&) = default;
+  };
+
+  void take(const MpvValue& list);
+  QString wanted() const;
+
+  MpvEngine& engine_;
+  PlayerSettings& settings_;
+  QList<Device> devices_;  // but for the desktop's choice
+};
+
+}  // namespace tromelo
