@@ -21,6 +21,7 @@ class NoPlayer final : public PlayerPresenting {
   void setAwaitingVideo(bool) override {}
   void setVideoReady(bool) override {}
   bool hasWindow() const override { return false; }
+  void replaceWindow() override {}
   void reveal() override {}
   void close() override {}
   void showLibrary() override {}
