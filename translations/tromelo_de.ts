@@ -25,6 +25,125 @@
     </message>
 </context>
 <context>
+    <name>Adjustment</name>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>As made</source>
+        <translation>Wie gemacht</translation>
+    </message>
+    <message>
+        <source>Aspect</source>
+        <translation>Seitenverhältnis</translation>
+    </message>
+    <message>
+        <source>Fills the window</source>
+        <translation>Füllt das Fenster</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Move left / right</source>
+        <translation>Links / rechts</translation>
+    </message>
+    <message>
+        <source>Move up / down</source>
+        <translation>Hoch / runter</translation>
+    </message>
+    <message>
+        <source>Turned</source>
+        <translation>Gedreht</translation>
+    </message>
+    <message>
+        <source>Mirrored</source>
+        <translation>Gespiegelt</translation>
+    </message>
+    <message>
+        <source>Black bars cut off</source>
+        <translation>Schwarze Balken ab</translation>
+    </message>
+    <message>
+        <source>Deinterlacing</source>
+        <translation>Deinterlacing</translation>
+    </message>
+    <message>
+        <source>Smooth motion</source>
+        <translation>Fließende Bewegung</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Kontrast</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>HDR on this screen</source>
+        <translation>HDR auf diesem Schirm</translation>
+    </message>
+    <message>
+        <source>Faithful</source>
+        <translation>Getreu</translation>
+    </message>
+    <message>
+        <source>Bright</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Soft highlights</source>
+        <translation>Weiche Lichter</translation>
+    </message>
+    <message>
+        <source>Night mode</source>
+        <translation>Nachtmodus</translation>
+    </message>
+    <message>
+        <source>Mixed down to stereo</source>
+        <translation>Auf Stereo gemischt</translation>
+    </message>
+    <message>
+        <source>Second subtitles</source>
+        <translation>Zweite Untertitel</translation>
+    </message>
+    <message>
+        <source>Size of subtitles</source>
+        <translation>Größe der Untertitel</translation>
+    </message>
+    <message>
+        <source>Place of subtitles</source>
+        <translation>Lage der Untertitel</translation>
+    </message>
+    <message>
+        <source>Without notes on sounds</source>
+        <translation>Ohne Hinweise auf Geräusche</translation>
+    </message>
+    <message>
+        <source>Brightness on HDR</source>
+        <translation>Helligkeit auf HDR</translation>
+    </message>
+</context>
+<context>
     <name>BookmarkList</name>
     <message>
         <source>Bookmarks</source>
@@ -269,14 +388,6 @@
     <message>
         <source>Controls stay visible while paused, while a panel is open, or while the pointer is over them.</source>
         <translation>Die Bedienelemente bleiben sichtbar, solange die Wiedergabe angehalten oder ein Bereich offen ist oder der Zeiger auf ihnen ruht.</translation>
-    </message>
-    <message>
-        <source>Go on where I stopped</source>
-        <translation>Dort weiter, wo ich aufgehört habe</translation>
-    </message>
-    <message>
-        <source>Go on with the folder&apos;s next video</source>
-        <translation>Mit dem nächsten Video des Ordners weitermachen</translation>
     </message>
 </context>
 <context>
@@ -579,6 +690,29 @@
     </message>
 </context>
 <context>
+    <name>PlaybackSettings</name>
+    <message>
+        <source>Go on where I stopped</source>
+        <translation>Dort weiter, wo ich aufgehört habe</translation>
+    </message>
+    <message>
+        <source>Go on with the folder&apos;s next video</source>
+        <translation>Mit dem nächsten Video des Ordners weitermachen</translation>
+    </message>
+    <message>
+        <source>Sound goes to</source>
+        <translation>Ton geht an</translation>
+    </message>
+    <message>
+        <source>Leave Dolby and DTS to the receiver</source>
+        <translation>Dolby und DTS dem Receiver überlassen</translation>
+    </message>
+    <message>
+        <source>What else can be changed about a film is in the menu over the picture, and there for all films, too.</source>
+        <translation>Was sich sonst an einem Film ändern lässt, steht im Menü über dem Bild, auch für alle Filme.</translation>
+    </message>
+</context>
+<context>
     <name>PlayerControlBar</name>
     <message>
         <source>Playback controls</source>
@@ -638,6 +772,14 @@
     <message>
         <source>Nothing is remembered</source>
         <translation>Nichts wird gemerkt</translation>
+    </message>
+    <message>
+        <source>Motion</source>
+        <translation>Bewegung</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
     </message>
 </context>
 <context>
@@ -789,6 +931,10 @@
         <source>Shortcuts</source>
         <translation>Tastenkürzel</translation>
     </message>
+    <message>
+        <source>Playback</source>
+        <translation>Wiedergabe</translation>
+    </message>
 </context>
 <context>
     <name>SettingsWindow</name>
@@ -821,6 +967,21 @@
     <message>
         <source>EDR · %1× headroom (now %2×)</source>
         <translation>EDR · %1× Reserve (jetzt %2×)</translation>
+    </message>
+</context>
+<context>
+    <name>SmoothMotion</name>
+    <message>
+        <source>%1, the screen follows</source>
+        <translation>%1, Bildschirm folgt</translation>
+    </message>
+    <message>
+        <source>%1 at %2 Hz, in step</source>
+        <translation>%1 auf %2 Hz, im Takt</translation>
+    </message>
+    <message>
+        <source>%1 at %2 Hz, interpolated</source>
+        <translation>%1 auf %2 Hz, interpoliert</translation>
     </message>
 </context>
 <context>
@@ -1085,6 +1246,38 @@
     <message>
         <source>the graphics card stopped answering; update its driver.</source>
         <translation>die Grafikkarte antwortet nicht mehr; aktualisieren Sie ihren Treiber.</translation>
+    </message>
+    <message>
+        <source>Some of what was kept for this film made no sense; look at what is changed in it.</source>
+        <translation>Manches, was für diesen Film gemerkt war, ergab keinen Sinn; sehen Sie nach, was an ihm geändert ist.</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>This libmpv can&apos;t do that: %1</source>
+        <translation>Diese libmpv kann das nicht: %1</translation>
+    </message>
+    <message>
+        <source>Looking for black bars…</source>
+        <translation>Schwarze Balken werden gesucht …</translation>
+    </message>
+    <message>
+        <source>There are no black bars</source>
+        <translation>Es gibt keine schwarzen Balken</translation>
+    </message>
+    <message>
+        <source>Too dark to tell where the bars end</source>
+        <translation>Zu dunkel, um das Ende der Balken zu erkennen</translation>
+    </message>
+    <message>
+        <source>The picture&apos;s shape changes in this film, so nothing is cut</source>
+        <translation>Das Bildformat wechselt in diesem Film, darum wird nichts abgeschnitten</translation>
+    </message>
+    <message>
+        <source>The film couldn&apos;t be searched for black bars</source>
+        <translation>Der Film ließ sich nicht nach schwarzen Balken absuchen</translation>
     </message>
 </context>
 <context>
@@ -1660,6 +1853,34 @@
         <source>Stay on top</source>
         <translation>Im Vordergrund bleiben</translation>
     </message>
+    <message>
+        <source>The picture as made</source>
+        <translation>Das Bild, wie es gemacht ist</translation>
+    </message>
+    <message>
+        <source>⌥C</source>
+        <translation>⌥C</translation>
+    </message>
+    <message>
+        <source>While held: the picture as made</source>
+        <translation>Gehalten: das Bild, wie es gemacht ist</translation>
+    </message>
+    <message>
+        <source>⌘+ / ⌘-, ⌘Scroll</source>
+        <translation>⌘+ / ⌘-, ⌘Mausrad</translation>
+    </message>
+    <message>
+        <source>Subtitles larger / smaller</source>
+        <translation>Untertitel größer / kleiner</translation>
+    </message>
+    <message>
+        <source>Page Up / Page Down</source>
+        <translation>Bild auf / Bild ab</translation>
+    </message>
+    <message>
+        <source>Subtitles higher / lower</source>
+        <translation>Untertitel höher / tiefer</translation>
+    </message>
 </context>
 <context>
     <name>tromelo::PlayerMenu</name>
@@ -1927,6 +2148,62 @@
         <source>Stay on top</source>
         <translation>Im Vordergrund bleiben</translation>
     </message>
+    <message>
+        <source>The installed libmpv can&apos;t do that.</source>
+        <translation>Die installierte libmpv kann das nicht.</translation>
+    </message>
+    <message>
+        <source>This video isn&apos;t HDR.</source>
+        <translation>Dieses Video ist nicht in HDR.</translation>
+    </message>
+    <message>
+        <source>The screen shows HDR itself.</source>
+        <translation>Der Bildschirm zeigt HDR selbst.</translation>
+    </message>
+    <message>
+        <source>This video has no second subtitles.</source>
+        <translation>Dieses Video hat keine zweiten Untertitel.</translation>
+    </message>
+    <message>
+        <source>This video has no sound.</source>
+        <translation>Dieses Video hat keinen Ton.</translation>
+    </message>
+    <message>
+        <source>Nothing here is changed.</source>
+        <translation>Hier ist nichts geändert.</translation>
+    </message>
+    <message>
+        <source>Nothing here is changed that suits all films.</source>
+        <translation>Hier ist nichts geändert, was zu allen Filmen passt.</translation>
+    </message>
+    <message>
+        <source>As made</source>
+        <translation>Wie gemacht</translation>
+    </message>
+    <message>
+        <source>Use for all films</source>
+        <translation>Für alle Filme verwenden</translation>
+    </message>
+    <message>
+        <source>Used for all films</source>
+        <translation>Gilt für alle Filme</translation>
+    </message>
+    <message>
+        <source>Sound goes to</source>
+        <translation>Ton geht an</translation>
+    </message>
+    <message>
+        <source>Leave Dolby and DTS to the receiver</source>
+        <translation>Dolby und DTS dem Receiver überlassen</translation>
+    </message>
+    <message>
+        <source>Dolby and DTS go to the receiver</source>
+        <translation>Dolby und DTS gehen an den Receiver</translation>
+    </message>
+    <message>
+        <source>Dolby and DTS are decoded here</source>
+        <translation>Dolby und DTS werden hier dekodiert</translation>
+    </message>
 </context>
 <context>
     <name>tromelo::PlayerSettings</name>
@@ -2004,6 +2281,17 @@
     <message>
         <source>No longer stays on top</source>
         <translation>Bleibt nicht mehr im Vordergrund</translation>
+    </message>
+</context>
+<context>
+    <name>tromelo::SoundDevices</name>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>The sound device you chose isn&apos;t there, so the sound goes to the usual one.</source>
+        <translation>Das gewählte Tongerät ist nicht da, darum geht der Ton an das übliche.</translation>
     </message>
 </context>
 <context>

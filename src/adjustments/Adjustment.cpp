@@ -63,7 +63,7 @@ std::vector<AdjustmentChoice> onOff() { return {{"off", kOff}, {"on", kOn}}; }
 constexpr AdjustmentRange kColors{.least = -100, .most = 100, .step = 5, .asMade = 0};
 constexpr AdjustmentRange kMoves{.least = -1, .most = 1, .step = 0.02, .asMade = 0};
 
-std::vector<AdjustmentRow> pictureRows() {
+std::vector<AdjustmentRow> shapeRows() {
   return {
       {.adjustment = Adjustment::aspect,
        .group = picture,
@@ -123,6 +123,11 @@ std::vector<AdjustmentRow> pictureRows() {
        .kind = Kind::crop,
        .option = "video-crop",
        .suitsAll = false},
+  };
+}
+
+std::vector<AdjustmentRow> motionRows() {
+  return {
       {.adjustment = Adjustment::deinterlacing,
        .group = picture,
        .key = "deinterlacing",
@@ -134,6 +139,11 @@ std::vector<AdjustmentRow> pictureRows() {
        .key = "smoothMotion",
        .name = QT_TRANSLATE_NOOP("Adjustment", "Smooth motion"),
        .choices = onOff()},
+  };
+}
+
+std::vector<AdjustmentRow> colorRows() {
+  return {
       {.adjustment = Adjustment::brightness,
        .group = picture,
        .key = "brightness",
@@ -178,7 +188,7 @@ std::vector<AdjustmentRow> pictureRows() {
   };
 }
 
-std::vector<AdjustmentRow> otherRows() {
+std::vector<AdjustmentRow> soundRows() {
   return {
       {.adjustment = Adjustment::nightMode,
        .group = sound,
@@ -192,6 +202,11 @@ std::vector<AdjustmentRow> otherRows() {
        .name = QT_TRANSLATE_NOOP("Adjustment", "Mixed down to stereo"),
        .choices = onOff(),
        .tell = downmix},
+  };
+}
+
+std::vector<AdjustmentRow> subtitleRows() {
+  return {
       {.adjustment = Adjustment::secondSubtitle,
        .group = subtitles,
        .key = "secondSubtitle",
@@ -233,8 +248,9 @@ std::vector<AdjustmentRow> otherRows() {
 
 const std::vector<AdjustmentRow>& table() {
   static const std::vector<AdjustmentRow> rows = [] {
-    std::vector<AdjustmentRow> all = pictureRows();
-    std::ranges::move(otherRows(), std::back_inserter(all));
+    std::vector<AdjustmentRow> all;
+    for (const auto rows : {&shapeRows, &motionRows, &colorRows, &soundRows, &subtitleRows})
+      std::ranges::move(rows(), std::back_inserter(all));
     return all;
   }();
   return rows;

@@ -369,7 +369,8 @@ const Row* rowAt(int number) {
 
 }  // namespace
 
-MenuEntry PlayerMenu::entry(const PlaybackModel& playback, const PlayerWindowController* player, int number) {
+MenuEntry PlayerMenu::entry(const PlaybackModel& playback, const PlayerWindowController* player,
+                            int number) {
   MenuEntry entry;
   entry.row = number;
   const Row* row = rowAt(number);
@@ -385,7 +386,8 @@ MenuEntry PlayerMenu::entry(const PlaybackModel& playback, const PlayerWindowCon
   return entry;
 }
 
-QList<MenuGroup> PlayerMenu::groups(const PlaybackModel& playback, const PlayerWindowController* player) {
+QList<MenuGroup> PlayerMenu::groups(const PlaybackModel& playback,
+                                    const PlayerWindowController* player) {
   QList<MenuGroup> groups;
   int number = 0;
   for (const Group& group : table()) {

@@ -57,7 +57,8 @@ class PlayerMenu : public QObject {
   /// As things are now, in the person's language.
   static QList<MenuGroup> groups(const PlaybackModel& playback,
                                  const PlayerWindowController* player);
-  static MenuEntry entry(const PlaybackModel& playback, const PlayerWindowController* player, int row);
+  static MenuEntry entry(const PlaybackModel& playback, const PlayerWindowController* player,
+                         int row);
   /// The key that does what the entry in this row of the table is for; none where it has none.
   static std::optional<KeyPress> press(int row);
   /// Does what has no key, and returns a toast, or nothing.
