@@ -116,6 +116,11 @@ std::vector<AdjustmentRow> shapeRows() {
        .choices = onOff(),
        .tell = mirror,
        .suitsAll = false},
+  };
+}
+
+std::vector<AdjustmentRow> motionRows() {
+  return {
       {.adjustment = Adjustment::crop,
        .group = picture,
        .key = "crop",
@@ -123,11 +128,6 @@ std::vector<AdjustmentRow> shapeRows() {
        .kind = Kind::crop,
        .option = "video-crop",
        .suitsAll = false},
-  };
-}
-
-std::vector<AdjustmentRow> motionRows() {
-  return {
       {.adjustment = Adjustment::deinterlacing,
        .group = picture,
        .key = "deinterlacing",

@@ -274,6 +274,30 @@ std::vector<Row> playbackRows() {
   };
 }
 
+std::vector<Row> soundRows() {
+  return {
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Mute"), typing("m"), muted},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Louder"), pressing(Qt::Key_Up), volume},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Quieter"), pressing(Qt::Key_Down), volume},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Next audio track"), typing("b"), audioTrack},
+      {.text = QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Sound goes to"),
+       .tell = soundDevice,
+       .step = [](PlaybackModel& playback, int steps) { playback.soundDevices().step(steps); }},
+      {.text = QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Leave Dolby and DTS to the receiver"),
+       .tell = throughToReceiver,
+       .act =
+           [](PlaybackModel& playback) {
+             PlayerSettings& settings = playback.settings();
+             settings.setPassesSoundThrough(!settings.passesSoundThrough());
+             return settings.passesSoundThrough()
+                        ? PlayerMenu::tr("Dolby and DTS go to the receiver")
+                        : PlayerMenu::tr("Dolby and DTS are decoded here");
+           }},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Delay −50 ms"), typing("j"), audioDelay},
+      {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Delay +50 ms"), typing("k"), audioDelay},
+  };
+}
+
 const std::vector<Group>& table() {
   static const std::vector<Group> groups{
       {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Playback"), playbackRows()},
@@ -288,28 +312,7 @@ const std::vector<Group>& table() {
             typingWith(Qt::ControlModifier, "c"), picture},
        })},
       {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Sound"),
-       adjustmentRowsAfter<AdjustmentGroup::sound>({
-           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Mute"), typing("m"), muted},
-           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Louder"), pressing(Qt::Key_Up), volume},
-           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Quieter"), pressing(Qt::Key_Down), volume},
-           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Next audio track"), typing("b"), audioTrack},
-           {.text = QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Sound goes to"),
-            .tell = soundDevice,
-            .step = [](PlaybackModel& playback,
-                       int steps) { playback.soundDevices().step(steps); }},
-           {.text = QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Leave Dolby and DTS to the receiver"),
-            .tell = throughToReceiver,
-            .act =
-                [](PlaybackModel& playback) {
-                  PlayerSettings& settings = playback.settings();
-                  settings.setPassesSoundThrough(!settings.passesSoundThrough());
-                  return settings.passesSoundThrough()
-                             ? PlayerMenu::tr("Dolby and DTS go to the receiver")
-                             : PlayerMenu::tr("Dolby and DTS are decoded here");
-                }},
-           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Delay −50 ms"), typing("j"), audioDelay},
-           {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Delay +50 ms"), typing("k"), audioDelay},
-       })},
+       adjustmentRowsAfter<AdjustmentGroup::sound>(soundRows())},
       {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Subtitles"),
        adjustmentRowsAfter<AdjustmentGroup::subtitles>({
            {QT_TRANSLATE_NOOP("tromelo::PlayerMenu", "Next subtitle track"), typing("v"),
