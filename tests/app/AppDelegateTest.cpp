@@ -66,8 +66,9 @@ TEST_F(AppDelegateTest, OpensTheLaunchFileOnceAndAfterTheLibraryIsShown) {
   delegate_->applicationOpen({fileUrlFromPath(movie)});  // the desktop hands it over as well
   delegate_->applicationDidFinishLaunching();
   EXPECT_TRUE(library_->visible);
-  EXPECT_TRUE(waitFor([this] { return !mpv_.requests.empty(); }));
-  EXPECT_EQ(takeLoaded(), std::vector{movie + " start=90.0"});
+  std::vector<std::string> loaded;
+  EXPECT_TRUE(waitFor([&] { return !(loaded = takeLoaded()).empty(); }));
+  EXPECT_EQ(loaded, std::vector{movie + " start=90.0"});
   delegate_->applicationOpen({fileUrlFromPath(movie)});
   EXPECT_EQ(takeLoaded(), std::vector{movie + " "});
 }
