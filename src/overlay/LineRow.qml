@@ -24,7 +24,7 @@ PanelRow {
     topPadding: Theme.rowRise
     bottomPadding: Theme.rowRise
     rest: isCurrent ? Theme.currentChapter : isChosen ? Theme.rowPressed : "transparent"
-    Accessible.name: words
+    Accessible.name: row.words
     Accessible.description: time.text
     Accessible.selected: isCurrent
 
@@ -40,13 +40,13 @@ PanelRow {
             horizontalAlignment: Text.AlignRight
             text: Format.clock(row.start + row.delay)
             font: Theme.panelTime
-            lineHeight: words.implicitHeight / words.lineCount
+            lineHeight: wording.implicitHeight / wording.lineCount
             lineHeightMode: Text.FixedHeight
             color: Theme.secondaryText
         }
 
         Text {
-            id: words
+            id: wording
 
             objectName: "lineWords"
             Layout.fillWidth: true
