@@ -603,6 +603,13 @@
     </message>
 </context>
 <context>
+    <name>LostScene</name>
+    <message>
+        <source>The graphics driver can&apos;t draw Tromelo&apos;s windows (%1); start Tromelo again, and films go on where they were.</source>
+        <translation>Der Grafiktreiber kann die Fenster von Tromelo nicht zeichnen (%1); starten Sie Tromelo neu, Filme gehen dort weiter, wo sie waren.</translation>
+    </message>
+</context>
+<context>
     <name>MediaTrack</name>
     <message>
         <source>Mono</source>

@@ -9,6 +9,7 @@
 #include "platform/Timeline.h"
 #include "playback/PlaybackModel.h"
 #include "player/Commands.h"
+#include "player/LostScene.h"
 #include "player/PlayerWindowController.h"
 
 namespace tromelo {
@@ -55,6 +56,7 @@ void LibraryWindow::make() {
   window_->setTitle(QCoreApplication::translate("LibraryWindow", "Tromelo"));
   window_->setColor(Qt::transparent);
   window_->setMinimumSize(kLeastSize);
+  endWhereSceneIsLost(*window_);
   QQmlComponent component(&engine_, QStringLiteral("Tromelo.Library"),
                           QStringLiteral("LibraryScene"));
   scene_.reset(qobject_cast<QQuickItem*>(component.createWithInitialProperties(

@@ -7,6 +7,7 @@
 
 #include "platform/KeptInside.h"
 #include "platform/Timeline.h"
+#include "player/LostScene.h"
 
 namespace tromelo {
 
@@ -36,6 +37,7 @@ PlayerHostWindow::PlayerHostWindow(QQmlEngine& engine, const ReducedMotion& redu
   setColor(Qt::transparent);
   setTitle(QGuiApplication::applicationDisplayName());
   resize(kProvisionalSize);
+  endWhereSceneIsLost(*this);
   QQmlComponent component(&engine, QStringLiteral("Tromelo.Player"), QStringLiteral("PlayerScene"));
   scene_.reset(qobject_cast<PlayerSceneItem*>(component.create()));
   if (!scene_) qFatal("%s", qPrintable(component.errorString()));

@@ -6,6 +6,7 @@
 #include <QScreen>
 
 #include "platform/KeptInside.h"
+#include "player/LostScene.h"
 
 namespace tromelo {
 
@@ -27,6 +28,7 @@ void ProgramWindow::make() {
   window_.reset(qobject_cast<QQuickWindow*>(component.createWithInitialProperties(properties_)));
   if (!window_) qFatal("%s", qPrintable(component.errorString()));
   window_->installEventFilter(this);
+  endWhereSceneIsLost(*window_);
   if (QWindow* active = QGuiApplication::focusWindow()) placeOver(*active);
 }
 
