@@ -378,7 +378,7 @@ class PlaybackModel : public PlaybackState {
   SmoothMotion smoothMotion_;      // as the engine was told
   std::set<std::string> lacking_;  // options that the engine hasn't
   std::string addedSecond_;        // a file that the second subtitles were asked for from
-  double subtitlePlace_ = 100;     // as the engine was told; percent of the height
+  std::optional<double> subtitlePlace_ = 100;  // as the engine was told; percent of the height
   QueueProgress progress_;
   QueueShuffle shuffle_;
   RecentFiles recentFiles_;

@@ -64,6 +64,7 @@ void PlaybackModel::replaceEngine() {
                                     {"loop-playlist", isRepeatingAll_ ? "inf" : "no"},
                                     {"fullscreen", flagText(isFullscreen)}})
     engine_.setProperty(name, value);
+  subtitlePlace_.reset();
   setSubtitleLift(subtitleLift_);
 }
 
