@@ -16,7 +16,7 @@ namespace tromelo {
 
 namespace {
 
-constexpr int kVersion = 1;
+constexpr int kVersion = 2;
 constexpr int kLockWaitMilliseconds = 2000;
 
 // SQLite's own numbers.
@@ -25,6 +25,7 @@ constexpr int kLocked = 6;
 constexpr int kCorrupt = 11;
 constexpr int kNotADatabase = 26;
 
+// Files of a former version lack those that came later.
 const std::array kTables{
     "CREATE TABLE IF NOT EXISTS films (identity TEXT PRIMARY KEY NOT NULL, duration REAL NOT NULL,"
     " position REAL NOT NULL, audio BLOB NOT NULL, subtitle BLOB NOT NULL,"

@@ -124,6 +124,21 @@ TEST_F(FilmStoreTest, SaysWhatIsWrongWithTheFileAndGoesOn) {
   }
 }
 
+TEST_F(FilmStoreTest, AFileOfTheFirstVersionGoesOnWithAllOfIt) {
+  ASSERT_TRUE(store_.remember(kFilm, kRecord, kPlace));
+  {
+    FilmDatabase former(path_);
+    former.run("DROP TABLE adjustments");
+    former.run("PRAGMA user_version = 1");
+  }
+  FilmStore store(path_);
+  EXPECT_EQ(store.film(kFilm), kRecord);
+  const FilmRecord changed{.position = 3000, .adjustments = {{"zoom", "0.5"}}};
+  EXPECT_TRUE(store.remember(kFilm, changed, kPlace));
+  EXPECT_EQ(FilmStore(path_).film(kFilm), changed);
+  EXPECT_EQ(store.takeFault(), QString());
+}
+
 TEST_F(FilmStoreTest, AFullDiskAndALockLoseNothing) {
   ASSERT_TRUE(store_.remember(kFilm, kRecord, kPlace));
   const FilmRecord later{.position = 3000};
