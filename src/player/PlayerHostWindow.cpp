@@ -16,6 +16,9 @@ namespace {
 // A window of this size is dressed and mapped before the engine says how large its picture is.
 constexpr QSize kProvisionalSize(640, 360);
 
+// By then the press of a key that is held has come after its release; see HeldKey.
+constexpr std::chrono::milliseconds kRepeatCome(60);
+
 // In points.
 constexpr QSize kMiniSize(320, 320);  // its longer side counts
 constexpr QSize kMiniMinimum(160, 90);
@@ -38,6 +41,9 @@ PlayerHostWindow::PlayerHostWindow(QQmlEngine& engine, const ReducedMotion& redu
   setTitle(QGuiApplication::applicationDisplayName());
   resize(kProvisionalSize);
   endWhereSceneIsLost(*this);
+  letsGo_.setSingleShot(true);
+  letsGo_.setInterval(kRepeatCome);
+  connect(&letsGo_, &QTimer::timeout, this, &PlayerHostWindow::letGo);
   QQmlComponent component(&engine, QStringLiteral("Tromelo.Player"), QStringLiteral("PlayerScene"));
   scene_.reset(qobject_cast<PlayerSceneItem*>(component.create()));
   if (!scene_) qFatal("%s", qPrintable(component.errorString()));
@@ -199,6 +205,7 @@ bool PlayerHostWindow::handleKey(QKeyEvent& event) {
 bool PlayerHostWindow::askMonitor(const QKeyEvent& event) {
   KeyPress press = KeyPress::from(event);
   press.isRepeat = heldKey_.isRepeatedBy(event);
+  if (press.isRepeat) letsGo_.stop();
   const KeyMonitor monitor = keyMonitor_;  // a key can be what takes it away
   if (!monitor || !monitor(press)) return false;
   down_ = press;
@@ -221,7 +228,7 @@ bool PlayerHostWindow::event(QEvent* event) {
   if (event->type() == QEvent::KeyRelease) {
     const auto& key = static_cast<QKeyEvent&>(*event);
     heldKey_.release(key);
-    if (!key.isAutoRepeat()) letGo();
+    if (!key.isAutoRepeat()) letsGo_.start();
   }
   if (event->type() == QEvent::FocusOut) letGo();
   if (event->type() == QEvent::Close) {

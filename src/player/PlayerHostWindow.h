@@ -2,6 +2,7 @@
 
 #include <QQmlEngine>
 #include <QQuickWindow>
+#include <QTimer>
 #include <memory>
 #include <optional>
 
@@ -85,6 +86,7 @@ class PlayerHostWindow : public QQuickWindow {
   EdgeResize edgeResize_{*this};
   KeyMonitor keyMonitor_;
   HeldKey heldKey_;
+  QTimer letsGo_;                 // the key has come up, unless it is held
   std::optional<KeyPress> down_;  // the last that the monitor took, while it is down
   Qt::Edges edgesUnderPointer_;
   QPointF pointer_;  // on the screen, where it was last seen
