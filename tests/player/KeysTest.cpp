@@ -172,6 +172,20 @@ TEST_F(KeysTest, EachDoesAsTheListSays) {
   }
 }
 
+TEST_F(KeysTest, ThePictureIsAsMadeForAsLongAsTheKeyIsDown) {
+  begin();
+  model().adjust(Adjustment::gamma, "10");
+  takeSent();
+  EXPECT_TRUE(press(typed("c", kAlt)));
+  EXPECT_EQ(takeSent(), Sent{"set file-local-options/gamma 0.0"});
+  EXPECT_TRUE(press(typed("c", kAlt), true));
+  EXPECT_EQ(takeSent(), Sent());
+  KeyPress up = typed("c", kAlt).pressed();
+  up.isUp = true;
+  EXPECT_TRUE(window_.keyMonitor(up));
+  EXPECT_EQ(takeSent(), Sent{"set file-local-options/gamma 10.0"});
+}
+
 /// As the list of keys and the manual write it.
 KeyPress written(QString keys) {
   Qt::KeyboardModifiers modifiers;
