@@ -979,10 +979,6 @@
 <context>
     <name>SmoothMotion</name>
     <message>
-        <source>%1, the screen follows</source>
-        <translation>%1, Bildschirm folgt</translation>
-    </message>
-    <message>
         <source>%1 at %2 Hz, in step</source>
         <translation>%1 auf %2 Hz, im Takt</translation>
     </message>

@@ -13,9 +13,8 @@ using Motion = SmoothMotion::Kind;
 /// What the engine may make a film faster or slower by; nobody hears or sees that much.
 constexpr double kDrift = 0.01;
 
-Motion kindFor(double film, double screen, bool varies) {
+Motion kindFor(double film, double screen) {
   if (!(film > 0) || !(screen > 0)) return Motion::off;
-  if (varies) return Motion::followed;
   const double times = std::max(std::round(screen / film), 1.0);
   return std::abs(screen / film / times - 1) <= kDrift ? Motion::inStep : Motion::interpolated;
 }
@@ -27,13 +26,12 @@ QString rate(double hertz) {
 
 }  // namespace
 
-SmoothMotion smoothMotion(double film, double screen, bool varies) {
-  return {kindFor(film, screen, varies), film, screen};
+SmoothMotion smoothMotion(double film, double screen) {
+  return {kindFor(film, screen), film, screen};
 }
 
 std::vector<MpvPropertyWrite> engineWrites(const SmoothMotion& motion) {
-  const bool isTimed = motion.kind == Motion::inStep || motion.kind == Motion::interpolated;
-  return {{"video-sync", isTimed ? "display-resample" : "audio"},
+  return {{"video-sync", motion.kind == Motion::off ? "audio" : "display-resample"},
           {"interpolation", motion.kind == Motion::interpolated ? "yes" : "no"}};
 }
 
@@ -42,9 +40,6 @@ QString motionText(const SmoothMotion& motion) {
   switch (motion.kind) {
     case Motion::off:
       return {};
-    case Motion::followed:
-      text = QT_TRANSLATE_NOOP("SmoothMotion", "%1, the screen follows");
-      return QCoreApplication::translate("SmoothMotion", text).arg(rate(motion.film));
     case Motion::inStep:
       text = QT_TRANSLATE_NOOP("SmoothMotion", "%1 at %2 Hz, in step");
       break;

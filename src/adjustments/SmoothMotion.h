@@ -11,7 +11,6 @@ namespace tromelo {
 struct SmoothMotion {
   enum class Kind {
     off,           // each is shown when its time has come
-    followed,      // the same, since the screen waits for it
     inStep,        // the film runs a little faster or slower, so that each stays equally long
     interpolated,  // what falls between two pictures is mixed of both
   };
@@ -23,9 +22,8 @@ struct SmoothMotion {
   friend bool operator==(const SmoothMotion&, const SmoothMotion&) = default;
 };
 
-/// What suits best. Rates that aren't known are 0; `varies` where the screen's follows what is
-/// shown.
-SmoothMotion smoothMotion(double film, double screen, bool varies);
+/// What suits best. Rates that aren't known are 0.
+SmoothMotion smoothMotion(double film, double screen);
 
 std::vector<MpvPropertyWrite> engineWrites(const SmoothMotion& motion);
 

@@ -333,6 +333,7 @@ class PlaybackModel : public PlaybackState {
   void stepSecondSubtitle(int steps);
   void cutBars();
   void tellOfBars(const std::variant<QRect, NoBars>& found);
+  void tellChanges();
   void updateMotion();
   PlayerSettings* settingsForViews() { return &settings_; }
   void takeFall(bool isNew);

@@ -28,9 +28,11 @@ void PlaybackModel::takeAdjustments() {
     tell(tr("Some of what was kept for this film made no sense; look at what is changed in it."));
   addedSecond_.clear();
   smoothMotion_ = {};
+  motion_ = QString();
   placeSubtitles();
   showSecondSubtitle();
   updateMotion();
+  tellChanges();
 }
 
 void PlaybackModel::lookAround() {
@@ -100,6 +102,7 @@ void PlaybackModel::adjusted(const AdjustmentRow& row) {
   if (row.adjustment == Adjustment::subtitlePosition) placeSubtitles();
   if (row.adjustment == Adjustment::secondSubtitle) showSecondSubtitle();
   updateMotion();
+  tellChanges();
 }
 
 void PlaybackModel::writeAdjustment(const AdjustmentRow& row, const std::string& value) {
@@ -119,6 +122,7 @@ void PlaybackModel::refused(const AdjustmentRow& row) {
   adjustments_.set(row.adjustment, asMade(row));
   filmKeeper_.adjusted(adjustments_.ofFilm());
   updateMotion();
+  tellChanges();
   player().showToast(tr("This libmpv can't do that: %1").arg(adjustmentName(row)));
 }
 
@@ -184,18 +188,22 @@ void PlaybackModel::tellOfBars(const std::variant<QRect, NoBars>& found) {
   }
 }
 
-/// What is said of the film's changes, too.
+void PlaybackModel::tellChanges() {
+  QStringList changes;
+  for (const AdjustmentRow* row : adjustments_.changed()) changes << changeText(*this, *row);
+  changes_ = changes.join(QStringLiteral(", "));
+}
+
+/// With each fact that comes, so nothing is done where it is off.
 void PlaybackModel::updateMotion() {
   const bool wants = isLoaded_ && adjustments_.value(Adjustment::smoothMotion) == "on";
   const SmoothMotion motion =
-      wants ? smoothMotion(facts_.containerFps.value_or(0), facts_.displayFps.value_or(0), false)
+      wants ? smoothMotion(facts_.containerFps.value_or(0), facts_.displayFps.value_or(0))
             : SmoothMotion();
-  if (std::exchange(smoothMotion_, motion) != motion && isLoaded_)
+  if (std::exchange(smoothMotion_, motion) == motion) return;
+  if (isLoaded_)
     for (const MpvPropertyWrite& one : engineWrites(motion)) writeForFilm(one);
-  QStringList changes;
-  for (const AdjustmentRow* row : adjustments_.changed()) changes << changeText(*this, *row);
   motion_ = motionText(motion);
-  changes_ = isLoaded_ ? changes.join(QStringLiteral(", ")) : QString();
 }
 
 }  // namespace tromelo

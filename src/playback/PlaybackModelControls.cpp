@@ -199,6 +199,7 @@ void PlaybackModel::publishTracks(const MpvValue& list) {
   filmKeeper_.tracksChanged(audioTracks_, subtitleTracks_);
   showLinesOfSubtitles();
   showSecondSubtitle();
+  tellChanges();
 }
 
 void PlaybackModel::selectSubtitle(qint64 track) {

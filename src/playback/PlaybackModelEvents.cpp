@@ -40,6 +40,7 @@ void PlaybackModel::handle(const event::StartFile& start) {
   filmKeeper_.started(entry_);
   trial_.started(entry_);
   adjustments_.fileStarted();
+  tellChanges();
   barsFinder_.stop();
   status_ = QStringLiteral("Opening media");
 }
