@@ -43,8 +43,9 @@ HelperProcess::Program pictureMaker() {
 
 }  // namespace
 
-Program::Program(const CommandLine& commandLine)
+Program::Program(const CommandLine& commandLine, HostRelay* relay)
     : commandLine_(commandLine),
+      relay_(relay),
       defaults_(UserDefaults::named(QStringLiteral("Tromelo"))),
       films_(userDataDirectory() + QStringLiteral("/Tromelo/films.sqlite"),
              [this](const QString& sentence) { tellOfStorage(sentence); }),
@@ -128,7 +129,8 @@ void Program::startDisplay() {
   // a moment, which the engine can use to open the file.
   const VideoSinkKind sink =
       chooseVideoSink({.asked = qgetenv("TROMELO_PICTURE"),
-                       .drawsWithOpenGl = [this] { return drawing().withOpenGl; }});
+                       .drawsWithOpenGl = [this] { return drawing().withOpenGl; },
+                       .relay = relay_});
   videoCanBeSampled_ = sink.canBeSampled;
   pictureWay_ = sink.way;
   const auto output = PlayerStage::outputOf(*QGuiApplication::primaryScreen());

@@ -28,11 +28,13 @@
 
 namespace tromelo {
 
+class HostRelay;
+
 /// Puts the program's objects together and keeps them in the order in which they may end.
 class Program {
  public:
-  /// Needs the application object.
-  explicit Program(const CommandLine& commandLine);
+  /// Needs the application object. `relay` outlives it, and may be none.
+  Program(const CommandLine& commandLine, HostRelay* relay);
   ~Program();
 
   /// Runs until the person quits; gives the process's exit status.
@@ -69,6 +71,7 @@ class Program {
   QString windowText();
 
   const CommandLine commandLine_;
+  HostRelay* relay_;
   SystemClock clock_;
   UserDefaults defaults_;
   FilmMemory films_;

@@ -18,6 +18,7 @@
 #include "app/CommandLine.h"
 #include "app/Program.h"
 #include "app/SelftestCommand.h"
+#include "display/HostRelay.h"
 #include "lines/LineReader.h"
 #include "pictures/PictureMaker.h"
 #include "pictures/Thumbnailer.h"
@@ -142,9 +143,11 @@ int main(int argc, char** argv) {
   tromelo::Timeline::note("session bus asked");
   shareHeaps();
   prepareGraphics();
+  auto relay = tromelo::HostRelay::offer();  // ends after the application object
   std::optional<DisplayGuard> guard(std::in_place);
   QApplication application(argc, argv);
   guard.reset();
+  if (relay && !relay->isTaken()) relay.reset();
   tromelo::Timeline::note("application object made");
   describe(application);
   darken(application);
@@ -152,7 +155,7 @@ int main(int argc, char** argv) {
     return std::fputs(qPrintable(tromelo::runDisplaySelftest()), stdout) < 0;
   const Translations translations;  // before any text is made
   tromelo::Timeline::note("translations loaded");
-  std::optional<tromelo::Program> program(std::in_place, line);
+  std::optional<tromelo::Program> program(std::in_place, line, relay.get());
   tromelo::Timeline::note("program made");
   const int status = program->run();
   const bool engineHangs = program->engineHangs();

@@ -28,17 +28,21 @@ struct HostBuffers::Entry {
   HostBuffers& owner;
   std::weak_ptr<const ClientBuffer> memory;
   HostProxy<wl_buffer> buffer;
-  HostProxy<zwp_linux_buffer_params_v1> params;  // while it is made
-  std::shared_ptr<Frame> read;                   // by the host
-  SyncPoint release;                             // the host's last, of a timeline of our own
-  bool isSynced = false;                         // what it reads is free at that point
+  HostProxy<zwp_linux_buffer_params_v1> params;        // while it is made
+  std::shared_ptr<Frame> read;                         // by the host
+  SyncPoint release;                                   // the host's last, of a timeline of our own
+  bool isSynced = false;                               // what it reads is free at that point
+  std::shared_ptr<const HostRelay::Handler> diverted;  // ends before the buffer
 
   void listen() {
-    static constexpr wl_buffer_listener kListener{.release = [](void* data, wl_buffer*) {
-      auto& self = *static_cast<Entry*>(data);
-      if (!self.isSynced) self.end();
-    }};
+    static constexpr wl_buffer_listener kListener{
+        .release = [](void* data, wl_buffer*) { static_cast<Entry*>(data)->released(); }};
     wl_buffer_add_listener(buffer.get(), &kListener, this);
+    diverted = std::make_shared<const HostRelay::Handler>([this](const auto&) { released(); });
+    owner.host_.divert(reinterpret_cast<wl_proxy*>(buffer.get()), diverted);
+  }
+  void released() {
+    if (!isSynced) end();
   }
   /// The host reads it no more.
   void end() {

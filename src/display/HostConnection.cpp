@@ -40,23 +40,29 @@ bool HostColorSupport::has(std::uint32_t feature) const {
   return std::ranges::find(features, feature) != features.end();
 }
 
-std::shared_ptr<HostConnection> HostConnection::open(wl_display* display, std::string* lacks) {
+std::shared_ptr<HostConnection> HostConnection::open(wl_display* display, HostRelay* relay,
+                                                     std::string* lacks) {
   // Not make_shared: the constructor is ours alone.
-  std::shared_ptr<HostConnection> host(new HostConnection(display));
+  std::shared_ptr<HostConnection> host(new HostConnection(display, relay));
   host->ask();
   *lacks = host->missing();
   if (!lacks->empty()) return nullptr;
   const BlockedSignals blocked;
   host->thread_ = std::thread([self = host.get()] { self->serve(); });
+  if (host->relay_)
+    host->relay_->deliverTo(
+        [&tasks = host->tasks_](auto task) { tasks.postUnlessClosed(std::move(task)); });
   return host;
 }
 
-HostConnection::HostConnection(wl_display* display)
+HostConnection::HostConnection(wl_display* display, HostRelay* relay)
     : display_(display),
+      relay_(relay && relay->clientEnd() == wl_display_get_fd(display) ? relay : nullptr),
       queue_(wl_display_create_queue_with_name(display, "host")),
       waits_{{wl_display_get_fd(display), POLLIN, 0}, {tasks_.fd(), POLLIN, 0}} {}
 
 HostConnection::~HostConnection() {
+  if (relay_) relay_->deliverTo({});
   if (thread_.joinable()) {
     tasks_.post([this] { quits_ = true; });
     thread_.join();
@@ -162,6 +168,10 @@ std::string HostConnection::missing() const {
   for (const auto fourcc : {kPixelFormats[0].fourcc, kPixelFormats[1].fourcc})
     if (std::ranges::find(shmFormats_, fourcc) == shmFormats_.end()) return wl_shm_interface.name;
   return {};
+}
+
+void HostConnection::divert(wl_proxy* proxy, std::weak_ptr<const HostRelay::Handler> handler) {
+  if (relay_) relay_->divert(wl_proxy_get_id(proxy), std::move(handler));
 }
 
 void HostConnection::setPictureSurface(wl_surface* surface) {

@@ -15,6 +15,7 @@
 
 #include "display/DmabufSupport.h"
 #include "display/HostProxy.h"
+#include "display/HostRelay.h"
 #include "display/TaskQueue.h"
 
 namespace tromelo {
@@ -34,8 +35,10 @@ struct HostColorSupport {
 class HostConnection {
  public:
   /// Asks the host what it has, which takes two round trips. None where it lacks what showing a
-  /// picture takes; then `lacks` names that. `display` outlives the connection.
-  static std::shared_ptr<HostConnection> open(wl_display* display, std::string* lacks);
+  /// picture takes; then `lacks` names that. `display` outlives the connection, and so does
+  /// `relay`, which may stand between the two, or between others, or be none.
+  static std::shared_ptr<HostConnection> open(wl_display* display, HostRelay* relay,
+                                              std::string* lacks);
   /// Runs what was posted. On any thread but the host thread.
   ~HostConnection();
   HostConnection(const HostConnection&) = delete;
@@ -47,6 +50,10 @@ class HostConnection {
   /// Calls `readable` whenever `fd` is, until unwatch(). Host thread.
   void watch(int fd, std::function<void()> readable);
   void unwatch(int fd);
+
+  /// Has the events of `proxy`, which has a listener all the same, come past Qt's main thread where
+  /// they can; see HostRelay::divert(). Host thread.
+  void divert(wl_proxy* proxy, std::weak_ptr<const HostRelay::Handler> handler);
 
   /// The surface that pictures are shown on; none: none is. Host thread.
   void setPictureSurface(wl_surface* surface);
@@ -76,7 +83,7 @@ class HostConnection {
   const std::vector<std::string>& globals() const { return globals_; }
 
  private:
-  explicit HostConnection(wl_display* display);
+  HostConnection(wl_display* display, HostRelay* relay);
 
   void ask();
   void bind(std::uint32_t name, const std::string& interface, std::uint32_t version);
@@ -90,6 +97,7 @@ class HostConnection {
   };
 
   wl_display* display_;
+  HostRelay* relay_;  // of this connection, or none
   std::unique_ptr<wl_event_queue, QueueDeleter> queue_;
   HostProxy<wl_registry> registry_;
   HostProxy<wl_compositor> compositor_;

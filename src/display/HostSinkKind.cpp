@@ -68,7 +68,7 @@ std::optional<VideoSinkKind> hostSubsurfaceSink(const VideoSinkHost& host, Pictu
   if (display && host.asked == "scene") way.obstacle = Obstacle::asked;
   if (way.obstacle != Obstacle::none) return std::nullopt;
   std::string lacks;
-  const auto connection = HostConnection::open(display, &lacks);
+  const auto connection = HostConnection::open(display, host.relay, &lacks);
   if (!connection) {
     way = {.obstacle = Obstacle::lacksProtocol, .protocol = QString::fromStdString(lacks)};
     return std::nullopt;

@@ -20,6 +20,10 @@ namespace {
 // A host that says nothing for so many frames has forgotten the oldest.
 constexpr std::size_t kMostUnanswered = 32;
 
+std::uint64_t whole(std::uint32_t high, std::uint32_t low) {
+  return std::uint64_t(high) << 32 | low;
+}
+
 bool isOpaque(const Frame::Content& content) {
   return content.opaque || !pixelFormat(content.buffer->fourcc)->hasAlpha;
 }
@@ -31,6 +35,12 @@ struct HostSurface::Commit {
   Commit(HostSurface& surface, std::shared_ptr<Frame> of) : owner(surface), frame(std::move(of)) {}
 
   void listen(wp_presentation* presentation);
+  void divert();
+  void take(const HostRelay::Event& event);
+  void done(std::uint32_t milliseconds);
+  void presented(std::uint64_t seconds, std::uint32_t nanoseconds,
+                 const Presentation::Retrace& retrace);
+  void discarded();
   void finish() {
     if (!callback && !feedback) owner.finished(this);
   }
@@ -39,17 +49,14 @@ struct HostSurface::Commit {
   const std::shared_ptr<Frame> frame;
   HostProxy<wl_callback> callback;
   HostProxy<struct wp_presentation_feedback> feedback;
+  std::shared_ptr<const HostRelay::Handler> diverted;  // ends before they do
 };
 
 void HostSurface::Commit::listen(wp_presentation* presentation) {
   using Feedback = struct wp_presentation_feedback;
   static constexpr wl_callback_listener kCallback{
       .done = [](void* data, wl_callback*, std::uint32_t milliseconds) {
-        auto& self = *static_cast<Commit*>(data);
-        self.callback.reset();
-        self.frame->answerCallbacks(std::chrono::milliseconds(milliseconds));
-        if (!std::exchange(self.owner.isShown_, true)) self.owner.events_.shown();
-        self.finish();
+        static_cast<Commit*>(data)->done(milliseconds);
       }};
   static constexpr wp_presentation_feedback_listener kFeedback{
       .sync_output = ignore<Feedback*, wl_output*>,
@@ -57,31 +64,65 @@ void HostSurface::Commit::listen(wp_presentation* presentation) {
           [](void* data, auto*, std::uint32_t secondsHigh, std::uint32_t secondsLow,
              std::uint32_t nanoseconds, std::uint32_t refresh, std::uint32_t sequenceHigh,
              std::uint32_t sequenceLow, std::uint32_t flags) {
-            auto& self = *static_cast<Commit*>(data);
-            self.feedback.reset();
-            const auto seconds = std::uint64_t(secondsHigh) << 32 | secondsLow;
-            const Presentation::Retrace retrace{std::chrono::nanoseconds(refresh),
-                                                std::uint64_t(sequenceHigh) << 32 | sequenceLow,
-                                                flags};
-            if (self.owner.host_.hasOurClock())
-              self.frame->markShown(
-                  {std::chrono::seconds(seconds) + std::chrono::nanoseconds(nanoseconds), retrace});
-            else
-              self.frame->markShown({std::chrono::steady_clock::now().time_since_epoch(), retrace});
-            self.finish();
+            static_cast<Commit*>(data)->presented(
+                whole(secondsHigh, secondsLow), nanoseconds,
+                {std::chrono::nanoseconds(refresh), whole(sequenceHigh, sequenceLow), flags});
           },
-      .discarded =
-          [](void* data, auto*) {
-            auto& self = *static_cast<Commit*>(data);
-            self.feedback.reset();
-            self.frame->markDiscarded();
-            self.finish();
-          },
+      .discarded = [](void* data, auto*) { static_cast<Commit*>(data)->discarded(); },
   };
   callback.reset(wl_surface_frame(owner.surface()));
   wl_callback_add_listener(callback.get(), &kCallback, this);
   feedback.reset(wp_presentation_feedback(presentation, owner.surface()));
   wp_presentation_feedback_add_listener(feedback.get(), &kFeedback, this);
+  divert();
+}
+
+/// Nothing is told of either before the surface is committed.
+void HostSurface::Commit::divert() {
+  diverted = std::make_shared<const HostRelay::Handler>([this](const auto& event) { take(event); });
+  owner.host_.divert(reinterpret_cast<wl_proxy*>(callback.get()), diverted);
+  owner.host_.divert(reinterpret_cast<wl_proxy*>(feedback.get()), diverted);
+}
+
+/// What the listeners are told, in the protocols' own numbers.
+void HostSurface::Commit::take(const HostRelay::Event& event) {
+  constexpr std::uint32_t kDone = 0;
+  constexpr std::uint32_t kPresented = 1;
+  constexpr std::uint32_t kDiscarded = 2;
+  const auto is = [&](auto& proxy) {
+    return proxy && wl_proxy_get_id(reinterpret_cast<wl_proxy*>(proxy.get())) == event.object;
+  };
+  const auto& told = event.arguments;
+  if (is(callback) && event.opcode == kDone && told.size() == 1)
+    done(told[0]);
+  else if (is(feedback) && event.opcode == kPresented && told.size() == 7)
+    presented(whole(told[0], told[1]), told[2],
+              {std::chrono::nanoseconds(told[3]), whole(told[4], told[5]), told[6]});
+  else if (is(feedback) && event.opcode == kDiscarded)
+    discarded();
+}
+
+void HostSurface::Commit::done(std::uint32_t milliseconds) {
+  callback.reset();
+  frame->answerCallbacks(std::chrono::milliseconds(milliseconds));
+  if (!std::exchange(owner.isShown_, true)) owner.events_.shown();
+  finish();
+}
+
+void HostSurface::Commit::presented(std::uint64_t seconds, std::uint32_t nanoseconds,
+                                    const Presentation::Retrace& retrace) {
+  feedback.reset();
+  const auto time = owner.host_.hasOurClock()
+                        ? std::chrono::seconds(seconds) + std::chrono::nanoseconds(nanoseconds)
+                        : std::chrono::steady_clock::now().time_since_epoch();
+  frame->markShown({time, retrace});
+  finish();
+}
+
+void HostSurface::Commit::discarded() {
+  feedback.reset();
+  frame->markDiscarded();
+  finish();
 }
 
 HostSurface::HostSurface(HostConnection& host, Events events)

@@ -18,6 +18,8 @@ struct wl_display;
 
 namespace tromelo {
 
+class HostRelay;
+
 /// Everything that the program knows of a kind of sink before there is one. The private display
 /// announces what the kind takes, so that it is chosen first.
 struct VideoSinkKind {
@@ -49,6 +51,8 @@ struct VideoSinkHost {
   QByteArray asked;
   /// Qt draws its scenes with OpenGL. Finding out takes a moment.
   std::function<bool()> drawsWithOpenGl;
+  /// Outlives what is chosen. None: Qt's connection to the host is a direct one.
+  HostRelay* relay = nullptr;
 };
 
 /// The best kind that this host can show. Main thread, after the application object and before the

@@ -45,7 +45,8 @@ class HostSinkTest : public DisplayTest {
     VideoSinkKind kind = DisplayTest::kind();
     std::string lacks;
     recorder_ = std::make_unique<RecordingHost>(features_);
-    host_ = HostConnection::open(recorder_->client(), &lacks);
+    host_ =
+        HostConnection::open(recorder_->client(), relayed_ ? recorder_->relay() : nullptr, &lacks);
     EXPECT_EQ(lacks, "");
     if (host_->dmabuf()) kind.dmabuf = DmabufSupport{kDevice, {{kDevice, 0, {{0x34325258, {0}}}}}};
     if (host_->syncManager()) kind.syncDevice = SyncDevice::open(kDevice);
@@ -93,7 +94,10 @@ class HostSinkTest : public DisplayTest {
   }
   RecordingHost& recorder() { return *recorder_; }
 
+  void tellOfFrames();
+
   std::vector<Feature> features_;
+  bool relayed_ = true;  // and what the host says of frames comes past the connection
   std::unique_ptr<RecordingHost> recorder_;
   std::shared_ptr<HostConnection> host_;
   QObject receiver_;
@@ -129,7 +133,13 @@ TEST_F(HostSinkTest, AFrameIsOneCommitOfTheHostsWithAllThatBelongsToIt) {
   EXPECT_EQ(recorder().requests(), expected);
 }
 
-TEST_F(HostSinkTest, WhatTheHostTellsOfAFrameIsToldTheEngineAsItIs) {
+TEST_F(HostSinkTest, WhatTheHostTellsOfAFrameIsToldTheEngineAsItIs) { tellOfFrames(); }
+TEST_F(HostSinkTest, SoItIsOnADirectConnection) {
+  relayed_ = false;
+  tellOfFrames();
+}
+
+void HostSinkTest::tellOfFrames() {
   show();
   arrive();
   const auto shown = commit();

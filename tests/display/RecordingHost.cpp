@@ -77,11 +77,13 @@ RecordingHost::RecordingHost(std::vector<Feature> features, std::vector<std::str
       wl_event_loop_dispatch(wl_display_get_event_loop(display_), -1);
     }
   });
-  client_.reset(wl_display_connect_to_fd(ends[1]));
+  relay_ = HostRelay::between(UniqueFd(ends[1]));
+  client_.reset(wl_display_connect_to_fd(relay_->takeClientEnd().release()));
 }
 
 RecordingHost::~RecordingHost() {
   client_.reset();
+  relay_.reset();
   run([this] { quits_ = true; });
   thread_.join();
   wl_display_destroy_clients(display_);

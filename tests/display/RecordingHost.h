@@ -11,6 +11,7 @@
 #include <thread>
 #include <vector>
 
+#include "display/HostRelay.h"
 #include "display/TaskQueue.h"
 #include "platform/UniqueFd.h"
 
@@ -43,6 +44,8 @@ class RecordingHost {
 
   /// The host's client, which is this process.
   wl_display* client() const { return client_.get(); }
+  /// Stands between the two.
+  HostRelay* relay() const { return relay_.get(); }
 
   /// What it has been asked for, in order: "wl_surface.attach". Numbers of a request follow its
   /// name: "wp_viewport.set_destination 320 180"; objects are left out. A global that is bound is
@@ -83,6 +86,7 @@ class RecordingHost {
   std::vector<std::string> requests_;
   std::map<std::string, std::vector<wl_resource*>> resources_;  // host's thread
   std::thread thread_;
+  std::unique_ptr<HostRelay> relay_;
   std::unique_ptr<wl_display, ClientDeleter> client_;
 };
 
