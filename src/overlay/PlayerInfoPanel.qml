@@ -9,13 +9,11 @@ OverlaySurface {
     id: panel
 
     required property PlaybackModel playback
-    required property PlayerChrome chrome
 
     // Made once for all rows, and only while they are seen.
     readonly property list<string> values: visible ? playback.infoValues : []
 
     objectName: "playerInfoPanel"
-    visible: chrome.showsInfo
     Accessible.role: Accessible.Grouping
     Accessible.name: qsTr("Playback info")
     implicitWidth: Theme.infoWidth

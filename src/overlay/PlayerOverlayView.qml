@@ -82,14 +82,18 @@ PlayerOverlayItem {
             playback: overlay.playback
         }
 
-        PlayerInfoPanel {
-            backdrop: overlay.backdrop
+        Loader {
+            active: overlay.chrome.showsInfo
+            visible: active
             anchors.right: badge.right
             anchors.top: badge.bottom
             anchors.topMargin: Theme.infoGap
             height: Math.min(implicitHeight, controlBar.y - Theme.infoGap - y)
-            playback: overlay.playback
-            chrome: overlay.chrome
+
+            sourceComponent: PlayerInfoPanel {
+                backdrop: overlay.backdrop
+                playback: overlay.playback
+            }
         }
 
         PlayerControlBar {
@@ -194,11 +198,18 @@ PlayerOverlayItem {
         }
     }
 
-    PlayerShortcutsPanel {
-        backdrop: overlay.backdrop
-        anchors.centerIn: parent
-        width: Math.min(implicitWidth, overlay.insetWidth)
-        height: Math.min(implicitHeight, overlay.insetHeight)
-        chrome: overlay.chrome
+    Loader {
+        anchors.fill: parent
+        active: overlay.chrome.showsShortcuts
+
+        sourceComponent: Item {
+            PlayerShortcutsPanel {
+                backdrop: overlay.backdrop
+                anchors.centerIn: parent
+                width: Math.min(implicitWidth, overlay.insetWidth)
+                height: Math.min(implicitHeight, overlay.insetHeight)
+                chrome: overlay.chrome
+            }
+        }
     }
 }

@@ -17,7 +17,6 @@ OverlaySurface {
     readonly property real keysWidth: PlayerShortcuts.keysWidth(groups, Theme.shortcutKeys, Theme.shortcutsKeysWidth, columnWidth)
 
     objectName: "playerShortcutsPanel"
-    visible: chrome.showsShortcuts
     implicitWidth: Theme.shortcutsWidth
     implicitHeight: body.y + body.contentHeight + Theme.shortcutsPadding
     radius: Theme.shortcutsRadius

@@ -47,11 +47,7 @@ TEST_F(CornerViewsTest, TheBadgeTellsRangeTitleAndChapter) {
 }
 
 TEST_F(CornerViewsTest, TheInfoPanelTellsWhatIsPlayed) {
-  QQuickItem& panel =
-      show("PlayerInfoPanel", {{"playback", playback()}, {"chrome", shownChrome()}});
-  EXPECT_FALSE(panel.isVisible());
-  chrome().setShowsInfo(true);
-  EXPECT_TRUE(panel.isVisible());
+  QQuickItem& panel = show("PlayerInfoPanel", {{"playback", playback()}});
   load(60);
   report(MpvProperty::decoderDrops, std::int64_t{0});
   report(MpvProperty::outputDrops, std::int64_t{12});

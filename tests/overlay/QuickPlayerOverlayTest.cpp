@@ -119,7 +119,7 @@ TEST_F(QuickPlayerOverlayTest, PanelsAreInTheWayWhileTheyAreShownAndTheToastNeve
     chrome().setToast("Volume 50%");
     if (takesClicks && !isChrome) chrome().setPanel(PlayerPanel::shortcuts);
     const QPointF place = frame(view).center();
-    ASSERT_TRUE(item(view)->isVisible());
+    ASSERT_TRUE(isShown(view));
     move(place);
     EXPECT_EQ(overlay_->isMouseInsideChrome(), isChrome);
     take();
@@ -128,7 +128,7 @@ TEST_F(QuickPlayerOverlayTest, PanelsAreInTheWayWhileTheyAreShownAndTheToastNeve
     chrome().setShowsInfo(false);
     chrome().setPanel(std::nullopt);
     chrome().setToast(std::nullopt);
-    EXPECT_FALSE(item(view)->isVisible());
+    EXPECT_FALSE(isShown(view));
     EXPECT_FALSE(overlay_->isMouseInsideChrome());
     time_ += 1s;
     click(place);
