@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <QQmlComponent>
 #include <cstdio>
 #include <thread>
 
@@ -65,6 +66,7 @@ int Program::run() {
                           .isFileMissing = isMissing});
   if (role_ == ApplicationService::Role::handedOver) return 0;
   Timeline::note("other programs asked");
+  preloadViews();
   startDisplay();
   Timeline::note("private display started");
   makeDelegate();
@@ -91,6 +93,16 @@ int Program::run() {
   defaults_.flush();
   if (report_) report_->flush();
   return status;
+}
+
+/// A thread of Qt's own finds out what the first views are made of, while the engine is started.
+void Program::preloadViews() {
+  const auto preload = [this](const char* module, const char* view) {
+    auto* component = new QQmlComponent(&qmlEngine_, &qmlEngine_);
+    component->loadFromModule(module, view, QQmlComponent::Asynchronous);
+  };
+  if (commandLine_.file) preload("Tromelo.Overlay", "PlayerOverlayView");
+  preload("Tromelo.Library", "LibraryScene");
 }
 
 /// In the loop's first turn, before the library.

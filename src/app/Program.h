@@ -44,6 +44,7 @@ class Program {
   bool engineHangs() const { return delegate_ && delegate_->engineHangs(); }
 
  private:
+  void preloadViews();
   void startDisplay();
   void preparePlayerWindow();
   const SceneDrawing& drawing();
