@@ -7,8 +7,8 @@ namespace tromelo {
 namespace {
 
 // Looks are counted, and no time is measured: a process that was stopped meanwhile hasn't waited.
-constexpr std::chrono::seconds kBetweenLooks(1);
-constexpr int kMostSilentLooks = 5;
+constexpr std::chrono::milliseconds kBetweenLooks(500);
+constexpr int kMostSilentLooks = 10;
 
 }  // namespace
 
@@ -25,11 +25,16 @@ void EngineWatch::look() {
     silentLooks_ = 0;
     return;
   }
-  if (silentLooks_++ == 0) engine_.ask([this] { heard(); });
+  if (silentLooks_++ == 0) engine_.ask([this] { answered(); });
   if (silentLooks_ < kMostSilentLooks) return;
   silentLooks_ = 0;
   next_.reset();
   engine_.hangs();
+}
+
+void EngineWatch::answered() {
+  silentLooks_ = 0;
+  if (!hasHeard_) engine_.stands();
 }
 
 }  // namespace tromelo

@@ -17,6 +17,8 @@ class EngineWatch {
     /// Asks it something that both its core and its output have to answer.
     std::function<void(std::function<void()> answered)> ask;
     std::function<void()> hangs;
+    /// It has answered, but the film hasn't come further.
+    std::function<void()> stands;
   };
 
   EngineWatch(Clock& clock, Engine engine);
@@ -26,6 +28,7 @@ class EngineWatch {
 
  private:
   void look();
+  void answered();
 
   Clock& clock_;
   const Engine engine_;

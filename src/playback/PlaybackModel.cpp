@@ -49,6 +49,7 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       trial_(parts.diagnosticsDirectory + QStringLiteral("/decoding"),
              [this](bool isNew) { takeFall(isNew); }),
       watch_(parts.clock, watchedEngine()),
+      lostSound_(parts.clock, engine_, soundDevices_, [this] { noSound(); }),
       adjustments_(parts.defaults),
       barsFinder_(std::move(parts.pictureMaker), parts.clock),
       shuffle_([](qsizetype end) { return QRandomGenerator::global()->bounded(end); }),

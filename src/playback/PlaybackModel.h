@@ -24,6 +24,7 @@
 #include "playback/FilmKeeper.h"
 #include "playback/HardwareDecoding.h"
 #include "playback/HardwareTrial.h"
+#include "playback/LostSound.h"
 #include "playback/PlaybackState.h"
 #include "playback/PlayerPresenting.h"
 #include "playback/QueueProgress.h"
@@ -302,6 +303,7 @@ class PlaybackModel : public PlaybackState {
   void handle(const event::AudioOutputFailed&);
   void settleFailures();
   void tellOf(const QueueProgress::Failure& failure);
+  void noSound();
   void tellOutputFault();
   void showWaitingToast();
   void playFiles(const QUrl& first, const QList<QUrl>& others, std::optional<double> startAt);
@@ -371,6 +373,7 @@ class PlaybackModel : public PlaybackState {
   FilmKeeper filmKeeper_;
   HardwareTrial trial_;
   EngineWatch watch_;
+  LostSound lostSound_;
   // The last film, by its path, that was brought into a new engine, and when.
   std::optional<std::string> recovered_;
   double recoveredAt_ = 0;  // of the clock

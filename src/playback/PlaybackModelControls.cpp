@@ -196,6 +196,8 @@ void PlaybackModel::restartVideoOutput() {
 void PlaybackModel::publishTracks(const MpvValue& list) {
   audioTracks_ = mediaTracks(list, MediaTrack::Kind::audio);
   subtitleTracks_ = mediaTracks(list, MediaTrack::Kind::sub);
+  for (const MediaTrack& track : audioTracks_.get())
+    if (track.isSelected) lostSound_.plays(track.id);
   filmKeeper_.tracksChanged(audioTracks_, subtitleTracks_);
   showLinesOfSubtitles();
   showSecondSubtitle();

@@ -121,6 +121,7 @@ void PlaybackModel::showVideoReady() {
 void PlaybackModel::handle(const event::EndFile& end) {
   filmKeeper_.keep();
   trial_.ended();
+  lostSound_.fileEnded();
   isLoaded_ = false;
   // A film that was shown without its sound has been played.
   if (!end.error || (end.lacksSoundDevice && hasPicture_)) {
@@ -188,7 +189,15 @@ void PlaybackModel::handle(const event::VideoOutputFailed&) {
 }
 
 void PlaybackModel::handle(const event::AudioOutputFailed&) {
-  if (const QString sentence = soundDevices_.lost(); !sentence.isEmpty()) return tell(sentence);
+  if (const QString sentence = soundDevices_.lost(); !sentence.isEmpty()) {
+    lostSound_.tryAgain();
+    return tell(sentence);
+  }
+  lostSound_.failed();
+  noSound();
+}
+
+void PlaybackModel::noSound() {
   if (!outputFault_.isEmpty()) return;
   outputFault_ = audioOutputFault();
   tellOutputFault();

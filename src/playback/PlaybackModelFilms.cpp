@@ -6,7 +6,9 @@ namespace tromelo {
 void PlaybackModel::noteMove() {
   // Before it plays, the position is one that it is on the way to.
   if (isLoaded_ && hasStarted_) filmKeeper_.moved(elapsed_);
-  if (isLoaded_) watch_.heard();
+  if (!isLoaded_) return;
+  watch_.heard();
+  lostSound_.filmMoves();
 }
 
 void PlaybackModel::startOver() { seekTo(0); }

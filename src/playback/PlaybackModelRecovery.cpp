@@ -24,7 +24,8 @@ EngineWatch::Engine PlaybackModel::watchedEngine() {
                 // Its output's thread is asked for it.
                 engine_.readProperty("display-width", [answered](const auto&) { answered(); });
               },
-          .hangs = [this] { recover(); }};
+          .hangs = [this] { recover(); },
+          .stands = [this] { lostSound_.filmStands(); }};
 }
 
 void PlaybackModel::handle(const event::VideoDeviceLost&) { recover(); }
@@ -49,6 +50,7 @@ void PlaybackModel::recover() {
 
 void PlaybackModel::replaceEngine() {
   const bool isFullscreen = isFullscreen_;
+  lostSound_.fileEnded();
   engine_.terminate([] {});
   isLoaded_ = false;
   queue_ = PlayQueue();

@@ -1,6 +1,7 @@
 #include "playback/SoundDevices.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "engine/MpvEngine.h"
 #include "engine/MpvValue.h"
@@ -17,7 +18,10 @@ const QString kDesktops = QStringLiteral("auto");
 
 SoundDevices::SoundDevices(MpvEngine& engine, PlayerSettings& settings)
     : engine_(engine), settings_(settings) {
-  connect(&settings, &PlayerSettings::changed, this, &SoundDevices::changed);
+  connect(&settings, &PlayerSettings::changed, this, [this] {
+    isElsewhere_ = false;  // the engine is told of all settings again
+    Q_EMIT changed();
+  });
 }
 
 QString SoundDevices::wanted() const { return settings_.audioDevice(); }
@@ -61,10 +65,14 @@ void SoundDevices::step(int steps) {
 }
 
 QString SoundDevices::lost() {
-  if (wanted() == kDesktops) return {};
+  if (wanted() == kDesktops || std::exchange(isElsewhere_, true)) return {};
   engine_.setProperty("audio-device", kDesktops.toStdString());
-  engine_.setProperty("aid", "auto");
   return tr("The sound device you chose isn't there, so the sound goes to the usual one.");
+}
+
+void SoundDevices::tryWanted() {
+  if (std::exchange(isElsewhere_, false))
+    engine_.setProperty("audio-device", wanted().toStdString());
 }
 
 }  // namespace tromelo

@@ -36,6 +36,8 @@ class SoundDevices : public QObject {
   /// The sound couldn't be opened. A sentence where it goes elsewhere now; empty where there is
   /// nothing to be done.
   QString lost();
+  /// Sound may go where the person wants it again.
+  void tryWanted();
 
  Q_SIGNALS:
   void changed();
@@ -53,7 +55,8 @@ class SoundDevices : public QObject {
 
   MpvEngine& engine_;
   PlayerSettings& settings_;
-  QList<Device> devices_;  // but for the desktop's choice
+  QList<Device> devices_;     // but for the desktop's choice
+  bool isElsewhere_ = false;  // than the person wants
 };
 
 }  // namespace tromelo

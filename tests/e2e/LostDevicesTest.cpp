@@ -1,4 +1,7 @@
+#include <QElapsedTimer>
+
 #include "EndToEnd.h"
+#include "SoundServer.h"
 #include "support/Table.h"
 
 namespace tromelo::testing {
@@ -30,6 +33,39 @@ TEST_F(LostDevices, AFilmGoesOnWhereItsDriverFailed) {
     EXPECT_EQ(player.quit(), 0);
     EXPECT_EQ(player.runtimeFiles(), QStringList());
   }
+}
+
+struct LostSound : EndToEnd {
+  LostSound() { sound.start(); }
+
+  [[nodiscard]] bool goesOn() {
+    const double from = player.said("position").toDouble();
+    return player.waitUntil([&] { return player.said("position").toDouble() > from + 1; });
+  }
+
+  SoundServer sound{player};
+};
+
+TEST_F(LostSound, AFilmGoesOnAndIsHeardAgain) {
+  player.start({clip("long.mkv")});
+  ASSERT_TRUE(player.waitUntilPlaying());
+  ASSERT_TRUE(probe().waitFor("current-ao", "pipewire"));
+
+  sound.unplug();
+  EXPECT_TRUE(goesOn());
+  EXPECT_TRUE(probe().waitFor("current-ao", "null"));
+  sound.plugIn();
+  EXPECT_TRUE(probe().waitFor("current-ao", "pipewire"));
+  EXPECT_TRUE(goesOn());
+
+  sound.kill();
+  EXPECT_TRUE(probe().waitFor("current-ao", QJsonValue(QJsonValue::Undefined)));
+  EXPECT_TRUE(goesOn());
+  sound.start();
+  EXPECT_TRUE(probe().waitFor("current-ao", "pipewire"));
+  EXPECT_TRUE(goesOn());
+  EXPECT_TRUE(player.isRevealed());
+  EXPECT_EQ(player.quit(), 0);
 }
 
 }  // namespace tromelo::testing

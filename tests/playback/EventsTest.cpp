@@ -146,6 +146,21 @@ TEST_F(Events, AMissingSoundDeviceIsToldOnceInTheWindowOfTheFilm) {
   EXPECT_TRUE(player_.calls.isEmpty());
 }
 
+TEST_F(Events, SoundGoesElsewhereOnceWhereTheChosenDeviceIsMissing) {
+  model().settings().setAudioDevice("alsa/gone");
+  settle();
+  load();
+  takeRequests();
+  const std::vector<std::string> elsewhere{"set", "audio-device", "auto"};
+  report(event::AudioOutputFailed{});
+  EXPECT_EQ(takeRequests(), (Requests{elsewhere, {"set", "file-local-options/aid", "1"}}));
+  report(event::AudioOutputFailed{});  // the desktop's fails too
+  EXPECT_EQ(takeRequests(), Requests());
+  clock_.advance(std::chrono::seconds(1));
+  EXPECT_EQ(takeRequests(), (Requests{{"set", "audio-device", "alsa/gone"},
+                                      {"set", "file-local-options/aid", "1"}}));
+}
+
 TEST_F(Events, AFilmThatWasShownWithoutSoundHasBeenPlayed) {
   const event::EndFile end{.error = "no device", .lacksSoundDevice = true};
   report(event::StartFile{});
