@@ -22,6 +22,8 @@ SCRUB = 5  # seconds of dragging the position
 POINTER_RATE = 200  # moves a second, a quick mouse
 BAR_MIDDLE = 60  # points above the window's bottom edge
 SLIDER_MIDDLE = 41
+ROW = (50, 200, 500)  # films
+PAUSE = 0.5  # seconds, in which a window goes
 QUIET = 1  # seconds in which a window that is complete draws nothing
 # Who is compared where mpv has nothing of the kind.
 OTHERS = {"library": ("celluloid", "smplayer"), "pointer": (), "scrub": (), "pictures": ()}
@@ -200,6 +202,24 @@ class Bench:
     def measure_pictures(self, _):
         pictures.measure(self, SPAN)
 
+    def measure_row(self, name):
+        """Films one after the other, each until its first picture: what stays in memory."""
+        alone = ["--idle=yes"] if name == "mpv" else []
+        with self.start(name, *alone) as player:
+            engine = Engine(self.ipc)
+            resident = {}
+            for film in range(1, ROW[-1] + 1):
+                engine.command("loadfile", self.options.sample)
+                engine.wait_for("playback-restart")
+                engine.command("stop")
+                engine.wait_for("idle")
+                time.sleep(PAUSE)
+                if film in ROW:
+                    resident[film] = player.memory()[0]
+                    self.table.add(name, f"resident memory after {film} films, MB", resident[film])
+        grown = 100 * (resident[ROW[-1]] / resident[ROW[0]] - 1)
+        self.table.add(name, f"  from {ROW[0]} to {ROW[-1]} films, %", grown, 1)
+
     def measure_library(self, name):
         with self.start(name) as player:
             complete = self.milliseconds_until_complete(player)
@@ -285,13 +305,14 @@ class Bench:
 
 def main():
     parts = ("start", "play", "pointer", "scrub", "pictures", "library", *PROGRAMS)
+    lengthy = ("row",)
     parser = argparse.ArgumentParser(prog="bench/run")
     parser.add_argument("--build", required=True, help=argparse.SUPPRESS)
     parser.add_argument("--sample", required=True, help=argparse.SUPPRESS)
     parser.add_argument("--runs", type=int, default=3, help="how many of each; the best counts")
-    parser.add_argument("parts", nargs="*", metavar="PART", help=", ".join(parts))
+    parser.add_argument("parts", nargs="*", metavar="PART", help=", ".join(parts + lengthy))
     options = parser.parse_args()
-    unknown = set(options.parts) - set(parts)
+    unknown = set(options.parts) - set(parts + lengthy)
     if unknown or options.runs < 1:
         parser.error(f"there is no part {unknown.pop()}" if unknown else "--runs wants 1 or more")
     options.parts = options.parts or parts

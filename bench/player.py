@@ -41,6 +41,12 @@ class Engine:
                 return reply.get("data")
         raise SystemExit("bench: the engine is gone")
 
+    def wait_for(self, event):
+        for line in self.lines:
+            if json.loads(line).get("event") == event:
+                return
+        raise SystemExit("bench: the engine is gone")
+
     def get(self, name):
         return self.command("get_property", name)
 
