@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QThreadPool>
+#include <cstdio>
 #include <format>
 #include <utility>
 
@@ -86,7 +87,10 @@ std::optional<std::string> MpvEngine::initialize(const QString& diagnosticsDirec
 
 std::optional<std::string> MpvEngine::configure(const QString& diagnosticsDirectory,
                                                 const std::string& vulkanDevice) {
-  logFile_ = QFile::encodeName(diagnosticsDirectory + QStringLiteral("/mpv.log")).toStdString();
+  const std::string before = std::exchange(
+      logFile_, QFile::encodeName(diagnosticsDirectory + QStringLiteral("/mpv.log")).toStdString());
+  // An engine that is replaced is one whose log says why.
+  if (before == logFile_) std::rename(before.c_str(), (before + ".1").c_str());
   for (const auto& options :
        {engineOptions(logFile_), platformOptions(vulkanDevice), diagnosticOptions()}) {
     for (const MpvOption& option : options) {

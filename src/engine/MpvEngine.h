@@ -41,9 +41,10 @@ class MpvEngine {
   /// Set before initialize(); see PreloadHook. Empty: files begin as the engine has them.
   PreloadHook::Prepare prepareFile;
 
-  /// Starts the engine, which writes its log to "mpv.log" in the directory. None on success and
-  /// when it runs already, else one line for people; the engine then has no handle, and everything
-  /// that is sent to it is ignored. `vulkanDevice` is the UUID of the one to draw with; empty: any.
+  /// Starts the engine, which writes its log to "mpv.log" in the directory; that of an engine
+  /// before it is kept as "mpv.log.1". None on success and when it runs already, else one line for
+  /// people; the engine then has no handle, and everything that is sent to it is ignored.
+  /// `vulkanDevice` is the UUID of the one to draw with; empty: any.
   std::optional<std::string> initialize(const QString& diagnosticsDirectory,
                                         const std::string& vulkanDevice = {});
 

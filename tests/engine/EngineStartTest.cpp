@@ -49,6 +49,17 @@ TEST_F(EngineStart, ASecondStartDoesNothing) {
   EXPECT_EQ(mpv.options, all());
 }
 
+TEST_F(EngineStart, TheLogOfAnEngineThatIsReplacedIsKept) {
+  const QTemporaryDir logs;
+  engine.initialize(logs.path());
+  QFile log(logs.filePath("mpv.log"));
+  EXPECT_TRUE(log.open(QFile::WriteOnly) && log.write("it hangs"));
+  log.close();
+  engine.terminate([] {});
+  engine.initialize(logs.path());
+  EXPECT_EQ(readFile(logs.filePath("mpv.log.1")), "it hangs");
+}
+
 TEST_F(EngineStart, AFailureIsOneLineAndLeavesNoHandle) {
   const std::string notFound = mpv_error_string(MPV_ERROR_OPTION_NOT_FOUND);
   for (
