@@ -16,7 +16,7 @@ using std::chrono::seconds;
 
 // A sound server that was ended is back within a second, a device as soon as it is plugged in.
 constexpr milliseconds kFirstPause = seconds(1);
-constexpr milliseconds kLongestPause = seconds(30);
+constexpr milliseconds kLongestPause = seconds(16);
 constexpr milliseconds kBetweenLooks = seconds(1);
 
 template <typename T>
@@ -75,7 +75,9 @@ void LostSound::soundOn() {
   if (!std::exchange(silent_, {}).empty()) engine_.setProperty("ao", "");
 }
 
+/// Each try holds up the picture a little, so a machine without sound is left alone after some.
 void LostSound::failed() {
+  if (pause_ == kLongestPause) return;
   tryLater([this] {
     soundDevices_.tryWanted();
     tryAgain();

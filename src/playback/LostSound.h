@@ -28,7 +28,7 @@ class LostSound {
 
   /// The engine plays this track, its number for it.
   void plays(std::int64_t track) { track_ = track; }
-  /// The engine couldn't open any device; it is asked again, less and less often.
+  /// The engine couldn't open any device; it is asked again a few times.
   void failed();
   /// The engine may open a device now.
   void tryAgain();
