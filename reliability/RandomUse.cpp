@@ -23,10 +23,8 @@ std::string named(const char* what, const char* film, bool waits) {
 
 }  // namespace
 
-RandomUse::RandomUse(RunningPlayer& player, unsigned seed)
-    : player_(player), engine_(player.ipcPath()), random_(seed) {
-  engine_.set(QStringLiteral("ao"), QStringLiteral("null"));  // the machine may have no sound
-}
+RandomUse::RandomUse(RunningPlayer& player, SoundServer& sound, unsigned seed)
+    : player_(player), sound_(sound), engine_(player.ipcPath()), random_(seed) {}
 
 int RandomUse::below(int limit) { return int(random_() % unsigned(limit)); }
 
@@ -36,7 +34,7 @@ bool RandomUse::chance(double probability) {
 
 RandomUse::Step RandomUse::step() {
   const bool waits = chance(0.6);
-  switch (below(16)) {
+  switch (below(18)) {
     case 0:
     case 1:
     case 2:
@@ -57,6 +55,8 @@ RandomUse::Step RandomUse::step() {
       return resize();
     case 12:
       return openOtherWindow();
+    case 13:
+      return plug();
     default:
       return close();
   }
@@ -143,14 +143,31 @@ RandomUse::Step RandomUse::openOtherWindow() {
   return {.name = "settings", .isDone = opened && player_.waitUntil([&] { return !isOpen(); })};
 }
 
+RandomUse::Step RandomUse::plug() {
+  switch (below(3)) {
+    case 0:
+      screen::unplug(1);
+      if (chance(0.5)) screen::run(QStringLiteral("sleep"), {QStringLiteral("0.5")});
+      screen::plugIn(1);
+      return {.name = "screen", .isDone = true};
+    case 1:
+      sound_.kill();
+      sound_.start();
+      hasSpeakers_ = true;
+      return {.name = "sound server", .isDone = true};
+    default:
+      hasSpeakers_ = !hasSpeakers_;
+      hasSpeakers_ ? sound_.plugIn() : sound_.unplug();
+      return {.name = hasSpeakers_ ? "speakers" : "no speakers", .isDone = true};
+  }
+}
+
 /// The film's window has the keyboard; false when there is none any more.
 bool RandomUse::waitForKeyboard() {
   return player_.waitUntil([&] {
     if (!player_.isRevealed()) return true;
-    const QString window =
-        screen::windowOf(player_.processId(), player_.said(QStringLiteral("title")));
-    return !window.isEmpty() &&
-           window == screen::run(QStringLiteral("xdotool"), {QStringLiteral("getactivewindow")});
+    const QString title = player_.said(QStringLiteral("title"));
+    return screen::isActive(player_.processId(), title);
   }) && player_.isRevealed();
 }
 

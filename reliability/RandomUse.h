@@ -9,6 +9,7 @@
 #include "EngineProbe.h"
 #include "ProcessUse.h"
 #include "RunningPlayer.h"
+#include "SoundServer.h"
 
 namespace tromelo::testing {
 
@@ -21,12 +22,12 @@ inline constexpr std::array kPlayerKeys{
     "p",        "e"};
 
 /// Somebody who opens, plays, seeks, pauses and closes films, presses keys, changes the window's
-/// size and opens other windows without a plan, and often without waiting for what comes of it. The
-/// same seed does the same. X11.
+/// size, opens other windows and pulls the plugs of speakers and screen without a plan, and often
+/// without waiting for what comes of it. The same seed does the same. X11.
 class RandomUse {
  public:
-  /// `player` has been started.
-  RandomUse(RunningPlayer& player, unsigned seed);
+  /// `player` has been started, and `sound` too.
+  RandomUse(RunningPlayer& player, SoundServer& sound, unsigned seed);
 
   struct Step {
     std::string name;
@@ -47,6 +48,7 @@ class RandomUse {
   Step pressKey();
   Step resize();
   Step openOtherWindow();
+  Step plug();
   bool chance(double probability);
   int below(int limit);
   bool waitForFilm(const QString& name);
@@ -55,8 +57,10 @@ class RandomUse {
   bool closePanel();
 
   RunningPlayer& player_;
+  SoundServer& sound_;
   EngineProbe engine_;
   std::mt19937 random_;
+  bool hasSpeakers_ = true;
 };
 
 }  // namespace tromelo::testing

@@ -1,5 +1,3 @@
-#include <QElapsedTimer>
-
 #include "EndToEnd.h"
 #include "SoundServer.h"
 #include "support/Table.h"
@@ -65,6 +63,44 @@ TEST_F(LostSound, AFilmGoesOnAndIsHeardAgain) {
   EXPECT_TRUE(probe().waitFor("current-ao", "pipewire"));
   EXPECT_TRUE(goesOn());
   EXPECT_TRUE(player.isRevealed());
+  EXPECT_EQ(player.quit(), 0);
+}
+
+struct LostScreen : EndToEnd {
+  LostScreen() {
+    player.start({clip("sample.mp4")});
+    EXPECT_TRUE(player.waitUntilPlaying());
+    EXPECT_TRUE(player.waitUntil([this] { return isActive("sample"); }));
+    probe().set("loop-file", "inf");
+  }
+  // On the screens that are there.
+  [[nodiscard]] bool goesOn(const QString& name) {
+    const QString position = player.said("position");
+    return player.waitUntil([&] { return player.said("position") != position; }) &&
+           screen::waitForShot("screen-" + name, showsTestPicture);
+  }
+};
+
+TEST_F(LostScreen, AFilmIsThereAgainWhenTheOnlyOneIs) {
+  screen::press("f");
+  EXPECT_TRUE(player.waitFor("fullscreen", "yes"));
+  screen::unplug(1);
+  screen::plugIn(1);
+  EXPECT_TRUE(goesOn("back"));
+  EXPECT_EQ(player.quit(), 0);
+}
+
+TEST_F(LostScreen, AFilmGoesOnOnAnother) {
+  if (screen::isX11()) GTEST_SKIP() << "Xvfb has one";
+  screen::plugIn(2);
+  screen::unplug(1);
+  EXPECT_TRUE(goesOn("second"));
+  screen::press("f");
+  EXPECT_TRUE(player.waitFor("fullscreen", "yes"));
+  EXPECT_TRUE(goesOn("full"));
+  screen::plugIn(1);
+  screen::unplug(2);
+  EXPECT_TRUE(goesOn("full-first"));
   EXPECT_EQ(player.quit(), 0);
 }
 

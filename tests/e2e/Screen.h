@@ -157,6 +157,16 @@ inline QRect geometryOf(const QString& windowId) {
           number("Height:")};
 }
 
+/// Plugs the first screen in or, on labwc, the second, or pulls its plug.
+inline void plugIn(int which) {
+  isX11() ? (void)run("xrandr", {"--output", "screen", "--auto"})
+          : press(QStringLiteral("Super_L+F%1").arg(which));
+}
+inline void unplug(int which) {
+  isX11() ? (void)run("xrandr", {"--output", "screen", "--off"})
+          : press(QStringLiteral("Super_L+F%1").arg(which + 2));
+}
+
 // The person's hand. Places are on the screen, buttons as X11 numbers them.
 
 inline void movePointer(QPoint place) {
