@@ -1282,6 +1282,10 @@
         <source>The film couldn&apos;t be searched for black bars</source>
         <translation>Der Film ließ sich nicht nach schwarzen Balken absuchen</translation>
     </message>
+    <message>
+        <source>the graphics card or the sound server doesn&apos;t answer.</source>
+        <translation>die Grafikkarte oder der Tonserver antwortet nicht.</translation>
+    </message>
 </context>
 <context>
     <name>tromelo::PlaybackState</name>

@@ -8,7 +8,6 @@ namespace {
 
 // Looks are counted, and no time is measured: a process that was stopped meanwhile hasn't waited.
 constexpr std::chrono::milliseconds kBetweenLooks(500);
-constexpr int kMostSilentLooks = 10;
 
 }  // namespace
 
@@ -20,13 +19,14 @@ void EngineWatch::heard() {
 }
 
 void EngineWatch::look() {
-  if (!engine_.shouldPlay()) return next_.reset();
+  const auto patience = engine_.patience();
+  if (patience.count() == 0) return next_.reset();
   if (std::exchange(hasHeard_, false)) {
     silentLooks_ = 0;
     return;
   }
   if (silentLooks_++ == 0) engine_.ask([this] { answered(); });
-  if (silentLooks_ < kMostSilentLooks) return;
+  if (silentLooks_ * kBetweenLooks < patience) return;
   silentLooks_ = 0;
   next_.reset();
   engine_.hangs();

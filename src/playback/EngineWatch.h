@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -7,13 +8,14 @@
 
 namespace tromelo {
 
-/// Notices that the engine hangs: a film that should play doesn't come further, and a question
-/// isn't answered. A film that stands still by itself (a still picture, a slow share) is told from
-/// that by the answer. Main thread only.
+/// Notices that the engine hangs: a film that should play doesn't come further, or one that is
+/// opened isn't there yet, and a question isn't answered. A film that stands still by itself (a
+/// still picture, a slow share) is told from that by the answer. Main thread only.
 class EngineWatch {
  public:
   struct Engine {
-    std::function<bool()> shouldPlay;
+    /// For how long it may be silent; zero where it has nothing to do.
+    std::function<std::chrono::seconds()> patience;
     /// Asks it something that both its core and its output have to answer.
     std::function<void(std::function<void()> answered)> ask;
     std::function<void()> hangs;

@@ -121,6 +121,7 @@ void PlaybackModel::playFiles(const QUrl& url, const QList<QUrl>& others,
   player().setVideoReady(false);
   progress_.opened();
   load(url, "replace", -1, startAt);
+  awaitFile(pathFromFileUrl(url));
   setPause(false);
   append(others);
 }

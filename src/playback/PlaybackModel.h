@@ -284,8 +284,9 @@ class PlaybackModel : public PlaybackState {
   EngineWatch::Engine watchedEngine();
   void recover();
   void replaceEngine();
-  void reload(const PlayQueue& queue, double position, bool isPaused);
-  void giveUp();
+  void reload(const PlayQueue& queue, std::optional<double> position, bool isPaused);
+  void giveUp(bool wasOpening);
+  void awaitFile(std::optional<std::string> asked = {});
   void handleEvent(const MpvEvent& received);
   void handle(const event::Property& change);
   void handle(const event::EndFile& end);
@@ -405,8 +406,10 @@ class PlaybackModel : public PlaybackState {
   bool hasStarted_ = false;      // the current file has
   bool hasPicture_ = false;      // the current file has, and it is shown
   bool hasFailed_ = false;       // the current file has
-  QString outputFault_;          // of the current file; a sentence
-  QString toast_;                // waits for the player window
+  bool isOpening_ = false;  // the engine has a file to open, and has yet to say what became of it
+  std::optional<std::string> asked_;  // it, until the engine has begun with it
+  QString outputFault_;               // of the current file; a sentence
+  QString toast_;                     // waits for the player window
   bool toldOfNoSound_ = false;
   std::optional<Restart> restart_;  // the engine has yet to tell where
   bool isShuttingDown_ = false;

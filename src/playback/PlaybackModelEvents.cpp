@@ -36,6 +36,7 @@ void PlaybackModel::handle(const event::StartFile& start) {
   shuffle_.started(start.entry);
   settleFailures();
   resetForNewFile();
+  awaitFile();
   entry_ = start.entry;
   filmKeeper_.started(entry_);
   trial_.started(entry_);
@@ -73,6 +74,7 @@ void PlaybackModel::resetForNewFile() {
 void PlaybackModel::handle(const event::FileLoaded&) {
   Timeline::note("film opened");
   isLoaded_ = true;
+  isOpening_ = false;
   watch_.heard();
   buffering_ = Buffering::ready;
   takeAdjustments();
@@ -122,7 +124,7 @@ void PlaybackModel::handle(const event::EndFile& end) {
   filmKeeper_.keep();
   trial_.ended();
   lostSound_.fileEnded();
-  isLoaded_ = false;
+  isLoaded_ = isOpening_ = false;
   // A film that was shown without its sound has been played.
   if (!end.error || (end.lacksSoundDevice && hasPicture_)) {
     status_ = QStringLiteral("Ready for a video");
@@ -136,6 +138,7 @@ void PlaybackModel::handle(const event::EndFile& end) {
 }
 
 void PlaybackModel::handle(const event::Idle&) {
+  isOpening_ = false;
   progress_.cameToRest();
   settleFailures();
 }
@@ -167,6 +170,7 @@ void PlaybackModel::tellOf(const QueueProgress::Failure& failure) {
 
 void PlaybackModel::handle(const event::CommandFailed& failure) {
   if (!isLoaded_) reportPlaybackError(engineErrorText(failure.error));
+  isOpening_ = false;
   progress_.refused();
   settleFailures();
 }

@@ -11,13 +11,18 @@ namespace {
 
 constexpr double kSoon = 60;  // seconds
 
+constexpr std::chrono::seconds kPlaying(5);
+constexpr std::chrono::seconds kOpening(15);  // the graphics driver may be at work
+
 }  // namespace
 
 EngineWatch::Engine PlaybackModel::watchedEngine() {
-  return {.shouldPlay =
+  return {.patience =
               [this] {
-                return isLoaded_ && !isPaused_ && !isAtEnd_ && !isShuttingDown_ &&
-                       facts_.hasPicture() && engine_.hasHandle();
+                if (isShuttingDown_ || !engine_.hasHandle()) return std::chrono::seconds(0);
+                if (isOpening_) return kOpening;
+                const bool plays = isLoaded_ && !isPaused_ && !isAtEnd_ && facts_.hasPicture();
+                return plays ? kPlaying : std::chrono::seconds(0);
               },
           .ask =
               [this](const std::function<void()>& answered) {
@@ -34,16 +39,18 @@ void PlaybackModel::handle(const event::VideoDeviceLost&) { recover(); }
 /// draws no more. A film that does it again soon is given up.
 void PlaybackModel::recover() {
   const bool isSoon = clock_.now() - recoveredAt_ < kSoon;
-  const bool isHopeless = !currentPath_ || (recovered_ == currentPath_ && isSoon);
-  recovered_ = currentPath_;
+  const bool wasOpening = isOpening_;
+  const auto path = wasOpening && asked_ ? asked_ : currentPath_;
+  const bool isHopeless = !path || (recovered_ == path && isSoon);
+  recovered_ = path;
   recoveredAt_ = clock_.now();
-  const PlayQueue queue = queue_;
-  const double position = position_;
+  const PlayQueue queue = asked_ ? PlayQueue() : queue_;
+  const auto position = wasOpening ? std::nullopt : std::optional(position_);
   const bool isPaused = isPaused_;
   filmKeeper_.keep();
   trial_.ended();
   replaceEngine();
-  if (isHopeless || !engine_.hasHandle()) return giveUp();
+  if (isHopeless || !engine_.hasHandle()) return giveUp(wasOpening);
   player().replaceWindow();
   reload(queue, position, isPaused);
 }
@@ -52,7 +59,7 @@ void PlaybackModel::replaceEngine() {
   const bool isFullscreen = isFullscreen_;
   lostSound_.fileEnded();
   engine_.terminate([] {});
-  isLoaded_ = false;
+  isLoaded_ = isOpening_ = false;
   queue_ = PlayQueue();
   unmoved_ = 0;
   queueMeanwhile_.reset();
@@ -70,11 +77,18 @@ void PlaybackModel::replaceEngine() {
   setSubtitleLift(subtitleLift_);
 }
 
-void PlaybackModel::reload(const PlayQueue& queue, double position, bool isPaused) {
+void PlaybackModel::awaitFile(std::optional<std::string> asked) {
+  isOpening_ = true;
+  asked_ = std::move(asked);
+  watch_.heard();
+}
+
+void PlaybackModel::reload(const PlayQueue& queue, std::optional<double> position, bool isPaused) {
   const qsizetype current = currentIndex(queue).value_or(0);
   progress_ = QueueProgress();
   progress_.opened();
   load(fileUrlFromPath(*recovered_), "replace", -1, position);
+  awaitFile(recovered_);
   setPause(isPaused);
   for (qsizetype i = 0; i < queue.size(); ++i) {
     if (i == current) continue;
@@ -84,10 +98,10 @@ void PlaybackModel::reload(const PlayQueue& queue, double position, bool isPause
   }
 }
 
-void PlaybackModel::giveUp() {
-  const QString message =
-      tr("Could not play %1: %2")
-          .arg(title_, tr("the graphics card stopped answering; update its driver."));
+void PlaybackModel::giveUp(bool wasOpening) {
+  const QString reason = wasOpening ? tr("the graphics card or the sound server doesn't answer.")
+                                    : tr("the graphics card stopped answering; update its driver.");
+  const QString message = tr("Could not play %1: %2").arg(title_, reason);
   reportPlaybackError(message);
   player().setAwaitingVideo(false);
   player().hasWindow() ? player().close() : player().showLibrary();

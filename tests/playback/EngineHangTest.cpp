@@ -73,6 +73,24 @@ TEST_F(EngineHang, AFilmWhoseDeviceIsLostGoesOnAsItWas) {
   EXPECT_TRUE(waitFor([&] { return mpv_.destroyed == 2; }));
 }
 
+TEST_F(EngineHang, AFilmThatHangsWhileItIsOpenedIsOpenedAgainAndThenGivenUp) {
+  model().open(QUrl::fromLocalFile("/films/d.mkv"));
+  wait(60s, true);  // it lies on a slow share
+  EXPECT_EQ(mpv_.created, 1);
+  wait(20s);
+  EXPECT_EQ(mpv_.created, 2);
+  EXPECT_TRUE(std::ranges::any_of(takeRequests(), [](const auto& words) {
+    return words.front() == "loadfile" && words[1] == "/films/d.mkv" && words[4].empty();
+  }));
+  report(event::StartFile{});
+  report(P::path, "/films/d.mkv");
+  wait(20s);
+  EXPECT_EQ(mpv_.created, 3);
+  EXPECT_TRUE(model().errorMessage().startsWith("Could not play d: the graphics card or"));
+  EXPECT_TRUE(player_.calls.contains("library"));
+  EXPECT_TRUE(waitFor([&] { return mpv_.destroyed == 2; }));
+}
+
 TEST_F(EngineHang, AnEngineThatAnswersOrNeedntMoveIsLeftAlone) {
   wait(60s, true);  // a picture that stands still
   report(P::timePos, 13.0);
