@@ -41,7 +41,7 @@ struct Display {
 
   std::string lacks;
   RecordingHost recorder{{RecordingHost::Feature::colorManager, RecordingHost::Feature::dmabuf}};
-  std::shared_ptr<HostConnection> host = HostConnection::open(recorder.client(), &lacks);
+  std::shared_ptr<HostConnection> host = HostConnection::open(recorder.client(), nullptr, &lacks);
   PrivateDisplay display;
 };
 
