@@ -17,7 +17,7 @@ using std::chrono::seconds;
 // A sound server that was ended is back within a second, a device as soon as it is plugged in.
 constexpr milliseconds kFirstPause = seconds(1);
 constexpr milliseconds kLongestPause = seconds(16);
-constexpr milliseconds kBetweenLooks = seconds(1);
+constexpr milliseconds kBetweenLooks = seconds(2);
 
 template <typename T>
 std::optional<T> held(const MpvValue& value) {
@@ -29,8 +29,12 @@ std::optional<T> held(const MpvValue& value) {
 }  // namespace
 
 LostSound::LostSound(Clock& clock, MpvEngine& engine, SoundDevices& devices,
-                     std::function<void()> tell)
-    : clock_(clock), engine_(engine), soundDevices_(devices), tell_(std::move(tell)) {}
+                     FindDevices findDevices, std::function<void()> tell)
+    : clock_(clock),
+      engine_(engine),
+      soundDevices_(devices),
+      findDevices_(std::move(findDevices)),
+      tell_(std::move(tell)) {}
 
 void LostSound::filmStands() {
   if (!silent_.empty()) return;
@@ -58,7 +62,7 @@ void LostSound::goOnSilently(const std::string& driver) {
 }
 
 void LostSound::lookForDevice() {
-  engine_.readNode("audio-device-list", [this](const MpvValue& list) { takeDevices(list); });
+  looks_.run(findDevices_, [this](const MpvValue& list) { takeDevices(list); });
 }
 
 void LostSound::takeDevices(const MpvValue& list) {
@@ -77,7 +81,7 @@ void LostSound::soundOn() {
 
 /// Each try holds up the picture a little, so a machine without sound is left alone after some.
 void LostSound::failed() {
-  if (pause_ == kLongestPause) return;
+  if (pause_ == kLongestPause || !silent_.empty()) return;
   tryLater([this] {
     soundDevices_.tryWanted();
     tryAgain();
@@ -99,6 +103,7 @@ void LostSound::fileEnded() {
   standsAt_.reset();
   pause_ = milliseconds(0);
   next_.reset();
+  looks_.drop();
   soundOn();
 }
 

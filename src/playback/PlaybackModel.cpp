@@ -7,6 +7,7 @@
 #include <cmath>
 #include <utility>
 
+#include "engine/FoundSoundDevices.h"
 #include "engine/MpvClientApi.h"
 #include "platform/FilePath.h"
 #include "platform/NumberText.h"
@@ -49,7 +50,9 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       trial_(parts.diagnosticsDirectory + QStringLiteral("/decoding"),
              [this](bool isNew) { takeFall(isNew); }),
       watch_(parts.clock, watchedEngine()),
-      lostSound_(parts.clock, engine_, soundDevices_, [this] { noSound(); }),
+      lostSound_(
+          parts.clock, engine_, soundDevices_, [api = parts.api] { return findSoundDevices(api); },
+          [this] { noSound(); }),
       adjustments_(parts.defaults),
       barsFinder_(std::move(parts.pictureMaker), parts.clock),
       shuffle_([](qsizetype end) { return QRandomGenerator::global()->bounded(end); }),
