@@ -58,6 +58,7 @@ TEST_F(EngineStart, TheLogOfAnEngineThatIsReplacedIsKept) {
   engine.terminate([] {});
   engine.initialize(logs.path());
   EXPECT_EQ(readFile(logs.filePath("mpv.log.1")), "it hangs");
+  EXPECT_TRUE(waitFor([&] { return !engine.isDestroying(); }));
 }
 
 TEST_F(EngineStart, AFailureIsOneLineAndLeavesNoHandle) {
