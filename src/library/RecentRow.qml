@@ -39,7 +39,6 @@ T.AbstractButton {
 
         films: row.films
         file: row.file
-        shown: row.Window.visibility !== Window.Hidden
     }
 
     HoverTip {

@@ -104,7 +104,6 @@ PlayerPresenting& PlaybackModel::player() {
 
 void PlaybackModel::setShuttingDown(bool shuttingDown) {
   if (shuttingDown) {
-    catchUp();
     filmKeeper_.keep();
     trial_.ended();
   }

@@ -40,9 +40,7 @@ const PlayerActions::Action* PlayerActions::find(const KeyPress& press) {
 
 QString PlayerActions::perform(const Action& action, bool isRepeat, PlayerWindowController& player,
                                PlaybackModel& playback) {
-  if (isRepeat && !repeats(action.held, playback)) return {};
-  playback.catchUp();
-  return action.act(player, playback);
+  return isRepeat && !repeats(action.held, playback) ? QString() : action.act(player, playback);
 }
 
 QKeySequence PlayerActions::programKey(Program command) {

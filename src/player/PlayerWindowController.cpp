@@ -97,7 +97,6 @@ void PlayerWindowController::installOverlay(VideoWindow& window) {
   chromeVisible_ = true;
   overlay_->setChromeVisible(true, false);
   updateSubtitleLift();
-  updatePositionShown();
 }
 
 void PlayerWindowController::observe(VideoWindow& window) {
