@@ -19,6 +19,9 @@ constexpr milliseconds kFirstPause = seconds(1);
 constexpr milliseconds kLongestPause = seconds(16);
 constexpr milliseconds kBetweenLooks = seconds(2);
 
+// libmpv 0.40 never comes to the end of a film whose sound is chosen while its last picture stands.
+constexpr double kLeastRest = 1;  // seconds
+
 template <typename T>
 std::optional<T> held(const MpvValue& value) {
   const auto* node = value.as<MpvNode>();
@@ -95,7 +98,10 @@ void LostSound::tryLater(std::function<void()> attempt) {
 
 /// The engine takes "auto" for the choice that it has made already.
 void LostSound::tryAgain() {
-  engine_.setProperty("file-local-options/aid", std::to_string(track_));
+  engine_.readNode("time-remaining", [this](const MpvValue& rest) {
+    if (held<double>(rest).value_or(0) >= kLeastRest)
+      engine_.setProperty("file-local-options/aid", std::to_string(track_));
+  });
 }
 
 void LostSound::fileEnded() {

@@ -35,7 +35,7 @@ class LostSound {
   void plays(std::int64_t track) { track_ = track; }
   /// The engine couldn't open any device; it is asked again a few times.
   void failed();
-  /// The engine may open a device now.
+  /// The engine may open a device now, unless the film is about to end.
   void tryAgain();
 
   /// With the next file the engine tries for itself.
