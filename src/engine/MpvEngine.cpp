@@ -8,6 +8,7 @@
 
 #include "engine/EngineEnvironment.h"
 #include "engine/MpvClientApi.h"
+#include "engine/MpvEventQueue.h"
 #include "engine/MpvOptions.h"
 #include "engine/MpvTranslation.h"
 #include "engine/WakeupTarget.h"
@@ -25,12 +26,6 @@ struct UncheckedHandle {
 /// Half of what libmpv has room for: it sets a place aside for each reply, and drops the events
 /// that then find none.
 constexpr int kMostUnanswered = 500;
-
-bool isReply(const mpv_event& event) {
-  return event.event_id == MPV_EVENT_COMMAND_REPLY ||
-         event.event_id == MPV_EVENT_SET_PROPERTY_REPLY ||
-         event.event_id == MPV_EVENT_GET_PROPERTY_REPLY;
-}
 
 constexpr unsigned long kOldestClientApi = MPV_MAKE_VERSION(2, 3);
 
@@ -79,6 +74,10 @@ std::optional<std::string> MpvEngine::initialize(const QString& diagnosticsDirec
   }
   observe();
   if (prepareFile) preload_ = std::make_shared<PreloadHook>(api_, handle_, prepareFile);
+  // An engine before this one, which may hang, ends when it likes.
+  wakeupTarget_ = std::make_shared<WakeupTarget>();
+  events_ = std::make_shared<MpvEventQueue>(api_, handle_, wakeupTarget_);
+  events_->setQuiet(isQuiet_);
   wakeupTarget_->engine = this;
   api_->requestLogMessages(handle_, "warn");
   api_->setWakeupCallback(handle_, &WakeupTarget::wakeup, wakeupTarget_.get());
@@ -133,9 +132,11 @@ void MpvEngine::terminate(std::function<void()> completion) {
   // The application object waits for the pool before it is gone, so that the process never ends
   // under libmpv's threads.
   QThreadPool::globalInstance()->start([destroy = api_->terminateDestroy, handle,
-                                        preload = std::move(preload_), left = undestroyed_,
+                                        preload = std::move(preload_), events = std::move(events_),
+                                        left = undestroyed_,
                                         completion = std::move(completion)]() mutable {
     preload.reset();
+    events.reset();
     destroy(handle.pointer);
     --*left;
     postToMainThread(completion);
@@ -168,17 +169,12 @@ void MpvEngine::readNode(std::string name, NodeAnswer answer) {
   send(MpvPropertyRead{std::move(name), lastReply_, true});
 }
 
-void MpvEngine::answerRead(const mpv_event& reply) {
-  if (const auto node = nodes_.extract(reply.reply_userdata)) {
-    const auto* property = static_cast<const mpv_event_property*>(reply.data);
-    return node.mapped()(reply.error >= 0 && property ? mpvValue(*property) : MpvValue());
-  }
-  const auto read = reads_.extract(reply.reply_userdata);
+void MpvEngine::answerRead(const TakenEvent& reply) {
+  if (const auto node = nodes_.extract(reply.reply)) return node.mapped()(reply.value);
+  const auto read = reads_.extract(reply.reply);
   if (!read) return;
-  const auto* property = static_cast<const mpv_event_property*>(reply.data);
-  const bool hasText = reply.error >= 0 && property && property->format == MPV_FORMAT_OSD_STRING;
-  read.mapped()(hasText ? std::optional<std::string>(*static_cast<char**>(property->data))
-                        : std::nullopt);
+  const auto* text = reply.value.as<std::string>();
+  read.mapped()(text ? std::optional(*text) : std::nullopt);
 }
 
 void MpvEngine::setLogging(bool writes) {
@@ -241,18 +237,37 @@ void MpvEngine::tellRefusals() {
 }
 
 void MpvEngine::drainEvents() {
+  ++draining_;
   tellRefusals();
   while (handle_) {
-    const mpv_event* received = api_->waitEvent(handle_, 0);
-    if (!received || received->event_id == MPV_EVENT_NONE) break;
-    if (isReply(*received)) --unanswered_;
-    if (received->event_id == MPV_EVENT_GET_PROPERTY_REPLY) answerRead(*received);
-    if (received->event_id == MPV_EVENT_COMMAND_REPLY &&
-        tellOutcome(received->reply_userdata, mpvErrorText(*api_, received->error)))
-      continue;
-    if (const auto translated = translateMpvEvent(*api_, *received)) onEvent(*translated);
+    const auto taken = events_->next();
+    if (!taken) break;
+    handle(*taken);
   }
+  --draining_;
   sendWaiting();
+}
+
+void MpvEngine::handle(const TakenEvent& taken) {
+  if (taken.isReply()) --unanswered_;
+  if (taken.id == MPV_EVENT_GET_PROPERTY_REPLY) answerRead(taken);
+  if (taken.id == MPV_EVENT_COMMAND_REPLY &&
+      tellOutcome(taken.reply, mpvErrorText(*api_, taken.error)))
+    return;
+  if (taken.event) onEvent(*taken.event);
+}
+
+void MpvEngine::catchUp() {
+  if (draining_ == 0) drainEvents();
+}
+
+bool MpvEngine::moves() const { return events_ && events_->moves(); }
+
+void MpvEngine::setQuiet(bool quiet) {
+  if (std::exchange(isQuiet_, quiet) == quiet || !events_) return;
+  events_->setQuiet(quiet);
+  // What waits is told at once, and no wakeup has come between.
+  WakeupTarget::wakeup(wakeupTarget_.get());
 }
 
 }  // namespace tromelo

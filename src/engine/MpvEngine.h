@@ -14,14 +14,15 @@
 #include "engine/MpvRequest.h"
 #include "engine/PreloadHook.h"
 
-struct mpv_event;
 struct mpv_handle;
 
 namespace tromelo {
 
 struct MpvClientApi;
 struct MpvOption;
+class MpvEventQueue;
 class WakeupTarget;
+struct TakenEvent;
 
 /// The one playback engine of the process: a libmpv handle, its events and what is sent to it. Main
 /// thread only; nothing here waits for the engine but initialize(). Text is bytes, since paths need
@@ -81,6 +82,13 @@ class MpvEngine {
 
   /// Hands every waiting event to onEvent.
   void drainEvents();
+  /// The same, for who wants to know how things are now; within onEvent nothing.
+  void catchUp();
+  /// Nobody looks at what changes with every frame: it is told when something else is, and by
+  /// catchUp().
+  void setQuiet(bool quiet);
+  /// It is quiet and plays frames; event::FramesStopped comes when it doesn't any more.
+  bool moves() const;
 
  private:
   std::optional<std::string> configure(const QString& diagnosticsDirectory,
@@ -92,13 +100,17 @@ class MpvEngine {
   int trySend(const MpvRequest& request);
   void noteRefusal(const MpvCommand& command, int code);
   void tellRefusals();
-  void answerRead(const mpv_event& reply);
+  void handle(const TakenEvent& taken);
+  void answerRead(const TakenEvent& reply);
   bool tellOutcome(std::uint64_t reply, const std::optional<std::string>& error);
 
   std::shared_ptr<const MpvClientApi> api_;
   mpv_handle* handle_ = nullptr;
   std::shared_ptr<WakeupTarget> wakeupTarget_;
   std::shared_ptr<PreloadHook> preload_;
+  std::shared_ptr<MpvEventQueue> events_;  // while there is a handle
+  bool isQuiet_ = false;
+  int draining_ = 0;  // how deep
   std::shared_ptr<std::atomic<int>> undestroyed_ = std::make_shared<std::atomic<int>>(0);
   std::string logFile_;  // a path's bytes
   // libmpv takes no more requests than it has room for replies, and needs some of it for its

@@ -89,12 +89,18 @@ struct AudioOutputFailed {
   friend bool operator==(AudioOutputFailed, AudioOutputFailed) = default;
 };
 
+/// While the engine is quiet: for half a second no frame has been played, where frames were before.
+struct FramesStopped {
+  friend bool operator==(FramesStopped, FramesStopped) = default;
+};
+
 }  // namespace event
 
 using MpvEvent =
     std::variant<event::Property, event::EndFile, event::CommandFailed, event::FileQueued,
                  event::StartFile, event::FileLoaded, event::PlaybackRestart,
                  event::VideoReconfigured, event::Idle, event::Shutdown, event::HardwareDecodeError,
-                 event::VideoOutputFailed, event::VideoDeviceLost, event::AudioOutputFailed>;
+                 event::VideoOutputFailed, event::VideoDeviceLost, event::AudioOutputFailed,
+                 event::FramesStopped>;
 
 }  // namespace tromelo

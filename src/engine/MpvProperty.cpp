@@ -34,6 +34,11 @@ const char* mpvPropertyName(MpvProperty property) { return row(property).name; }
 
 MpvFormat mpvPropertyFormat(MpvProperty property) { return row(property).format; }
 
+bool changesWithFrames(MpvProperty property) {
+  return property == MpvProperty::timePos || property == MpvProperty::estimatedFps ||
+         property == MpvProperty::decoderDrops || property == MpvProperty::outputDrops;
+}
+
 std::optional<MpvProperty> mpvProperty(std::uint64_t rawValue) {
   if (rawValue < 1 || rawValue > kAll.size()) return {};
   return kAll[rawValue - 1];

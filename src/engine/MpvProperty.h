@@ -77,6 +77,9 @@ std::span<const MpvProperty> allMpvProperties();
 const char* mpvPropertyName(MpvProperty property);
 MpvFormat mpvPropertyFormat(MpvProperty property);
 
+/// It may have another value with every frame that plays.
+bool changesWithFrames(MpvProperty property);
+
 /// None for a number that is no property's.
 std::optional<MpvProperty> mpvProperty(std::uint64_t rawValue);
 

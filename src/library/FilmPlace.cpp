@@ -11,7 +11,7 @@ void FilmPlace::setFilms(FilmMemory* films) {
   if (films_ == films) return;
   if (films_) films_->disconnect(this);
   films_ = films;
-  if (films_) connect(films_, &FilmMemory::changed, this, &FilmPlace::ask);
+  if (films_) connect(films_, &FilmMemory::changed, this, &FilmPlace::askAnew);
   ask();
   Q_EMIT asked();
 }
@@ -23,7 +23,20 @@ void FilmPlace::setFile(const QUrl& file) {
   Q_EMIT asked();
 }
 
+void FilmPlace::setShown(bool shown) {
+  if (std::exchange(isShown_, shown) == shown) return;
+  if (shown && isStale_) ask();
+  Q_EMIT asked();
+}
+
+/// A film that plays is remembered every few seconds.
+void FilmPlace::askAnew() {
+  if (isShown_) return ask();
+  isStale_ = true;
+}
+
 void FilmPlace::ask() {
+  isStale_ = false;
   const std::string path = pathFromFileUrl(file_);
   if (!films_ || path.empty()) return;
   films_->findProgress(path, this, [this, path](const FilmProgress& progress) {

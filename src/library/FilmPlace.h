@@ -17,6 +17,7 @@ class FilmPlace : public QObject {
   QML_ELEMENT
   Q_PROPERTY(tromelo::FilmMemory* films READ films WRITE setFilms NOTIFY asked)
   Q_PROPERTY(QUrl file READ file WRITE setFile NOTIFY asked)
+  Q_PROPERTY(bool shown READ isShown WRITE setShown NOTIFY asked)
   Q_PROPERTY(double seen READ seen NOTIFY changed)
   Q_PROPERTY(QString left READ left NOTIFY changed)
 
@@ -29,6 +30,10 @@ class FilmPlace : public QObject {
   const QUrl& file() const { return file_; }
   void setFile(const QUrl& file);
 
+  /// While it isn't, what becomes of the film is of no interest.
+  bool isShown() const { return isShown_; }
+  void setShown(bool shown);
+
   /// From 0 to 1; 0 where the film begins afresh.
   double seen() const { return seen_; }
   /// For people; empty where the film begins afresh.
@@ -40,10 +45,13 @@ class FilmPlace : public QObject {
 
  private:
   void ask();
+  void askAnew();
   void take(const FilmProgress& progress);
 
   QPointer<FilmMemory> films_;
   QUrl file_;
+  bool isShown_ = true;
+  bool isStale_ = false;
   double seen_ = 0;
   QString left_;
 };

@@ -22,6 +22,7 @@ GlassSurface {
 
         films: card.playback.films
         file: card.playback.lastURL
+        shown: card.Window.visibility !== Window.Hidden
     }
 
     // A fact about a video in one or two words.

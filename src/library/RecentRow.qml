@@ -39,6 +39,7 @@ T.AbstractButton {
 
         films: row.films
         file: row.file
+        shown: row.Window.visibility !== Window.Hidden
     }
 
     HoverTip {

@@ -49,7 +49,10 @@ double MprisPlayer::volume() const { return volumeForDesktop(playback_.volume())
 
 void MprisPlayer::setVolume(double volume) { playback_.setVolume(volumeFromDesktop(volume)); }
 
-qlonglong MprisPlayer::position() const { return microsecondsFrom(playback_.elapsed()); }
+qlonglong MprisPlayer::position() const {
+  playback_.catchUp();
+  return microsecondsFrom(playback_.elapsed());
+}
 
 bool MprisPlayer::canGoNext() const { return playback_.hasNext(); }
 
@@ -84,6 +87,7 @@ void MprisPlayer::Play() { playback_.setPaused(false); }
 void MprisPlayer::Seek(qlonglong Offset) {
   if (!canSeek()) return;
   const double by = secondsFrom(Offset);
+  playback_.catchUp();
   if (playback_.elapsed() + by > playback_.duration()) return Next();
   playback_.seekBy(by);
 }

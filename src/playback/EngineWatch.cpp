@@ -15,6 +15,16 @@ EngineWatch::EngineWatch(Clock& clock, Engine engine) : clock_(clock), engine_(s
 
 void EngineWatch::heard() {
   hasHeard_ = true;
+  if (!rests_ || !engine_.moves()) begin();
+}
+
+void EngineWatch::stopped() {
+  hasHeard_ = false;
+  begin();
+}
+
+void EngineWatch::begin() {
+  rests_ = false;
   if (!next_) next_ = clock_.every(kBetweenLooks, [this] { look(); });
 }
 
@@ -23,6 +33,8 @@ void EngineWatch::look() {
   if (patience.count() == 0) return next_.reset();
   if (std::exchange(hasHeard_, false)) {
     silentLooks_ = 0;
+    rests_ = engine_.moves();
+    if (rests_) next_.reset();
     return;
   }
   if (silentLooks_++ == 0) engine_.ask([this] { answered(); });

@@ -21,20 +21,26 @@ class EngineWatch {
     std::function<void()> hangs;
     /// It has answered, but the film hasn't come further.
     std::function<void()> stands;
+    /// The film moves, and stopped() will be called when it does no more: no need to look.
+    std::function<bool()> moves = [] { return false; };
   };
 
   EngineWatch(Clock& clock, Engine engine);
 
   /// Something was heard of it, such as that the film has come further.
   void heard();
+  /// It moves no more, or whether it does has to be looked at again.
+  void stopped();
 
  private:
+  void begin();
   void look();
   void answered();
 
   Clock& clock_;
   const Engine engine_;
   bool hasHeard_ = false;
+  bool rests_ = false;
   int silentLooks_ = 0;
   std::unique_ptr<Clock::Timer> next_;  // while something should play
 };

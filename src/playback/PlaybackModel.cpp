@@ -104,6 +104,7 @@ PlayerPresenting& PlaybackModel::player() {
 
 void PlaybackModel::setShuttingDown(bool shuttingDown) {
   if (shuttingDown) {
+    catchUp();
     filmKeeper_.keep();
     trial_.ended();
   }

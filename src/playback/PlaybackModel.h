@@ -96,6 +96,12 @@ class PlaybackModel : public PlaybackState {
   double subtitleLift() const { return subtitleLift_; }
   void setSubtitleLift(double percent);
 
+  /// Whether somebody sees where playback is. If not, it is published every few seconds, and with
+  /// everything else that happens.
+  void setPositionShown(bool shown);
+  /// Publishes it, for who is about to ask.
+  void catchUp() { engine_.catchUp(); }
+
   /// A picture plays and isn't paused: neither the screen nor the system is to go to sleep. Seeking
   /// and filling the cache don't interrupt that.
   bool keepsScreenAwake() const {
@@ -301,6 +307,7 @@ class PlaybackModel : public PlaybackState {
   void handle(const event::HardwareDecodeError&);
   void handle(const event::VideoOutputFailed&);
   void handle(const event::VideoDeviceLost&);
+  void handle(const event::FramesStopped&);
   void handle(const event::AudioOutputFailed&);
   void settleFailures();
   void tellOf(const QueueProgress::Failure& failure);

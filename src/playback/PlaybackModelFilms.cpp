@@ -11,6 +11,15 @@ void PlaybackModel::noteMove() {
   lostSound_.filmMoves();
 }
 
+void PlaybackModel::setPositionShown(bool shown) {
+  engine_.setQuiet(!shown);
+  if (shown && isLoaded_) watch_.stopped();
+}
+
+void PlaybackModel::handle(const event::FramesStopped&) {
+  if (isLoaded_) watch_.stopped();
+}
+
 void PlaybackModel::startOver() { seekTo(0); }
 
 void PlaybackModel::setPrivate(bool isPrivate) {

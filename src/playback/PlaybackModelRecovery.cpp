@@ -19,6 +19,7 @@ constexpr std::chrono::seconds kOpening(15);  // the graphics driver may be at w
 EngineWatch::Engine PlaybackModel::watchedEngine() {
   return {.patience =
               [this] {
+                engine_.catchUp();
                 if (isShuttingDown_ || !engine_.hasHandle()) return std::chrono::seconds(0);
                 if (isOpening_) return kOpening;
                 const bool plays = isLoaded_ && !isPaused_ && !isAtEnd_ && facts_.hasPicture();
@@ -30,7 +31,8 @@ EngineWatch::Engine PlaybackModel::watchedEngine() {
                 engine_.readProperty("display-width", [answered](const auto&) { answered(); });
               },
           .hangs = [this] { recover(); },
-          .stands = [this] { lostSound_.filmStands(); }};
+          .stands = [this] { lostSound_.filmStands(); },
+          .moves = [this] { return engine_.moves(); }};
 }
 
 void PlaybackModel::handle(const event::VideoDeviceLost&) { recover(); }

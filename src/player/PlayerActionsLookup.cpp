@@ -40,7 +40,9 @@ const PlayerActions::Action* PlayerActions::find(const KeyPress& press) {
 
 QString PlayerActions::perform(const Action& action, bool isRepeat, PlayerWindowController& player,
                                PlaybackModel& playback) {
-  return isRepeat && !repeats(action.held, playback) ? QString() : action.act(player, playback);
+  if (isRepeat && !repeats(action.held, playback)) return {};
+  playback.catchUp();
+  return action.act(player, playback);
 }
 
 QKeySequence PlayerActions::programKey(Program command) {

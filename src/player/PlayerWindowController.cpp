@@ -97,6 +97,7 @@ void PlayerWindowController::installOverlay(VideoWindow& window) {
   chromeVisible_ = true;
   overlay_->setChromeVisible(true, false);
   updateSubtitleLift();
+  updatePositionShown();
 }
 
 void PlayerWindowController::observe(VideoWindow& window) {

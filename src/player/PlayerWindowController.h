@@ -129,6 +129,7 @@ class PlayerWindowController : public QObject, public PlayerPresenting {
   void setInfoRefresh(bool shown);
   void updateDisplay();
   void updateSubtitleLift();
+  void updatePositionShown();
 
   PlaybackModel& playback_;
   WindowSystem& windows_;

@@ -37,6 +37,7 @@ void PlayerWindowController::followState() {
     // There is room for a menu only.
     if (chrome_.panel() && chrome_.panel() != PlayerPanel::menu) leaveMini();
     if (window_) chrome_.panel() ? showChrome() : scheduleChromeHide();
+    updatePositionShown();
   });
   connect(&chrome_, &PlayerChrome::isMiniChanged, this, [this] { updateSubtitleLift(); });
   connect(&playback_, &PlaybackModel::hasPlacesChanged, this, [this] {
@@ -50,6 +51,7 @@ void PlayerWindowController::followState() {
   connect(&chrome_, &PlayerChrome::showsInfoChanged, this, [this] {
     if (chrome_.showsInfo()) leaveMini();
     setInfoRefresh(chrome_.showsInfo());
+    updatePositionShown();
   });
   connect(
       &playback_.settings(), &PlayerSettings::autoHideDelayChanged, this,
@@ -64,6 +66,7 @@ void PlayerWindowController::showChrome() {
   chromeVisible_ = true;
   if (overlay_) overlay_->setChromeVisible(true, true);
   updateSubtitleLift();
+  updatePositionShown();
 }
 
 void PlayerWindowController::hideChrome() {
@@ -71,7 +74,12 @@ void PlayerWindowController::hideChrome() {
   chromeVisible_ = false;
   if (overlay_) overlay_->setChromeVisible(false, true);
   updateSubtitleLift();
+  updatePositionShown();
   window_->hidePointer();
+}
+
+void PlayerWindowController::updatePositionShown() {
+  playback_.setPositionShown(chromeVisible_ || chrome_.panel() || chrome_.showsInfo());
 }
 
 void PlayerWindowController::toggleChrome() {

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <thread>
+#include <utility>
 
 #include "engine/MpvEngine.h"
 #include "engine/WakeupTarget.h"
@@ -47,6 +49,46 @@ TEST_F(EngineEvents, AnEventThatComesJustAfterTheLastWasTakenIsNotLost) {
   mpv.queue(MPV_EVENT_START_FILE);
   mpv.wake();
   EXPECT_TRUE(waitFor([this] { return received.size() == 2; }));
+}
+
+TEST_F(EngineEvents, InQuietWhatChangesWithEveryFrameComesWithTheRest) {
+  std::array seconds{1.0, 2.0, 3.0, 4.0};
+  std::array<mpv_event_property, 4> changes{};
+  const auto moveTo = [&](std::size_t index) {
+    changes[index] = {"time-pos", MPV_FORMAT_DOUBLE, &seconds[index]};
+    mpv.queue(MPV_EVENT_PROPERTY_CHANGE, &changes[index], std::uint64_t(MpvProperty::timePos));
+  };
+  const auto hears = [&](const std::vector<MpvEvent>& expected) {
+    const bool came = waitFor([&] { return received.size() >= expected.size(); });
+    return came && std::exchange(received, {}) == expected;
+  };
+  const auto at = [&](std::size_t index) {
+    return MpvEvent(event::Property{MpvProperty::timePos, seconds[index]});
+  };
+  int stops = 0;
+  engine->onEvent = [&, hear = engine->onEvent](const MpvEvent& event) {
+    event == MpvEvent(event::FramesStopped{}) ? void(++stops) : hear(event);
+  };
+  engine->setQuiet(true);
+  moveTo(0);
+  moveTo(1);
+  mpv.queue(MPV_EVENT_PLAYBACK_RESTART);
+  mpv.wake();
+  EXPECT_TRUE(hears({at(1), event::PlaybackRestart{}}));
+  moveTo(2);  // where it has jumped to
+  mpv.wake();
+  EXPECT_TRUE(hears({at(2)}));
+  moveTo(3);
+  mpv.wake();
+  EXPECT_TRUE(waitFor([&] {
+    engine->catchUp();
+    return !received.empty();
+  }));
+  EXPECT_TRUE(hears({at(3)}));
+  EXPECT_TRUE(waitFor([&] { return stops > 0; }));
+  moveTo(0);
+  engine->setQuiet(false);
+  EXPECT_TRUE(hears({at(0)}));
 }
 
 TEST_F(EngineEvents, NothingArrivesOnceTheHandlerHasEndedTheEngine) {

@@ -1,6 +1,7 @@
 #include <QDropEvent>
 #include <QJsonArray>
 #include <QMimeData>
+#include <QSignalSpy>
 #include <semaphore>
 
 #include "films/FilmMemory.h"
@@ -308,6 +309,13 @@ TEST_F(LibraryViewTest, ShowsHowFarOneWasInAFilmUntilItIsRemoved) {
   };
   ASSERT_TRUE(waitFor([&] { return left() == QStringList{"1 h 18 min left"}; }));
   EXPECT_GT(rows()[1]->height(), rows()[0]->height());
+  QQuickWindow* const window = rows()[0]->window();
+  window->hide();
+  memory.remember({"1f-aa", 7200}, {.position = 3600}, "/films/b.mkv");
+  QSignalSpy remembered(&memory, &FilmMemory::changed);
+  ASSERT_TRUE(waitFor([&] { return !remembered.isEmpty(); }));
+  window->show();
+  EXPECT_TRUE(waitFor([&] { return left() == QStringList{"1 h left"}; }));
 
   model.removeRecent(QUrl("file:///films/b.mkv"));
   bool isForgotten = false;

@@ -102,4 +102,29 @@ TEST_F(EngineHang, AnEngineThatAnswersOrNeedntMoveIsLeftAlone) {
   EXPECT_EQ(mpv_.created, 1);
 }
 
+TEST(EngineWatchTest, RestsWhileItIsKnownThatTheFilmMoves) {
+  ManualClock clock;
+  bool moves = true;
+  int looks = 0;
+  int hangs = 0;
+  EngineWatch watch(clock, {.patience =
+                                [&] {
+                                  ++looks;
+                                  return 5s;
+                                },
+                            .ask = [](const auto&) {},
+                            .hangs = [&] { ++hangs; },
+                            .stands = [] {},
+                            .moves = [&] { return moves; }});
+  for (int i = 0; i < 3; ++i) {
+    watch.heard();
+    clock.advance(60s);
+  }
+  EXPECT_EQ(looks, 1);
+  moves = false;
+  watch.stopped();
+  clock.advance(10s);
+  EXPECT_EQ(hangs, 1);
+}
+
 }  // namespace tromelo::testing

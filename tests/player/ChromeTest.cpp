@@ -3,6 +3,7 @@
 #include "PlayerTest.h"
 #include "engine/MpvValue.h"
 #include "support/Table.h"
+#include "support/WaitFor.h"
 
 namespace tromelo::testing {
 
@@ -48,6 +49,21 @@ TEST_F(ChromeTest, HidesTheControlsAfterTheDelayAndShowsThemOnActivity) {
   EXPECT_TRUE(shown());
   clock_.advance(2000ms);
   EXPECT_FALSE(shown());
+}
+
+TEST_F(ChromeTest, ThePositionIsFollowedWhereverItIsShown) {
+  double seconds = 0;
+  mpv_event_property change{"time-pos", MPV_FORMAT_DOUBLE, &seconds};
+  for (const std::function<void()>& show :
+       {std::function<void()>([&] { window_.overlay->onActivity(); }),
+        {[&] { chrome().setShowsInfo(true); }}}) {
+    hide();
+    show();
+    seconds += 10;
+    mpv_.queue(MPV_EVENT_PROPERTY_CHANGE, &change, std::uint64_t(MpvProperty::timePos));
+    mpv_.wake();
+    EXPECT_TRUE(waitFor([&] { return playback_.elapsed() == seconds; }));
+  }
 }
 
 TEST_F(ChromeTest, KeepsTheControlsWhileTheyAreNeeded) {

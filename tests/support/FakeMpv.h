@@ -15,7 +15,8 @@
 namespace tromelo::testing {
 
 /// A libmpv that plays nothing: it does as a test says and remembers what it was told. Outlives
-/// the engines that use it. terminateDestroy may come on another thread, as may wake().
+/// the engines that use it. terminateDestroy may come on another thread, as may wake() and events
+/// be taken.
 struct FakeMpv {
   MpvClientApi api() {
     return {
@@ -49,6 +50,7 @@ struct FakeMpv {
             },
         .waitEvent =
             [this](mpv_handle*, double) {
+              const std::scoped_lock lock(eventsMutex_);
               taken_ = {};
               if (!events_.empty()) {
                 taken_ = events_.front();
@@ -104,6 +106,7 @@ struct FakeMpv {
 
   /// Waits to be taken by the engine. `data` must live until then.
   void queue(mpv_event_id id, void* data = nullptr, std::uint64_t reply = 0, int error = 0) {
+    const std::scoped_lock lock(eventsMutex_);
     events_.push_back({id, error, reply, data});
   }
   std::size_t queuedEvents() const { return events_.size(); }
@@ -122,6 +125,7 @@ struct FakeMpv {
     return 0;
   }
 
+  std::mutex eventsMutex_;
   std::deque<mpv_event> events_;
   mpv_event taken_{};
   std::mutex callbackMutex_;
