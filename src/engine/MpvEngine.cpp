@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "engine/EngineEnvironment.h"
+#include "engine/EngineLog.h"
 #include "engine/MpvClientApi.h"
 #include "engine/MpvEventQueue.h"
 #include "engine/MpvOptions.h"
@@ -74,6 +75,7 @@ std::optional<std::string> MpvEngine::initialize(const QString& diagnosticsDirec
   }
   observe();
   if (prepareFile) preload_ = std::make_shared<PreloadHook>(api_, handle_, prepareFile);
+  log_ = std::make_shared<EngineLog>(api_, handle_, logFile_);
   // An engine before this one, which may hang, ends when it likes.
   wakeupTarget_ = std::make_shared<WakeupTarget>();
   events_ = std::make_shared<MpvEventQueue>(api_, handle_, wakeupTarget_);
@@ -132,10 +134,11 @@ void MpvEngine::terminate(std::function<void()> completion) {
   // The application object waits for the pool before it is gone, so that the process never ends
   // under libmpv's threads.
   QThreadPool::globalInstance()->start([destroy = api_->terminateDestroy, handle,
-                                        preload = std::move(preload_), events = std::move(events_),
-                                        left = undestroyed_,
+                                        preload = std::move(preload_), log = std::move(log_),
+                                        events = std::move(events_), left = undestroyed_,
                                         completion = std::move(completion)]() mutable {
     preload.reset();
+    log.reset();
     events.reset();
     destroy(handle.pointer);
     --*left;
@@ -178,7 +181,9 @@ void MpvEngine::answerRead(const TakenEvent& reply) {
 }
 
 void MpvEngine::setLogging(bool writes) {
-  setProperty("log-file", writes ? logFile_ : std::string());
+  if (log_) log_->setWriting(writes);
+  // It may not have taken the engine's place yet.
+  if (!writes) setProperty("log-file", "");
 }
 
 std::string MpvEngine::clientApiVersion() const {

@@ -20,6 +20,7 @@ namespace tromelo {
 
 struct MpvClientApi;
 struct MpvOption;
+class EngineLog;
 class MpvEventQueue;
 class WakeupTarget;
 struct TakenEvent;
@@ -108,6 +109,7 @@ class MpvEngine {
   mpv_handle* handle_ = nullptr;
   std::shared_ptr<WakeupTarget> wakeupTarget_;
   std::shared_ptr<PreloadHook> preload_;
+  std::shared_ptr<EngineLog> log_;
   std::shared_ptr<MpvEventQueue> events_;  // while there is a handle
   bool isQuiet_ = false;
   int draining_ = 0;  // how deep

@@ -1,18 +1,16 @@
 #pragma once
 
-#include <atomic>
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
-#include <thread>
 #include <variant>
 #include <vector>
 
 #include "engine/MpvRequest.h"
+#include "engine/SecondClient.h"
 
 struct mpv_event_hook;
-struct mpv_handle;
 
 namespace tromelo {
 
@@ -38,13 +36,8 @@ class PreloadHook {
 
   /// Does nothing where the engine has no room for another client.
   PreloadHook(std::shared_ptr<const MpvClientApi> api, mpv_handle* engine, Prepare prepare);
-  /// Before the engine is destroyed, which would wait for it. Waits for Prepare.
-  ~PreloadHook();
-  PreloadHook(const PreloadHook&) = delete;
-  PreloadHook& operator=(const PreloadHook&) = delete;
 
  private:
-  void run();
   void answer(const mpv_event_hook& hook);
   OpenedFile openedFile() const;
   std::string text(const char* name) const;
@@ -54,9 +47,7 @@ class PreloadHook {
 
   const std::shared_ptr<const MpvClientApi> api_;
   const Prepare prepare_;
-  mpv_handle* const client_;
-  std::atomic<bool> ends_ = false;
-  std::thread thread_;  // the last to be made
+  SecondClient client_;  // the last to be made; waits for Prepare when it goes
 };
 
 }  // namespace tromelo

@@ -19,8 +19,8 @@ constexpr milliseconds kFirstPause = seconds(1);
 constexpr milliseconds kLongestPause = seconds(16);
 constexpr milliseconds kBetweenLooks = seconds(2);
 
-// libmpv 0.40 reads a film a second ahead, and where it is asked for sound after it has read all, it
-// may wait for that sound for ever: no end comes, or it says that it buffers.
+// libmpv 0.40 reads a film a second ahead, and where it is asked for sound after it has read all,
+// it may wait for that sound for ever: no end comes, or it says that it buffers.
 constexpr double kLeastRest = 2;  // seconds
 
 template <typename T>

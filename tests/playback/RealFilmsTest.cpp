@@ -240,9 +240,15 @@ TEST_F(RealFilms, AFilmInPrivateLeavesNoTrace) {
   ASSERT_TRUE(session_->plays(film_));
   session_->model_.seekTo(200);
   ASSERT_TRUE(session_->comesTo(200));
+  const auto isInLog = [this] {
+    return readFile(directory_.filePath("state/mpv.log"))
+        .contains(film_.filename().string().c_str());
+  };
+  EXPECT_FALSE(isInLog());
   restart();
   ASSERT_TRUE(session_->plays(film_));
   EXPECT_FALSE(session_->resumedAt_);
+  EXPECT_TRUE(waitFor(isInLog));
 }
 
 }  // namespace tromelo::testing

@@ -1,5 +1,6 @@
 #include "RealPlayback.h"
 #include "playback/EngineErrors.h"
+#include "support/Files.h"
 #include "support/Table.h"
 
 namespace tromelo::testing {
@@ -27,7 +28,14 @@ TEST_F(RealPlayback, OpensShowsAndPlays) {
   EXPECT_TRUE(shows("lastURL", clip("sample.mp4")));
   EXPECT_TRUE(waitFor([this] { return std::abs(model_.duration() - 10) < 0.1; }));
   EXPECT_TRUE(player_.calls.contains("reveal"));
-  EXPECT_TRUE(QFile::exists(directory_.filePath("diagnostics/mpv.log")));
+  EXPECT_TRUE(waitFor([this] {
+    return readFile(directory_.filePath("diagnostics/mpv.log"))
+        .contains("playback restart complete");
+  }));
+  std::optional<std::string> ownLog;
+  model_.engine().readProperty("log-file", [&](const auto& answer) { ownLog = answer; });
+  EXPECT_TRUE(waitFor([&] { return ownLog.has_value(); }));
+  EXPECT_EQ(ownLog, "");
 }
 
 TEST_F(RealPlayback, PausesSeeksAndScrubs) {
