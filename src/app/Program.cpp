@@ -14,6 +14,7 @@
 #include "display/EglDevice.h"
 #include "display/VideoSinkKind.h"
 #include "display/VulkanDevices.h"
+#include "engine/FoundSoundDevices.h"
 #include "engine/MpvClientApi.h"
 #include "glass/Glass.h"
 #include "library/LibraryWindow.h"
@@ -184,6 +185,7 @@ void Program::makeDelegate() {
         .picturesFolder = QFile::encodeName(userPicturesDirectory()).toStdString(),
         .copyPicture = &putOntoClipboard,
         .pictureMaker = pictureMaker(),
+        .findSoundDevices = [] { return findSoundDevices(MpvClientApi::libmpv()); },
         .films = &films_,
         .lineReader = {.file = QCoreApplication::applicationFilePath(),
                        .arguments = {QString::fromLatin1(kLinesOption)}},

@@ -33,12 +33,8 @@ std::optional<T> held(const MpvValue& value) {
 }  // namespace
 
 LostSound::LostSound(Clock& clock, MpvEngine& engine, SoundDevices& devices,
-                     FindDevices findDevices, std::function<void()> tell)
-    : clock_(clock),
-      engine_(engine),
-      soundDevices_(devices),
-      findDevices_(std::move(findDevices)),
-      tell_(std::move(tell)) {}
+                     std::function<void()> tell)
+    : clock_(clock), engine_(engine), soundDevices_(devices), tell_(std::move(tell)) {}
 
 void LostSound::filmStands() {
   if (!silent_.empty()) return;
@@ -66,17 +62,11 @@ void LostSound::goOnSilently(const std::string& driver) {
 }
 
 void LostSound::lookForDevice() {
-  looks_.run(findDevices_, [this](const MpvValue& list) { takeDevices(list); });
-}
-
-void LostSound::takeDevices(const MpvValue& list) {
-  if (silent_.empty()) return;  // the file has ended meanwhile
-  const auto isOfDriver = [prefix = silent_ + '/'](const MpvMap* entry) {
-    const auto* name = mpvEntry<std::string>(*entry, "name");
-    return name && name->starts_with(prefix);
-  };
-  if (std::ranges::any_of(list.list(), isOfDriver)) return soundOn();
-  next_ = clock_.after(kBetweenLooks, [this] { lookForDevice(); });
+  soundDevices_.refresh([this] {
+    if (silent_.empty()) return;  // the file has ended meanwhile
+    if (soundDevices_.hasOneOf(silent_)) return soundOn();
+    next_ = clock_.after(kBetweenLooks, [this] { lookForDevice(); });
+  });
 }
 
 void LostSound::soundOn() {
@@ -110,7 +100,6 @@ void LostSound::fileEnded() {
   standsAt_.reset();
   pause_ = milliseconds(0);
   next_.reset();
-  looks_.drop();
   soundOn();
 }
 

@@ -8,7 +8,6 @@
 #include <string>
 
 #include "engine/MpvValue.h"
-#include "platform/Background.h"
 #include "platform/Clock.h"
 
 namespace tromelo {
@@ -19,12 +18,8 @@ class SoundDevices;
 /// Keeps a film going whose sound has nowhere to go, and brings its sound back. Main thread only.
 class LostSound {
  public:
-  /// Finds out where sound can go now, on any thread; may still run when this object is gone.
-  using FindDevices = std::function<MpvValue()>;
-
   /// `tell` is called where a film goes on without sound. All outlive it.
-  LostSound(Clock& clock, MpvEngine& engine, SoundDevices& devices, FindDevices findDevices,
-            std::function<void()> tell);
+  LostSound(Clock& clock, MpvEngine& engine, SoundDevices& devices, std::function<void()> tell);
 
   /// The film stands still although the engine answers. That is so where the sound server has no
   /// device: it takes no sound, and the picture waits for the sound.
@@ -47,21 +42,18 @@ class LostSound {
   void takeSoundTime(const MpvValue& time);
   void goOnSilently(const std::string& driver);
   void lookForDevice();
-  void takeDevices(const MpvValue& list);
   void soundOn();
   void tryLater(std::function<void()> attempt);
 
   Clock& clock_;
   MpvEngine& engine_;
   SoundDevices& soundDevices_;
-  const FindDevices findDevices_;
   const std::function<void()> tell_;
   std::int64_t track_ = kFirstTrack;
   std::optional<double> standsAt_;  // seconds of the sound, when it was last looked at
   std::string silent_;              // the driver that took no sound; empty: the engine plays to one
   std::chrono::milliseconds pause_{0};
   std::unique_ptr<Clock::Timer> next_;
-  Background looks_;
 };
 
 }  // namespace tromelo

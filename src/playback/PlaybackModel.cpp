@@ -7,7 +7,6 @@
 #include <cmath>
 #include <utility>
 
-#include "engine/FoundSoundDevices.h"
 #include "engine/MpvClientApi.h"
 #include "platform/FilePath.h"
 #include "platform/NumberText.h"
@@ -42,6 +41,7 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       engineFault_(parts.engineFault),
       engine_(parts.api),
       settings_(parts.defaults),
+      soundDevices_(engine_, settings_, std::move(parts.findSoundDevices)),
       screenshots_(engine_, parts.picturesFolder),
       copyPicture_(std::move(parts.copyPicture)),
       marks_(parts.films),
@@ -50,9 +50,7 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       trial_(parts.diagnosticsDirectory + QStringLiteral("/decoding"),
              [this](bool isNew) { takeFall(isNew); }),
       watch_(parts.clock, watchedEngine()),
-      lostSound_(
-          parts.clock, engine_, soundDevices_, [api = parts.api] { return findSoundDevices(api); },
-          [this] { noSound(); }),
+      lostSound_(parts.clock, engine_, soundDevices_, [this] { noSound(); }),
       adjustments_(parts.defaults),
       barsFinder_(std::move(parts.pictureMaker), parts.clock),
       shuffle_([](qsizetype end) { return QRandomGenerator::global()->bounded(end); }),

@@ -76,6 +76,7 @@ class PlaybackModel : public PlaybackState {
     std::function<void(const QByteArray& png)> copyPicture = [](const QByteArray&) {};
     /// Of pictures of films, which are looked at for black bars.
     HelperProcess::Program pictureMaker = {};
+    SoundDevices::Find findSoundDevices = [] { return MpvValue(); };
     FilmMemory* films = nullptr;             // none: no film is remembered
     HelperProcess::Program lineReader = {};  // reads the lines of subtitles
     QString engineFault = {};  // a sentence: why the engine can't be started; empty: it can
@@ -372,7 +373,7 @@ class PlaybackModel : public PlaybackState {
   const QString engineFault_;
   MpvEngine engine_;
   PlayerSettings settings_;
-  SoundDevices soundDevices_{engine_, settings_};
+  SoundDevices soundDevices_;
   Screenshots screenshots_;
   std::function<void(const QByteArray&)> copyPicture_;
   Bookmarks marks_;

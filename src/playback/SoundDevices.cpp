@@ -16,8 +16,8 @@ const QString kDesktops = QStringLiteral("auto");
 
 }  // namespace
 
-SoundDevices::SoundDevices(MpvEngine& engine, PlayerSettings& settings)
-    : engine_(engine), settings_(settings) {
+SoundDevices::SoundDevices(MpvEngine& engine, PlayerSettings& settings, Find find)
+    : engine_(engine), settings_(settings), find_(std::move(find)) {
   connect(&settings, &PlayerSettings::changed, this, [this] {
     isElsewhere_ = false;  // the engine is told of all settings again
     Q_EMIT changed();
@@ -27,7 +27,20 @@ SoundDevices::SoundDevices(MpvEngine& engine, PlayerSettings& settings)
 QString SoundDevices::wanted() const { return settings_.audioDevice(); }
 
 void SoundDevices::refresh() {
-  engine_.readNode("audio-device-list", [this](const MpvValue& list) { take(list); });
+  refresh([] {});
+}
+
+void SoundDevices::refresh(std::function<void()> refreshed) {
+  looks_.run(find_, [this, refreshed = std::move(refreshed)](const MpvValue& list) {
+    take(list);
+    refreshed();
+  });
+}
+
+bool SoundDevices::hasOneOf(const std::string& driver) const {
+  const QString prefix = QString::fromStdString(driver) + u'/';
+  return std::ranges::any_of(devices_,
+                             [&](const Device& device) { return device.name.startsWith(prefix); });
 }
 
 void SoundDevices::take(const MpvValue& list) {

@@ -41,7 +41,7 @@ struct SettingsWindowTest : ::testing::Test, protected Home, protected ViewDrive
 
   PlayerSettings settings_{defaults_};
   MpvEngine mpv_{MpvClientApi::libmpv()};
-  SoundDevices devices_{mpv_, settings_};
+  SoundDevices devices_{mpv_, settings_, [] { return MpvValue(); }};
   FilmMemory films_{directory_.filePath("films.sqlite"),
                     [](const QString& told) { ADD_FAILURE() << told.toStdString(); }};
   QQmlEngine engine_;
