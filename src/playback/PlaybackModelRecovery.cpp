@@ -19,7 +19,7 @@ constexpr std::chrono::seconds kOpening(15);  // the graphics driver may be at w
 EngineWatch::Engine PlaybackModel::watchedEngine() {
   return {.patience =
               [this] {
-                engine_.catchUp();
+                engine_.catchUp();  // what it has told already may wait
                 if (isShuttingDown_ || !engine_.hasHandle()) return std::chrono::seconds(0);
                 if (isOpening_) return kOpening;
                 const bool plays = isLoaded_ && !isPaused_ && !isAtEnd_ && facts_.hasPicture();
