@@ -61,14 +61,34 @@ Item {
     }
 
     ShaderEffect {
+        id: blur
+
+        readonly property size paneSize: Qt.size(pane.width, pane.height)
+        readonly property real reach: Theme.glassReach
+        readonly property ShaderEffectSource behind: capture
+
+        anchors.fill: parent
+        visible: false
+        fragmentShader: "blur.frag.qsb"
+        supportsAtlasTextures: false
+    }
+
+    ShaderEffectSource {
+        id: blurred
+        visible: false
+        sourceItem: blur
+        textureSize: Qt.size(Math.ceil(pane.width * Theme.glassDetail), Math.ceil(pane.height * Theme.glassDetail))
+        smooth: true
+    }
+
+    ShaderEffect {
         readonly property size paneSize: Qt.size(pane.width, pane.height)
         readonly property real corner: Math.min(pane.radius, pane.height / 2, pane.width / 2)
-        readonly property real reach: Theme.glassReach
         readonly property real light: pane.light
         readonly property real blurs: pane.backdrop ? 1 : 0
         readonly property color tint: Theme.glassTint
         readonly property real lightCover: Theme.glassLightCover
-        readonly property ShaderEffectSource behind: capture
+        readonly property ShaderEffectSource behind: blurred
 
         anchors.fill: parent
         fragmentShader: "glass.frag.qsb"

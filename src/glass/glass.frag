@@ -7,7 +7,6 @@ layout(std140, binding = 0) uniform buf {
     mat4 qt_Matrix;
     float qt_Opacity;
     float corner;  // points
-    float reach;   // points of `behind` on each side of the pane
     float light;   // 0 at rest
     float blurs;   // 0: nothing is behind
     float lightCover; // and where it is white
@@ -15,31 +14,16 @@ layout(std140, binding = 0) uniform buf {
     vec4 tint;     // its alpha is how much of what is behind it covers, where that is dark
 };
 
-layout(binding = 1) uniform sampler2D behind;
+layout(binding = 1) uniform sampler2D behind; // blurred
 
 const float edgeWidth = 1.0; // points of light at the rim
 const float lensWidth = 14.0; // points along the rim in which the glass bends what is behind
 const float lensPull = 9.0;
-const int taps = 16;
-const float goldenAngle = 2.39996323;
 
 // Distance to the outline, negative inside.
 float outline(vec2 p) {
     vec2 q = abs(p - 0.5 * paneSize) - 0.5 * paneSize + corner;
     return length(max(q, 0.0)) + min(max(q.x, q.y), 0.0) - corner;
-}
-
-vec3 blurred(vec2 p) {
-    // A disc of taps on a small, smoothed picture: wide, and without the stripes of a grid.
-    vec2 whole = paneSize + 2.0 * reach;
-    vec3 sum = vec3(0.0);
-    for (int i = 0; i < taps; ++i) {
-        float distance = sqrt((float(i) + 0.5) / float(taps)) * reach * 0.9;
-        float angle = float(i) * goldenAngle;
-        vec2 at = (p + reach + distance * vec2(cos(angle), sin(angle))) / whole;
-        sum += textureLod(behind, clamp(at, 0.002, 0.998), 2.0).rgb;
-    }
-    return sum / float(taps);
 }
 
 void main() {
@@ -56,7 +40,7 @@ void main() {
     vec2 outward = vec2(outline(p + vec2(0.5, 0.0)) - outline(p - vec2(0.5, 0.0)),
                         outline(p + vec2(0.0, 0.5)) - outline(p - vec2(0.0, 0.5)));
     float bend = smoothstep(-lensWidth, 0.0, d);
-    vec3 picture = blurs > 0.5 ? blurred(p - outward * bend * bend * lensPull) : vec3(0.0);
+    vec3 picture = blurs > 0.5 ? texture(behind, (p - outward * bend * bend * lensPull) / paneSize).rgb : vec3(0.0);
     float opacity = blurs > 0.5 ? 1.0 : tint.a;
 
     // Text on it is white: the lighter the picture, the less of it comes through.
