@@ -24,7 +24,9 @@ std::string named(const char* what, const char* film, bool waits) {
 }  // namespace
 
 RandomUse::RandomUse(RunningPlayer& player, SoundServer& sound, unsigned seed)
-    : player_(player), sound_(sound), engine_(player.ipcPath()), random_(seed) {}
+    : player_(player), sound_(sound), engine_(player.ipcPath()), random_(seed) {
+  engine_.mayBeReplaced = true;
+}
 
 int RandomUse::below(int limit) { return int(random_() % unsigned(limit)); }
 

@@ -36,6 +36,8 @@ class RandomUse {
     std::optional<ProcessUse> use = {};                     // at rest, in the library
   };
   Step step();
+  /// How often the program has replaced the engine.
+  int replaced() const { return engine_.replaced; }
 
   Step openAndWait();
   Step close();

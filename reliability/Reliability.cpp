@@ -104,6 +104,7 @@ TEST_F(Reliability, HoldsUnderRandomUse) {
     if (step.use && i >= kSettling) uses.push_back(*step.use);
   }
   std::cout << i << " steps in " << minutes() << " minutes\n";
+  std::cout << "Engines that hung and were replaced: " << use.replaced() << '\n';
   std::cout << "Longest way to the library: " << longest.count() << " ms\n";
   tellGaps();
   if (const QString picture = qEnvironmentVariable("TROMELO_CURVE"); !picture.isEmpty())
