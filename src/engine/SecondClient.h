@@ -15,7 +15,8 @@ struct MpvClientApi;
 /// Another client of the engine, with a thread on which it may wait for it.
 class SecondClient {
  public:
-  /// Has no handle, and never runs, where the engine has no room for another client.
+  /// Has no handle, and never runs, where the engine has no room for another client. `name` is a
+  /// literal.
   SecondClient(std::shared_ptr<const MpvClientApi> api, mpv_handle* engine, const char* name);
   /// Before the engine is destroyed, which would wait for it. Waits for the thread. Any thread.
   ~SecondClient();
@@ -31,6 +32,7 @@ class SecondClient {
 
  private:
   const std::shared_ptr<const MpvClientApi> api_;
+  const char* const name_;  // also the thread's
   mpv_handle* const handle_;
   std::atomic<bool> ends_ = false;
   std::thread thread_;
