@@ -108,7 +108,8 @@ TEST_F(RealFolder, GoesOnWithTheNextVideoWhereThatIsWanted) {
   model_.settings().setGoesOnInFolder(true);
   model_.open(film("Film 2.mp4"));
   ASSERT_TRUE(waitFor([this] { return model_.title() == "Film 11" && model_.isPaused(); }));
-  EXPECT_EQ(titles(), QStringList({"Film 2", "Film 10", "Film 11"}));
+  EXPECT_TRUE(waitFor([this] { return titles() == QStringList({"Film 2", "Film 10", "Film 11"}); }))
+      << titles().join(' ').toStdString();
 }
 
 TEST_F(RealFolder, AddsWhatFollowsAndIsNotThereYet) {
