@@ -89,13 +89,15 @@ void LostSound::tryLater(std::function<void()> attempt) {
 
 /// The engine takes "auto" for the choice that it has made already.
 void LostSound::tryAgain() {
-  engine_.readNode("time-remaining", [this](const MpvValue& rest) {
+  engine_.readNode("time-remaining", [this, entry = entry_](const MpvValue& rest) {
+    if (entry != entry_) return;  // that file has ended meanwhile, the track is its own
     if (held<double>(rest).value_or(0) >= kLeastRest)
       engine_.setProperty("file-local-options/aid", std::to_string(track_));
   });
 }
 
 void LostSound::fileEnded() {
+  entry_ = 0;
   track_ = kFirstTrack;
   standsAt_.reset();
   pause_ = milliseconds(0);

@@ -26,6 +26,8 @@ class LostSound {
   void filmStands();
   void filmMoves() { standsAt_.reset(); }
 
+  /// `entry` is the engine's number for the file.
+  void started(std::int64_t entry) { entry_ = entry; }
   /// The engine plays this track, its number for it.
   void plays(std::int64_t track) { track_ = track; }
   /// The engine couldn't open any device; it is asked again a few times.
@@ -49,6 +51,7 @@ class LostSound {
   MpvEngine& engine_;
   SoundDevices& soundDevices_;
   const std::function<void()> tell_;
+  std::int64_t entry_ = 0;  // 0: between files
   std::int64_t track_ = kFirstTrack;
   std::optional<double> standsAt_;  // seconds of the sound, when it was last looked at
   std::string silent_;              // the driver that took no sound; empty: the engine plays to one

@@ -40,6 +40,7 @@ void PlaybackModel::handle(const event::StartFile& start) {
   entry_ = start.entry;
   filmKeeper_.started(entry_);
   trial_.started(entry_);
+  lostSound_.started(entry_);
   adjustments_.fileStarted();
   tellChanges();
   barsFinder_.stop();
