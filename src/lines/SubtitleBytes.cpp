@@ -4,9 +4,7 @@
 #include <iconv.h>
 
 #include <QUtf8StringView>
-#include <algorithm>
-#include <cstring>
-#include <iterator>
+#include <cerrno>
 
 namespace tromelo {
 
@@ -51,21 +49,25 @@ class Conversion {
     char* from = text.data();
     auto left = static_cast<size_t>(text.size());
     while (left > 0) {
-      char piece[4096];
-      char* to = piece;
-      size_t room = sizeof piece;
-      const bool isDone = iconv(handle_, &from, &left, &to, &room) != size_t(-1);
-      read.append(piece, to - piece);
-      if (isDone || room < sizeof piece / 2) continue;
-      // It stopped at a byte, and not for want of room.
+      if (read += take(&from, &left); left == 0 || errno == E2BIG) continue;
       read += '?';
       ++from;
       --left;
     }
-    return read;
+    // Some keep a letter back, since its accent may follow.
+    return read + take(nullptr, nullptr);
   }
 
  private:
+  /// As much as there is room for; errno is E2BIG where that was the reason to stop.
+  QByteArray take(char** from, size_t* left) {
+    char piece[4096];
+    char* to = piece;
+    size_t room = sizeof piece;
+    iconv(handle_, from, left, &to, &room);
+    return {piece, to - piece};
+  }
+
   iconv_t handle_;
 };
 

@@ -51,6 +51,7 @@ TEST(LineTextTest, ComesOfAnyCoding) {
             "a\x81\xff"
             "b",
             "SHIFT_JIS", "a??b"},
+           {"a last letter whose accent might follow", "ti\xea", "CP1258", "tiê"},
        }) {
     SCOPED_TRACE(name);
     EXPECT_EQ(QString::fromUtf8(readableSubtitles(bytes, codepage)), read);
