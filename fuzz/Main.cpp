@@ -41,7 +41,8 @@ constexpr std::array kTargets{Target{"settings", settings},
                               Target{"engine", engine},
                               Target{"display", display},
                               Target{"playlists", playlists},
-                              Target{"pictures", pictures}};
+                              Target{"pictures", pictures},
+                              Target{"lines", lines}};
 
 std::string input;
 std::string foundPath;

@@ -29,5 +29,6 @@ void engine(Input input);
 void display(Input input);
 void playlists(Input input);
 void pictures(Input input);
+void lines(Input input);
 
 }  // namespace tromelo::fuzz
