@@ -21,6 +21,7 @@
 #include "overlay/QuickPlayerOverlay.h"
 #include "platform/DesktopRecents.h"
 #include "platform/FilePath.h"
+#include "platform/HardwareDecoders.h"
 #include "platform/HostEnvironment.h"
 #include "platform/SessionBus.h"
 #include "platform/Timeline.h"
@@ -181,6 +182,7 @@ void Program::makeDelegate() {
           return std::make_unique<PlayerWindowController>(playback, *stage_, clock_);
         },
         .hasVulkanDevice = &hasVulkanDevice,
+        .mayDecodeInHardware = mayDecodeInHardware(),
         .vulkanDevice = vulkanDevice_,
         .picturesFolder = QFile::encodeName(userPicturesDirectory()).toStdString(),
         .copyPicture = &putOntoClipboard,

@@ -36,6 +36,7 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       defaults_(parts.defaults),
       makePlayer_(std::move(parts.makePlayer)),
       hasVulkanDevice_(std::move(parts.hasVulkanDevice)),
+      mayDecodeInHardware_(parts.mayDecodeInHardware),
       diagnosticsDirectory_(parts.diagnosticsDirectory),
       vulkanDevice_(parts.vulkanDevice),
       engineFault_(parts.engineFault),
@@ -82,11 +83,15 @@ void PlaybackModel::startEngine() {
   engine_.onEvent = [model = QPointer(this)](const MpvEvent& received) {
     if (model) model->handleEvent(received);
   };
-  engine_.prepareFile = filmKeeper_.prepareFile(trial_.preparation());
+  engine_.prepareFile = filmKeeper_.prepareFile(mayDecodeInHardware_ ? trial_.preparation()
+                                                                     : FilmKeeper::Preparation());
   if (const auto error = initializeEngine()) {
     status_ = *error;
     errorMessage_ = *error;
   }
+  // Each try makes a Vulkan device and frees it while the picture's output is at work with another,
+  // which takes time, and which Vulkan's loader doesn't always survive.
+  if (!mayDecodeInHardware_) engine_.setProperty("hwdec", "no");
 }
 
 std::optional<QString> PlaybackModel::initializeEngine() {

@@ -70,6 +70,7 @@ class PlaybackModel : public PlaybackState {
     LocalFiles::PathOf mountedPath = tromelo::mountedPath;
     /// Asked when a picture can't be drawn; may take a moment.
     std::function<bool()> hasVulkanDevice = [] { return true; };
+    bool mayDecodeInHardware = true;  // false: nothing here could, so the engine needn't try
     std::string vulkanDevice = {};    // UUID of the one that the engine draws with; empty: any
     std::string picturesFolder = {};  // where pictures of films are kept
     /// Puts a picture, as PNG, onto the desktop's clipboard.
@@ -368,6 +369,7 @@ class PlaybackModel : public PlaybackState {
   UserDefaults& defaults_;
   std::function<std::unique_ptr<PlayerPresenting>(PlaybackModel&)> makePlayer_;
   std::function<bool()> hasVulkanDevice_;
+  const bool mayDecodeInHardware_;
   const QString diagnosticsDirectory_;
   const std::string vulkanDevice_;
   const QString engineFault_;

@@ -1,4 +1,5 @@
 #include <QJsonArray>
+#include <algorithm>
 
 #include "ModelTest.h"
 #include "platform/FilePath.h"
@@ -102,6 +103,14 @@ TEST_F(Decoder, FallsBackForThisFileAndOpensItInSoftwareFromThenOn) {
   report(P::path, "/films/a.mkv");
   report(P::hwdecCurrent, "no");
   EXPECT_EQ(model().decoder(), kRejected);
+}
+
+TEST_F(Decoder, InHardwareIsntTriedWhereThereIsNone) {
+  const std::vector<std::string> software{"set", "hwdec", "no"};
+  EXPECT_EQ(std::ranges::count(startRequests_, software), 0);
+  mayDecodeInHardware_ = false;
+  remake();
+  EXPECT_EQ(std::ranges::count(startRequests_, software), 1);
 }
 
 TEST_F(Decoder, WhatFellBackIsStoredWholeAndReadAtTheNextStart) {

@@ -27,7 +27,8 @@ struct ModelTest : ::testing::Test, protected Home, protected Reports {
         .diagnosticsDirectory = directory_.filePath("state/diagnostics"),
         .makePlayer = [this](PlaybackModel&) { return std::make_unique<FakePlayer>(player_); },
         .fileExists = fileExists_,
-        .mountedPath = mountedPath_});
+        .mountedPath = mountedPath_,
+        .mayDecodeInHardware = mayDecodeInHardware_});
     startRequests_ = takeRequests();
   }
 
@@ -40,6 +41,7 @@ struct ModelTest : ::testing::Test, protected Home, protected Reports {
   FakePlayer::Log player_;
   std::function<bool(const std::string&)> fileExists_ = fileExists;
   LocalFiles::PathOf mountedPath_ = [](const QUrl&) { return std::string(); };
+  bool mayDecodeInHardware_ = true;
   std::unique_ptr<PlaybackModel> model_;
   Requests startRequests_;  // what the last model sent while it was made
 };
