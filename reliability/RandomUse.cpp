@@ -5,6 +5,7 @@
 
 #include "Screen.h"
 #include "support/Clips.h"
+#include "support/Files.h"
 #include "support/WaitFor.h"
 
 namespace tromelo::testing {
@@ -14,6 +15,8 @@ namespace {
 constexpr std::array kFilms{"sample.mp4", "short-wide.mp4", "short-tall.mp4", "short-square.mp4",
                             "tracks.mkv", "hdr10.mkv",      "sample.mkv",     "video-only.mkv"};
 constexpr std::array kOthers{"audio.m4a", "empty.mkv", "text.mkv", "truncated.mkv"};
+
+constexpr qsizetype kLogged = 4000;  // bytes
 
 QString clip(const char* name) { return QString::fromStdString(clipPath(name)); }
 
@@ -64,6 +67,27 @@ RandomUse::Step RandomUse::step() {
   }
 }
 
+std::string RandomUse::engineState() {
+  QByteArray state = "Engines that were replaced: " + QByteArray::number(engine_.replaced) + '\n';
+  for (const char* property :
+       {"path", "time-pos", "duration", "pause", "core-idle", "eof-reached", "idle-active",
+        "current-vo", "current-ao", "aid", "loop-file", "ab-loop-a", "ab-loop-b", "playlist"})
+    state += QByteArray("  ") + property + ": " +
+             QJsonDocument(QJsonArray{engine_.get(QLatin1StringView(property))})
+                 .toJson(QJsonDocument::Compact) +
+             '\n';
+  return (state + readFile(player_.logPath()).right(kLogged)).toStdString();
+}
+
+/// What an engine was told goes with it when it is replaced.
+void RandomUse::tell(const std::function<void()>& requests) {
+  int replaced = 0;
+  do {
+    replaced = engine_.replaced;
+    requests();
+  } while (engine_.replaced != replaced);
+}
+
 bool RandomUse::waitForFilm(const QString& name) {
   return player_.waitUntil([&] {
     return player_.isRevealed() && name.startsWith(player_.said(QStringLiteral("title")) + u'.') &&
@@ -90,16 +114,18 @@ RandomUse::Step RandomUse::open(bool waits) {
   const bool isFilm = waits || chance(0.8);
   const char* name = isFilm ? kFilms[std::size_t(below(int(kFilms.size())))]
                             : kOthers[std::size_t(below(int(kOthers.size())))];
-  engine_.command({QStringLiteral("loadfile"), clip(name)});
+  tell([&] { engine_.command({QStringLiteral("loadfile"), clip(name)}); });
   return {.name = named("open", name, waits),
           .isDone = !waits || waitForFilm(QString::fromLatin1(name))};
 }
 
 RandomUse::Step RandomUse::next(bool waits) {
   const char* name = kFilms[std::size_t(below(int(kFilms.size())))];
-  engine_.command({QStringLiteral("loadfile"), clip(name), QStringLiteral("append-play")});
-  engine_.set(QStringLiteral("playlist-pos"),
-              engine_.get(QStringLiteral("playlist-count")).toInt() - 1);
+  tell([&] {
+    engine_.command({QStringLiteral("loadfile"), clip(name), QStringLiteral("append-play")});
+    engine_.set(QStringLiteral("playlist-pos"),
+                engine_.get(QStringLiteral("playlist-count")).toInt() - 1);
+  });
   return {.name = named("next", name, waits),
           .isDone = !waits || waitForFilm(QString::fromLatin1(name))};
 }

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <chrono>
+#include <functional>
 #include <optional>
 #include <random>
 #include <string>
@@ -38,6 +39,8 @@ class RandomUse {
   Step step();
   /// How often the program has replaced the engine.
   int replaced() const { return engine_.replaced; }
+  /// What the engine is at, a line for each of its values, and what it logged last.
+  std::string engineState();
 
   Step openAndWait();
   Step close();
@@ -53,6 +56,7 @@ class RandomUse {
   Step plug();
   bool chance(double probability);
   int below(int limit);
+  void tell(const std::function<void()>& requests);
   bool waitForFilm(const QString& name);
   bool waitForKeyboard();
   bool waitForIdle();

@@ -20,6 +20,8 @@ constexpr std::chrono::seconds kLongestClosing(2);
 constexpr double kMemoryGrowth = 0.03;  // from the 50th film on
 constexpr std::chrono::seconds kBetweenSamples(2);
 
+constexpr qsizetype kTold = 4000;  // bytes of what a failed program said last
+
 constexpr int kSettling = 50;  // steps, until everything has been loaded that is loaded once
 
 std::ostream& operator<<(std::ostream& out, const ProcessUse& use) {
@@ -99,7 +101,7 @@ TEST_F(Reliability, HoldsUnderRandomUse) {
     trail += "\n  " + step.name;
     ASSERT_TRUE(player.isRunning() && step.isDone)
         << "step " << i << " of seed " << seed << trail << '\n'
-        << player.errors().toStdString();
+        << player.errors().right(kTold).toStdString() << use.engineState();
     longest = std::max(longest, step.closing.value_or(longest));
     if (step.use && i >= kSettling) uses.push_back(*step.use);
   }
