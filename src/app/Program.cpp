@@ -22,6 +22,7 @@
 #include "platform/DesktopRecents.h"
 #include "platform/FilePath.h"
 #include "platform/HardwareDecoders.h"
+#include "platform/HeapMemory.h"
 #include "platform/HostEnvironment.h"
 #include "platform/SessionBus.h"
 #include "platform/Timeline.h"
@@ -186,6 +187,7 @@ void Program::makeDelegate() {
         .vulkanDevice = vulkanDevice_,
         .picturesFolder = QFile::encodeName(userPicturesDirectory()).toStdString(),
         .copyPicture = &putOntoClipboard,
+        .giveBackMemory = &giveBackFreeMemory,
         .pictureMaker = pictureMaker(),
         .findSoundDevices = [] { return findSoundDevices(MpvClientApi::libmpv()); },
         .films = &films_,

@@ -1,5 +1,3 @@
-#include <malloc.h>
-
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -22,6 +20,7 @@
 #include "lines/LineReader.h"
 #include "pictures/PictureMaker.h"
 #include "pictures/Thumbnailer.h"
+#include "platform/HeapMemory.h"
 #include "platform/HostEnvironment.h"
 #include "platform/SessionBus.h"
 #include "platform/Timeline.h"
@@ -55,14 +54,6 @@ class DisplayGuard {
   static inline std::mutex mutex;  // messages come from any thread
   static inline QStringList held;
 };
-
-/// Each film comes with threads of its own. With a heap for each thread they would leave holes in
-/// as many heaps as there may be, and the program would grow for dozens of films.
-void shareHeaps() {
-#ifdef __GLIBC__
-  mallopt(M_ARENA_MAX, 2);
-#endif
-}
 
 bool hasHostDisplay() {
   for (const char* name : {"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "WAYLAND_SOCKET", "DISPLAY"})
@@ -141,7 +132,7 @@ int main(int argc, char** argv) {
   }
   tromelo::leaveSilentSessionBus();
   tromelo::Timeline::note("session bus asked");
-  shareHeaps();
+  tromelo::shareHeaps();
   prepareGraphics();
   auto relay = tromelo::HostRelay::offer();  // ends after the application object
   std::optional<DisplayGuard> guard(std::in_place);
