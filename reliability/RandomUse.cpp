@@ -76,6 +76,10 @@ std::string RandomUse::engineState() {
              QJsonDocument(QJsonArray{engine_.get(QLatin1StringView(property))})
                  .toJson(QJsonDocument::Compact) +
              '\n';
+  state += "  window with the keyboard: " +
+           screen::xdotool({QStringLiteral("getactivewindow"), QStringLiteral("getwindowname")})
+               .toUtf8() +
+           '\n';
   return (state + readFile(player_.logPath()).right(kLogged)).toStdString();
 }
 

@@ -1,4 +1,6 @@
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <algorithm>
 #include <iostream>
 #include <vector>
@@ -70,6 +72,12 @@ class Reliability : public ReliabilityTest {
     }
   }
 
+  /// What somebody would see who looked at it.
+  static void keepSight() {
+    const QString picture = qEnvironmentVariable("TROMELO_CURVE");
+    if (!picture.isEmpty()) screen::shot().save(QFileInfo(picture).dir().filePath("failed.png"));
+  }
+
   void tellGaps() const {
     const auto worst =
         std::ranges::max(samples_, {}, [](const Sample& one) { return one.gap.wait; });
@@ -99,6 +107,7 @@ TEST_F(Reliability, HoldsUnderRandomUse) {
     const auto step = use.step();
     sample();
     trail += "\n  " + step.name;
+    if (!step.isDone) keepSight();
     ASSERT_TRUE(player.isRunning() && step.isDone)
         << "step " << i << " of seed " << seed << trail << '\n'
         << player.errors().right(kTold).toStdString() << use.engineState();
