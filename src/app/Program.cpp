@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QQmlComponent>
+#include <atomic>
 #include <cstdio>
 #include <thread>
 
@@ -27,6 +28,7 @@
 #include "platform/SessionBus.h"
 #include "platform/Timeline.h"
 #include "platform/UserPaths.h"
+#include "platform/VulkanDrivers.h"
 #include "theme/Motion.h"
 
 namespace tromelo {
@@ -40,6 +42,17 @@ void putOntoClipboard(const QByteArray& png) {
 }
 
 /// The program itself, as its process for pictures.
+/// On another thread, and once at a time.
+void tidyUpAfterFilm() {
+  static std::atomic<bool> isAtWork = false;
+  if (isAtWork.exchange(true)) return;
+  std::thread([] {
+    keepVulkanDriversLoaded();
+    giveBackFreeMemory();
+    isAtWork = false;
+  }).detach();
+}
+
 HelperProcess::Program pictureMaker() {
   return {.file = QCoreApplication::applicationFilePath(),
           .arguments = {QString::fromLatin1(kPicturesOption)}};
@@ -187,7 +200,7 @@ void Program::makeDelegate() {
         .vulkanDevice = vulkanDevice_,
         .picturesFolder = QFile::encodeName(userPicturesDirectory()).toStdString(),
         .copyPicture = &putOntoClipboard,
-        .giveBackMemory = &giveBackFreeMemory,
+        .tidyUp = &tidyUpAfterFilm,
         .pictureMaker = pictureMaker(),
         .findSoundDevices = [] { return findSoundDevices(MpvClientApi::libmpv()); },
         .films = &films_,

@@ -2,9 +2,6 @@
 
 #include <malloc.h>
 
-#include <atomic>
-#include <thread>
-
 namespace tromelo {
 
 void shareHeaps() {
@@ -15,12 +12,7 @@ void shareHeaps() {
 
 void giveBackFreeMemory() {
 #ifdef __GLIBC__
-  static std::atomic<bool> isAtWork = false;
-  if (isAtWork.exchange(true)) return;
-  std::thread([] {
-    malloc_trim(0);
-    isAtWork = false;
-  }).detach();
+  malloc_trim(0);
 #endif
 }
 

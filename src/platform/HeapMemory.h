@@ -7,9 +7,9 @@ namespace tromelo {
 /// there are threads.
 void shareHeaps();
 
-/// What a film leaves free lies between what is still in use, and would stay with the program. Goes
-/// back to the system on another thread, within milliseconds, in which memory may be waited for:
-/// for when nothing plays. Any thread.
+/// What a film leaves free lies between what is still in use, and would stay with the program. It
+/// goes back to the system within milliseconds, in which other threads may wait for memory: for
+/// when nothing plays. Any thread.
 void giveBackFreeMemory();
 
 }  // namespace tromelo

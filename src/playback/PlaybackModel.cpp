@@ -37,7 +37,7 @@ PlaybackModel::PlaybackModel(Parts parts, QObject* parent)
       makePlayer_(std::move(parts.makePlayer)),
       hasVulkanDevice_(std::move(parts.hasVulkanDevice)),
       mayDecodeInHardware_(parts.mayDecodeInHardware),
-      giveBackMemory_(std::move(parts.giveBackMemory)),
+      tidyUp_(std::move(parts.tidyUp)),
       diagnosticsDirectory_(parts.diagnosticsDirectory),
       vulkanDevice_(parts.vulkanDevice),
       engineFault_(parts.engineFault),

@@ -75,8 +75,8 @@ class PlaybackModel : public PlaybackState {
     std::string picturesFolder = {};  // where pictures of films are kept
     /// Puts a picture, as PNG, onto the desktop's clipboard.
     std::function<void(const QByteArray& png)> copyPicture = [](const QByteArray&) {};
-    /// Called when a film has ended, and when its output has gone: much memory is free then.
-    std::function<void()> giveBackMemory = [] {};
+    /// Called when a film has ended, and when its output has gone. Must not wait for anything.
+    std::function<void()> tidyUp = [] {};
     /// Of pictures of films, which are looked at for black bars.
     HelperProcess::Program pictureMaker = {};
     SoundDevices::Find findSoundDevices = [] { return MpvValue(); };
@@ -372,7 +372,7 @@ class PlaybackModel : public PlaybackState {
   std::function<std::unique_ptr<PlayerPresenting>(PlaybackModel&)> makePlayer_;
   std::function<bool()> hasVulkanDevice_;
   const bool mayDecodeInHardware_;
-  const std::function<void()> giveBackMemory_;
+  const std::function<void()> tidyUp_;
   const QString diagnosticsDirectory_;
   const std::string vulkanDevice_;
   const QString engineFault_;

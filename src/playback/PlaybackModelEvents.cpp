@@ -125,7 +125,7 @@ void PlaybackModel::handle(const event::EndFile& end) {
   filmKeeper_.keep();
   trial_.ended();
   lostSound_.fileEnded();
-  giveBackMemory_();
+  tidyUp_();
   isLoaded_ = isOpening_ = false;
   // A film that was shown without its sound has been played.
   if (!end.error || (end.lacksSoundDevice && hasPicture_)) {

@@ -87,7 +87,7 @@ struct PropertyMapping::Actions {
       m.showVideoReady();
     } else {
       m.player().setVideoReady(false);
-      if (m.hasPicture_) m.giveBackMemory_();
+      if (m.hasPicture_) m.tidyUp_();
     }
   }
 
