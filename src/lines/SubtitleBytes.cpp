@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 #include <iconv.h>
 
+#include <QString>
 #include <QUtf8StringView>
 #include <cerrno>
 
@@ -86,7 +87,9 @@ QByteArray readableSubtitles(const QByteArray& text, const std::string& codepage
   if (isUnicode(text)) return text;
   const bool isChosen = !codepage.empty() && codepage != kAutomaticCodepage;
   Conversion chosen(isChosen ? codepage : guessedCodepage(text));
-  return chosen.isUsable() ? chosen.convert(text) : Conversion(kMostLikely).convert(text);
+  const QByteArray read =
+      chosen.isUsable() ? chosen.convert(text) : Conversion(kMostLikely).convert(text);
+  return QString::fromUtf8(read).toUtf8();  // from UTF-8, iconv lets longer characters pass
 }
 
 }  // namespace tromelo

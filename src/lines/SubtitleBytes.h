@@ -13,7 +13,7 @@ inline constexpr const char* kAutomaticCodepage = "auto";
 bool isUnicode(const QByteArray& text);
 
 /// In UTF-8, as the engine reads it: what says itself how it is coded stays as it is, whatever
-/// `codepage` (a name of iconv's) says. What doesn't belong there becomes a question mark.
+/// `codepage` (a name of iconv's) says. What doesn't belong there is replaced.
 QByteArray readableSubtitles(const QByteArray& text, const std::string& codepage);
 
 }  // namespace tromelo

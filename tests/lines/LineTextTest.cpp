@@ -51,6 +51,8 @@ TEST(LineTextTest, ComesOfAnyCoding) {
             "a\x81\xff"
             "b",
             "SHIFT_JIS", "a??b"},
+           {"no character of today's", "a\xfd\xae\xae\xae\xae\xae", "UTF-8",
+            "a\ufffd\ufffd\ufffd\ufffd\ufffd\ufffd"},
            {"a last letter whose accent might follow", "ti\xea", "CP1258", "tiê"},
        }) {
     SCOPED_TRACE(name);
