@@ -125,13 +125,17 @@ RandomUse::Step RandomUse::open(bool waits) {
 
 RandomUse::Step RandomUse::next(bool waits) {
   const char* name = kFilms[std::size_t(below(int(kFilms.size())))];
-  tell([&] {
-    engine_.command({QStringLiteral("loadfile"), clip(name), QStringLiteral("append-play")});
-    engine_.set(QStringLiteral("playlist-pos"),
-                engine_.get(QStringLiteral("playlist-count")).toInt() - 1);
-  });
-  return {.name = named("next", name, waits),
-          .isDone = !waits || waitForFilm(QString::fromLatin1(name))};
+  bool isDone = false;
+  // A key that was pressed before this may take the queue elsewhere after it.
+  for (int tries = 0; tries < 2 && !isDone; ++tries) {
+    tell([&] {
+      engine_.command({QStringLiteral("loadfile"), clip(name), QStringLiteral("append-play")});
+      engine_.set(QStringLiteral("playlist-pos"),
+                  engine_.get(QStringLiteral("playlist-count")).toInt() - 1);
+    });
+    isDone = !waits || waitForFilm(QString::fromLatin1(name));
+  }
+  return {.name = named("next", name, waits), .isDone = isDone};
 }
 
 RandomUse::Step RandomUse::seek() {
