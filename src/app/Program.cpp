@@ -41,7 +41,6 @@ void putOntoClipboard(const QByteArray& png) {
   QGuiApplication::clipboard()->setMimeData(content.release());
 }
 
-/// The program itself, as its process for pictures.
 /// On another thread, and once at a time.
 void tidyUpAfterFilm() {
   static std::atomic<bool> isAtWork = false;
@@ -53,6 +52,7 @@ void tidyUpAfterFilm() {
   }).detach();
 }
 
+/// The program itself, as its process for pictures.
 HelperProcess::Program pictureMaker() {
   return {.file = QCoreApplication::applicationFilePath(),
           .arguments = {QString::fromLatin1(kPicturesOption)}};
