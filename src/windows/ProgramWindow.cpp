@@ -10,6 +10,16 @@
 
 namespace tromelo {
 
+namespace {
+
+QWindow& mainWindowOf(QWindow& window) {
+  QWindow* main = &window;
+  while (QWindow* above = main->transientParent()) main = above;
+  return *main;
+}
+
+}  // namespace
+
 ProgramWindow::ProgramWindow(QQmlEngine& engine, const char* type, QVariantMap properties)
     : engine_(engine), type_(type), properties_(std::move(properties)) {}
 
@@ -17,10 +27,15 @@ ProgramWindow::~ProgramWindow() = default;
 
 QQuickWindow& ProgramWindow::show() {
   if (!window_) make();
+  if (QWindow* active = QGuiApplication::focusWindow()) follow(mainWindowOf(*active));
+  bringForward();
+  return *window_;
+}
+
+void ProgramWindow::bringForward() {
   window_->show();
   window_->raise();
   window_->requestActivate();
-  return *window_;
 }
 
 void ProgramWindow::make() {
@@ -36,8 +51,27 @@ void ProgramWindow::placeOver(QWindow& active) {
   QRect frame(QPoint(), window_->size());
   frame.moveCenter(active.geometry().center());
   window_->setPosition(keptInside(frame, active.screen()->availableGeometry()).topLeft());
-  // Desktops keep other windows behind one that fills the screen.
-  if (active.visibility() == QWindow::FullScreen) window_->setTransientParent(&active);
+}
+
+/// Full screen may have been asked for already, and begin only now.
+void ProgramWindow::follow(QWindow& main) {
+  if (&main == window_.get()) return;
+  if (main.visibility() == QWindow::FullScreen) stayAbove(main);
+  disconnect(mainIsShown_);
+  mainIsShown_ = connect(&main, &QWindow::visibilityChanged, window_.get(),
+                         [this, &main](QWindow::Visibility visibility) {
+                           if (!window_ || visibility != QWindow::FullScreen) return;
+                           stayAbove(main);
+                           bringForward();
+                         });
+}
+
+/// Desktops keep other windows behind one that fills the screen, and some give it the keyboard when
+/// it begins to.
+void ProgramWindow::stayAbove(QWindow& main) {
+  if (&main == window_->transientParent()) return;
+  window_->hide();  // the desktop is told when a window is shown
+  window_->setTransientParent(&main);
 }
 
 bool ProgramWindow::eventFilter(QObject* watched, QEvent* event) {
