@@ -124,6 +124,7 @@ void MpvEngine::terminate(std::function<void()> completion) {
   const UncheckedHandle handle{std::exchange(handle_, nullptr)};
   waiting_.clear();
   unanswered_ = 0;
+  owed_ = 0;
   refusals_.clear();
   reads_.clear();
   nodes_.clear();
@@ -203,11 +204,16 @@ void MpvEngine::sendWaiting() {
   while (handle_ && !waiting_.empty() && unanswered_ < kMostUnanswered) {
     const int code = trySend(waiting_.front());
     if (code == MPV_ERROR_EVENT_QUEUE_FULL) return;
-    if (code >= 0) ++unanswered_;
+    if (code >= 0) noteTaken(waiting_.front());
     if (const auto* command = std::get_if<MpvCommand>(&waiting_.front()))
       noteRefusal(*command, code);
     waiting_.pop_front();
   }
+}
+
+void MpvEngine::noteTaken(const MpvRequest& request) {
+  ++unanswered_;
+  if (!std::holds_alternative<MpvPropertyRead>(request) && owed_++ == 0 && onTold) onTold();
 }
 
 void MpvEngine::noteRefusal(const MpvCommand& command, int code) {
@@ -255,6 +261,7 @@ void MpvEngine::drainEvents() {
 
 void MpvEngine::handle(const TakenEvent& taken) {
   if (taken.isReply()) --unanswered_;
+  if (taken.isReply() && taken.id != MPV_EVENT_GET_PROPERTY_REPLY) --owed_;
   if (taken.id == MPV_EVENT_GET_PROPERTY_REPLY) answerRead(taken);
   if (taken.id == MPV_EVENT_COMMAND_REPLY &&
       tellOutcome(taken.reply, mpvErrorText(*api_, taken.error)))

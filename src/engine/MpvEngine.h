@@ -40,6 +40,11 @@ class MpvEngine {
   /// Called for each event. It may end the engine, but not destroy this object.
   std::function<void(const MpvEvent&)> onEvent;
 
+  /// Called when it begins to owe an answer. May be empty.
+  std::function<void()> onTold;
+  /// Of what it was told to do, it has yet to say of something what came of it.
+  bool owesAnswer() const { return owed_ > 0; }
+
   /// Set before initialize(); see PreloadHook. Empty: files begin as the engine has them.
   PreloadHook::Prepare prepareFile;
 
@@ -99,6 +104,7 @@ class MpvEngine {
   void send(MpvRequest request);
   void sendWaiting();
   int trySend(const MpvRequest& request);
+  void noteTaken(const MpvRequest& request);
   void noteRefusal(const MpvCommand& command, int code);
   void tellRefusals();
   void handle(const TakenEvent& taken);
@@ -119,6 +125,7 @@ class MpvEngine {
   // events; these wait until it has answered some.
   std::deque<MpvRequest> waiting_;
   int unanswered_ = 0;
+  int owed_ = 0;  // of these, what is no question
   // By command, of those that libmpv refused on the spot; reported as its later replies are.
   struct Refusal {
     std::uint64_t reply;

@@ -18,6 +18,10 @@ void EngineWatch::heard() {
   if (!rests_ || !engine_.moves()) begin();
 }
 
+void EngineWatch::told() {
+  if (!rests_) begin();
+}
+
 void EngineWatch::stopped() {
   hasHeard_ = false;
   begin();

@@ -8,9 +8,10 @@
 
 namespace tromelo {
 
-/// Notices that the engine hangs: a film that should play doesn't come further, or one that is
-/// opened isn't there yet, and a question isn't answered. A film that stands still by itself (a
-/// still picture, a slow share) is told from that by the answer. Main thread only.
+/// Notices that the engine hangs: a film that should play doesn't come further, one that is opened
+/// isn't there yet, or what it was told isn't done, and a question isn't answered. A film that
+/// stands still by itself (a still picture, a slow share) is told from that by the answer. Main
+/// thread only.
 class EngineWatch {
  public:
   struct Engine {
@@ -29,6 +30,8 @@ class EngineWatch {
 
   /// Something was heard of it, such as that the film has come further.
   void heard();
+  /// It was told to do something, and has yet to say what came of it.
+  void told();
   /// It moves no more, or whether it does has to be looked at again.
   void stopped();
 

@@ -84,6 +84,7 @@ void PlaybackModel::startEngine() {
   engine_.onEvent = [model = QPointer(this)](const MpvEvent& received) {
     if (model) model->handleEvent(received);
   };
+  engine_.onTold = [this] { watch_.told(); };
   engine_.prepareFile = filmKeeper_.prepareFile(mayDecodeInHardware_ ? trial_.preparation()
                                                                      : FilmKeeper::Preparation());
   if (const auto error = initializeEngine()) {

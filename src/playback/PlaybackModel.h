@@ -419,7 +419,8 @@ class PlaybackModel : public PlaybackState {
   bool hasStarted_ = false;      // the current file has
   bool hasPicture_ = false;      // the current file has, and it is shown
   bool hasFailed_ = false;       // the current file has
-  bool isOpening_ = false;  // the engine has a file to open, and has yet to say what became of it
+  bool isOpening_ = false;   // the engine has a file to open, and has yet to say what became of it
+  bool isStopping_ = false;  // the engine was told to take the file out
   std::optional<std::string> asked_;  // it, until the engine has begun with it
   QString outputFault_;               // of the current file; a sentence
   QString toast_;                     // waits for the player window

@@ -35,6 +35,7 @@ void PlaybackModel::setPause(bool paused) {
 
 void PlaybackModel::stop() {
   reading_.drop();
+  isStopping_ = true;
   engine_.command({"stop"});
 }
 

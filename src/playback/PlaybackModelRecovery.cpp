@@ -13,6 +13,7 @@ constexpr double kSoon = 60;  // seconds
 
 constexpr std::chrono::seconds kPlaying(5);
 constexpr std::chrono::seconds kOpening(15);  // the graphics driver may be at work
+constexpr std::chrono::seconds kTold(15);
 
 }  // namespace
 
@@ -23,7 +24,8 @@ EngineWatch::Engine PlaybackModel::watchedEngine() {
                 if (isShuttingDown_ || !engine_.hasHandle()) return std::chrono::seconds(0);
                 if (isOpening_) return kOpening;
                 const bool plays = isLoaded_ && !isPaused_ && !isAtEnd_ && facts_.hasPicture();
-                return plays ? kPlaying : std::chrono::seconds(0);
+                if (plays) return kPlaying;
+                return engine_.owesAnswer() ? kTold : std::chrono::seconds(0);
               },
           .ask =
               [this](const std::function<void()>& answered) {
@@ -31,7 +33,10 @@ EngineWatch::Engine PlaybackModel::watchedEngine() {
                 engine_.readProperty("display-width", [answered](const auto&) { answered(); });
               },
           .hangs = [this] { recover(); },
-          .stands = [this] { lostSound_.filmStands(); },
+          .stands =
+              [this] {
+                if (!isPaused_) lostSound_.filmStands();
+              },
           .moves = [this] { return engine_.moves(); }};
 }
 
@@ -42,6 +47,8 @@ void PlaybackModel::handle(const event::VideoDeviceLost&) { recover(); }
 void PlaybackModel::recover() {
   const bool isSoon = clock_.now() - recoveredAt_ < kSoon;
   const bool wasOpening = isOpening_;
+  const bool hasFilm = wasOpening || (isLoaded_ && !isStopping_);
+  if (!hasFilm && isSoon) return;  // the next one is to show that it works
   const auto path = wasOpening && asked_ ? asked_ : currentPath_;
   const bool isHopeless = !path || (recovered_ == path && isSoon);
   recovered_ = path;
@@ -52,6 +59,10 @@ void PlaybackModel::recover() {
   filmKeeper_.keep();
   trial_.ended();
   replaceEngine();
+  if (!hasFilm && engine_.hasHandle()) {
+    status_ = QStringLiteral("Ready for a video");
+    return;
+  }
   if (isHopeless || !engine_.hasHandle()) return giveUp(wasOpening);
   player().replaceWindow();
   reload(queue, position, isPaused);
@@ -81,6 +92,7 @@ void PlaybackModel::replaceEngine() {
 
 void PlaybackModel::awaitFile(std::optional<std::string> asked) {
   isOpening_ = true;
+  isStopping_ = false;
   asked_ = std::move(asked);
   watch_.heard();
 }

@@ -91,6 +91,35 @@ TEST_F(EngineHang, AFilmThatHangsWhileItIsOpenedIsOpenedAgainAndThenGivenUp) {
   EXPECT_TRUE(waitFor([&] { return mpv_.destroyed == 2; }));
 }
 
+TEST_F(EngineHang, WhatIsToldToAPausedFilmIsWaitedFor) {
+  report(P::pause, true);
+  wait(60s);  // nothing is expected of it
+  mpv_.hangs = true;
+  model().setVolume(40);
+  wait(60s, true);  // it takes its time, and answers
+  EXPECT_EQ(mpv_.created, 1);
+  model().togglePlayback();
+  wait(10s);
+  EXPECT_EQ(mpv_.created, 1);
+  wait(10s);
+  EXPECT_EQ(mpv_.created, 2);
+  EXPECT_TRUE(std::ranges::any_of(takeRequests(), [](const auto& words) {
+    return words.front() == "loadfile" && words[1] == "/films/b.mkv" && words[4] == "start=12.5";
+  }));
+  EXPECT_TRUE(waitFor([&] { return mpv_.destroyed == 1; }));
+}
+
+TEST_F(EngineHang, AFilmThatWasClosedDoesntComeBack) {
+  report(P::pause, true);
+  mpv_.hangs = true;
+  model().stop();
+  wait(60s);  // neither engine does anything
+  EXPECT_EQ(mpv_.created, 2);
+  for (const auto& words : takeRequests()) EXPECT_NE(words.front(), "loadfile");
+  EXPECT_EQ(model().errorMessage(), "");
+  EXPECT_TRUE(waitFor([&] { return mpv_.destroyed == 1; }));
+}
+
 TEST_F(EngineHang, AnEngineThatAnswersOrNeedntMoveIsLeftAlone) {
   wait(60s, true);  // a picture that stands still
   report(P::timePos, 13.0);

@@ -62,11 +62,12 @@ struct FakeMpv {
             [this](mpv_handle*, std::uint64_t, const char** arguments) {
               std::vector<std::string> words;
               for (; *arguments; ++arguments) words.emplace_back(*arguments);
-              return request(std::move(words));
+              return request(std::move(words), MPV_EVENT_COMMAND_REPLY);
             },
         .setPropertyAsync =
             [this](mpv_handle*, std::uint64_t, const char* name, mpv_format, void* data) {
-              return request({"set", name, *static_cast<const char**>(data)});
+              return request({"set", name, *static_cast<const char**>(data)},
+                             MPV_EVENT_SET_PROPERTY_REPLY);
             },
         .getPropertyAsync =
             [this](mpv_handle*, std::uint64_t reply, const char* name, mpv_format) {
@@ -92,6 +93,7 @@ struct FakeMpv {
   int initializeResult = 0;
   std::size_t room = 1000;  // requests that it takes before it says that its queue is full
   int refusal = 0;          // what it says to every request, if that is an error
+  bool hangs = false;       // it takes requests, and does nothing of it
 
   // What it was told, in order.
   std::vector<std::pair<std::string, std::string>> options;
@@ -117,11 +119,13 @@ struct FakeMpv {
   }
 
  private:
-  int request(std::vector<std::string> words) {
+  /// Where it says that it is done with one, it says so to nobody who waits for the outcome.
+  int request(std::vector<std::string> words, mpv_event_id done = MPV_EVENT_NONE) {
     if (refusal < 0) return refusal;
     if (room == 0) return MPV_ERROR_EVENT_QUEUE_FULL;
     --room;
     requests.push_back(std::move(words));
+    if (done != MPV_EVENT_NONE && !hangs) queue(done);
     return 0;
   }
 
