@@ -43,6 +43,10 @@ void ProgramWindow::make() {
   window_.reset(qobject_cast<QQuickWindow*>(component.createWithInitialProperties(properties_)));
   if (!window_) qFatal("%s", qPrintable(component.errorString()));
   window_->installEventFilter(this);
+  // Who has gone on to another window doesn't want this one before it.
+  connect(window_.get(), &QWindow::activeChanged, this, [this] {
+    if (window_ && !window_->isActive()) disconnect(mainIsShown_);
+  });
   endWhereSceneIsLost(*window_);
   if (QWindow* active = QGuiApplication::focusWindow()) placeOver(*active);
 }
